@@ -1,0 +1,60 @@
+# Settings that every target of the project shares, and the two ways to declare one.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+# Everything is hidden unless it says otherwise: the library has one export.
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+
+if(WIN32)
+  set(BRENNET_PLATFORM_SUFFIX win)
+else()
+  set(BRENNET_PLATFORM_SUFFIX posix)
+endif()
+
+if(BRENNET_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# Compiler settings of our own code; other people's headers are included as system headers.
+function(brennet_target_defaults target)
+  target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}")
+  if(MSVC)
+    target_compile_options(${target} PRIVATE /W4 /utf-8)
+  else()
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+    if(BRENNET_WERROR)
+      target_compile_options(${target} PRIVATE -Werror)
+    endif()
+  endif()
+endfunction()
+
+# brennet_add_layer(markup SOURCES a.cpp b.cpp DEPENDS brennet_platform)
+# One static library per folder, named brennet_<folder>, with the alias Brennet::<folder>.
+function(brennet_add_layer name)
+  cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "SOURCES;DEPENDS")
+  add_library(brennet_${name} STATIC ${layer_SOURCES})
+  add_library(Brennet::${name} ALIAS brennet_${name})
+  brennet_target_defaults(brennet_${name})
+  target_link_libraries(brennet_${name} PUBLIC ${layer_DEPENDS})
+endfunction()
+
+# brennet_add_test(markup SOURCES a_test.cpp DEPENDS Brennet::markup)
+# One GoogleTest program per folder, each of its cases a CTest test.
+function(brennet_add_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;DEPENDS")
+  add_executable(${name}_tests ${test_SOURCES})
+  brennet_target_defaults(${name}_tests)
+  target_link_libraries(${name}_tests PRIVATE ${test_DEPENDS} GTest::gmock GTest::gtest_main)
+  target_compile_definitions(${name}_tests PRIVATE
+    BRENNET_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+  gtest_discover_tests(${name}_tests TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
+endfunction()

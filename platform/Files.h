@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "platform/Paths.h"
+
+namespace brennet::platform {
+
+// The whole content of the file at `path`, replacing `bytes`.
+// Returns the system's error, or an empty one. Folders are refused like unreadable files; on any
+// error `bytes` is empty.
+[[nodiscard]] std::error_code readFile(const Path& path, std::string& bytes);
+
+// Makes `bytes` the content of the file at `path`, creating it where it is missing.
+//
+// At every moment the disk holds the whole old or the whole new content: the bytes go to a
+// temporary file in the same folder, are flushed, and the temporary file takes the target's place.
+// A file that is there keeps its permissions, a symbolic link stays one, and a file that could not
+// be opened for writing is left alone. Where the folder takes no temporary file, the target is
+// written in place, and gets its old content back when that fails.
+//
+// Returns the first error of any step, a failing flush or close included, or an empty one.
+// After an error the old content stands and no temporary file is left.
+[[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes);
+
+// Whether a folder stands at `path`.
+[[nodiscard]] bool folderExists(const Path& path);
+
+// Creates the folder `path`, one level only. Returns whether the folder was created.
+bool createFolder(const Path& path);
+
+}  // namespace brennet::platform

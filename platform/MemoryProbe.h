@@ -1,0 +1,11 @@
+#pragma once
+
+#include <cstddef>
+
+namespace brennet::platform {
+
+// Whether this process may read and write the `size` bytes at `address`; true for no bytes.
+// Never faults and leaves the bytes as they are.
+[[nodiscard]] bool isWritable(void* address, std::size_t size);
+
+}  // namespace brennet::platform
