@@ -1,0 +1,63 @@
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+
+#include "platform/MemoryProbe.h"
+
+namespace brennet::platform {
+namespace {
+
+// A pipe through which the kernel copies a byte out of the probed memory and back into it. The
+// kernel answers EFAULT where the process itself would fault.
+class ProbePipe {
+ public:
+  ProbePipe() : open_(pipe2(ends_, O_CLOEXEC) == 0) {}
+  ~ProbePipe() {
+    if (!open_) return;
+    close(ends_[0]);
+    close(ends_[1]);
+  }
+  ProbePipe(const ProbePipe&) = delete;
+  ProbePipe& operator=(const ProbePipe&) = delete;
+
+  [[nodiscard]] bool isOpen() const { return open_; }
+
+  bool roundTrip(void* byte) {
+    return retried([&] { return write(ends_[1], byte, 1); }) &&
+           retried([&] { return read(ends_[0], byte, 1); });
+  }
+
+ private:
+  template <class Call>
+  static bool retried(Call call) {
+    ssize_t moved = call();
+    while (moved < 0 && errno == EINTR) moved = call();
+    return moved == 1;
+  }
+
+  int ends_[2] = {-1, -1};
+  bool open_;
+};
+
+}  // namespace
+
+bool isWritable(void* address, std::size_t size) {
+  if (size == 0) return true;
+  const auto first = reinterpret_cast<std::uintptr_t>(address);
+  if (first == 0 || first + (size - 1) < first) return false;
+
+  ProbePipe pipe;
+  if (!pipe.isOpen()) return false;
+  const auto pageSize = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+  const std::uintptr_t last = first + (size - 1);
+  for (std::uintptr_t page = first / pageSize; page <= last / pageSize; ++page) {
+    const std::uintptr_t probe = std::max(first, page * pageSize);
+    if (!pipe.roundTrip(reinterpret_cast<void*>(probe))) return false;
+  }
+  return true;
+}
+
+}  // namespace brennet::platform
