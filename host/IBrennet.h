@@ -1,0 +1,97 @@
+// The interface between a game-platform client (the host) and the Brennet library.
+//
+// The host loads the library, fetches the exported function GetBrennetPtr by name, and calls it
+// once. The object belongs to the library and lives until the library is unloaded: the host never
+// deletes it. Everything that crosses the interface is plain memory owned by the caller.
+//
+// All calls come on the host's GUI thread, the one that runs its QApplication. The order is:
+// GetBrennetPtr; SetDataFolder and LoadSettings; then the other operations, in any order and any
+// number of times.
+//
+// This header stands alone and compiles as C++11.
+#ifndef BRENNET_I_BRENNET_H
+#define BRENNET_I_BRENNET_H
+
+#include <cstdint>
+
+// The member-call convention of 32-bit Windows, whatever default the host is compiled with.
+#if defined(_WIN32) && (defined(_M_IX86) || defined(__i386__))
+#define BRENNET_CALL __thiscall
+#else
+#define BRENNET_CALL
+#endif
+
+namespace brennet {
+
+struct HotkeyBlock;  // model/HotkeyBlock.h
+
+// Twelve operations in a fixed order. The order of the slots is law: hosts are compiled against
+// it. New operations are only ever appended. No destructor and no data belong here.
+// Nothing throws; failures are the stated results.
+class IBrennet {
+ public:
+  // Slot 0. Reads the player's settings from the file at `path` (UTF-16; copied) and keeps the
+  // path for every later save, also when the load fails. A successful load rewrites the hotkey
+  // sections of the game's preference file.
+  // Returns false, with the defaults in place, when the file is missing, unreadable or damaged;
+  // false with nothing changed when `path` is null.
+  virtual bool BRENNET_CALL LoadSettings(const wchar_t* path) = 0;
+
+  // Slot 1. Stores the folder (copied) that holds Tollamere.reg; null stores an empty name.
+  virtual void BRENNET_CALL SetDataFolder(const wchar_t* folder) = 0;
+
+  // Slot 2. Opens the settings dialog, modal over the host's window, on a copy of the settings.
+  // When the player confirms, the copy is saved with `saveTime`, `*saved` tells whether that
+  // succeeded, and if so the copy becomes the active configuration.
+  // Returns whether the player confirmed; false when `saved` is null.
+  virtual bool BRENNET_CALL ShowSettingsDialog(bool* saved, std::uint32_t saveTime) = 0;
+
+  // Slot 3. Fills `block` with the active bindings. The caller writes the number of bytes it
+  // provides into `block->size` first: a shorter, older record gets its prefix, a longer one keeps
+  // its tail, and `size` itself is left as it was.
+  // Returns false when `block` is null or its memory is not writable.
+  virtual bool BRENNET_CALL FillHotkeyBlock(HotkeyBlock* block) = 0;
+
+  // Slot 4. 1 when the left Windows key is disabled in game, else 0.
+  virtual std::uint8_t BRENNET_CALL GetDisableLWinFlag() = 0;
+
+  // Slot 5. The save time that the last successful load found in the file; 0 before that. Saving
+  // does not change it. The library never reads a clock: the value is the host's own.
+  virtual std::uint32_t BRENNET_CALL GetLastSaveTime() = 0;
+
+  // Slot 6. Switches the whole feature on or off and saves with `saveTime`.
+  // Returns false and does nothing when `enable` is the state already; else the save's result.
+  // The new state stands in memory also when the save fails.
+  virtual bool BRENNET_CALL SetEnabled(bool enable, std::uint32_t saveTime) = 0;
+
+  // Slot 7. 1 when the picture is kept unstretched, else 0.
+  virtual std::uint8_t BRENNET_CALL GetViewNoDragFlag() = 0;
+
+  // Slot 8. Whether the active bindings use Caps Lock.
+  virtual bool BRENNET_CALL IsCapsLockUsed() = 0;
+
+  // Slot 9. Whether the active bindings use Shift as a key of its own.
+  virtual bool BRENNET_CALL IsShiftUsed() = 0;
+
+  // Slot 10. Takes back a block that was changed in game, merges what differs into the settings
+  // and saves them with `saveTime`. Reads `block->size` bytes, at most one record.
+  // Returns 0 after a successful save, and 0 when `block` is null or any of its `size` bytes is
+  // not writable; -1 when nothing differs or the save fails.
+  virtual std::int32_t BRENNET_CALL ApplyHotkeyBlock(HotkeyBlock* block,
+                                                     std::uint32_t saveTime) = 0;
+
+  // Slot 11. 1 when delay optimisation is on, else 0.
+  virtual std::uint8_t BRENNET_CALL GetStartJSQFlag() = 0;
+
+ protected:
+  ~IBrennet() = default;
+};
+
+// The type of the exported function, for GetProcAddress and dlsym:
+//   auto get = reinterpret_cast<brennet::GetBrennetPtrFunction>(GetProcAddress(dll,
+//   "GetBrennetPtr"));
+using GetBrennetPtrFunction = IBrennet* (*)();
+
+}  // namespace brennet
+
+#endif  // BRENNET_I_BRENNET_H
