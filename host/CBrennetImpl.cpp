@@ -1,0 +1,148 @@
+#include "host/CBrennetImpl.h"
+
+#include <algorithm>
+#include <cstring>
+#include <exception>
+
+#include "host/ProcessConfigs.h"
+#include "host/WideText.h"
+#include "model/BlockFiller.h"
+#include "model/BlockMerger.h"
+#include "model/KeyConflicts.h"
+#include "platform/MemoryProbe.h"
+
+namespace brennet {
+namespace {
+
+constexpr std::uint8_t kVirtualKeyShift = 0x10;
+constexpr std::uint8_t kVirtualKeyCapsLock = 0x14;
+
+constexpr std::int32_t kApplied = 0;
+constexpr std::int32_t kNotApplied = -1;
+
+// The number of bytes that the caller announces. `block` itself need not be aligned.
+std::uint32_t announcedSize(const HotkeyBlock* block) {
+  std::uint32_t size = 0;
+  std::memcpy(&size, block, sizeof(size));
+  return size;
+}
+
+std::size_t sharedSize(std::uint32_t announced) {
+  return std::min<std::size_t>(announced, sizeof(HotkeyBlock));
+}
+
+bool isSizeWritable(HotkeyBlock* block) {
+  return block != nullptr && platform::isWritable(block, sizeof(std::uint32_t));
+}
+
+// Nothing is thrown across the interface: what memory runs out for fails like the rest.
+template <class Result, class Operation>
+Result orElse(Result failure, Operation operation) noexcept {
+  try {
+    return operation();
+  } catch (const std::exception&) {
+    return failure;
+  }
+}
+
+}  // namespace
+
+CBrennetImpl::CBrennetImpl() : config_(&mainConfig()) {}
+
+CBrennetImpl& CBrennetImpl::instance() {
+  static CBrennetImpl impl;
+  return impl;
+}
+
+bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
+  if (path == nullptr) return false;
+  try {
+    settingsPath_ = fromWide(path);
+    return config_->Load(settingsPath_);
+  } catch (const std::exception&) {
+    config_->Reset();
+    return false;
+  }
+}
+
+void CBrennetImpl::SetDataFolder(const wchar_t* folder) noexcept {
+  try {
+    dataFolder_ = fromWide(folder);
+  } catch (const std::exception&) {
+    dataFolder_.clear();
+  }
+}
+
+// This build has no windows, so the player never confirms anything.
+bool CBrennetImpl::ShowSettingsDialog(bool* saved, std::uint32_t) noexcept {
+  if (saved != nullptr) *saved = false;
+  return false;
+}
+
+bool CBrennetImpl::FillHotkeyBlock(HotkeyBlock* block) noexcept {
+  if (!isSizeWritable(block)) return false;
+  const std::uint32_t size = announcedSize(block);
+  if (!platform::isWritable(block, sharedSize(size))) return false;
+
+  HotkeyBlock filled;
+  fillBlock(*config_, filled);
+  filled.size = size;
+  std::memcpy(block, &filled, sharedSize(size));
+  return true;
+}
+
+std::uint8_t CBrennetImpl::GetDisableLWinFlag() noexcept {
+  return config_->scheme().DisableLWinFlag;
+}
+
+std::uint32_t CBrennetImpl::GetLastSaveTime() noexcept {
+  return config_->LastSaveTime();
+}
+
+bool CBrennetImpl::SetEnabled(bool enable, std::uint32_t saveTime) noexcept {
+  if (enable == config_->enable()) return false;
+  config_->setEnable(enable);
+  return orElse(false, [&] { return config_->Save(settingsPath_, saveTime); });
+}
+
+std::uint8_t CBrennetImpl::GetViewNoDragFlag() noexcept {
+  return config_->scheme().ViewNoDragFlag;
+}
+
+bool CBrennetImpl::IsCapsLockUsed() noexcept {
+  return isKeyUsed(config_->scheme(), kVirtualKeyCapsLock);
+}
+
+bool CBrennetImpl::IsShiftUsed() noexcept {
+  return isKeyUsed(config_->scheme(), kVirtualKeyShift);
+}
+
+std::int32_t CBrennetImpl::ApplyHotkeyBlock(HotkeyBlock* block, std::uint32_t saveTime) noexcept {
+  if (!isSizeWritable(block)) return kApplied;
+  const std::uint32_t size = announcedSize(block);
+  if (!platform::isWritable(block, size)) return kApplied;
+
+  HotkeyBlock current;
+  fillBlock(*config_, current);
+  // What an older, shorter record does not carry is not changed.
+  HotkeyBlock returned = current;
+  std::memcpy(&returned, block, sharedSize(size));
+
+  return orElse(kNotApplied, [&] {
+    workingCopy().ResetAndCopyFrom(*config_);
+    const bool applied = mergeBlock(current, returned, workingCopy()) && saveWorkingCopy(saveTime);
+    return applied ? kApplied : kNotApplied;
+  });
+}
+
+std::uint8_t CBrennetImpl::GetStartJSQFlag() noexcept {
+  return config_->scheme().StartJSQFlag;
+}
+
+bool CBrennetImpl::saveWorkingCopy(std::uint32_t saveTime) {
+  if (!workingCopy().Save(settingsPath_, saveTime)) return false;
+  config_->ResetAndCopyFrom(workingCopy());
+  return true;
+}
+
+}  // namespace brennet

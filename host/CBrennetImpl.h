@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+
+#include "host/IBrennet.h"
+#include "model/HotkeyConfig.h"
+
+namespace brennet {
+
+// The only implementation of IBrennet, one object for the life of the library. IBrennet.h says what
+// each operation promises to the host.
+class CBrennetImpl final : public IBrennet {
+ public:
+  static CBrennetImpl& instance();
+
+  CBrennetImpl(const CBrennetImpl&) = delete;
+  CBrennetImpl& operator=(const CBrennetImpl&) = delete;
+
+  bool BRENNET_CALL LoadSettings(const wchar_t* path) noexcept override;
+  void BRENNET_CALL SetDataFolder(const wchar_t* folder) noexcept override;
+  bool BRENNET_CALL ShowSettingsDialog(bool* saved, std::uint32_t saveTime) noexcept override;
+  bool BRENNET_CALL FillHotkeyBlock(HotkeyBlock* block) noexcept override;
+  std::uint8_t BRENNET_CALL GetDisableLWinFlag() noexcept override;
+  std::uint32_t BRENNET_CALL GetLastSaveTime() noexcept override;
+  bool BRENNET_CALL SetEnabled(bool enable, std::uint32_t saveTime) noexcept override;
+  std::uint8_t BRENNET_CALL GetViewNoDragFlag() noexcept override;
+  bool BRENNET_CALL IsCapsLockUsed() noexcept override;
+  bool BRENNET_CALL IsShiftUsed() noexcept override;
+  std::int32_t BRENNET_CALL ApplyHotkeyBlock(HotkeyBlock* block,
+                                             std::uint32_t saveTime) noexcept override;
+  std::uint8_t BRENNET_CALL GetStartJSQFlag() noexcept override;
+
+ private:
+  CBrennetImpl();
+  ~CBrennetImpl() = default;
+
+  // Saves the working copy and, when that succeeded, makes it the main configuration.
+  bool saveWorkingCopy(std::uint32_t saveTime);
+
+  std::u16string settingsPath_;
+  std::u16string dataFolder_;
+  HotkeyConfig* config_;  // the main configuration, not owned
+};
+
+}  // namespace brennet

@@ -1,0 +1,113 @@
+#include "model/BlockFiller.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "markup/Utf8.h"
+#include "model/BlockBytes.h"
+#include "model/KeyConflicts.h"
+#include "model/SettingTable.h"
+
+namespace brennet {
+namespace {
+
+constexpr std::size_t kLongestPackedPhrase = 126;  // bytes: 42 characters of three bytes
+
+void packPhrases(const Phrases& phrases, std::span<char> area) {
+  std::size_t at = 0;
+  for (std::size_t n = 0; n < phrases.size(); ++n) {
+    const std::size_t closingNuls = phrases.size() - n;
+    const std::size_t room = std::min(kLongestPackedPhrase, area.size() - at - closingNuls);
+    if (phrases[n]) at += utf16ToUtf8(*phrases[n], area.subspan(at, room));
+    area[at++] = '\0';
+  }
+}
+
+// Stores one setting of a scheme, by its kind, in a block that is zero so far.
+class BlockFiller {
+ public:
+  BlockFiller(const HotkeyScheme& scheme, BlockBytes bytes) : scheme_(scheme), bytes_(bytes) {}
+
+  void operator()(const SwitchSetting& row) const {
+    if (scheme_.*row.field == 0) return;
+    bytes_[row.offset] = row.mask == SwitchSetting::kWholeByte
+                             ? std::uint8_t{1}
+                             : static_cast<std::uint8_t>(bytes_[row.offset] | row.mask);
+  }
+
+  void operator()(const ByteSetting& row) const { bytes_[row.offset] = scheme_.*row.field; }
+
+  void operator()(const KeySetting& row) const { storeKey(row.offset, scheme_.*row.field); }
+
+  void operator()(const KeyListSetting& row) const {
+    if (row.followsPreset && chosenItemPreset(scheme_) != nullptr) return storePreset(row);
+    const std::span<const KeyWord> keys = row.keysOf(scheme_);
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+      KeyWord key = keys[i];
+      if (row.autocast != nullptr) {
+        const bool quickCast = row.autocastOf(scheme_)[i].value_or(false);
+        key = quickCast ? key.with(KeyWord::kQuickCast) : key.without(KeyWord::kQuickCast);
+      }
+      storeKey(row.offsets[i], key);
+    }
+  }
+
+  void operator()(const RemapSetting& row) const {
+    for (std::size_t i = 0; i < scheme_.HotKey.size(); ++i) {
+      const KeyRemap& remap = scheme_.HotKey[i];
+      if (!remap.Src.isSet() || !remap.Dest.isSet()) continue;
+      const std::size_t offset = row.offset + i * kRemapSize;
+      store16(bytes_, offset + kRemapSrc, remap.Src.raw());
+      store16(bytes_, offset + kRemapDest, remap.Dest.raw());
+    }
+  }
+
+  // D alone says whether there is a combination.
+  void operator()(const ComboSetting& row) const {
+    const ComboKeys& combo = scheme_.ComboKey;
+    if (!combo.Key_D.isSet()) return;
+    const KeyWord keys[] = {combo.Key_A, combo.Key_B, combo.Key_C, combo.Key_D};
+    for (std::size_t i = 0; i < std::size(keys); ++i) {
+      storeKey(row.offset + i * sizeof(std::uint16_t), keys[i]);
+    }
+  }
+
+  void operator()(const PresetSetting&) const {}  // shows in the item keys
+
+  void operator()(const QuickChatSetSetting& row) const {
+    store16(bytes_, row.offset, static_cast<std::uint16_t>(scheme_.QuickChatIndex));
+  }
+
+  void operator()(const PhraseSetting& row) const {
+    auto* const area = reinterpret_cast<char*>(bytes_.data() + row.offset);
+    packPhrases(scheme_.*row.field, {area, row.size});
+  }
+
+ private:
+  void storeKey(std::size_t offset, KeyWord key) const {
+    if (key.isSet()) store16(bytes_, offset, key.raw());
+  }
+
+  void storePreset(const KeyListSetting& row) const {
+    const ItemPreset& preset = *chosenItemPreset(scheme_);
+    for (std::size_t i = 0; i < preset.size(); ++i) {
+      store16(bytes_, row.offsets[i], preset[i].raw());
+    }
+  }
+
+  const HotkeyScheme& scheme_;
+  BlockBytes bytes_;
+};
+
+}  // namespace
+
+void fillBlock(HotkeyConfig& config, HotkeyBlock& block) {
+  block = HotkeyBlock{};
+  block.size = sizeof(HotkeyBlock);
+  block.flags = config.enable() ? kEnableFlag : 0;
+  const BlockFiller filler(config.scheme(), bytesOf(block));
+  for (const SettingId id : blockOrder()) std::visit(filler, setting(id).kind);
+  config.markBlockBuilt();
+}
+
+}  // namespace brennet

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "model/HotkeyBlock.h"
+#include "model/HotkeyConfig.h"
+
+namespace brennet {
+
+// Takes into `config` what differs between `current`, the block filled from it, and `returned`, the
+// block as the game changed it. Keys are offered to the checked setters of the current scheme; a
+// refused one becomes no key. The item preset stays: changed item keys go into the item-key map.
+// Returns whether any field differed, whatever became of its value.
+bool mergeBlock(const HotkeyBlock& current, const HotkeyBlock& returned, HotkeyConfig& config);
+
+}  // namespace brennet

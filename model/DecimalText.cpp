@@ -1,0 +1,41 @@
+#include "model/DecimalText.h"
+
+#include <charconv>
+#include <limits>
+
+namespace brennet {
+namespace {
+
+bool isSpace(char16_t unit) {
+  return unit == u' ' || (unit >= u'\t' && unit <= u'\r');
+}
+bool isDigit(char16_t unit) {
+  return unit >= u'0' && unit <= u'9';
+}
+
+}  // namespace
+
+std::int32_t parseDecimal(std::u16string_view text) {
+  std::size_t at = 0;
+  while (at < text.size() && isSpace(text[at])) ++at;
+  const bool negative = at < text.size() && text[at] == u'-';
+  if (at < text.size() && (text[at] == u'-' || text[at] == u'+')) ++at;
+
+  using Limits = std::numeric_limits<std::int32_t>;
+  std::int64_t number = 0;
+  for (; at < text.size() && isDigit(text[at]); ++at) {
+    const int digit = text[at] - u'0';
+    number = number * 10 + (negative ? -digit : digit);
+    if (number < Limits::min()) return Limits::min();
+    if (number > Limits::max()) return Limits::max();
+  }
+  return static_cast<std::int32_t>(number);
+}
+
+std::u16string decimalText(std::int64_t number) {
+  char digits[20];
+  const auto result = std::to_chars(digits, digits + sizeof(digits), number);
+  return {digits, result.ptr};
+}
+
+}  // namespace brennet

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace brennet {
+
+// The number at the start of `text` by the rule of C's strtol: leading white space, a sign, decimal
+// digits; 0 where there are none. What exceeds 32 bits saturates at the limits.
+[[nodiscard]] std::int32_t parseDecimal(std::u16string_view text);
+
+[[nodiscard]] std::u16string decimalText(std::int64_t number);
+
+}  // namespace brennet
