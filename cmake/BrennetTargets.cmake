@@ -56,5 +56,6 @@ function(brennet_add_test name)
   target_link_libraries(${name}_tests PRIVATE ${test_DEPENDS} GTest::gmock GTest::gtest_main)
   target_compile_definitions(${name}_tests PRIVATE
     BRENNET_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
-  gtest_discover_tests(${name}_tests TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
+  gtest_discover_tests(${name}_tests TEST_PREFIX "${name}." NO_PRETTY_VALUES
+    DISCOVERY_TIMEOUT 60)
 endfunction()

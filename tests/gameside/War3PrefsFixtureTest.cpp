@@ -1,0 +1,82 @@
+// Whole preference files, each as the game wrote it (<case>.in.txt) and as it has to be after the
+// hotkeys of a scheme were put into it (<case>.out.txt).
+//
+// With BRENNET_UPDATE_GOLDEN set in the environment, the second file of each pair is written anew
+// instead of compared; look at the difference before you commit it.
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "gameside/War3PrefsFile.h"
+#include "platform/Files.h"
+
+namespace brennet {
+namespace {
+
+constexpr std::int32_t kAlt = 4;
+
+// Twelve command-card positions and six inventory slots, in the order in which they are written.
+constexpr War3HotkeySection kScheme[] = {
+    {War3HotkeySection::kCommandCard, 2, 0, 0, true, true, 'Q'},
+    {War3HotkeySection::kCommandCard, 2, 1, 0, true, true, 'W'},
+    {War3HotkeySection::kCommandCard, 2, 2, 0, true, true, 'E'},
+    {War3HotkeySection::kCommandCard, 2, 3, 0, true, true, 'R'},
+    {War3HotkeySection::kCommandCard, 1, 1, 0, true, true, 'D'},
+    {War3HotkeySection::kCommandCard, 1, 2, 0, true, true, 'F'},
+    {War3HotkeySection::kCommandCard, 1, 3, 0, true, true, 'T'},
+    {War3HotkeySection::kCommandCard, 1, 0, 0, true, true, 0},
+    {War3HotkeySection::kCommandCard, 0, 0, 0, true, true, 0},
+    {War3HotkeySection::kCommandCard, 0, 1, 0, true, true, 'S'},
+    {War3HotkeySection::kCommandCard, 0, 2, 0, true, true, 'H'},
+    {War3HotkeySection::kCommandCard, 0, 3, 7, true, true, 222},
+    {War3HotkeySection::kInventory, 0, 0, kAlt, false, true, '1'},
+    {War3HotkeySection::kInventory, 0, 1, kAlt, false, true, '2'},
+    {War3HotkeySection::kInventory, 1, 0, kAlt, false, true, '3'},
+    {War3HotkeySection::kInventory, 1, 1, kAlt, false, true, '4'},
+    {War3HotkeySection::kInventory, 2, 0, kAlt, false, true, '5'},
+    {War3HotkeySection::kInventory, 2, 1, 0, false, true, 0},
+};
+
+platform::Path fixture(const std::string& name) {
+  return platform::pathFromNarrow(BRENNET_TEST_DATA "/gameside/" + name);
+}
+
+std::string withScheme(const std::string& fileBytes) {
+  War3PrefsFile file = War3PrefsFile::parse(fileBytes);
+  file.setCustomKeys(true);
+  for (const War3HotkeySection& section : kScheme) file.addHotkeySection(section);
+  return file.serialize();
+}
+
+class APrefsFile : public testing::TestWithParam<const char*> {};
+
+TEST_P(APrefsFile, GetsTheHotkeysOfTheScheme) {
+  const std::string name = GetParam();
+  std::string in;
+  ASSERT_FALSE(platform::readFile(fixture(name + ".in.txt"), in));
+  const std::string actual = withScheme(in);
+  if (std::getenv("BRENNET_UPDATE_GOLDEN") != nullptr) {
+    ASSERT_FALSE(platform::replaceFile(fixture(name + ".out.txt"), actual));
+    GTEST_SKIP() << "written anew";
+  }
+  std::string expected;
+  ASSERT_FALSE(platform::readFile(fixture(name + ".out.txt"), expected));
+  EXPECT_EQ(actual, expected);
+  EXPECT_EQ(withScheme(actual), actual) << "a second run must change nothing";
+}
+
+INSTANTIATE_TEST_SUITE_P(Fixtures, APrefsFile,
+                         testing::Values("crlf", "lf", "mixed", "no-last-newline", "hotkeys-last",
+                                         "no-gameplay", "with-zeros"),
+                         [](const auto& test) {
+                           std::string name = test.param;
+                           for (char& letter : name) {
+                             if (letter == '-') letter = '_';
+                           }
+                           return name;
+                         });
+
+}  // namespace
+}  // namespace brennet
