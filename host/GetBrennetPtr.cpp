@@ -1,13 +1,9 @@
 // The library's only export.
 
 #include "host/CBrennetImpl.h"
+#include "platform/Export.h"
 
-#if defined(_WIN32)
-#define BRENNET_EXPORT __declspec(dllexport)
-#else
-#define BRENNET_EXPORT __attribute__((visibility("default")))
-#endif
-
+// The one object, built on the first call. The library owns it.
 extern "C" BRENNET_EXPORT brennet::IBrennet* GetBrennetPtr() {
   return &brennet::CBrennetImpl::instance();
 }

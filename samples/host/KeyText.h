@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+// The key in a block field for a person to read, for example "Alt+Q"; "-" for no key.
+QString keyText(std::uint16_t key);

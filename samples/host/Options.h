@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+
+// What the command line asks for.
+struct Options {
+  QString library;  // empty: beside the program
+  QString settings;
+  QString data;
+  QString profile;  // empty: a scratch folder, so that no real preference file is touched
+  QString saveBlock;
+  QString applyBlock;
+  std::optional<bool> enable;
+  std::uint32_t saveTime = 0;
+  bool block = false;
+  bool json = false;
+};
+
+// The options, or nothing after a message on standard error when they make no sense.
+// --help and --version print to standard output and end the program.
+std::optional<Options> parseOptions(const QStringList& arguments);

@@ -1,0 +1,104 @@
+// The smallest real host: loads the library, hands over the player's files, exchanges blocks.
+//
+// Exit status: 0, 1 when the library said no (standard error says to what), 2 for bad usage.
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <cstring>
+
+#include "samples/host/Library.h"
+#include "samples/host/Options.h"
+#include "samples/host/Report.h"
+
+namespace {
+
+enum ExitStatus { kDone = 0, kRefused = 1, kBadUsage = 2 };
+
+int badUsage(const QString& message) {
+  std::fprintf(stderr, "brennet-host: %s\n", qPrintable(message));
+  return kBadUsage;
+}
+
+// The block in `file`, or an empty array when it is no block: too short, or shorter than it says.
+QByteArray readBlock(const QString& fileName) {
+  QFile file(fileName);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  QByteArray block = file.readAll();
+  std::uint32_t size = 0;
+  if (static_cast<std::size_t>(block.size()) < sizeof(size)) return {};
+  std::memcpy(&size, block.constData(), sizeof(size));
+  return size <= static_cast<std::uint32_t>(block.size()) ? block : QByteArray();
+}
+
+bool writeBlock(const QString& fileName, const brennet::HotkeyBlock& block) {
+  QFile file(fileName);
+  const auto size = static_cast<qint64>(sizeof(block));
+  return file.open(QIODevice::WriteOnly) &&
+         file.write(reinterpret_cast<const char*>(&block), size) == size && file.flush();
+}
+
+void load(brennet::IBrennet& brennet, const Options& options, Report& report) {
+  const QString data = options.data;
+  brennet.SetDataFolder(data.toStdWString().c_str());
+  report.settings = options.settings;
+  report.loaded = brennet.LoadSettings(options.settings.toStdWString().c_str());
+  if (!report.loaded) report.refusals += QStringLiteral("the settings file could not be loaded");
+}
+
+void change(brennet::IBrennet& brennet, const Options& options, QByteArray& returned,
+            Report& report) {
+  if (options.enable && !brennet.SetEnabled(*options.enable, options.saveTime)) {
+    report.refusals += QStringLiteral(
+        "the feature was not switched: it is so already, or the "
+        "settings could not be saved");
+  }
+  if (returned.isEmpty()) return;
+  auto* const block = reinterpret_cast<brennet::HotkeyBlock*>(returned.data());
+  if (brennet.ApplyHotkeyBlock(block, options.saveTime) != 0) {
+    report.refusals += QStringLiteral(
+        "the block was not applied: nothing in it differs, or the "
+        "settings could not be saved");
+  }
+}
+
+int run(const Options& options) {
+  // The library finds the user's profile through the environment, so this comes first.
+  const QTemporaryDir scratch;
+  const QString profile = options.profile.isEmpty() ? scratch.path() : options.profile;
+  qputenv("HOME", QFile::encodeName(profile));
+
+  QByteArray returned;
+  if (!options.applyBlock.isEmpty()) {
+    returned = readBlock(options.applyBlock);
+    if (returned.isEmpty()) return badUsage(options.applyBlock + QStringLiteral(": no block"));
+  }
+  const Library library(options.library);
+  if (library.brennet() == nullptr) return badUsage(library.error());
+  brennet::IBrennet& brennet = *library.brennet();
+
+  Report report;
+  load(brennet, options, report);
+  change(brennet, options, returned, report);
+  fillReport(brennet, report);
+
+  if (!options.saveBlock.isEmpty() && !writeBlock(options.saveBlock, report.block)) {
+    return badUsage(options.saveBlock + QStringLiteral(": cannot be written"));
+  }
+  const QByteArray text =
+      options.json ? jsonReport(report) : textReport(report, options.block).toUtf8();
+  std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+  for (const QString& refusal : qAsConst(report.refusals)) {
+    std::fprintf(stderr, "brennet-host: %s\n", qPrintable(refusal));
+  }
+  return report.refusals.isEmpty() ? kDone : kRefused;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  const std::optional<Options> options = parseOptions(QCoreApplication::arguments());
+  return options ? run(*options) : kBadUsage;
+}
