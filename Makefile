@@ -1,0 +1,54 @@
+# The front door. Every goal installs what it needs first, see tools/setup.sh.
+
+SETTINGS ?=
+FUZZ_SECONDS ?= 60
+JOBS ?= $(shell nproc)
+
+.DEFAULT_GOAL := help
+.PHONY: help run test asan bench fuzz format lint clean
+
+help: ## show this list
+	@sed -n 's/^\([a-z]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 16
+
+run: ## load the sample settings and show what the library does (SETTINGS=path for others)
+	@tools/setup.sh build
+	@test -f build/native/build.ninja || cmake --preset native -DBRENNET_BUILD_TESTS=OFF
+	@cmake --build --preset native -j $(JOBS) --target brennet brennet-host
+	@tools/run.sh build/native/bin/brennet-host build/native/lib/libbrennet.so "$(SETTINGS)"
+
+test: ## build everything and run all tests
+	@tools/setup.sh build test
+	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
+	@cmake --build --preset native -j $(JOBS)
+	@ctest --preset native -j $(JOBS)
+
+asan: ## the same under the address and undefined-behaviour sanitizers
+	@tools/setup.sh build test
+	@cmake --preset asan
+	@cmake --build --preset asan -j $(JOBS)
+	@ctest --preset asan -j $(JOBS)
+
+bench: ## measure against other libraries (BENCH_ARGS="--benchmark_filter=setDoc")
+	@tools/setup.sh build bench
+	@cmake --preset bench
+	@cmake --build --preset bench -j $(JOBS)
+	@tools/bench.sh build/bench
+
+fuzz: ## run each fuzz target for FUZZ_SECONDS (60)
+	@tools/setup.sh build fuzz
+	@cmake --preset fuzz
+	@cmake --build --preset fuzz -j $(JOBS) --target fuzzers
+	@tools/fuzz.sh build/fuzz build/fuzz-corpus $(FUZZ_SECONDS)
+
+format: ## put all C++ sources into the house's format
+	@tools/setup.sh lint
+	@tools/format.sh
+
+lint: ## check the format and run clang-tidy
+	@tools/setup.sh build test lint
+	@tools/format.sh --check
+	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
+	@tools/lint.sh build/native
+
+clean: ## remove everything that was built
+	@rm -rf build

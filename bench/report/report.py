@@ -1,0 +1,151 @@
+#!/usr/bin/env python3
+"""Prints one table of what Google Benchmark programs measured, peers side by side.
+
+    report.py --json OUT RESULT.json...
+
+Each RESULT.json is the output of one program run with repetitions. Medians count.
+Benchmarks named <group>/brennet/<case> are compared with <group>/<peer>/<case>; for those named
+scale/<operation>/<n> the growth of time per doubling of n is shown.
+"""
+
+import argparse
+import fnmatch
+import json
+import math
+import sys
+
+OURS = "brennet"
+
+# "<group>/<peer>/<case>" as a pattern, and the most that our time may be of the peer's.
+# The first row that matches counts; without one the ratio is shown without a target.
+RATIO_TARGETS = [
+    ("setDoc/pugixml/*", 0.8),
+    ("setDoc/*/*", 1.0),
+    ("readGb2312/*/*", 0.8),
+    ("decode*/*/*ascii*", 0.5),
+    ("decode*/*/*", 1.0),
+    ("encode*/*/*ascii*", 0.5),
+    ("encode*/*/*", 1.0),
+    ("load/*/*", 2.0),
+    ("save/*/*", 2.0),
+    ("fillBlock/*/*", 1.0),
+    ("conflict*/*/*", 2.0),
+]
+
+# The most that time may grow when n doubles: linear, with room for caches.
+GROWTH_TARGET = 2.3
+
+
+def medians(paths):
+    """The median time in nanoseconds of every benchmark, by name."""
+    unit = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
+    times = {}
+    for path in paths:
+        with open(path, encoding="utf-8") as file:
+            rows = json.load(file)["benchmarks"]
+        for row in rows:
+            if row.get("aggregate_name") == "median":
+                name = row["run_name"].removesuffix("/real_time")
+                times[name] = row["real_time"] * unit[row["time_unit"]]
+    return times
+
+
+def ratio_target(name):
+    for pattern, target in RATIO_TARGETS:
+        if fnmatch.fnmatchcase(name, pattern):
+            return target
+    return None
+
+
+def compare(times):
+    """One row for each peer of each of our benchmarks."""
+    rows = []
+    for name, peer_time in times.items():
+        group, _, rest = name.partition("/")
+        peer, _, case = rest.partition("/")
+        our_time = times.get(f"{group}/{OURS}/{case}")
+        if group == "scale" or peer == OURS or our_time is None:
+            continue
+        ratio, target = our_time / peer_time, ratio_target(name)
+        rows.append({"group": group, "case": case, "peer": peer, "ours_ns": our_time,
+                     "peer_ns": peer_time, "ratio": ratio, "target": target,
+                     "met": None if target is None else ratio <= target})
+    return sorted(rows, key=lambda row: (row["group"], row["case"], row["ratio"]))
+
+
+def growth(times):
+    """One row for each step of n: by how much time grows per doubling."""
+    operations = {}
+    for name, time in times.items():
+        parts = name.split("/")
+        if parts[0] == "scale" and len(parts) == 3 and parts[2].isdigit():
+            operations.setdefault(parts[1], []).append((int(parts[2]), time))
+    rows = []
+    for operation, points in sorted(operations.items()):
+        points.sort()
+        for (n, time), (next_n, next_time) in zip(points, points[1:]):
+            factor = (next_time / time) ** (1 / math.log2(next_n / n))
+            rows.append({"operation": operation, "n": n, "next_n": next_n, "n_ns": time,
+                         "next_n_ns": next_time, "growth": factor, "target": GROWTH_TARGET,
+                         "met": factor <= GROWTH_TARGET})
+    return rows
+
+
+def duration(nanoseconds):
+    for size, unit in ((1e9, "s"), (1e6, "ms"), (1e3, "us")):
+        if nanoseconds >= size:
+            return f"{nanoseconds / size:.3g} {unit}"
+    return f"{nanoseconds:.3g} ns"
+
+
+def verdict(row):
+    return {None: "", True: "met", False: "MISSED"}[row["met"]]
+
+
+def limit(row):
+    return "" if row["target"] is None else f"<= {row['target']}"
+
+
+def print_table(header, rows):
+    if not rows:
+        return
+    widths = [max(len(row[column]) for row in [header, *rows]) for column in range(len(header))]
+    for row in [header, ["-" * width for width in widths], *rows]:
+        print("  ".join(cell.ljust(width) for cell, width in zip(row, widths)).rstrip())
+    print()
+
+
+def print_report(comparisons, growths):
+    print_table(
+        ["group", "case", "peer", "brennet", "peer takes", "ratio", "target", ""],
+        [[row["group"], row["case"], row["peer"], duration(row["ours_ns"]),
+          duration(row["peer_ns"]), f"{row['ratio']:.2f}", limit(row), verdict(row)]
+         for row in comparisons])
+    print_table(
+        ["operation", "n", "to", "time", "to", "per doubling", "target", ""],
+        [[row["operation"], str(row["n"]), str(row["next_n"]), duration(row["n_ns"]),
+          duration(row["next_n_ns"]), f"{row['growth']:.2f}", limit(row), verdict(row)]
+         for row in growths])
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--json", required=True, help="where the same figures go as JSON")
+    parser.add_argument("results", nargs="+", help="output of Google Benchmark, as JSON")
+    arguments = parser.parse_args()
+
+    times = medians(arguments.results)
+    if not times:
+        sys.exit("report.py: no medians in the results; run with repetitions")
+    comparisons, growths = compare(times), growth(times)
+    print_report(comparisons, growths)
+    with open(arguments.json, "w", encoding="utf-8") as file:
+        json.dump({"comparisons": comparisons, "growth": growths}, file, indent=2)
+        file.write("\n")
+    rated = [row for row in comparisons + growths if row["met"] is not None]
+    print(f"{sum(row['met'] for row in rated)} of {len(rated)} targets met; "
+          f"figures in {arguments.json}")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Formats every C++ source of the checkout, or with --check only tells which are not formatted.
+set -euo pipefail
+
+mode=(-i)
+if [[ ${1:-} == --check ]]; then
+  mode=(--dry-run --Werror)
+fi
+find platform keys markup gameside model host samples tests bench fuzz \
+  \( -name '*.h' -o -name '*.cpp' \) -print0 | xargs -0 -r clang-format "${mode[@]}"

@@ -1,0 +1,88 @@
+#!/usr/bin/env bash
+# Installs what the given needs take, as far as it is missing: tools/setup.sh build test ...
+#
+# Needs: build, test, bench, fuzz, lint. On Debian and its relatives packages are looked up with
+# dpkg and installed with apt-get, as root or where sudo asks for no password; otherwise the line
+# to run is printed and the exit status is 1. On other systems only the commands are checked.
+set -euo pipefail
+
+declare -A packages=(
+  [build]="g++ cmake ninja-build pkg-config libicu-dev qtbase5-dev"
+  [test]="libgtest-dev libgmock-dev clang"
+  [bench]="libbenchmark-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libexpat1-dev
+           libxml2-dev python3"
+  [fuzz]="clang libclang-rt-14-dev"
+  [lint]="clang-format clang-tidy"
+)
+# shellcheck disable=SC2034  # read through the name reference of words_of
+declare -A commands=(
+  [build]="g++ cmake ninja"
+  [test]="ctest"
+  [bench]="python3"
+  [fuzz]="clang++"
+  [lint]="clang-format clang-tidy"
+)
+
+usage() {
+  echo "usage: tools/setup.sh {build|test|bench|fuzz|lint}..." >&2
+  exit 2
+}
+
+is_installed() {
+  [[ $(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
+}
+
+# Prints the words of the given needs, each word once.
+words_of() {
+  local -n table=$1
+  shift
+  local need
+  for need in "$@"; do
+    # shellcheck disable=SC2086  # the words are to be split
+    printf '%s\n' ${table[$need]}
+  done | sort -u
+}
+
+install_packages() {
+  local as_root=()
+  if [[ $EUID -ne 0 ]]; then
+    if ! sudo -n true 2>/dev/null; then
+      echo "Some packages are missing. Please run:" >&2
+      echo "  sudo apt-get install --no-install-recommends $*" >&2
+      exit 1
+    fi
+    as_root=(sudo -n)
+  fi
+  echo "Installing: $*"
+  "${as_root[@]}" apt-get update -q
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -q -y --no-install-recommends "$@"
+}
+
+main() {
+  [[ $# -gt 0 ]] || usage
+  local need
+  for need in "$@"; do
+    [[ -n ${packages[$need]:-} ]] || usage
+  done
+
+  local missing=() name
+  if command -v dpkg-query >/dev/null && command -v apt-get >/dev/null; then
+    for name in $(words_of packages "$@"); do
+      is_installed "$name" || missing+=("$name")
+    done
+    [[ ${#missing[@]} -eq 0 ]] || install_packages "${missing[@]}"
+    return
+  fi
+
+  for name in $(words_of commands "$@"); do
+    command -v "$name" >/dev/null || missing+=("$name")
+  done
+  if [[ ${#missing[@]} -gt 0 ]]; then
+    echo "Please install these commands: ${missing[*]}" >&2
+    echo "The libraries that go with them are listed in tools/setup.sh." >&2
+    exit 1
+  fi
+}
+
+main "$@"
