@@ -1,0 +1,105 @@
+#include "platform/CodePages.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace brennet::platform {
+namespace {
+
+constexpr CodePage kUnknown = 12345;
+
+TEST(CodePages, KnowTheirShapes) {
+  EXPECT_EQ(codePageShape(1252), CodePageShape::SingleByte);
+  EXPECT_EQ(codePageShape(437), CodePageShape::SingleByte);
+  EXPECT_EQ(codePageShape(28591), CodePageShape::SingleByte);
+  EXPECT_EQ(codePageShape(20127), CodePageShape::SingleByte);
+  for (const CodePage page : {932U, 936U, 949U, 950U}) {
+    EXPECT_EQ(codePageShape(page), CodePageShape::DoubleByte) << page;
+  }
+  EXPECT_EQ(codePageShape(54936), CodePageShape::Other);
+  EXPECT_EQ(codePageShape(kUnknown), CodePageShape::Unsupported);
+}
+
+struct PairRow {
+  unsigned char lead, trail;
+  char16_t unit;
+};
+
+TEST(CodePage936, DecodesPairs) {
+  constexpr PairRow kRows[] = {
+      {0xD0, 0xBB, u'\u8C22'}, {0xB0, 0xA1, u'\u554A'}, {0xA1, 0xA1, u'\u3000'},
+      {0x81, 0x40, u'\u4E02'}, {0xFE, 0x4F, u'\uFA29'}, {0xAA, 0xA1, u'\uE000'},
+      {0x81, 0x20, u'?'},      {0x81, 0x7F, u'?'},      {0xFE, 0xFF, u'?'},
+  };
+  for (const PairRow& row : kRows) {
+    EXPECT_EQ(pairToUtf16(kGb2312, row.lead, row.trail), row.unit)
+        << std::hex << int{row.lead} << ' ' << int{row.trail};
+  }
+}
+
+TEST(CodePage936, HasTheLeadBytesOfKernel32) {
+  EXPECT_FALSE(isLeadByte(kGb2312, 0x80));
+  EXPECT_TRUE(isLeadByte(kGb2312, 0x81));
+  EXPECT_TRUE(isLeadByte(kGb2312, 0xFE));
+  EXPECT_FALSE(isLeadByte(kGb2312, 0xFF));
+  EXPECT_EQ(byteToUtf16(kGb2312, 0x80), u'\u20AC');
+  EXPECT_EQ(byteToUtf16(kGb2312, 'a'), u'a');
+}
+
+TEST(CodePage936, EncodesUnitsWithBestFitAndDefault) {
+  const EncodedUnit pair = utf16ToBytes(kGb2312, u'\u8C22');
+  EXPECT_EQ(pair.length, 2);
+  EXPECT_EQ(pair.bytes[0], 0xD0);
+  EXPECT_EQ(pair.bytes[1], 0xBB);
+  EXPECT_FALSE(pair.lost);
+
+  const EncodedUnit bestFit = utf16ToBytes(kGb2312, u'\u00A5');  // the yen sign as a full-width one
+  EXPECT_EQ(bestFit.length, 2);
+  EXPECT_FALSE(bestFit.lost);
+
+  for (const char16_t unit : {char16_t{0x0E01}, char16_t{0xD83D}, char16_t{0xDE00}}) {
+    const EncodedUnit lost = utf16ToBytes(kGb2312, unit);
+    EXPECT_TRUE(lost.lost);
+    EXPECT_EQ(lost.length, 1);
+    EXPECT_EQ(lost.bytes[0], '?');
+  }
+}
+
+TEST(CodePage936, ReadsBackEveryPairThatStandsForSomething) {
+  for (int lead = 0x81; lead <= 0xFE; ++lead) {
+    for (int trail = 0x40; trail <= 0xFE; ++trail) {
+      const auto leadByte = static_cast<unsigned char>(lead);
+      const auto trailByte = static_cast<unsigned char>(trail);
+      const char16_t unit = pairToUtf16(kGb2312, leadByte, trailByte);
+      if (unit == u'?') continue;
+      const EncodedUnit back = utf16ToBytes(kGb2312, unit);
+      ASSERT_FALSE(back.lost) << std::hex << lead << ' ' << trail;
+      ASSERT_EQ(pairToUtf16(kGb2312, back.bytes[0], back.bytes[1]), unit);
+    }
+  }
+}
+
+TEST(WholeTexts, AreDecodedAndEncoded) {
+  std::u16string text = u"<";
+  decode(1252, "\x80\xE9", text);
+  EXPECT_EQ(text, u"<\u20AC\u00E9");
+
+  std::string bytes = ">";
+  EXPECT_FALSE(encode(1252, u"\u20AC\u00E9", bytes));
+  EXPECT_EQ(bytes, ">\x80\xE9");
+  EXPECT_TRUE(encode(1252, u"\u8C22", bytes));
+  EXPECT_EQ(bytes, ">\x80\xE9?");
+}
+
+TEST(WholeTexts, SurviveLongBuffers) {
+  const std::u16string text(10000, u'\u8C22');
+  std::string bytes;
+  EXPECT_FALSE(encode(54936, text, bytes));
+  std::u16string back;
+  decode(54936, bytes, back);
+  EXPECT_EQ(back, text);
+}
+
+}  // namespace
+}  // namespace brennet::platform

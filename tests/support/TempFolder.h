@@ -1,0 +1,45 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace brennet::test {
+
+// An empty folder of its own for a test, removed with everything in it at the end.
+class TempFolder {
+ public:
+  TempFolder();
+  ~TempFolder();
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+
+  [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+  // The path of `name` below the folder.
+  [[nodiscard]] std::filesystem::path operator/(std::string_view name) const {
+    return path_ / name;
+  }
+  // Names of everything directly in the folder, sorted, one a line.
+  [[nodiscard]] std::string listing() const;
+
+ private:
+  std::filesystem::path path_;
+};
+
+// The whole file; empty when it cannot be read.
+std::string readBytes(const std::filesystem::path& path);
+void writeBytes(const std::filesystem::path& path, std::string_view bytes);
+
+// A profile folder for the time of a test, so that nobody's real preference file is touched.
+class ScopedProfile {
+ public:
+  explicit ScopedProfile(const std::filesystem::path& folder);
+  ~ScopedProfile();
+  ScopedProfile(const ScopedProfile&) = delete;
+  ScopedProfile& operator=(const ScopedProfile&) = delete;
+
+ private:
+  std::string before_;
+};
+
+}  // namespace brennet::test
