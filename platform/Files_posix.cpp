@@ -43,8 +43,8 @@ class OpenFile {
   std::error_code closeNow() {
     if (descriptor_ < 0) return {};
     const int result = close(descriptor_);
-    descriptor_ = -1;
-    return result == 0 ? std::error_code() : lastError();
+    descriptor_ = -1;  // closed even when the call was interrupted
+    return result == 0 || errno == EINTR ? std::error_code() : lastError();
   }
 
  private:
@@ -181,6 +181,7 @@ std::error_code readFile(const Path& path, std::string& bytes) {
 }
 
 std::error_code replaceFile(const Path& name, std::string_view bytes) {
+  if (name.empty()) return std::make_error_code(std::errc::no_such_file_or_directory);
   const std::string path = withoutLinks(name.native());
   const Target target = inspect(path);
   if (target.error) return target.error;
