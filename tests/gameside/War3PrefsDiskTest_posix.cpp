@@ -6,14 +6,19 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <string>
 
 #include "gameside/War3PrefsFile.h"
-#include "tests/gameside/PrefsFolder.h"
+#include "tests/support/TempFolder.h"
 
 namespace brennet {
 namespace {
 
+using test::readBytes;
+using test::ScopedProfile;
+using test::TempFolder;
+using test::writeBytes;
+
+constexpr char kName[] = "War3Preferences.txt";
 constexpr char kOffFile[] = "[Gameplay]\r\ncustomkeys=0\r\n\r\n";
 constexpr char kOnFile[] = "[Gameplay]\r\ncustomkeys=2\r\n\r\n";
 
@@ -34,104 +39,81 @@ class OrdinaryUser {
   bool privileged_;
 };
 
-// Makes another folder the user's home until the object goes. No path: no home.
-class Home {
- public:
-  explicit Home(const char* path) {
-    if (const char* home = std::getenv("HOME")) old_ = home;
-    if (path != nullptr) {
-      setenv("HOME", path, 1);
-    } else {
-      unsetenv("HOME");
-    }
+// Switches custom keys on as an ordinary user, in a folder and a file of these modes. Afterwards
+// both may be read and removed again.
+bool trySwitchOn(const TempFolder& folder, mode_t folderMode, mode_t fileMode) {
+  chmod((folder / kName).c_str(), fileMode);
+  chmod(folder.path().c_str(), folderMode);
+  bool saved = false;
+  {
+    const OrdinaryUser user;
+    War3PrefsFile file(folder / kName);
+    file.setCustomKeys(true);
+    saved = file.save();
   }
-  ~Home() { setenv("HOME", old_.c_str(), 1); }
-  Home(const Home&) = delete;
-  Home& operator=(const Home&) = delete;
-
- private:
-  std::string old_;
-};
-
-bool trySwitchOn(const PrefsFolder& folder) {
-  const OrdinaryUser user;
-  War3PrefsFile file(folder.file());
-  file.setCustomKeys(true);
-  return file.save();
+  chmod(folder.path().c_str(), 0755);
+  chmod((folder / kName).c_str(), 0644);
+  return saved;
 }
 
 TEST(PrefsPermissions, ProtectAReadOnlyFileInAWritableFolder) {
-  const PrefsFolder folder;
-  ASSERT_TRUE(folder.write(kOffFile));
-  ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
-  ASSERT_EQ(chmod(folder.file().c_str(), 0444), 0);
-  EXPECT_FALSE(trySwitchOn(folder));
-  EXPECT_EQ(folder.content(), kOffFile);
-  EXPECT_EQ(folder.entryCount(), 1);
+  const TempFolder folder;
+  writeBytes(folder / kName, kOffFile);
+  EXPECT_FALSE(trySwitchOn(folder, 0777, 0444));
+  EXPECT_EQ(readBytes(folder / kName), kOffFile);
+  EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
 TEST(PrefsPermissions, ProtectAReadOnlyFileInAReadOnlyFolder) {
-  const PrefsFolder folder;
-  ASSERT_TRUE(folder.write(kOffFile));
-  ASSERT_EQ(chmod(folder.file().c_str(), 0444), 0);
-  ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);
-  EXPECT_FALSE(trySwitchOn(folder));
-  EXPECT_EQ(folder.content(), kOffFile);
+  const TempFolder folder;
+  writeBytes(folder / kName, kOffFile);
+  EXPECT_FALSE(trySwitchOn(folder, 0555, 0444));
+  EXPECT_EQ(readBytes(folder / kName), kOffFile);
+  EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
 TEST(PrefsPermissions, LetAWritableFileChangeInAReadOnlyFolder) {
-  const PrefsFolder folder;
-  ASSERT_TRUE(folder.write(kOffFile));
-  ASSERT_EQ(chmod(folder.file().c_str(), 0666), 0);
-  ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);
-  EXPECT_TRUE(trySwitchOn(folder));
-  EXPECT_EQ(folder.content(), kOnFile);
+  const TempFolder folder;
+  writeBytes(folder / kName, kOffFile);
+  EXPECT_TRUE(trySwitchOn(folder, 0555, 0666));
+  EXPECT_EQ(readBytes(folder / kName), kOnFile);
+  EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
 TEST(PrefsPermissions, ProtectAFileThatMayNotBeOpenedAtAll) {
-  const PrefsFolder folder;
-  ASSERT_TRUE(folder.write(kOffFile));
-  ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
-  ASSERT_EQ(chmod(folder.file().c_str(), 0000), 0);
-  EXPECT_FALSE(trySwitchOn(folder));
-  ASSERT_EQ(chmod(folder.file().c_str(), 0600), 0);
-  EXPECT_EQ(folder.content(), kOffFile);
+  const TempFolder folder;
+  writeBytes(folder / kName, kOffFile);
+  EXPECT_FALSE(trySwitchOn(folder, 0777, 0000));
+  EXPECT_EQ(readBytes(folder / kName), kOffFile);
+  EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
 TEST(PrefsPermissions, MakeAFileThatMayOnlyBeWrittenAnEmptyOne) {
-  const PrefsFolder folder;
-  ASSERT_TRUE(folder.write(kOffFile));
-  ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
-  ASSERT_EQ(chmod(folder.file().c_str(), 0222), 0);
-  EXPECT_TRUE(trySwitchOn(folder));
-  ASSERT_EQ(chmod(folder.file().c_str(), 0600), 0);
-  EXPECT_EQ(folder.content(), "");
+  const TempFolder folder;
+  writeBytes(folder / kName, kOffFile);
+  EXPECT_TRUE(trySwitchOn(folder, 0777, 0222));
+  EXPECT_EQ(readBytes(folder / kName), "");
+  EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
 TEST(PrefsPath, LiesBelowTheProfileFolder) {
-  const PrefsFolder home;
-  const std::filesystem::path game = home.path() / "Documents" / "Warcraft III";
+  const TempFolder home;
+  const std::filesystem::path game = home / "Documents" / "Warcraft III";
   std::filesystem::create_directories(game);
-  ASSERT_FALSE(platform::replaceFile(game / "War3Preferences.txt", kOffFile));
+  writeBytes(game / kName, kOffFile);
 
-  const Home environment(home.path().c_str());
+  const ScopedProfile profile(home.path());
   War3PrefsFile file;
   file.setCustomKeys(true);
   EXPECT_TRUE(file.save());
-
-  std::string bytes;
-  ASSERT_FALSE(platform::readFile(game / "War3Preferences.txt", bytes));
-  EXPECT_EQ(bytes, kOnFile);
+  EXPECT_EQ(readBytes(game / kName), kOnFile);
 }
 
 TEST(PrefsPath, IsNoneWithoutAProfileFolder) {
-  const char* const homes[] = {nullptr, ""};
-  for (const char* home : homes) {
-    const Home environment(home);
-    War3PrefsFile file;
-    file.addHotkeySection({});
-    EXPECT_FALSE(file.save());
-  }
+  const ScopedProfile profile{std::filesystem::path()};
+  War3PrefsFile file;
+  file.addHotkeySection({});
+  EXPECT_FALSE(file.save());
 }
 
 }  // namespace
