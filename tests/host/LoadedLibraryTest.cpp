@@ -1,0 +1,107 @@
+// The built library as a host sees it: found by file name, called through the exported function.
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <type_traits>
+
+#include "host/IBrennet.h"
+#include "model/HotkeyBlock.h"
+#include "tests/support/TempFolder.h"
+
+namespace brennet {
+namespace {
+
+using namespace test;
+
+static_assert(std::is_abstract_v<IBrennet>);
+static_assert(!std::has_virtual_destructor_v<IBrennet>);
+static_assert(sizeof(IBrennet) == sizeof(void*), "an interface has no data");
+
+class LoadedLibrary : public testing::Test {
+ protected:
+  LoadedLibrary() : profile_(folder_.path()), handle_(dlopen(BRENNET_LIBRARY, RTLD_NOW)) {}
+  ~LoadedLibrary() override {
+    if (handle_ != nullptr) dlclose(handle_);
+  }
+
+  IBrennet* get() {
+    EXPECT_NE(handle_, nullptr) << dlerror();
+    const auto function = reinterpret_cast<GetBrennetPtrFunction>(dlsym(handle_, "GetBrennetPtr"));
+    EXPECT_NE(function, nullptr);
+    return function != nullptr ? function() : nullptr;
+  }
+
+  TempFolder folder_;
+  ScopedProfile profile_;
+  void* handle_;
+};
+
+TEST_F(LoadedLibrary, GivesTheSameObjectEachTime) {
+  IBrennet* const first = get();
+  EXPECT_EQ(first, get());
+}
+
+TEST_F(LoadedLibrary, AnswersFromTheDefaultsBeforeAnyLoad) {
+  IBrennet& brennet = *get();
+  EXPECT_EQ(brennet.GetLastSaveTime(), 0U);
+  EXPECT_EQ(brennet.GetDisableLWinFlag(), 0);
+  EXPECT_EQ(brennet.GetViewNoDragFlag(), 0);
+  EXPECT_EQ(brennet.GetStartJSQFlag(), 0);
+  EXPECT_FALSE(brennet.IsCapsLockUsed());
+  EXPECT_FALSE(brennet.IsShiftUsed());
+  HotkeyBlock block{};
+  block.size = sizeof(block);
+  EXPECT_TRUE(brennet.FillHotkeyBlock(&block));
+  EXPECT_EQ(block.zoomValue, 100);
+}
+
+TEST_F(LoadedLibrary, FailsToSaveWithoutALoad) {
+  EXPECT_FALSE(get()->SetEnabled(true, 5));
+  HotkeyBlock block{};
+  block.size = sizeof(block);
+  ASSERT_TRUE(get()->FillHotkeyBlock(&block));
+  block.zoomValue = 90;
+  EXPECT_EQ(get()->ApplyHotkeyBlock(&block, 5), -1);
+}
+
+// The slots are counted here by hand: a header whose operations changed places cannot hide.
+TEST_F(LoadedLibrary, HasItsOperationsInTheFixedSlots) {
+  const auto path = folder_ / "KeyInfo.xml";
+  writeBytes(path,
+             "<KeyInfo enable=\"1\"><LastSaveTime>77</LastSaveTime><KeyInfo_0><DisableLWinFlag>1"
+             "</DisableLWinFlag><SecretaryKey><Key id=\"0\">4096</Key></SecretaryKey>"
+             "</KeyInfo_0></KeyInfo>");
+  IBrennet* const brennet = get();
+  void** const slots = *reinterpret_cast<void***>(brennet);
+  const auto call = [&]<class Result, class... Arguments>(std::size_t slot, Result,
+                                                          Arguments... arguments) {
+    return reinterpret_cast<Result (*)(IBrennet*, Arguments...)>(slots[slot])(brennet,
+                                                                              arguments...);
+  };
+  const std::wstring name = path.wstring();
+  EXPECT_TRUE(call(0, bool(), name.c_str()));
+  reinterpret_cast<void (*)(IBrennet*, const wchar_t*)>(slots[1])(brennet, L"");
+  bool saved = true;
+  EXPECT_FALSE(call(2, bool(), &saved, std::uint32_t{1}));
+  EXPECT_FALSE(saved);
+  HotkeyBlock block{};
+  block.size = sizeof(block);
+  EXPECT_TRUE(call(3, bool(), &block));
+  EXPECT_EQ(block.flags, 0x80000001U);
+  EXPECT_EQ(call(4, std::uint8_t()), 1);
+  EXPECT_EQ(call(5, std::uint32_t()), 77U);
+  EXPECT_TRUE(call(6, bool(), false, std::uint32_t{78}));
+  EXPECT_EQ(call(7, std::uint8_t()), 0);
+  EXPECT_FALSE(call(8, bool()));
+  EXPECT_TRUE(call(9, bool()));
+  block.flags = 1;
+  block.zoomValue = 90;
+  EXPECT_EQ(call(10, std::int32_t(), &block, std::uint32_t{79}), 0);
+  EXPECT_EQ(call(10, std::int32_t(), &block, std::uint32_t{79}), -1);
+  EXPECT_EQ(call(11, std::uint8_t()), 0);
+}
+
+}  // namespace
+}  // namespace brennet

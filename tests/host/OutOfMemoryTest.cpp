@@ -1,0 +1,97 @@
+// Each allocation on the way fails once, one after the other: the host gets a result, never an
+// exception, and what was saved before stays whole.
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <new>
+
+#include "tests/host/HostFixture.h"
+
+namespace {
+
+// The number of allocations until the one that fails; negative: none fails.
+long allocationsUntilFailure = -1;
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+  if (allocationsUntilFailure >= 0 && allocationsUntilFailure-- == 0) throw std::bad_alloc();
+  void* memory = std::malloc(size == 0 ? 1 : size);
+  if (memory == nullptr) throw std::bad_alloc();
+  return memory;
+}
+void operator delete(void* memory) noexcept {
+  std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+  std::free(memory);
+}
+
+namespace brennet {
+namespace {
+
+using namespace test;
+
+using OutOfMemory = HostFixture;
+
+// Runs `operation` with failing allocations, further and further on, until none fails any more.
+template <class Operation, class Check>
+void failEachAllocation(Operation operation, Check check) {
+  constexpr long kMoreThanAnyOperation = 100000;
+  for (long n = 0; n < kMoreThanAnyOperation; ++n) {
+    allocationsUntilFailure = n;
+    operation();
+    const bool wasReached = allocationsUntilFailure < 0;
+    allocationsUntilFailure = -1;
+    check(n);
+    if (!wasReached) return;
+  }
+  FAIL() << "the operation never ends";
+}
+
+TEST_F(OutOfMemory, WhileLoadingGivesTheDefaultsOrTheFile) {
+  const std::wstring path = settings_.wstring();
+  bool loaded = false;
+  failEachAllocation([&] { loaded = brennet_.LoadSettings(path.c_str()); },
+                     [&](long n) {
+                       const HotkeyBlock block = filled();
+                       EXPECT_EQ(block.heroSkillKeys0to5[0], loaded ? 0x5100 : 0) << n;
+                       EXPECT_EQ(brennet_.GetLastSaveTime(), loaded ? 77U : 0U) << n;
+                       EXPECT_EQ(readBytes(settings_), kDefaults) << n;
+                     });
+  EXPECT_TRUE(loaded);
+}
+
+TEST_F(OutOfMemory, WhileApplyingABlockChangesAllOrNothing) {
+  HotkeyBlock block = filled();
+  const HotkeyBlock before = block;
+  block.heroSkillKeys0to5[0] = 0x5200;
+  block.quickChat[0] = 'x';
+  std::int32_t applied = -1;
+  failEachAllocation([&] { applied = brennet_.ApplyHotkeyBlock(&block, 5); },
+                     [&](long n) {
+                       const HotkeyBlock now = filled();
+                       const HotkeyBlock& expected = applied == 0 ? block : before;
+                       EXPECT_EQ(std::memcmp(&now, &expected, sizeof(now)), 0) << n;
+                     });
+  EXPECT_EQ(applied, 0);
+}
+
+TEST_F(OutOfMemory, WhileSwitchingLeavesALoadableFile) {
+  bool switched = false;
+  bool enable = true;
+  failEachAllocation(
+      [&] {
+        enable = !enable;
+        switched = brennet_.SetEnabled(enable, 5);
+      },
+      [&](long n) {
+        EXPECT_EQ(filled().flags, enable ? 0x80000000U : 0U) << n;
+        EXPECT_NE(readBytes(settings_).find("</KeyInfo>"), std::string::npos) << n;
+      });
+  EXPECT_TRUE(switched);
+}
+
+}  // namespace
+}  // namespace brennet
