@@ -1,40 +1,152 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "markup/ElementIndex.h"
+#include "markup/ResultLog.h"
+#include "markup/TextDecoding.h"
+#include "markup/TextForm.h"
+
 namespace brennet {
 
-// (Public interface sketch: the private half is the implementer's.)
+// An XML document: one UTF-16 text, an index of its elements and a position among them.
+//
+// Edits change the text in place, so a document that is loaded and saved without edits is written
+// back as it was. The text is parsed generously; what is wrong with it is told by result().
+//
+// The position is three elements, each of which may be missing: the parent, the main element, and
+// the child. After parsing, all are missing, and the document stands for the parent.
+//
+// Every operation may throw std::bad_alloc; the document then is as it was before the call, or,
+// when that was an edit of several steps, a valid document in between. A text never grows beyond
+// 2^32 - 1 units: what would need more returns false and changes nothing.
 class MarkupDocument {
  public:
-  enum Flag : std::uint32_t { kCData = 8, kChild = 16384 };
+  // Flags of setData and addElem.
+  enum Flag : std::uint32_t {
+    kCData = 8,      // write the value as a CDATA section instead of escaping it
+    kChild = 16384,  // add below the main element
+  };
+  // Flags of the document: a file is open through it.
   enum FileMode : std::uint32_t { kReading = 16, kWriting = 32 };
 
-  bool load(std::u16string_view path);
+  MarkupDocument() = default;
+  MarkupDocument(const MarkupDocument&) = delete;
+  MarkupDocument& operator=(const MarkupDocument&) = delete;
+
+  // Replaces the document by the content of the file at `path`, whose encoding is found out. The
+  // result log starts afresh. Returns whether the file could be read (if not, the document is left
+  // as it was) and is well-formed (see setDoc). Refuses while a file mode flag is set.
+  // `blockSize` is how many bytes are converted at a time.
+  bool load(std::u16string_view path, std::size_t blockSize = kReadBlockSize);
+
+  // Replaces the document by `text` and clears the position. The result log starts afresh.
+  // Returns whether the document is well-formed: it has a root element, the root has no sibling,
+  // and the root has its end tag. Errors inside a closed root are logged only.
   bool setDoc(std::u16string text);
+
+  // Writes the document to the file at `path`, in the encoding it declares, or in UTF-8 when it
+  // declares none. The result log starts afresh. A document that was loaded keeps its byte-order
+  // mark and byte order. Returns whether the file was written; characters that the encoding lacks
+  // do not count. Refuses while a file mode flag is set.
   bool save(std::u16string_view path);
 
+  // Moves the main position to the next sibling called `name` (any, if empty), from the first
+  // child of the parent position when there is no main position; clears the child position.
+  // Returns false, and keeps the position, when there is none, and in write-file mode.
   bool findElem(std::u16string_view name = {});
+
+  // Moves the child position to the next child of the main element called `name` (any, if empty).
+  // Without a main position it first moves to the first element. Returns false, and keeps the
+  // child position, when there is none, and in either file mode.
   bool findChildElem(std::u16string_view name = {});
-  std::u16string getAttrib(std::u16string_view name) const;
-  std::u16string getChildAttrib(std::u16string_view name) const;
-  std::u16string getData() const;
-  std::u16string getChildData() const;
+
+  // The value of an attribute of the main (child) element, unescaped; empty where there is none.
+  [[nodiscard]] std::u16string getAttrib(std::u16string_view name) const;
+  [[nodiscard]] std::u16string getChildAttrib(std::u16string_view name) const;
+
+  // The text directly inside the main (child) element: unescaped, CDATA as it is, comments and
+  // child elements left out. Empty where there is no such element.
+  [[nodiscard]] std::u16string getData() const;
+  [[nodiscard]] std::u16string getChildData() const;
+
+  // Gives the main (child) element an attribute, or the first one of that name a new value.
+  // Returns false without such an element, or for a `name` that cannot be one.
   bool setAttrib(std::u16string_view name, std::u16string_view value);
   bool setChildAttrib(std::u16string_view name, std::u16string_view value);
+
+  // Replaces all content of the main (child) element, child elements included; the child position
+  // is cleared when it was inside. `flags` may be kCData. Returns false without such an element.
   bool setData(std::u16string_view value, std::uint32_t flags = 0);
   bool setChildData(std::u16string_view value, std::uint32_t flags = 0);
+
+  // Adds an element behind the main element, or as the last one of the parent position when there
+  // is no main element, and makes it the main position. With kChild: adds it as the last child of
+  // the main element and makes it the child position. An empty `value` gives an empty tag.
+  // Each added element gets a line of its own, unless its parent holds text of its own.
+  // Returns false for a `name` that cannot be one, and with kChild when there is no main element.
   bool addElem(std::u16string_view name, std::u16string_view value = {}, std::uint32_t flags = 0);
+
+  // Makes the main element the parent position and the child the main position, and clears the
+  // child position. Returns false, and changes nothing, when there is no main position.
   bool intoElem();
+
+  // The way back: makes the main element the child position and the parent the main position.
+  // Returns false, and changes nothing, when there is no parent position.
   bool outOfElem();
+
+  // Clears the main and the child position: the next findElem starts at the first child of the
+  // parent position.
   void resetMainPos();
 
-  const std::u16string& doc() const;
-  const std::u16string& result() const;
-  std::uint32_t docFlags() const;
-  void setDocFlags(std::uint32_t flags);
+  // The text of the document, good until the next call that changes it.
+  [[nodiscard]] const std::u16string& doc() const { return text_; }
+  // What the last load, setDoc or save had to report: a markup text of empty elements.
+  [[nodiscard]] const std::u16string& result() const { return log_.text(); }
+
+  // FileMode flags; others are kept without meaning.
+  [[nodiscard]] std::uint32_t docFlags() const { return docFlags_; }
+  void setDocFlags(std::uint32_t flags) { docFlags_ = flags; }
+
+ private:
+  struct NewElement {
+    std::u16string text;
+    std::uint32_t startTagLength;
+    std::uint32_t flags;
+  };
+  static NewElement makeElement(std::u16string_view name, std::u16string_view value,
+                                std::uint32_t flags);
+
+  bool parse(std::u16string text, ResultLog log, TextForm form);
+  [[nodiscard]] ElementNumber findFrom(ElementNumber first, std::u16string_view name) const;
+  [[nodiscard]] std::u16string_view startTagOf(ElementNumber element) const;
+  [[nodiscard]] std::u16string attributeOf(ElementNumber element, std::u16string_view name) const;
+  [[nodiscard]] std::u16string dataOf(ElementNumber element) const;
+
+  bool setAttributeOf(ElementNumber element, std::u16string_view name, std::u16string_view value);
+  bool setDataOf(ElementNumber element, std::u16string_view value, std::uint32_t flags);
+  ElementNumber addElement(ElementNumber parent, ElementNumber after, std::size_t at,
+                           const NewElement& element);
+  [[nodiscard]] std::size_t behindLineOf(ElementNumber element) const;
+  void fillEmptyTag(ElementNumber element, std::u16string_view content);
+  bool closeUnclosed(ElementNumber element, std::size_t room);
+  bool holdsText(ElementNumber element);
+
+  [[nodiscard]] bool canGrowBy(std::size_t units) const;
+  void lengthen(ElementNumber element, std::uint32_t by);
+  void moveFrom(ElementNumber first, std::uint32_t by);
+
+  std::u16string text_;
+  ElementIndex index_;
+  ResultLog log_;
+  TextForm form_;
+  std::uint32_t docFlags_ = 0;
+  ElementNumber parent_ = 0;
+  ElementNumber main_ = 0;
+  ElementNumber child_ = 0;
 };
 
 }  // namespace brennet

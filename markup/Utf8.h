@@ -1,6 +1,5 @@
 #pragma once
 
-// sketch
 #include <cstddef>
 #include <span>
 #include <string>
@@ -8,13 +7,34 @@
 
 namespace brennet {
 
-// Number of bytes that `text` takes in UTF-8; unpaired surrogates count as U+FFFD.
-std::size_t utf8Length(std::u16string_view text);
+// The number of bytes that `text` takes in UTF-8; unpaired surrogates count as U+FFFD.
+[[nodiscard]] std::size_t utf8Length(std::u16string_view text);
 
-// Writes as many whole characters of `text` as fit into `out`; returns the number of bytes written. Never allocates.
+// Writes as many whole characters of `text` as fit into `out` and returns the number of bytes
+// written; unpaired surrogates are written as U+FFFD. Bytes of `out` behind those may have been
+// written to as well. Never allocates.
 std::size_t utf16ToUtf8(std::u16string_view text, std::span<char> out);
 
-// Strict; each maximal bad part becomes U+FFFD. Appends.
+// Appends `bytes`, read as UTF-8, to `out`. Strict: overlong forms, surrogates and values above
+// U+10FFFF are errors. Each maximal part that cannot begin a character becomes U+FFFD.
 void utf8ToUtf16(std::string_view bytes, std::u16string& out);
+
+// What stands at one place of a text in UTF-8.
+struct Utf8Character {
+  enum class State {
+    Good,
+    Bad,     // no character: the bytes up to the one that spoilt it
+    CutOff,  // the beginning of a character, and the end of the text
+  };
+  State state;
+  std::size_t bytes;   // 1 to 4
+  char32_t codePoint;  // U+FFFD unless the state is Good
+};
+
+// The character at the front of `bytes`, which must not be empty.
+[[nodiscard]] Utf8Character firstUtf8Character(std::string_view bytes);
+
+// How many bytes of `bytes` remain without a character that the end cuts off.
+[[nodiscard]] std::size_t wholeUtf8Length(std::string_view bytes);
 
 }  // namespace brennet

@@ -21,6 +21,8 @@ void packPhrases(const Phrases& phrases, std::span<char> area) {
     if (phrases[n]) at += utf16ToUtf8(*phrases[n], area.subspan(at, room));
     area[at++] = '\0';
   }
+  // The conversion may have used the room behind the last phrase.
+  std::fill(area.begin() + static_cast<std::ptrdiff_t>(at), area.end(), '\0');
 }
 
 // Stores one setting of a scheme, by its kind, in a block that is zero so far.

@@ -1,0 +1,108 @@
+#include "markup/DeclaredEncoding.h"
+
+#include <algorithm>
+
+#include "markup/BucketTable.h"
+#include "markup/MarkupTokenizer.h"
+#include "markup/Names.h"
+#include "markup/StartTag.h"
+
+namespace brennet {
+namespace {
+
+using Kind = MarkupToken::Kind;
+
+// How many bytes of a file are searched for an XML declaration, and for the head of an HTML
+// document where there is no such declaration.
+constexpr std::size_t kDeclarationReach = 1024;
+constexpr std::size_t kHeadReach = std::size_t{64} * 1024;
+
+std::u16string_view tokenText(std::u16string_view text, const MarkupToken& token) {
+  return text.substr(token.start, token.end - token.start);
+}
+
+std::u16string_view xmlEncoding(std::u16string_view text) {
+  if (!text.starts_with(u"<?xml")) return {};
+  const MarkupToken token = MarkupTokenizer(text).next();
+  if (token.kind != Kind::Instruction) return {};
+  StartTag declaration(tokenText(text, token));
+  const auto encoding = declaration.find(u"encoding");
+  return encoding && declaration.name() == u"xml" ? encoding->value : std::u16string_view();
+}
+
+// The charset in a content type such as "text/html; charset=gb2312".
+std::u16string_view charsetOfContentType(std::u16string_view contentType) {
+  constexpr std::u16string_view kCharset = u"charset=";
+  for (std::size_t at = 0; at + kCharset.size() <= contentType.size(); ++at) {
+    if (!equalIgnoringCase(contentType.substr(at, kCharset.size()), kCharset)) continue;
+    const std::u16string_view rest = contentType.substr(at + kCharset.size());
+    return rest.substr(0, rest.find_first_of(u"; \t\r\n"));
+  }
+  return {};
+}
+
+std::u16string_view charsetOfMeta(std::u16string_view tag) {
+  StartTag meta(tag);
+  bool isContentType = false;
+  std::u16string_view charset;
+  while (const auto attribute = meta.next()) {
+    if (equalIgnoringCase(attribute->name, u"http-equiv")) {
+      isContentType = equalIgnoringCase(attribute->value, u"Content-Type");
+    } else if (equalIgnoringCase(attribute->name, u"content") && charset.empty()) {
+      charset = charsetOfContentType(attribute->value);
+    } else if (equalIgnoringCase(attribute->name, u"charset")) {
+      charset = attribute->value;
+    }
+  }
+  return isContentType ? charset : std::u16string_view();
+}
+
+std::u16string_view htmlEncoding(std::u16string_view text) {
+  MarkupTokenizer tokenizer(text);
+  bool isHtml = false;
+  bool inHead = false;
+  for (MarkupToken token = tokenizer.next(); token.kind != Kind::EndOfText;
+       token = tokenizer.next()) {
+    if (token.kind == Kind::EndTag && inHead) {
+      if (equalIgnoringCase(leadingName(text.substr(token.start + 2)), u"head")) return {};
+    }
+    if (token.kind != Kind::StartTag && token.kind != Kind::EmptyTag) continue;
+    const std::u16string_view name = leadingName(text.substr(token.start + 1));
+    if (!isHtml && !equalIgnoringCase(name, u"html")) return {};
+    isHtml = true;
+    if (equalIgnoringCase(name, u"body")) return {};
+    if (equalIgnoringCase(name, u"head")) inHead = true;
+    if (!inHead || !equalIgnoringCase(name, u"meta")) continue;
+    const std::u16string_view charset = charsetOfMeta(tokenText(text, token));
+    if (!charset.empty()) return charset;
+  }
+  return {};
+}
+
+// The first `reach` bytes without the zeros, each as a unit of its own.
+std::u16string widen(std::string_view bytes, std::size_t reach) {
+  std::u16string text;
+  bytes = bytes.substr(0, reach);
+  text.reserve(bytes.size());
+  for (const char byte : bytes) {
+    if (byte != 0) text.push_back(static_cast<unsigned char>(byte));
+  }
+  return text;
+}
+
+}  // namespace
+
+std::u16string_view declaredEncoding(std::u16string_view text) {
+  const std::u16string_view encoding = xmlEncoding(text);
+  return encoding.empty() ? htmlEncoding(text) : encoding;
+}
+
+std::u16string declaredEncodingOfBytes(std::string_view bytes) {
+  const std::u16string front = widen(bytes, kDeclarationReach);
+  const std::u16string_view encoding = xmlEncoding(front);
+  if (!encoding.empty()) return std::u16string(encoding);
+  const std::u16string head = widen(bytes, kHeadReach);
+  return std::u16string(htmlEncoding(head));
+}
+
+}  // namespace brennet

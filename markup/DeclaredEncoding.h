@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace brennet {
+
+// The encoding that a document declares: the `encoding` of its XML declaration, or, for an HTML
+// document, the charset of the `meta` element in `head` whose `http-equiv` is "Content-Type".
+// A view into `text`; empty where none is declared.
+[[nodiscard]] std::u16string_view declaredEncoding(std::u16string_view text);
+
+// The same for the bytes of a file whose encoding is not known yet. Zero bytes are skipped, so
+// that the declaration is also found in UTF-16 and UTF-32.
+[[nodiscard]] std::u16string declaredEncodingOfBytes(std::string_view bytes);
+
+}  // namespace brennet

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "platform/CodePages.h"
+
+namespace brennet {
+
+// How the bytes of a file are to be read.
+struct DetectedEncoding {
+  enum class Source { Mark, Signature, Utf8Detection, Declaration, Ansi };
+
+  Source source;
+  platform::CodePage codePage;  // one that this system can convert
+  std::u16string name;          // for the result log; "ANSI" where none is known
+  std::size_t markLength;       // bytes of the byte-order mark, 0 without one
+};
+
+// Finds out the encoding of the whole content of a document file. The first of these decides:
+// 1. a byte-order mark: UTF-8, UTF-16 or UTF-32;
+// 2. the beginning of a markup text in UTF-16 without a mark;
+// 3. all bytes reading as UTF-8 (a character that the end of the file cuts off does not count).
+//    Short texts in a double-byte code page can do so by accident. Where the document declares
+//    such a code page and can be read in it, this decides only if there are a sequence of three or
+//    four bytes and a pair outside the rows that national standards give out;
+// 4. the encoding that the document declares;
+// 5. the system's ANSI code page. It also takes the place of an encoding that is unknown, that the
+//    system cannot convert, or that the bytes contradict.
+// Time is linear in the bytes.
+[[nodiscard]] DetectedEncoding detectEncoding(std::string_view bytes);
+
+// `codePage`, or the ANSI code page where this system has no conversion for it (0 included).
+[[nodiscard]] platform::CodePage convertibleCodePage(platform::CodePage codePage);
+
+}  // namespace brennet

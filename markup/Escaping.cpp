@@ -1,0 +1,121 @@
+#include "markup/Escaping.h"
+
+#include <algorithm>
+
+#include "markup/EntityTable.h"
+#include "markup/Utf16.h"
+
+namespace brennet {
+namespace {
+
+constexpr std::u16string_view kCDataStart = u"<![CDATA[";
+constexpr std::u16string_view kCDataEnd = u"]]>";
+
+std::u16string_view entityOf(char16_t unit) {
+  switch (unit) {
+    case u'<':
+      return u"&lt;";
+    case u'>':
+      return u"&gt;";
+    case u'&':
+      return u"&amp;";
+    case u'"':
+      return u"&quot;";
+    case u'\'':
+      return u"&apos;";
+    default:
+      return {};
+  }
+}
+
+// The value of `unit` as a digit of a number with `base` 10 or 16, or `base` if it is none.
+char32_t digitValue(char16_t unit, char32_t base) {
+  if (unit >= u'0' && unit <= u'9') return unit - U'0';
+  if (base == 10) return base;
+  if (unit >= u'a' && unit <= u'f') return unit - U'a' + 10;
+  if (unit >= u'A' && unit <= u'F') return unit - U'A' + 10;
+  return base;
+}
+
+// A reference at the front of a text: the character, 0 if it is none, and how long it is written.
+struct Reference {
+  char32_t codePoint = 0;
+  std::size_t length = 0;
+};
+
+// `text` starts behind "&#".
+Reference numericReference(std::u16string_view text) {
+  const bool hexadecimal = !text.empty() && text[0] == u'x';
+  const char32_t base = hexadecimal ? 16 : 10;
+  const std::size_t first = hexadecimal ? 1 : 0;
+  std::size_t at = first;
+  char32_t value = 0;
+  for (; at < text.size() && digitValue(text[at], base) < base; ++at) {
+    value = std::min(value * base + digitValue(text[at], base), kLastCodePoint + 1);
+  }
+  if (at == first || at == text.size() || text[at] != u';') return {};
+  return {isScalarValue(value) ? value : 0, at + 1};
+}
+
+// `text` starts behind "&".
+Reference namedReference(std::u16string_view text) {
+  const std::size_t length = text.substr(0, kLongestEntityName + 1).find(u';');
+  if (length == std::u16string_view::npos) return {};
+  return {entityCode(text.substr(0, length)), length + 1};
+}
+
+// `text` starts with "&".
+Reference referenceAt(std::u16string_view text) {
+  const bool numeric = text.size() > 1 && text[1] == u'#';
+  const std::size_t prefix = numeric ? 2 : 1;
+  Reference reference =
+      numeric ? numericReference(text.substr(prefix)) : namedReference(text.substr(prefix));
+  reference.length += prefix;
+  return reference;
+}
+
+}  // namespace
+
+void appendEscaped(std::u16string_view text, std::u16string& out) {
+  std::size_t written = 0;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const std::u16string_view entity = entityOf(text[at]);
+    if (entity.empty()) continue;
+    out.append(text.substr(written, at - written)).append(entity);
+    written = at + 1;
+  }
+  out.append(text.substr(written));
+}
+
+void appendUnescaped(std::u16string_view text, std::u16string& out) {
+  std::size_t written = 0;
+  std::size_t at = text.find(u'&');
+  while (at != std::u16string_view::npos) {
+    const Reference reference = referenceAt(text.substr(at));
+    if (reference.codePoint != 0) {
+      char16_t units[2];
+      const std::size_t unitCount = writeCharacter(reference.codePoint, units);
+      out.append(text.substr(written, at - written)).append(units, unitCount);
+      written = at + reference.length;
+      at = written;
+    } else {
+      ++at;
+    }
+    at = text.find(u'&', at);
+  }
+  out.append(text.substr(written));
+}
+
+void appendCData(std::u16string_view text, std::u16string& out) {
+  out.append(kCDataStart);
+  std::size_t written = 0;
+  for (std::size_t at = text.find(kCDataEnd); at != std::u16string_view::npos;
+       at = text.find(kCDataEnd, at + kCDataEnd.size())) {
+    const std::size_t split = at + 2;  // behind "]]", before ">"
+    out.append(text.substr(written, split - written)).append(kCDataEnd).append(kCDataStart);
+    written = split;
+  }
+  out.append(text.substr(written)).append(kCDataEnd);
+}
+
+}  // namespace brennet

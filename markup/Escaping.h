@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace brennet {
+
+// Appends `text` to `out` with the characters < > & " ' written as their five entities, so that it
+// can stand in element content and in attribute values.
+void appendEscaped(std::u16string_view text, std::u16string& out);
+
+// Appends `text` to `out` with the named entities (see EntityTable.h) and the decimal and
+// hexadecimal character references resolved. What names no character stays as it is written:
+// unknown names, references without ";", to 0, to surrogates and beyond U+10FFFF.
+void appendUnescaped(std::u16string_view text, std::u16string& out);
+
+// Appends `text` to `out` as CDATA sections. "]]>" inside the text is split between two sections,
+// so that any text can be read back.
+void appendCData(std::u16string_view text, std::u16string& out);
+
+}  // namespace brennet

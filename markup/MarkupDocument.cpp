@@ -1,0 +1,144 @@
+#include "markup/MarkupDocument.h"
+
+#include <utility>
+
+#include "markup/DeclaredEncoding.h"
+#include "markup/ElementContent.h"
+#include "markup/Escaping.h"
+#include "markup/MarkupParser.h"
+#include "markup/Names.h"
+#include "markup/StartTag.h"
+#include "markup/TextFile.h"
+
+namespace brennet {
+
+bool MarkupDocument::load(std::u16string_view path, std::size_t blockSize) {
+  if ((docFlags_ & (kReading | kWriting)) != 0) return false;
+  ResultLog log;
+  std::u16string text;
+  TextForm form;
+  if (!readTextFile(path, text, log, blockSize, &form)) {
+    log_ = std::move(log);
+    return false;
+  }
+  return parse(std::move(text), std::move(log), form);
+}
+
+bool MarkupDocument::setDoc(std::u16string text) {
+  return parse(std::move(text), ResultLog(), TextForm());
+}
+
+bool MarkupDocument::parse(std::u16string text, ResultLog log, TextForm form) {
+  if (text.size() > kLongestMarkup) {
+    log_ = std::move(log);
+    return false;
+  }
+  // What can throw comes first.
+  ElementIndex index = parseMarkup(text, log);
+  text_ = std::move(text);
+  index_ = std::move(index);
+  log_ = std::move(log);
+  form_ = form;
+  parent_ = main_ = child_ = 0;
+  const ElementNumber root = index_[0].firstChild;
+  return root != 0 && index_[root].next == 0 && !index_[root].has(ElementRecord::kError);
+}
+
+bool MarkupDocument::save(std::u16string_view path) {
+  if ((docFlags_ & (kReading | kWriting)) != 0) return false;
+  std::u16string_view encoding = declaredEncoding(text_);
+  if (encoding.empty() && !text_.empty()) encoding = u"UTF-8";
+  ResultLog log;
+  const bool written = writeTextFile(path, text_, encoding, log, form_);
+  log_ = std::move(log);
+  return written;
+}
+
+bool MarkupDocument::findElem(std::u16string_view name) {
+  if ((docFlags_ & kWriting) != 0) return false;
+  const ElementNumber first = main_ != 0 ? index_[main_].next : index_[parent_].firstChild;
+  const ElementNumber found = findFrom(first, name);
+  if (found == 0) return false;
+  main_ = found;
+  parent_ = index_[found].parent;
+  child_ = 0;
+  return true;
+}
+
+bool MarkupDocument::findChildElem(std::u16string_view name) {
+  if ((docFlags_ & (kReading | kWriting)) != 0) return false;
+  if (main_ == 0 && !findElem()) return false;
+  const ElementNumber first = child_ != 0 ? index_[child_].next : index_[main_].firstChild;
+  const ElementNumber found = findFrom(first, name);
+  if (found == 0) return false;
+  child_ = found;
+  return true;
+}
+
+// The first element called `name` (any, if empty) among `first` and the siblings behind it, or 0.
+ElementNumber MarkupDocument::findFrom(ElementNumber first, std::u16string_view name) const {
+  ElementNumber element = first;
+  while (element != 0 && !name.empty()) {
+    const std::u16string_view tag = startTagOf(element).substr(1);
+    if (tag.starts_with(name) && leadingName(tag).size() == name.size()) break;
+    element = index_[element].next;
+  }
+  return element;
+}
+
+std::u16string MarkupDocument::getAttrib(std::u16string_view name) const {
+  return attributeOf(main_, name);
+}
+
+std::u16string MarkupDocument::getChildAttrib(std::u16string_view name) const {
+  return attributeOf(child_, name);
+}
+
+std::u16string MarkupDocument::getData() const {
+  return dataOf(main_);
+}
+
+std::u16string MarkupDocument::getChildData() const {
+  return dataOf(child_);
+}
+
+bool MarkupDocument::intoElem() {
+  if (main_ == 0) return false;
+  parent_ = main_;
+  main_ = child_;
+  child_ = 0;
+  return true;
+}
+
+bool MarkupDocument::outOfElem() {
+  if (parent_ == 0) return false;
+  child_ = main_;
+  main_ = parent_;
+  parent_ = index_[parent_].parent;
+  return true;
+}
+
+void MarkupDocument::resetMainPos() {
+  main_ = 0;
+  child_ = 0;
+}
+
+std::u16string_view MarkupDocument::startTagOf(ElementNumber element) const {
+  const ElementRecord& record = index_[element];
+  return std::u16string_view(text_).substr(record.start, record.startTagLength);
+}
+
+std::u16string MarkupDocument::attributeOf(ElementNumber element, std::u16string_view name) const {
+  std::u16string value;
+  if (element == 0) return value;
+  if (const auto attribute = StartTag(startTagOf(element)).find(name)) {
+    appendUnescaped(attribute->value, value);
+  }
+  return value;
+}
+
+std::u16string MarkupDocument::dataOf(ElementNumber element) const {
+  return element == 0 ? std::u16string() : ElementContent(text_, index_, element).data();
+}
+
+}  // namespace brennet

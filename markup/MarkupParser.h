@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+#include "markup/ElementIndex.h"
+#include "markup/ResultLog.h"
+
+namespace brennet {
+
+// The longest text that can be parsed: offsets are kept in 32 bits.
+inline constexpr std::size_t kLongestMarkup = 0xFFFFFFFF;
+
+// The index of the elements of `text`, which is at most kLongestMarkup units long. Appends to
+// `log` what is wrong with the text. The document's own record (0) ends where a token begins that
+// has no end and so swallows the rest of the text, else with the text.
+//
+// Attributes are not looked at. Time is linear in the text whatever it holds, and nothing
+// recurses. Throws std::bad_alloc.
+[[nodiscard]] ElementIndex parseMarkup(std::u16string_view text, ResultLog& log);
+
+}  // namespace brennet

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "markup/ElementIndex.h"
+
+namespace brennet {
+
+// The elements that are open at a point of a document, by name. The parser keeps it only once a
+// document has shown an end tag out of order; then a look-up by name keeps the whole parse linear.
+class OpenElements {
+ public:
+  // `name` is kept as a view.
+  void open(std::u16string_view name, ElementNumber element) {
+    ElementNumber& innermost = innermost_[name];
+    hidden_.push_back(innermost);
+    innermost = element;
+  }
+
+  // Closes the element that was opened last; `name` is its name.
+  void close(std::u16string_view name) {
+    innermost_[name] = hidden_.back();
+    hidden_.pop_back();
+  }
+
+  // The innermost open element called `name`, or 0.
+  [[nodiscard]] ElementNumber find(std::u16string_view name) const {
+    const auto found = innermost_.find(name);
+    return found == innermost_.end() ? 0 : found->second;
+  }
+
+ private:
+  std::unordered_map<std::u16string_view, ElementNumber> innermost_;
+  // For every open element, in order of opening, the one of the same name that it hides, or 0.
+  std::vector<ElementNumber> hidden_;
+};
+
+}  // namespace brennet

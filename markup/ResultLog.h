@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace brennet {
+
+// What a document operation can have to report.
+enum class LogEvent : std::uint8_t {
+  // Syntax errors of single tokens: offset.
+  FirstTagSyntax,
+  DoctypeTagSyntax,
+  ExclamationTagSyntax,
+  CommentTagSyntax,
+  CDataSectionSyntax,
+  // A token without its end: type (the kind of the token), offset.
+  UnterminatedTagSyntax,
+  // Tags that do not match: tagname, offset; the first also where the element was closed, offset2.
+  UnendedStartTag,
+  LoneEndTag,
+  // Errors of the whole document: nothing; offset.
+  NoRootElement,
+  RootHasSibling,
+  // Steps of reading and writing files: encoding, length in units of that encoding.
+  Read,
+  ConvertedTo,
+  ConvertedFrom,
+  // Units dropped from a block: count.
+  NullsRemoved,
+  // A block whose end cannot be examined: encoding.
+  TruncationError,
+  // msg, n (the system's error number).
+  FileError,
+  // Marks of what happened, without attributes.
+  Utf8Detection,
+  Bom,
+  EndianSwap,
+  ConversionLoss,
+};
+
+// The account of the last load, save or parse: a small markup text of empty elements, one per
+// event, such as `<read encoding="gb2312" length="123"/>`.
+class ResultLog {
+ public:
+  // The log takes no event once it has this many units.
+  static constexpr std::size_t kFull = 1000;
+  // A number that is not known; its attribute is left out.
+  static constexpr std::int64_t kUnknown = -1;
+
+  // Appends `event` with its attributes: a text, then numbers. What the event has no attribute
+  // for is not written. Does nothing when the log is full.
+  void add(LogEvent event, std::u16string_view text, std::int64_t number = kUnknown,
+           std::int64_t number2 = kUnknown);
+  void add(LogEvent event, std::int64_t number = kUnknown) { add(event, {}, number); }
+
+  // Whether further events are dropped, so that a caller need not prepare them.
+  [[nodiscard]] bool isFull() const { return text_.size() >= kFull; }
+  [[nodiscard]] const std::u16string& text() const { return text_; }
+
+ private:
+  std::u16string text_;
+};
+
+}  // namespace brennet

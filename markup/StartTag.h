@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace brennet {
+
+// An attribute as it is written in a start tag. Offsets count from the tag's "<".
+struct MarkupAttribute {
+  std::u16string_view name;
+  std::u16string_view value;  // as written, without its quotes
+  // What a new value takes the place of: from behind the name to behind the old value.
+  std::size_t replaceStart;
+  std::size_t replaceEnd;
+};
+
+// Reads the name and the attributes of a start tag. `tag` reaches from "<" to ">" and is the
+// start or empty tag that a MarkupTokenizer found; an XML declaration can be read too.
+//
+// Reading is generous: values may lack quotes or be missing, and what is no attribute is skipped.
+class StartTag {
+ public:
+  explicit StartTag(std::u16string_view tag);
+
+  [[nodiscard]] std::u16string_view name() const { return name_; }
+
+  // The next attribute, in the order they are written, or nothing behind the last one.
+  std::optional<MarkupAttribute> next();
+
+  // The first attribute called `name` among those that next() has not yet passed.
+  std::optional<MarkupAttribute> find(std::u16string_view name);
+
+  // Where attributes can be added: in front of "/>" or ">".
+  [[nodiscard]] std::size_t attributesEnd() const { return end_; }
+
+ private:
+  void skipSpace();
+  void skipToName();
+  std::u16string_view readValue();
+
+  std::u16string_view tag_;
+  std::u16string_view name_;
+  std::size_t at_;
+  std::size_t end_;
+};
+
+}  // namespace brennet

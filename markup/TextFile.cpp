@@ -1,0 +1,45 @@
+#include "markup/TextFile.h"
+
+#include <system_error>
+#include <utility>
+
+#include "markup/TextEncoding.h"
+#include "markup/Utf8.h"
+#include "platform/Files.h"
+
+namespace brennet {
+namespace {
+
+// The message is the system's own, whatever its encoding; only its ASCII part is sure to be right.
+void logError(const std::error_code& error, ResultLog& log) {
+  std::u16string message;
+  utf8ToUtf16(error.message(), message);
+  log.add(LogEvent::FileError, message, error.value());
+}
+
+}  // namespace
+
+bool readTextFile(std::u16string_view path, std::u16string& text, ResultLog& log,
+                  std::size_t blockSize, TextForm* form) {
+  std::string bytes;
+  if (const std::error_code error = platform::readFile(platform::pathFromUtf16(path), bytes)) {
+    logError(error, log);
+    return false;
+  }
+  DecodedText decoded = decodeText(bytes, log, blockSize);
+  text = std::move(decoded.text);
+  if (form != nullptr) *form = decoded.form;
+  return true;
+}
+
+bool writeTextFile(std::u16string_view path, std::u16string_view text, std::u16string_view encoding,
+                   ResultLog& log, const TextForm& form) {
+  const std::string bytes = encodeText(text, encoding, log, form);
+  if (const std::error_code error = platform::replaceFile(platform::pathFromUtf16(path), bytes)) {
+    logError(error, log);
+    return false;
+  }
+  return true;
+}
+
+}  // namespace brennet
