@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <cstring>
 #include <string>
 
 #include "model/BlockBytes.h"

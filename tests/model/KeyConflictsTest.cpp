@@ -62,7 +62,8 @@ TEST(IsKeyFree, DoesNotConsultMouseKeysAndSources) {
 
 TEST(IsKeyFree, IsFalseForKeysThatAreNeverBound) {
   const HotkeyScheme scheme;
-  for (const std::uint8_t vk : {0xFF, 0x08, 0x2E, 0x0D}) {
+  constexpr std::uint8_t kForbidden[] = {0xFF, 0x08, 0x2E, 0x0D};
+  for (const std::uint8_t vk : kForbidden) {
     EXPECT_FALSE(isKeyFree(scheme, KeyWord(vk, 0))) << int{vk};
     EXPECT_FALSE(isKeyFree(scheme, KeyWord(vk, KeyWord::kAlt))) << int{vk};
   }
