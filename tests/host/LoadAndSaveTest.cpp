@@ -31,9 +31,9 @@ TEST_F(LoadAndSave, AnswersTheDefaultsAfterAFailedLoadAndKeepsThePath) {
 }
 
 TEST_F(LoadAndSave, ReadsASettingsFileWithAChineseName) {
-  const auto path = folder_ / "\xE8\xAE\xBE\xE7\xBD\xAE\xF0\x9F\x98\x80.xml";
-  writeBytes(path, kDefaults);
-  EXPECT_TRUE(brennet_.LoadSettings(path.wstring().c_str()));
+  writeBytes(folder_ / "\xE8\xAE\xBE\xE7\xBD\xAE\xF0\x9F\x98\x80.xml", kDefaults);
+  const std::wstring path = folder_.path().wstring() + L"/\u8BBE\u7F6E\U0001F600.xml";
+  EXPECT_TRUE(brennet_.LoadSettings(path.c_str()));
 }
 
 TEST_F(LoadAndSave, AnswersForTheCurrentSchemeOnly) {

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <cstring>
+#include <functional>
 #include <string>
 
 #include "model/BlockBytes.h"
@@ -110,7 +110,7 @@ TEST(MergeBlock, TakesEveryFieldThatDiffers) {
     row.expect(expected);
     EXPECT_TRUE(mergeEdited(config, row.edit)) << row.name;
     EXPECT_EQ(config.scheme(), expected) << row.name;
-    EXPECT_EQ(config.scheme(1), HotkeyScheme(HotkeyConfig(config).scheme(1))) << row.name;
+    EXPECT_EQ(config.scheme(1), HotkeyScheme()) << row.name;
   }
 }
 

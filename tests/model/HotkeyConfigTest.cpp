@@ -460,11 +460,11 @@ TEST(Assignment, ChecksTheQuickChatSetBeforeTheChatWheelKeyIsCopied) {
 
 TEST(Assignment, ToItselfChangesNothing) {
   HotkeyConfig config = changedConfig();
-  const HotkeyConfig before = config;
+  const HotkeyScheme before = config.scheme(1);
   const HotkeyConfig& same = config;
   config = same;
   config.ResetAndCopyFrom(same);
-  EXPECT_EQ(config.scheme(1), before.scheme(1));
+  EXPECT_EQ(config.scheme(1), before);
   EXPECT_TRUE(config.enable());
 }
 
