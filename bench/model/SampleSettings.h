@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "model/HotkeyConfig.h"
+
+namespace brennet::bench {
+
+// The sample settings file: its bytes, and what a load makes of them.
+const std::string& sampleBytes();
+HotkeyConfig& sampleConfig();
+
+// The path of a file with the sample's bytes in a scratch folder. The folder is the user's profile
+// as well, without a game in it, so that loading and saving write nothing but the settings file.
+const std::u16string& sampleFile();
+
+}  // namespace brennet::bench
