@@ -1,0 +1,119 @@
+#include "markup/EncodingDetection.h"
+
+#include <gtest/gtest.h>
+
+#include "markup/DeclaredEncoding.h"
+
+namespace brennet {
+namespace {
+
+using namespace std::string_view_literals;
+using Source = DetectedEncoding::Source;
+
+TEST(DeclaredEncoding, IsReadFromTheXmlDeclarationOrTheHtmlHead) {
+  struct Case {
+    std::u16string_view text;
+    std::u16string_view encoding;
+  };
+  const Case kCases[] = {
+      {u"<?xml version=\"1.0\" encoding=\"gb2312\"?><a/>", u"gb2312"},
+      {u"<?xml version='1.0' encoding='UTF-8' standalone='yes'?>", u"UTF-8"},
+      {u"<?xml version=\"1.0\"?><a encoding=\"big5\"/>", u""},
+      {u"<?xml-stylesheet encoding=\"big5\"?><a/>", u""},
+      {u"<?xml encoding=\"big5\"", u""},
+      {u"<a/><?xml version=\"1.0\" encoding=\"gb2312\"?>", u""},
+      {u"", u""},
+      {u"<html><head><meta http-equiv=\"Content-Type\" content=\"text/html; charset=gb2312\">",
+       u"gb2312"},
+      {u"<!DOCTYPE html><HTML><HEAD><META HTTP-EQUIV='content-type' CONTENT='text/html; "
+       u"CHARSET=Big5; x'/>",
+       u"Big5"},
+      {u"<html><head><meta http-equiv=\"Content-Type\" charset=\"koi8-r\"/>", u"koi8-r"},
+      {u"<html><head><meta name=\"a\" content=\"charset=no\"><meta http-equiv=\"Content-Type\" "
+       u"content=\"text/html; charset=yes\">",
+       u"yes"},
+      {u"<html><head></head><meta http-equiv=\"Content-Type\" content=\"charset=gb2312\">", u""},
+      {u"<html><body><meta http-equiv=\"Content-Type\" content=\"charset=gb2312\">", u""},
+      {u"<html><head><meta http-equiv=\"Refresh\" content=\"charset=gb2312\">", u""},
+      {u"<doc><head><meta http-equiv=\"Content-Type\" content=\"charset=gb2312\"/></head></doc>",
+       u""},
+  };
+  for (const Case& test : kCases) {
+    EXPECT_EQ(declaredEncoding(test.text), test.encoding) << testing::PrintToString(test.text);
+  }
+}
+
+TEST(DeclaredEncoding, IsFoundInBytesWithZerosInBetween) {
+  EXPECT_EQ(declaredEncodingOfBytes("<?xml encoding='gb2312'?>"), u"gb2312");
+  EXPECT_EQ(
+      declaredEncodingOfBytes("<\0?\0x\0m\0l\0 \0e\0n\0c\0o\0d\0i\0n\0g\0=\0'\0a\0'\0?\0>\0"sv),
+      u"a");
+}
+
+struct DetectionCase {
+  const char* what;
+  std::string_view bytes;
+  Source source;
+  platform::CodePage codePage;
+  std::u16string_view name;
+};
+
+TEST(EncodingDetection, WeighsMarksSignaturesBytesAndDeclarations) {
+  const DetectionCase kCases[] = {
+      {"UTF-8 mark", "\xEF\xBB\xBF<a/>", Source::Mark, 65001, u"UTF-8"},
+      {"UTF-16 mark", "\xFF\xFE<\0"sv, Source::Mark, 1200, u"UTF-16LE"},
+      {"UTF-16 mark, high byte first", "\xFE\xFF\0<"sv, Source::Mark, 1201, u"UTF-16BE"},
+      {"UTF-32 mark", "\xFF\xFE\0\0<\0\0\0"sv, Source::Mark, 12000, u"UTF-32LE"},
+      {"UTF-32 mark, high byte first", "\0\0\xFE\xFF\0\0\0<"sv, Source::Mark, 12001, u"UTF-32BE"},
+      {"a mark wins over the declaration", "\xEF\xBB\xBF<?xml encoding='gb2312'?>\xD0",
+       Source::Mark, 65001, u"UTF-8"},
+      {"UTF-16 without a mark", "<\0?\0"sv, Source::Signature, 1200, u"UTF-16LE"},
+      {"the same, high byte first", "\0<\0r"sv, Source::Signature, 1201, u"UTF-16BE"},
+      {"no signature", "<\0 \0\xFF"sv, Source::Ansi, 936, u"ANSI"},
+      {"plain", "<a/>", Source::Utf8Detection, 65001, u"UTF-8"},
+      {"UTF-8 without a declaration", "<a>\xE8\xB0\xA2</a>", Source::Utf8Detection, 65001,
+       u"UTF-8"},
+      {"cut off at the end", "<a>\xE8\xB0", Source::Utf8Detection, 65001, u"UTF-8"},
+      {"neither UTF-8 nor declared", "<a>\xD0\xBB\xB9</a>", Source::Ansi, 936, u"ANSI"},
+      {"declared", "<?xml encoding='windows-1252'?><a>\xE9</a>", Source::Declaration, 1252,
+       u"windows-1252"},
+      {"UTF-8 against another declaration", "<?xml encoding='windows-1252'?><a>\xC3\xA9</a>",
+       Source::Utf8Detection, 65001, u"UTF-8"},
+      {"unknown", "<?xml encoding='bogus'?><a>\xB9\xFE</a>", Source::Declaration, 936, u"bogus"},
+      {"declared UTF-8 that is not", "<?xml encoding='utf-8'?><a>\xB9\xFE</a>", Source::Declaration,
+       65001, u"utf-8"},
+      {"declared UTF-16 that is not", "<?xml encoding='utf-16'?><a>\xB9\xFE</a>",
+       Source::Declaration, 936, u"utf-16"},
+      {"double-byte, not UTF-8", "<?xml encoding='gb2312'?><a>\xB9\xFE</a>", Source::Declaration,
+       936, u"gb2312"},
+      {"double-byte, plain", "<?xml encoding='gb2312'?><a/>", Source::Declaration, 936, u"gb2312"},
+      // Two phrases that read as UTF-8 by accident, of two and of three bytes a sequence.
+      {"accidental two-byte sequences", "<?xml encoding='gb2312'?><a>\xD0\xBB\xD0\xBB</a>",
+       Source::Declaration, 936, u"gb2312"},
+      {"accidental sequences in the standard rows",
+       "<?xml encoding='gb2312'?><a>\xE8\xB0\xA2\xE8\xB0\xA2</a>", Source::Utf8Detection, 65001,
+       u"UTF-8"},
+      {"UTF-8 that the code page cannot read",
+       "<?xml encoding='gb2312'?><a>\xC3\xA9\xE8\xB0\xA2</a>", Source::Utf8Detection, 65001,
+       u"UTF-8"},
+  };
+  for (const DetectionCase& test : kCases) {
+    SCOPED_TRACE(test.what);
+    const DetectedEncoding encoding = detectEncoding(test.bytes);
+    EXPECT_EQ(encoding.source, test.source);
+    EXPECT_EQ(encoding.codePage, test.codePage);
+    EXPECT_EQ(encoding.name, test.name);
+  }
+}
+
+// E4 A2 A1 B7 ... : pairs in the standard rows only, though they read as UTF-8 of three bytes.
+TEST(EncodingDetection, KeepsStandardPhrasesThatReadAsLongUtf8Sequences) {
+  const std::string phrase = "<?xml encoding='gb2312'?><a>\xE4\xBD\xA0\xE4\xBD\xA0</a>";
+  // As pairs: E4 BD, A0 E4, BD A0: A0 is no lead byte of the standard rows.
+  EXPECT_EQ(detectEncoding(phrase).source, Source::Utf8Detection);
+  const std::string standard = "<?xml encoding='gb2312'?><a>\xE4\xBD\xA1\xE4\xBD\xA1</a>";
+  EXPECT_EQ(detectEncoding(standard).source, Source::Declaration);
+}
+
+}  // namespace
+}  // namespace brennet

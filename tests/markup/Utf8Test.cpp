@@ -1,0 +1,156 @@
+#include "markup/Utf8.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+
+#include "markup/Utf16.h"
+
+namespace brennet {
+namespace {
+
+std::u16string decoded(std::string_view bytes) {
+  std::u16string text;
+  utf8ToUtf16(bytes, text);
+  return text;
+}
+
+std::string encoded(std::u16string_view text) {
+  std::string bytes(utf8Length(text), '\0');
+  EXPECT_EQ(utf16ToUtf8(text, bytes), bytes.size());
+  return bytes;
+}
+
+TEST(Utf8, ConvertsEveryCharacterBothWays) {
+  for (char32_t codePoint = 1; codePoint <= kLastCodePoint;
+       codePoint += codePoint < 0x3000 ? 1 : 61) {
+    if (!isScalarValue(codePoint)) continue;
+    char16_t units[2];
+    const std::u16string text(units, writeCharacter(codePoint, units));
+    ASSERT_EQ(decoded(encoded(text)), text) << static_cast<unsigned>(codePoint);
+  }
+}
+
+TEST(Utf8, WritesTheKnownForms) {
+  EXPECT_EQ(encoded(u"A\u00E9\u8C22\U0001F600"), "A\xC3\xA9\xE8\xB0\xA2\xF0\x9F\x98\x80");
+  EXPECT_EQ(utf8Length(u"A\u00E9\u8C22\U0001F600"), 10U);
+}
+
+TEST(Utf8, WritesUnpairedSurrogatesAsTheReplacementCharacter) {
+  for (const std::u16string& text :
+       {std::u16string{0xD800}, std::u16string{0xDC00}, std::u16string{0xDBFF, u'x'}}) {
+    EXPECT_EQ(encoded(text).substr(0, 3), "\xEF\xBF\xBD");
+    EXPECT_FALSE(isWellFormedUtf16(text));
+  }
+  EXPECT_TRUE(isWellFormedUtf16(u"\U0001F600\u8C22x"));
+}
+
+TEST(Utf8, FindsAnUnpairedSurrogateAnywhere) {
+  for (std::size_t at = 0; at < 200; ++at) {
+    std::u16string text(200, u'x');
+    EXPECT_TRUE(isWellFormedUtf16(text));
+    text[at] = 0xDC00;
+    EXPECT_FALSE(isWellFormedUtf16(text));
+    if (at == 0) continue;
+    text[at - 1] = 0xD83D;
+    EXPECT_TRUE(isWellFormedUtf16(text));
+  }
+}
+
+TEST(Utf8, WritesWholeCharactersOnly) {
+  const std::u16string text = u"abcdefghijklmnopqrs\u8C22\u00E9\U0001F600z";
+  const std::string all = encoded(text);
+  for (std::size_t room = 0; room <= all.size(); ++room) {
+    std::string bytes(room, '!');
+    const std::size_t written = utf16ToUtf8(text, bytes);
+    EXPECT_LE(written, room);
+    EXPECT_EQ(bytes.substr(0, written), all.substr(0, written));
+    EXPECT_EQ(wholeUtf8Length(bytes.substr(0, written)), written);
+    EXPECT_LT(room - written, 4U) << "as many as fit";
+  }
+}
+
+struct BadBytes {
+  std::string_view bytes;
+  std::u16string_view read;
+};
+
+TEST(Utf8, ReadsEachBadPartAsOneReplacementCharacter) {
+  const BadBytes kCases[] = {
+      {"\x80", u"\uFFFD"},
+      {"\xBF\xBF", u"\uFFFD\uFFFD"},
+      {"\xC0\xAF", u"\uFFFD\uFFFD"},            // overlong
+      {"\xC1\x81", u"\uFFFD\uFFFD"},            // overlong
+      {"\xE0\x80\xAF", u"\uFFFD\uFFFD\uFFFD"},  // overlong
+      {"\xF0\x80\x80\xAF", u"\uFFFD\uFFFD\uFFFD\uFFFD"},
+      {"\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"},            // a surrogate
+      {"\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},  // beyond U+10FFFF
+      {"\xF5\x80", u"\uFFFD\uFFFD"},
+      {"\xFF"
+       "a",
+       u"\uFFFDa"},
+      {"\xC3", u"\uFFFD"},  // cut off
+      {"\xC3"
+       "a",
+       u"\uFFFDa"},
+      {"\xE8\xB0", u"\uFFFD"},
+      {"\xE8\xB0"
+       "a",
+       u"\uFFFDa"},
+      {"\xF0\x9F\x98", u"\uFFFD"},
+      {"\xF0\x9F\x98\xE8\xB0\xA2", u"\uFFFD\u8C22"},
+  };
+  for (const BadBytes& test : kCases) {
+    EXPECT_EQ(decoded(test.bytes), test.read) << testing::PrintToString(test.bytes);
+  }
+}
+
+// Long texts are converted in chunks: what stands at the seam does not matter.
+TEST(Utf8, ReadsLongTextsLikeShortOnes) {
+  const std::string_view kPieces[] = {"a",
+                                      "plain ascii text, longer than a register",
+                                      "\xC3\xA9",
+                                      "\xE8\xB0\xA2",
+                                      "\xF0\x9F\x98\x80",
+                                      "\x80",
+                                      "\xF0\x9F"};
+  std::mt19937 random(7);
+  std::string bytes;
+  std::u16string expected;
+  while (bytes.size() < 30'000) {
+    const std::string_view piece = kPieces[random() % std::size(kPieces)];
+    bytes += piece;
+    bytes += '.';  // so that each piece stands alone
+    expected += decoded(piece) + u".";
+  }
+  EXPECT_EQ(decoded(bytes), expected);
+}
+
+TEST(Utf8, KnowsWhatTheEndCutsOff) {
+  struct Case {
+    std::string_view bytes;
+    std::size_t whole;
+  };
+  const Case kCases[] = {
+      {"", 0},
+      {"a", 1},
+      {"\xC3", 0},
+      {"a\xC3\xA9", 3},
+      {"a\xE8", 1},
+      {"a\xE8\xB0", 1},
+      {"a\xE8\xB0\xA2", 4},
+      {"a\xF0\x9F\x98", 1},
+      {"a\xF0\x9F\x98\x80", 5},
+      {"\x80\x80\x80\x80", 4},
+      {"a\xC0", 2},
+      {"a\xF8\x80", 3},
+      {"\xE0\x80", 2},
+  };
+  for (const Case& test : kCases) {
+    EXPECT_EQ(wholeUtf8Length(test.bytes), test.whole) << testing::PrintToString(test.bytes);
+  }
+}
+
+}  // namespace
+}  // namespace brennet
