@@ -86,6 +86,10 @@ ElementNumber MarkupDocument::findFrom(ElementNumber first, std::u16string_view 
   return element;
 }
 
+std::u16string_view MarkupDocument::getTagName() const {
+  return main_ == 0 ? std::u16string_view() : StartTag(startTagOf(main_)).name();
+}
+
 std::u16string MarkupDocument::getAttrib(std::u16string_view name) const {
   return attributeOf(main_, name);
 }

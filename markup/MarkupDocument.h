@@ -64,6 +64,9 @@ class MarkupDocument {
   // child position, when there is none, and in either file mode.
   bool findChildElem(std::u16string_view name = {});
 
+  // The name of the main element; empty where there is none. Good as long as doc() is.
+  [[nodiscard]] std::u16string_view getTagName() const;
+
   // The value of an attribute of the main (child) element, unescaped; empty where there is none.
   [[nodiscard]] std::u16string getAttrib(std::u16string_view name) const;
   [[nodiscard]] std::u16string getChildAttrib(std::u16string_view name) const;

@@ -48,7 +48,7 @@ class RandomEdits {
   }
 
   void edit(MarkupDocument& document) {
-    const std::uint32_t flags = below(3) == 0 ? MarkupDocument::kCData : 0;
+    const std::uint32_t flags = below(3) == 0 ? std::uint32_t{MarkupDocument::kCData} : 0U;
     switch (below(6)) {
       case 0:
         document.setAttrib(pick(kNames), pick(kValues));
