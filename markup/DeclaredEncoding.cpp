@@ -79,14 +79,15 @@ std::u16string_view htmlEncoding(std::u16string_view text) {
   return {};
 }
 
-// The first `reach` bytes without the zeros, each as a unit of its own.
-std::u16string widen(std::string_view bytes, std::size_t reach) {
-  std::u16string text;
-  bytes = bytes.substr(0, reach);
-  text.reserve(bytes.size());
+// `bytes` without the zeros, each as a unit of its own.
+std::u16string widen(std::string_view bytes) {
+  std::u16string text(bytes.size(), u'\0');
+  std::size_t length = 0;
   for (const char byte : bytes) {
-    if (byte != 0) text.push_back(static_cast<unsigned char>(byte));
+    text[length] = static_cast<unsigned char>(byte);
+    length += byte != 0 ? 1U : 0U;
   }
+  text.resize(length);
   return text;
 }
 
@@ -98,11 +99,11 @@ std::u16string_view declaredEncoding(std::u16string_view text) {
 }
 
 std::u16string declaredEncodingOfBytes(std::string_view bytes) {
-  const std::u16string front = widen(bytes, kDeclarationReach);
-  const std::u16string_view encoding = xmlEncoding(front);
+  const std::string_view front = bytes.substr(0, kDeclarationReach);
+  const std::u16string declaration = widen(front.substr(0, front.find('>') + 1));
+  const std::u16string_view encoding = xmlEncoding(declaration);
   if (!encoding.empty()) return std::u16string(encoding);
-  const std::u16string head = widen(bytes, kHeadReach);
-  return std::u16string(htmlEncoding(head));
+  return std::u16string(htmlEncoding(widen(bytes.substr(0, kHeadReach))));
 }
 
 }  // namespace brennet

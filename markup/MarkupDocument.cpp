@@ -77,12 +77,17 @@ bool MarkupDocument::findChildElem(std::u16string_view name) {
 
 // The first element called `name` (any, if empty) among `first` and the siblings behind it, or 0.
 ElementNumber MarkupDocument::findFrom(ElementNumber first, std::u16string_view name) const {
+  if (name.empty()) return first;
+  if (leadingName(name).size() != name.size()) return 0;  // no element can be called so
+  // A look at the unit behind the name rules out most elements at once.
+  const auto isCalled = [text = std::u16string_view(text_), name](const ElementRecord& record) {
+    const std::size_t start = record.start + 1;
+    const std::size_t end = start + name.size();
+    return end < record.contentStart() && !isNameUnit(text[end]) &&
+           text.substr(start, name.size()) == name;
+  };
   ElementNumber element = first;
-  while (element != 0 && !name.empty()) {
-    const std::u16string_view tag = startTagOf(element).substr(1);
-    if (tag.starts_with(name) && leadingName(tag).size() == name.size()) break;
-    element = index_[element].next;
-  }
+  while (element != 0 && !isCalled(index_[element])) element = index_[element].next;
   return element;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace brennet {
@@ -11,18 +12,16 @@ constexpr bool isMarkupSpace(char16_t unit) {
 // Whether `unit` can stand in the name of an element or an attribute. Like the tags themselves,
 // names are read generously: only what has a meaning of its own in a tag ends a name.
 constexpr bool isNameUnit(char16_t unit) {
-  switch (unit) {
-    case u'<':
-    case u'>':
-    case u'&':
-    case u'/':
-    case u'=':
-    case u'"':
-    case u'\'':
-      return false;
-    default:
-      return unit > u' ';
-  }
+  // One bit for each of the 64 units that can be no name unit; this is asked for every unit of
+  // every name.
+  constexpr std::uint64_t kOthers = [] {
+    std::uint64_t bits = (std::uint64_t{1} << (U' ' + 1)) - 1;
+    for (const char32_t other : {U'<', U'>', U'&', U'/', U'=', U'"', U'\''}) {
+      bits |= std::uint64_t{1} << other;
+    }
+    return bits;
+  }();
+  return unit >= 64 || (kOthers >> unit & 1U) == 0;
 }
 
 // Whether `unit` can begin a name: a letter, "_", ":" or anything beyond ASCII.
