@@ -166,13 +166,16 @@ std::size_t MarkupDocument::behindLineOf(ElementNumber element) const {
   return rest.starts_with(u'\n') ? end + 1 : end;
 }
 
-// Makes `<a/>` to `<a>content</a>`.
+// Makes `<a/>` to `<a>content</a>`. A slash in front of the "/>" is kept from taking its place.
 void MarkupDocument::fillEmptyTag(ElementNumber element, std::u16string_view content) {
   constexpr std::size_t kClosing = 2;  // "/>"
-  const std::u16string piece =
-      std::u16string(u">").append(content).append(endTag(StartTag(startTagOf(element)).name()));
+  const std::u16string_view tag = startTagOf(element);
+  const bool hasSlash = tag[tag.size() - kClosing - 1] == u'/';
+  const std::u16string_view newClosing = hasSlash ? u" >" : u">";
+  std::u16string piece(newClosing);
+  piece.append(content).append(endTag(StartTag(tag).name()));
   text_.replace(index_[element].end() - kClosing, kClosing, piece);
-  index_[element].startTagLength -= 1;
+  index_[element].startTagLength += growth(newClosing.size(), kClosing);
   index_[element].flags &= ~ElementRecord::kEmptyTag;
   lengthen(element, growth(piece.size(), kClosing));
   moveFrom(index_.nextBehind(element), growth(piece.size(), kClosing));

@@ -100,6 +100,7 @@ TEST(SetData, ReplacesTheWholeContent) {
   const EditCase kCases[] = {
       {"of an empty tag", u"<a/>", set(u"1"), u"<a>1</a>"},
       {"of an empty tag with attributes", u"<a x='/>' />", set(u"1"), u"<a x='/>' >1</a>"},
+      {"of an empty tag with one slash more", u"<a //>", set(u"1"), u"<a / >1</a>"},
       {"nothing into an empty tag", u"<a/>", set(u""), u"<a/>"},
       {"of an empty element", u"<a></a >", set(u"1"), u"<a>1</a >"},
       {"of text", u"<a>123</a>\r\n", set(u"4"), u"<a>4</a>\r\n"},
