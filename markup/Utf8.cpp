@@ -54,6 +54,16 @@ void writeScalar(char32_t scalar, std::size_t length, char* out) {
   out[0] = static_cast<char>(kLeadBits[length == 1 ? 0 : length] | scalar);
 }
 
+bool takesThreeBytes(char16_t unit) {
+  return unit >= 0x800 && !isSurrogate(unit);
+}
+
+void writeThreeBytes(char16_t unit, char* out) {
+  out[0] = static_cast<char>(0xE0U | unit >> 12U);
+  out[1] = static_cast<char>(0x80U | (unit >> 6U & 0x3FU));
+  out[2] = static_cast<char>(0x80U | (unit & 0x3FU));
+}
+
 // Decodes all of `bytes` to `out`, which has room for as many units, and returns their number.
 std::size_t decodeChunk(std::string_view bytes, char16_t* out) {
   char16_t* const start = out;
@@ -84,11 +94,17 @@ std::size_t utf16ToUtf8(std::u16string_view text, std::span<char> out) {
   std::size_t at = 0;
   std::size_t written = 0;
   while (at < text.size()) {
+    // Most characters of a Chinese text take three bytes.
+    while (at < text.size() && takesThreeBytes(text[at]) && out.size() - written >= 3) {
+      writeThreeBytes(text[at++], out.data() + written);
+      written += 3;
+    }
     const std::size_t room = std::min(out.size() - written, text.size() - at);
     const std::size_t ascii = narrowAscii(text.substr(at, room), out.data() + written);
     at += ascii;
     written += ascii;
     if (at == text.size()) break;
+    if (takesThreeBytes(text[at]) && out.size() - written >= 3) continue;
     std::size_t units = 0;
     const char32_t scalar = scalarAt(text, at, units);
     const std::size_t length = encodedLength(scalar);

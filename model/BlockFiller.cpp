@@ -22,7 +22,8 @@ void packPhrases(const Phrases& phrases, std::span<char> area) {
     area[at++] = '\0';
   }
   // The conversion may have used the room behind the last phrase.
-  std::fill(area.begin() + static_cast<std::ptrdiff_t>(at), area.end(), '\0');
+  std::fill_n(area.begin() + static_cast<std::ptrdiff_t>(at),
+              std::min(kLongestPackedPhrase, area.size() - at), '\0');
 }
 
 // Stores one setting of a scheme, by its kind, in a block that is zero so far.
