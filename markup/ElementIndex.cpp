@@ -46,10 +46,6 @@ void ElementIndex::link(ElementNumber parent, ElementNumber after, ElementNumber
   }
 }
 
-void ElementIndex::append(ElementNumber parent, ElementNumber child) {
-  link(parent, lastChild(parent), child);
-}
-
 ElementNumber ElementIndex::nextBehind(ElementNumber number) const {
   while (number != 0 && (*this)[number].next == 0) number = (*this)[number].parent;
   return number == 0 ? 0 : (*this)[number].next;

@@ -70,7 +70,21 @@ class ElementIndex {
   void link(ElementNumber parent, ElementNumber after, ElementNumber child);
 
   // Links `child` as the last child of `parent`.
-  void append(ElementNumber parent, ElementNumber child);
+  void append(ElementNumber parent, ElementNumber child) {
+    const ElementNumber first = (*this)[parent].firstChild;
+    ElementRecord& record = (*this)[child];
+    record.parent = parent;
+    record.next = 0;
+    if (first == 0) {
+      (*this)[parent].firstChild = child;
+      record.previous = child;
+    } else {
+      ElementNumber& last = (*this)[first].previous;
+      record.previous = last;
+      (*this)[last].next = child;
+      last = child;
+    }
+  }
 
   // The last child of `parent`, or 0.
   [[nodiscard]] ElementNumber lastChild(ElementNumber parent) const {

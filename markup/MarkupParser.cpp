@@ -1,5 +1,6 @@
 #include "markup/MarkupParser.h"
 
+#include <cstring>
 #include <optional>
 
 #include "markup/MarkupTokenizer.h"
@@ -20,6 +21,7 @@ class MarkupParser {
   // How many units an element takes in a typical document; more elements make the index grow.
   static constexpr std::size_t kUnitsPerElement = 64;
   static constexpr std::size_t kSpareElements = 8;
+  static constexpr std::size_t kEndTagMarks = 3;  // "</" and ">"
 
   void openElement(const MarkupToken& token);
   void closeElement(const MarkupToken& endTag);
@@ -34,7 +36,8 @@ class MarkupParser {
   [[nodiscard]] std::u16string_view nameOf(ElementNumber element) const {
     return nameAt(index_[element].start + 1);
   }
-  [[nodiscard]] bool isNamed(ElementNumber element, std::u16string_view name) const;
+  [[nodiscard]] bool beginsLike(const MarkupToken& endTag) const;
+  [[nodiscard]] bool closesCurrent(const MarkupToken& endTag) const;
   ElementNumber findOpen(std::u16string_view name);
 
   std::u16string_view text_;
@@ -46,33 +49,23 @@ class MarkupParser {
 };
 
 ElementIndex MarkupParser::parse() {
+  using Kind = MarkupToken::Kind;
   MarkupTokenizer tokenizer(text_);
   std::size_t end = text_.size();
-  for (;;) {
-    const MarkupToken token = tokenizer.next();
-    switch (token.kind) {
-      case MarkupToken::Kind::StartTag:
-      case MarkupToken::Kind::EmptyTag:
-        openElement(token);
-        break;
-      case MarkupToken::Kind::EndTag:
-        closeElement(token);
-        break;
-      case MarkupToken::Kind::Literal:
-        logProblem(token);
-        break;
-      case MarkupToken::Kind::Malformed:
-        logProblem(token);
-        // What is added later must stay in front of a token without an end.
-        if (token.endless) end = token.start;
-        break;
-      case MarkupToken::Kind::EndOfText:
-        finish(end);
-        return std::move(index_);
-      default:
-        break;
+  for (MarkupToken token = tokenizer.next(); token.kind != Kind::EndOfText;
+       token = tokenizer.next()) {
+    if (token.kind == Kind::StartTag || token.kind == Kind::EmptyTag) {
+      openElement(token);
+    } else if (token.kind == Kind::EndTag) {
+      closeElement(token);
+    } else if (token.kind == Kind::Literal || token.kind == Kind::Malformed) {
+      logProblem(token);
+      // What is added later must stay in front of a token without an end.
+      if (token.endless) end = token.start;
     }
   }
+  finish(end);
+  return std::move(index_);
 }
 
 void MarkupParser::openElement(const MarkupToken& token) {
@@ -96,8 +89,8 @@ void MarkupParser::openElement(const MarkupToken& token) {
 }
 
 void MarkupParser::closeElement(const MarkupToken& endTag) {
-  const std::u16string_view name = nameAt(endTag.start + 2);
-  if (current_ == 0 || !isNamed(current_, name)) {
+  if (!closesCurrent(endTag)) {
+    const std::u16string_view name = nameAt(endTag.start + 2);
     const ElementNumber match = findOpen(name);
     if (match == 0) {
       log_.add(LogEvent::LoneEndTag, name, endTag.start);
@@ -125,8 +118,22 @@ void MarkupParser::leave() {
   current_ = index_[current_].parent;
 }
 
-bool MarkupParser::isNamed(ElementNumber element, std::u16string_view name) const {
-  const std::u16string_view tag = text_.substr(index_[element].start + 1);
+// Whether the start tag of the innermost open element begins with all that stands in `endTag`, and
+// no name goes on behind that: then the names are the same. Misses those of `<a></a >`.
+bool MarkupParser::beginsLike(const MarkupToken& endTag) const {
+  const std::size_t start = index_[current_].start + 1;
+  const std::size_t length = endTag.end - endTag.start - kEndTagMarks;
+  // The end tag stands behind the start tag, so there are `length` units behind `start` too.
+  return length > 0 && !isNameUnit(text_[start + length]) &&
+         std::memcmp(text_.data() + start, text_.data() + endTag.start + 2,
+                     length * sizeof(char16_t)) == 0;
+}
+
+bool MarkupParser::closesCurrent(const MarkupToken& endTag) const {
+  if (current_ == 0) return false;
+  if (beginsLike(endTag)) return true;
+  const std::u16string_view name = nameAt(endTag.start + 2);
+  const std::u16string_view tag = text_.substr(index_[current_].start + 1);
   return !name.empty() && tag.starts_with(name) && !isNameUnit(tag[name.size()]);
 }
 

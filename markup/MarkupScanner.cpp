@@ -10,29 +10,29 @@ namespace {
 
 struct FoundBits {
   std::uint64_t less = 0;
-  std::uint64_t tagStop = 0;
+  std::uint64_t greater = 0;
+  std::uint64_t quote = 0;
+  std::uint64_t apostrophe = 0;
 };
 
 #if BRENNET_HAS_SSE2
 
+std::uint64_t bitsOf(__m128i bytes, char wanted, unsigned at) {
+  const __m128i found = _mm_cmpeq_epi8(bytes, _mm_set1_epi8(wanted));
+  return static_cast<std::uint64_t>(static_cast<unsigned>(_mm_movemask_epi8(found))) << at;
+}
+
 // Looks at 64 units, 16 at a time. Packing with saturation turns units of 256 and more into 0 or
 // 255, neither of which is looked for.
 FoundBits findBits(const char16_t* units) {
-  const __m128i less = _mm_set1_epi8('<');
-  const __m128i greater = _mm_set1_epi8('>');
-  const __m128i quote = _mm_set1_epi8('"');
-  const __m128i apostrophe = _mm_set1_epi8('\'');
   FoundBits bits;
   for (unsigned at = 0; at < 64; at += 16) {
     const auto* source = reinterpret_cast<const __m128i*>(units + at);
     const __m128i bytes = _mm_packus_epi16(_mm_loadu_si128(source), _mm_loadu_si128(source + 1));
-    const __m128i quotes =
-        _mm_or_si128(_mm_cmpeq_epi8(bytes, quote), _mm_cmpeq_epi8(bytes, apostrophe));
-    const __m128i stops = _mm_or_si128(quotes, _mm_cmpeq_epi8(bytes, greater));
-    const auto lessBits = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, less)));
-    const auto stopBits = static_cast<unsigned>(_mm_movemask_epi8(stops));
-    bits.less |= static_cast<std::uint64_t>(lessBits) << at;
-    bits.tagStop |= static_cast<std::uint64_t>(stopBits) << at;
+    bits.less |= bitsOf(bytes, '<', at);
+    bits.greater |= bitsOf(bytes, '>', at);
+    bits.quote |= bitsOf(bytes, '"', at);
+    bits.apostrophe |= bitsOf(bytes, '\'', at);
   }
   return bits;
 }
@@ -43,9 +43,10 @@ FoundBits findBits(const char16_t* units) {
   FoundBits bits;
   for (unsigned at = 0; at < 64; ++at) {
     const char16_t unit = units[at];
-    const bool isStop = unit == u'>' || unit == u'"' || unit == u'\'';
     bits.less |= static_cast<std::uint64_t>(unit == u'<') << at;
-    bits.tagStop |= static_cast<std::uint64_t>(isStop) << at;
+    bits.greater |= static_cast<std::uint64_t>(unit == u'>') << at;
+    bits.quote |= static_cast<std::uint64_t>(unit == u'"') << at;
+    bits.apostrophe |= static_cast<std::uint64_t>(unit == u'\'') << at;
   }
   return bits;
 }
@@ -64,16 +65,16 @@ void MarkupScanner::loadBlock(std::size_t block) {
     bits = findBits(padded.data());
   }
   block_ = block;
-  masks_ = {bits.less, bits.tagStop, bits.less | bits.tagStop};
+  const std::uint64_t tagStop = bits.greater | bits.quote | bits.apostrophe;
+  masks_ = {bits.less, bits.greater, bits.quote, bits.apostrophe, tagStop, bits.less | tagStop};
 }
 
+// Looks from `from` on, which is behind the block or in front of it.
 std::size_t MarkupScanner::findInOtherBlocks(std::uint64_t Masks::*mask, std::size_t from) {
-  while (from < text_.size()) {
-    const std::size_t block = from & ~(kBlock - 1);
-    loadBlock(block);
-    const std::uint64_t found = masks_.*mask >> (from - block);
+  for (; from < text_.size(); from += kBlock) {
+    loadBlock(from);
+    const std::uint64_t found = masks_.*mask;
     if (found != 0) return from + static_cast<std::size_t>(std::countr_zero(found));
-    from = block + kBlock;
   }
   return text_.size();
 }

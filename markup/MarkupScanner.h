@@ -3,6 +3,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace brennet {
@@ -10,8 +11,8 @@ namespace brennet {
 // Finds the characters that give a markup text its structure. It looks at 64 units at a time and
 // keeps what it found there as bit masks, so that the dense tags of a settings file cost little.
 //
-// The text must outlive the scanner. Searches should go forward: going back to an earlier block of
-// 64 units is correct, but looks at that block anew.
+// The text must outlive the scanner. Searches should go forward: going back to earlier units is
+// correct, but looks at them anew.
 class MarkupScanner {
  public:
   explicit MarkupScanner(std::u16string_view text) : text_(text) {}
@@ -24,25 +25,52 @@ class MarkupScanner {
   std::size_t findTagStop(std::size_t from) { return find(&Masks::tagStop, from); }    // > " '
   std::size_t findStructural(std::size_t from) { return find(&Masks::either, from); }  // < > " '
 
+  // The ">" that surely ends the tag that begins with the "<" at `start`: it stands less than 64
+  // units behind, with pairs of double quotes and no other quotes in front of it. Most tags need
+  // no closer look.
+  std::optional<std::size_t> findPlainTagEnd(std::size_t start) {
+    std::optional<std::size_t> end = findPlainTagEndInBlock(start);
+    if (!end && block_ != start) {
+      loadBlock(start);
+      end = findPlainTagEndInBlock(start);
+    }
+    return end;
+  }
+
  private:
   static constexpr std::size_t kBlock = 64;
-  static constexpr std::size_t kNoBlock = static_cast<std::size_t>(-1);
+  // Far enough from every offset that none is in the block.
+  static constexpr std::size_t kNoBlock = std::size_t{0} - kBlock;
 
   // Bit i tells of the unit at block start + i.
   struct Masks {
     std::uint64_t less = 0;
+    std::uint64_t greater = 0;
+    std::uint64_t quote = 0;
+    std::uint64_t apostrophe = 0;
     std::uint64_t tagStop = 0;
     std::uint64_t either = 0;
   };
 
   std::size_t find(std::uint64_t Masks::*mask, std::size_t from) {
-    const std::size_t block = from & ~(kBlock - 1);
-    if (block == block_) {
-      const std::uint64_t found = masks_.*mask >> (from - block);
+    const std::size_t shift = from - block_;
+    if (shift < kBlock) {
+      const std::uint64_t found = masks_.*mask >> shift;
       if (found != 0) return from + static_cast<std::size_t>(std::countr_zero(found));
-      from = block + kBlock;
+      from = block_ + kBlock;
     }
     return findInOtherBlocks(mask, from);
+  }
+
+  // `start` is in the block.
+  [[nodiscard]] std::optional<std::size_t> findPlainTagEndInBlock(std::size_t start) const {
+    const std::size_t shift = start - block_;
+    const std::uint64_t ends = masks_.greater >> shift;
+    const std::uint64_t inFront = ~ends & (ends - 1);
+    const bool hasApostrophe = (masks_.apostrophe >> shift & inFront) != 0;
+    const bool hasPairs = std::popcount(masks_.quote >> shift & inFront) % 2 == 0;
+    if (ends == 0 || hasApostrophe || !hasPairs) return std::nullopt;
+    return start + static_cast<std::size_t>(std::countr_zero(ends));
   }
 
   std::size_t findInOtherBlocks(std::uint64_t Masks::*mask, std::size_t from);

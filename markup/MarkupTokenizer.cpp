@@ -31,14 +31,10 @@ std::u16string_view kindName(MarkupToken::Kind kind) {
   }
 }
 
-MarkupToken MarkupTokenizer::next() {
-  const std::size_t start = scanner_.findLess(at_);
+MarkupToken MarkupTokenizer::otherToken(std::size_t start) {
   if (start == text().size()) return token(Kind::EndOfText, at_, at_);
   const char16_t first = start + 1 < text().size() ? text()[start + 1] : u'\0';
-  if (isNameStart(first)) return startTag(start);
   switch (first) {
-    case u'/':
-      return endTag(start);
     case u'?':
       return instruction(start);
     case u'!':
@@ -46,12 +42,6 @@ MarkupToken MarkupTokenizer::next() {
     default:
       return token(Kind::Literal, start, start + 1);
   }
-}
-
-MarkupToken MarkupTokenizer::token(Kind kind, std::size_t start, std::size_t end) {
-  at_ = end;
-  return {kind,  LogEvent::FirstTagSyntax,          kind,
-          false, static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(end)};
 }
 
 // Without an end the token swallows the rest of the text.
@@ -75,19 +65,7 @@ MarkupToken MarkupTokenizer::startTag(std::size_t start) {
     stop = scanner_.findTagStop(behindQuoted(stop).value_or(text().size()));
   }
   if (stop == text().size()) return unterminated(Kind::StartTag, start);
-  return token(text()[stop - 1] == u'/' ? Kind::EmptyTag : Kind::StartTag, start, stop + 1);
-}
-
-// A "<" in front of the ">" belongs to the next token: the last "</" of an element that has its
-// end tag is always the beginning of that tag.
-MarkupToken MarkupTokenizer::endTag(std::size_t start) {
-  std::size_t stop = scanner_.findStructural(start + 2);
-  while (stop < text().size() && text()[stop] != u'>' && text()[stop] != u'<') {
-    stop = scanner_.findStructural(stop + 1);
-  }
-  if (stop == text().size()) return unterminated(Kind::EndTag, start);
-  if (text()[stop] == u'<') return unterminated(Kind::EndTag, start, stop);
-  return token(Kind::EndTag, start, stop + 1);
+  return startTagUpTo(start, stop);
 }
 
 MarkupToken MarkupTokenizer::instruction(std::size_t start) {

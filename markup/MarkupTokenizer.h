@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "markup/MarkupScanner.h"
+#include "markup/Names.h"
 #include "markup/ResultLog.h"
 
 namespace brennet {
@@ -49,7 +50,16 @@ class MarkupTokenizer {
   explicit MarkupTokenizer(std::u16string_view text, std::size_t from = 0)
       : scanner_(text), at_(from) {}
 
-  MarkupToken next();
+  // Inline, as are the ways of most tags: a settings file is made of little else.
+  MarkupToken next() {
+    const std::size_t start = scanner_.findLess(at_);
+    const char16_t first = start + 1 < text().size() ? text()[start + 1] : u'\0';
+    if (isNameStart(first)) {
+      const auto end = scanner_.findPlainTagEnd(start);
+      return end ? startTagUpTo(start, *end) : startTag(start);
+    }
+    return first == u'/' ? endTag(start) : otherToken(start);
+  }
 
   // Goes on at `offset` with the next token.
   void skipTo(std::size_t offset) { at_ = offset; }
@@ -64,12 +74,33 @@ class MarkupTokenizer {
 
   using Offset = std::optional<std::size_t>;
 
-  MarkupToken token(Kind kind, std::size_t start, std::size_t end);
+  MarkupToken token(Kind kind, std::size_t start, std::size_t end) {
+    at_ = end;
+    return {kind,  LogEvent::FirstTagSyntax,          kind,
+            false, static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(end)};
+  }
+  MarkupToken startTagUpTo(std::size_t start, std::size_t greater) {
+    const Kind kind = text()[greater - 1] == u'/' ? Kind::EmptyTag : Kind::StartTag;
+    return token(kind, start, greater + 1);
+  }
   MarkupToken malformed(LogEvent problem, std::size_t start, Offset end);
   MarkupToken unterminated(Kind intended, std::size_t start, Offset end = std::nullopt);
 
   MarkupToken startTag(std::size_t start);
-  MarkupToken endTag(std::size_t start);
+
+  // A "<" in front of the ">" belongs to the next token: the last "</" of an element that has its
+  // end tag is always the beginning of that tag.
+  MarkupToken endTag(std::size_t start) {
+    std::size_t stop = scanner_.findStructural(start + 2);
+    while (stop < text().size() && text()[stop] != u'>' && text()[stop] != u'<') {
+      stop = scanner_.findStructural(stop + 1);
+    }
+    if (stop == text().size()) return unterminated(Kind::EndTag, start);
+    if (text()[stop] == u'<') return unterminated(Kind::EndTag, start, stop);
+    return token(Kind::EndTag, start, stop + 1);
+  }
+
+  MarkupToken otherToken(std::size_t start);
   MarkupToken instruction(std::size_t start);
   MarkupToken exclamation(std::size_t start);
   MarkupToken comment(std::size_t start);
