@@ -55,13 +55,22 @@ void writeScalar(char32_t scalar, std::size_t length, char* out) {
 }
 
 bool takesThreeBytes(char16_t unit) {
-  return unit >= 0x800 && !isSurrogate(unit);
+  return unit >= 0x800 && (unit & 0xF800) != 0xD800;
 }
 
-void writeThreeBytes(char16_t unit, char* out) {
-  out[0] = static_cast<char>(0xE0U | unit >> 12U);
-  out[1] = static_cast<char>(0x80U | (unit >> 6U & 0x3FU));
-  out[2] = static_cast<char>(0x80U | (unit & 0x3FU));
+// Writes the characters of three bytes at the front of `text`, as far as they fit, and returns
+// their number. Most characters of a Chinese text take three bytes.
+std::size_t writeThrees(std::u16string_view text, std::span<char> out) {
+  const std::size_t most = std::min(text.size(), out.size() / 3);
+  char* to = out.data();
+  std::size_t count = 0;
+  for (; count < most && takesThreeBytes(text[count]); ++count, to += 3) {
+    const unsigned unit = text[count];
+    to[0] = static_cast<char>(0xE0U | unit >> 12U);
+    to[1] = static_cast<char>(0x80U | (unit >> 6U & 0x3FU));
+    to[2] = static_cast<char>(0x80U | (unit & 0x3FU));
+  }
+  return count;
 }
 
 // Decodes all of `bytes` to `out`, which has room for as many units, and returns their number.
@@ -94,11 +103,10 @@ std::size_t utf16ToUtf8(std::u16string_view text, std::span<char> out) {
   std::size_t at = 0;
   std::size_t written = 0;
   while (at < text.size()) {
-    // Most characters of a Chinese text take three bytes.
-    while (at < text.size() && takesThreeBytes(text[at]) && out.size() - written >= 3) {
-      writeThreeBytes(text[at++], out.data() + written);
-      written += 3;
-    }
+    const std::size_t threes = writeThrees(text.substr(at), out.subspan(written));
+    at += threes;
+    written += 3 * threes;
+    if (at == text.size()) break;
     const std::size_t room = std::min(out.size() - written, text.size() - at);
     const std::size_t ascii = narrowAscii(text.substr(at, room), out.data() + written);
     at += ascii;

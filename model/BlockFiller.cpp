@@ -45,13 +45,15 @@ class BlockFiller {
   void operator()(const KeyListSetting& row) const {
     if (row.followsPreset && chosenItemPreset(scheme_) != nullptr) return storePreset(row);
     const std::span<const KeyWord> keys = row.keysOf(scheme_);
+    if (row.autocast == nullptr) {
+      for (std::size_t i = 0; i < keys.size(); ++i) storeKey(row.offsets[i], keys[i]);
+      return;
+    }
+    const std::span<const std::optional<bool>> marks = row.autocastOf(scheme_);
     for (std::size_t i = 0; i < keys.size(); ++i) {
-      KeyWord key = keys[i];
-      if (row.autocast != nullptr) {
-        const bool quickCast = row.autocastOf(scheme_)[i].value_or(false);
-        key = quickCast ? key.with(KeyWord::kQuickCast) : key.without(KeyWord::kQuickCast);
-      }
-      storeKey(row.offsets[i], key);
+      const KeyWord unmarked = keys[i].without(KeyWord::kQuickCast);
+      storeKey(row.offsets[i],
+               marks[i].value_or(false) ? unmarked.with(KeyWord::kQuickCast) : unmarked);
     }
   }
 
