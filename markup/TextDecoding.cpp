@@ -27,6 +27,9 @@ void decodeBlocks(std::string_view bytes, const DetectedEncoding& encoding, std:
                   std::u16string& text, ResultLog& log) {
   BlockDecoder decoder(encoding.codePage);
   const std::size_t unit = unitSize(encoding.codePage);
+  // A little more than there are units, as what has no meaning may become longer.
+  const std::size_t units = bytes.size() / unit;
+  text.reserve(units + units / 100);
   while (!bytes.empty()) {
     const std::size_t read = std::min(blockSize, bytes.size());
     logLength(log, LogEvent::Read, encoding.name, read / unit);
@@ -34,9 +37,7 @@ void decodeBlocks(std::string_view bytes, const DetectedEncoding& encoding, std:
       log.add(LogEvent::TruncationError, encoding.name);
       blockSize = bytes.size();
     }
-    // A little more than the block, as characters without a meaning may become longer.
     const std::size_t before = text.size();
-    text.reserve(before + blockSize + blockSize / 100);
     const DecodedBlock block = decodeOne(decoder, bytes, blockSize, text);
     if (block.bytes != read) logLength(log, LogEvent::Read, encoding.name, block.bytes / unit);
     if (block.nulls > 0) log.add(LogEvent::NullsRemoved, static_cast<std::int64_t>(block.nulls));
