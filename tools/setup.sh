@@ -8,7 +8,7 @@ set -euo pipefail
 
 declare -A packages=(
   [build]="g++ cmake ninja-build pkg-config libicu-dev qtbase5-dev"
-  [test]="libgtest-dev libgmock-dev clang"
+  [test]="libgtest-dev libgmock-dev clang python3"
   [bench]="libbenchmark-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libexpat1-dev
            libxml2-dev python3"
   [fuzz]="clang libclang-rt-14-dev"
@@ -17,7 +17,7 @@ declare -A packages=(
 # shellcheck disable=SC2034  # read through the name reference of words_of
 declare -A commands=(
   [build]="g++ cmake ninja"
-  [test]="ctest"
+  [test]="ctest python3"
   [bench]="python3"
   [fuzz]="clang++"
   [lint]="clang-format clang-tidy"
