@@ -110,7 +110,7 @@ void registerAll(std::span<const Conversion> conversions, std::span<const Sample
       benchmark::RegisterBenchmark(name.c_str(), [&text, convert = conversion.convert](
                                                      benchmark::State& state) {
         for (auto _ : state) convert(text);
-        state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.gb2312.size()));
+        state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.gb2312.size()));
       });
     }
   }

@@ -101,7 +101,7 @@ const bool registered = [] {
       const std::string name = std::string("setDoc/") + parser.name + "/" + text.name;
       benchmark::RegisterBenchmark(name.c_str(), [&text, &parser](benchmark::State& state) {
         for (auto _ : state) parser.parse(text);
-        state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.utf8.size()));
+        state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.utf8.size()));
       });
     }
   }
