@@ -29,12 +29,12 @@ class MarkupScanner {
   // units behind, with pairs of double quotes and no other quotes in front of it. Most tags need
   // no closer look.
   std::optional<std::size_t> findPlainTagEnd(std::size_t start) {
-    std::optional<std::size_t> end = findPlainTagEndInBlock(start);
-    if (!end && block_ != start) {
-      loadBlock(start);
-      end = findPlainTagEndInBlock(start);
+    if (start - block_ < kBlock) {
+      const auto end = findPlainTagEndInBlock(start);
+      if (end || block_ == start) return end;
     }
-    return end;
+    loadBlock(start);
+    return findPlainTagEndInBlock(start);
   }
 
  private:

@@ -130,6 +130,32 @@ TEST(TextDecoding, RemovesZerosAlikeForEveryBlockSize) {
   }
 }
 
+// All that a log says about removed zeros.
+std::size_t zerosIn(std::u16string_view log) {
+  constexpr std::u16string_view kCount = u"<nulls_removed count=\"";
+  std::size_t zeros = 0;
+  for (std::size_t at = log.find(kCount); at != log.npos; at = log.find(kCount, at + 1)) {
+    zeros += static_cast<std::size_t>(log[at + kCount.size()] - u'0');
+  }
+  return zeros;
+}
+
+TEST(TextDecoding, CountsEachZeroOnce) {
+  constexpr std::string_view kFiles[] = {
+      "\xFF\xFE"
+      "a\0\0\0\x3D\xD8\0\0\x00\xDE"sv,
+      "\xEF\xBB\xBF"
+      "a\0\xE8\0\xB0\xA2"sv,
+      "\xFF\xFE\0\0a\0\0\0\0\0\0\0\0\0\0\0"sv,
+  };
+  for (const std::string_view bytes : kFiles) {
+    for (const std::size_t blockSize : {3, 4, 5, 6, 7, 8, 100}) {
+      EXPECT_EQ(zerosIn(decode(bytes, blockSize).log), 2U)
+          << testing::PrintToString(bytes) << ", " << blockSize;
+    }
+  }
+}
+
 TEST(TextDecoding, TellsHowTheTextWasWritten) {
   ResultLog log;
   EXPECT_EQ(decodeText("\xEF\xBB\xBF<a/>", log).form.codePage, 65001U);
