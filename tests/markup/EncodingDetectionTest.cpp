@@ -33,6 +33,7 @@ TEST(DeclaredEncoding, IsReadFromTheXmlDeclarationOrTheHtmlHead) {
        u"content=\"text/html; charset=yes\">",
        u"yes"},
       {u"<html><head></head><meta http-equiv=\"Content-Type\" content=\"charset=gb2312\">", u""},
+      {u"<html><meta http-equiv=\"Content-Type\" content=\"charset=gb2312\"><head>", u""},
       {u"<html><body><meta http-equiv=\"Content-Type\" content=\"charset=gb2312\">", u""},
       {u"<html><head><meta http-equiv=\"Refresh\" content=\"charset=gb2312\">", u""},
       {u"<doc><head><meta http-equiv=\"Content-Type\" content=\"charset=gb2312\"/></head></doc>",
