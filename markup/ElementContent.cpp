@@ -56,12 +56,9 @@ void ElementContent::visitRuns(Visitor visit) const {
 }
 
 std::u16string ElementContent::data() const {
-  std::u16string data;
   const std::u16string_view content = text_.substr(start_, end_ - start_);
-  if (content.find(u'<') == std::u16string_view::npos) {
-    appendUnescaped(content, data);
-    return data;
-  }
+  if (content.find(u'<') == std::u16string_view::npos) return unescaped(content);
+  std::u16string data;
   visitRuns([&data](std::u16string_view run, bool isCData) {
     if (isCData) {
       data.append(run);

@@ -106,6 +106,14 @@ void appendUnescaped(std::u16string_view text, std::u16string& out) {
   out.append(text.substr(written));
 }
 
+std::u16string unescaped(std::u16string_view text) {
+  // Most values are numbers.
+  if (text.find(u'&') == std::u16string_view::npos) return std::u16string(text);
+  std::u16string result;
+  appendUnescaped(text, result);
+  return result;
+}
+
 void appendCData(std::u16string_view text, std::u16string& out) {
   out.append(kCDataStart);
   std::size_t written = 0;

@@ -14,6 +14,9 @@ void appendEscaped(std::u16string_view text, std::u16string& out);
 // unknown names, references without ";", to 0, to surrogates and beyond U+10FFFF.
 void appendUnescaped(std::u16string_view text, std::u16string& out);
 
+// `text` with its references resolved like that.
+[[nodiscard]] std::u16string unescaped(std::u16string_view text);
+
 // Appends `text` to `out` as CDATA sections. "]]>" inside the text is split between two sections,
 // so that any text can be read back.
 void appendCData(std::u16string_view text, std::u16string& out);

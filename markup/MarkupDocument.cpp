@@ -79,12 +79,11 @@ bool MarkupDocument::findChildElem(std::u16string_view name) {
 ElementNumber MarkupDocument::findFrom(ElementNumber first, std::u16string_view name) const {
   if (name.empty()) return first;
   if (leadingName(name).size() != name.size()) return 0;  // no element can be called so
-  // A look at the unit behind the name rules out most elements at once.
-  const auto isCalled = [text = std::u16string_view(text_), name](const ElementRecord& record) {
-    const std::size_t start = record.start + 1;
-    const std::size_t end = start + name.size();
-    return end < record.contentStart() && !isNameUnit(text[end]) &&
-           text.substr(start, name.size()) == name;
+  // A look at the units at the ends of the name rules out most elements at once.
+  const auto isCalled = [text = text_.data(), name](const ElementRecord& record) {
+    const char16_t* const tag = text + record.start + 1;
+    return name.size() + 1 < record.startTagLength && tag[0] == name[0] &&
+           !isNameUnit(tag[name.size()]) && std::u16string_view(tag, name.size()) == name;
   };
   ElementNumber element = first;
   while (element != 0 && !isCalled(index_[element])) element = index_[element].next;
@@ -138,12 +137,9 @@ std::u16string_view MarkupDocument::startTagOf(ElementNumber element) const {
 }
 
 std::u16string MarkupDocument::attributeOf(ElementNumber element, std::u16string_view name) const {
-  std::u16string value;
-  if (element == 0) return value;
-  if (const auto attribute = StartTag(startTagOf(element)).find(name)) {
-    appendUnescaped(attribute->value, value);
-  }
-  return value;
+  if (element == 0) return {};
+  const auto attribute = StartTag(startTagOf(element)).find(name);
+  return attribute ? unescaped(attribute->value) : std::u16string();
 }
 
 std::u16string MarkupDocument::dataOf(ElementNumber element) const {

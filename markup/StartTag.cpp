@@ -11,21 +11,19 @@ bool isQuote(char16_t unit) {
 
 }  // namespace
 
-StartTag::StartTag(std::u16string_view tag) : tag_(tag) {
-  const bool isInstruction = tag.starts_with(u"<?");
-  const std::u16string_view closing = isInstruction ? u"?>" : u"/>";
-  end_ = tag.size() - (tag.ends_with(closing) ? 2 : 1);
-  at_ = isInstruction ? 2 : 1;
-  name_ = leadingName(tag.substr(at_, end_ - at_));
-  at_ += name_.size();
+StartTag::StartTag(std::u16string_view tag) : tag_(tag.data()), at_(1), end_(tag.size() - 1) {
+  const bool isInstruction = tag.size() > 1 && tag[1] == u'?';
+  if (isInstruction) ++at_;
+  // Attributes end in front of "/>", or "?>" of an instruction.
+  if (end_ > at_ && tag[end_ - 1] == (isInstruction ? u'?' : u'/')) --end_;
+  name_ = readName();
 }
 
 std::optional<MarkupAttribute> StartTag::next() {
   skipToName();
   if (at_ == end_) return std::nullopt;
   MarkupAttribute attribute{};
-  attribute.name = leadingName(tag_.substr(at_, end_ - at_));
-  at_ += attribute.name.size();
+  attribute.name = readName();
   attribute.replaceStart = at_;
   attribute.replaceEnd = at_;
   skipSpace();
@@ -41,6 +39,12 @@ std::optional<MarkupAttribute> StartTag::find(std::u16string_view name) {
   std::optional<MarkupAttribute> attribute = next();
   while (attribute && attribute->name != name) attribute = next();
   return attribute;
+}
+
+std::u16string_view StartTag::readName() {
+  const std::size_t start = at_;
+  while (at_ < end_ && isNameUnit(tag_[at_])) ++at_;
+  return {tag_ + start, at_ - start};
 }
 
 void StartTag::skipSpace() {
@@ -65,13 +69,15 @@ std::u16string_view StartTag::readValue() {
   skipSpace();
   if (at_ < end_ && isQuote(tag_[at_])) {
     const std::size_t start = at_ + 1;
-    const std::size_t close = tag_.substr(0, end_).find(tag_[at_], start);
-    at_ = close == std::u16string_view::npos ? end_ : close + 1;
-    return tag_.substr(start, (close == std::u16string_view::npos ? end_ : close) - start);
+    const char16_t quote = tag_[at_];
+    for (at_ = start; at_ < end_ && tag_[at_] != quote;) ++at_;
+    const std::u16string_view value(tag_ + start, at_ - start);
+    if (at_ < end_) ++at_;
+    return value;
   }
   at_ = unquoted;
   while (at_ < end_ && !isMarkupSpace(tag_[at_]) && !isQuote(tag_[at_])) ++at_;
-  return tag_.substr(unquoted, at_ - unquoted);
+  return {tag_ + unquoted, at_ - unquoted};
 }
 
 }  // namespace brennet

@@ -36,14 +36,15 @@ class StartTag {
   [[nodiscard]] std::size_t attributesEnd() const { return end_; }
 
  private:
+  std::u16string_view readName();
   void skipSpace();
   void skipToName();
   std::u16string_view readValue();
 
-  std::u16string_view tag_;
-  std::u16string_view name_;
+  const char16_t* tag_;
   std::size_t at_;
   std::size_t end_;
+  std::u16string_view name_;
 };
 
 }  // namespace brennet

@@ -1,5 +1,6 @@
 #include "model/DecimalText.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 
@@ -22,14 +23,13 @@ std::int32_t parseDecimal(std::u16string_view text) {
   if (at < text.size() && (text[at] == u'-' || text[at] == u'+')) ++at;
 
   using Limits = std::numeric_limits<std::int32_t>;
+  const std::int64_t limit = negative ? -std::int64_t{Limits::min()} : Limits::max();
   std::int64_t number = 0;
-  for (; at < text.size() && isDigit(text[at]); ++at) {
-    const int digit = text[at] - u'0';
-    number = number * 10 + (negative ? -digit : digit);
-    if (number < Limits::min()) return Limits::min();
-    if (number > Limits::max()) return Limits::max();
+  for (; at < text.size() && isDigit(text[at]) && number <= limit; ++at) {
+    number = number * 10 + (text[at] - u'0');
   }
-  return static_cast<std::int32_t>(number);
+  number = std::min(number, limit);
+  return static_cast<std::int32_t>(negative ? -number : number);
 }
 
 std::u16string decimalText(std::int64_t number) {
