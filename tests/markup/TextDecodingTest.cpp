@@ -105,7 +105,7 @@ TEST(TextDecoding, GivesTheSameTextForEveryBlockSize) {
     ResultLog log;
     const std::string bytes = encodeText(text, name, log);
     EXPECT_EQ(log.text().find(u"loss"), std::u16string::npos);
-    for (const std::size_t blockSize : {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 13, 64}) {
+    for (const std::size_t blockSize : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 8U, 9U, 11U, 13U, 64U}) {
       EXPECT_EQ(decode(bytes, blockSize).text, text) << blockSize;
     }
   }
@@ -124,7 +124,7 @@ TEST(TextDecoding, RemovesZerosAlikeForEveryBlockSize) {
     }
     const std::u16string whole = decode(bytes).text;
     EXPECT_EQ(whole.find(u'\0'), std::u16string::npos);
-    for (const std::size_t blockSize : {1, 2, 3, 4, 5, 7, 16}) {
+    for (const std::size_t blockSize : {1U, 2U, 3U, 4U, 5U, 7U, 16U}) {
       ASSERT_EQ(decode(bytes, blockSize).text, whole) << round << ", " << blockSize;
     }
   }
@@ -149,7 +149,7 @@ TEST(TextDecoding, CountsEachZeroOnce) {
       "\xFF\xFE\0\0a\0\0\0\0\0\0\0\0\0\0\0"sv,
   };
   for (const std::string_view bytes : kFiles) {
-    for (const std::size_t blockSize : {3, 4, 5, 6, 7, 8, 100}) {
+    for (const std::size_t blockSize : {3U, 4U, 5U, 6U, 7U, 8U, 100U}) {
       EXPECT_EQ(zerosIn(decode(bytes, blockSize).log), 2U)
           << testing::PrintToString(bytes) << ", " << blockSize;
     }
