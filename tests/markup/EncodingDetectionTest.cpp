@@ -60,6 +60,7 @@ struct DetectionCase {
 };
 
 TEST(EncodingDetection, WeighsMarksSignaturesBytesAndDeclarations) {
+  const platform::CodePage ansi = platform::ansiCodePage();
   const DetectionCase kCases[] = {
       {"UTF-8 mark", "\xEF\xBB\xBF<a/>", Source::Mark, 65001, u"UTF-8"},
       {"UTF-16 mark", "\xFF\xFE<\0"sv, Source::Mark, 1200, u"UTF-16LE"},
@@ -70,21 +71,21 @@ TEST(EncodingDetection, WeighsMarksSignaturesBytesAndDeclarations) {
        Source::Mark, 65001, u"UTF-8"},
       {"UTF-16 without a mark", "<\0?\0"sv, Source::Signature, 1200, u"UTF-16LE"},
       {"the same, high byte first", "\0<\0r"sv, Source::Signature, 1201, u"UTF-16BE"},
-      {"no signature", "<\0 \0\xFF"sv, Source::Ansi, 936, u"ANSI"},
+      {"no signature", "<\0 \0\xFF"sv, Source::Ansi, ansi, u"ANSI"},
       {"plain", "<a/>", Source::Utf8Detection, 65001, u"UTF-8"},
       {"UTF-8 without a declaration", "<a>\xE8\xB0\xA2</a>", Source::Utf8Detection, 65001,
        u"UTF-8"},
       {"cut off at the end", "<a>\xE8\xB0", Source::Utf8Detection, 65001, u"UTF-8"},
-      {"neither UTF-8 nor declared", "<a>\xD0\xBB\xB9</a>", Source::Ansi, 936, u"ANSI"},
+      {"neither UTF-8 nor declared", "<a>\xD0\xBB\xB9</a>", Source::Ansi, ansi, u"ANSI"},
       {"declared", "<?xml encoding='windows-1252'?><a>\xE9</a>", Source::Declaration, 1252,
        u"windows-1252"},
       {"UTF-8 against another declaration", "<?xml encoding='windows-1252'?><a>\xC3\xA9</a>",
        Source::Utf8Detection, 65001, u"UTF-8"},
-      {"unknown", "<?xml encoding='bogus'?><a>\xB9\xFE</a>", Source::Declaration, 936, u"bogus"},
+      {"unknown", "<?xml encoding='bogus'?><a>\xB9\xFE</a>", Source::Declaration, ansi, u"bogus"},
       {"declared UTF-8 that is not", "<?xml encoding='utf-8'?><a>\xB9\xFE</a>", Source::Declaration,
        65001, u"utf-8"},
       {"declared UTF-16 that is not", "<?xml encoding='utf-16'?><a>\xB9\xFE</a>",
-       Source::Declaration, 936, u"utf-16"},
+       Source::Declaration, ansi, u"utf-16"},
       {"double-byte, not UTF-8", "<?xml encoding='gb2312'?><a>\xB9\xFE</a>", Source::Declaration,
        936, u"gb2312"},
       {"double-byte, plain", "<?xml encoding='gb2312'?><a/>", Source::Declaration, 936, u"gb2312"},
@@ -99,6 +100,8 @@ TEST(EncodingDetection, WeighsMarksSignaturesBytesAndDeclarations) {
       {"UTF-8 that the code page cannot read",
        "<?xml encoding='gb2312'?><a>\xC3\xA9\xE8\xB0\xA2</a>", Source::Utf8Detection, 65001,
        u"UTF-8"},
+      {"short UTF-8 that the code page cannot read", "<?xml encoding='shift_jis'?><a>\xC2\x85</a>",
+       Source::Utf8Detection, 65001, u"UTF-8"},
   };
   for (const DetectionCase& test : kCases) {
     SCOPED_TRACE(test.what);
