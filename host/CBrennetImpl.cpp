@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <exception>
+#include <utility>
 
 #include "host/ProcessConfigs.h"
 #include "host/WideText.h"
@@ -56,8 +57,14 @@ CBrennetImpl& CBrennetImpl::instance() {
 
 bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
   if (path == nullptr) return false;
+  std::u16string name;
   try {
-    settingsPath_ = fromWide(path);
+    name = fromWide(path);
+  } catch (const std::exception&) {
+    return false;
+  }
+  settingsPath_ = std::move(name);
+  try {
     return config_->Load(settingsPath_);
   } catch (const std::exception&) {
     config_->Reset();
@@ -130,7 +137,8 @@ std::int32_t CBrennetImpl::ApplyHotkeyBlock(HotkeyBlock* block, std::uint32_t sa
 
   return orElse(kNotApplied, [&] {
     workingCopy().ResetAndCopyFrom(*config_);
-    const bool applied = mergeBlock(current, returned, workingCopy()) && saveWorkingCopy(saveTime);
+    const bool applied =
+        mergeBlock(current, returned, sharedSize(size), workingCopy()) && saveWorkingCopy(saveTime);
     return applied ? kApplied : kNotApplied;
   });
 }
@@ -140,8 +148,11 @@ std::uint8_t CBrennetImpl::GetStartJSQFlag() noexcept {
 }
 
 bool CBrennetImpl::saveWorkingCopy(std::uint32_t saveTime) {
+  // The copy is made first: once the file is written, nothing may fail any more.
+  HotkeyConfig saved = *config_;
+  saved.ResetAndCopyFrom(workingCopy());
   if (!workingCopy().Save(settingsPath_, saveTime)) return false;
-  config_->ResetAndCopyFrom(workingCopy());
+  config_->swap(saved);
   return true;
 }
 

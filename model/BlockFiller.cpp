@@ -32,10 +32,12 @@ class BlockFiller {
   BlockFiller(const HotkeyScheme& scheme, BlockBytes bytes) : scheme_(scheme), bytes_(bytes) {}
 
   void operator()(const SwitchSetting& row) const {
-    if (scheme_.*row.field == 0) return;
-    bytes_[row.offset] = row.mask == SwitchSetting::kWholeByte
-                             ? std::uint8_t{1}
-                             : static_cast<std::uint8_t>(bytes_[row.offset] | row.mask);
+    const std::uint8_t value = scheme_.*row.field;
+    if (row.mask == SwitchSetting::kWholeByte) {
+      bytes_[row.offset] = value;
+    } else if (value != 0) {
+      bytes_[row.offset] = static_cast<std::uint8_t>(bytes_[row.offset] | row.mask);
+    }
   }
 
   void operator()(const ByteSetting& row) const { bytes_[row.offset] = scheme_.*row.field; }

@@ -37,8 +37,10 @@ ComboKeys comboAt(ConstBlockBytes bytes, std::size_t offset) {
           keyAt(bytes, offset + 3 * kWidth)};
 }
 
-bool isOn(ConstBlockBytes bytes, const SwitchSetting& row) {
-  return (bytes[row.offset] & row.mask) != 0;
+// A bit of the flag word as 0 or 1; a byte of its own as it is.
+std::uint8_t switchAt(ConstBlockBytes bytes, const SwitchSetting& row) {
+  if (row.mask == SwitchSetting::kWholeByte) return bytes[row.offset];
+  return (bytes[row.offset] & row.mask) != 0 ? 1 : 0;
 }
 
 // The phrases of an area: what stands before each NUL. Those behind the end of the area are empty.
@@ -61,10 +63,12 @@ std::string_view cutReturned(std::string_view phrase) {
   return phrase.substr(0, end);
 }
 
-// The two blocks and the scheme that takes in their differences.
+// The two blocks, how many bytes the game handed back, and the scheme that takes in the
+// differences.
 struct Merge {
   ConstBlockBytes current;
   ConstBlockBytes returned;
+  std::size_t carried;
   HotkeyScheme& scheme;
 
   [[nodiscard]] bool keyDiffers(std::size_t offset) const {
@@ -106,9 +110,9 @@ struct ClearChangedKeys : Merge {
 // leaves its field without a key.
 struct TakeChanges : Merge {
   bool operator()(const SwitchSetting& row) const {
-    const bool on = isOn(returned, row);
-    if (isOn(current, row) == on) return false;
-    scheme.*row.field = on ? 1 : 0;
+    const std::uint8_t value = switchAt(returned, row);
+    if (switchAt(current, row) == value) return false;
+    scheme.*row.field = value;
     return true;
   }
 
@@ -164,20 +168,30 @@ struct TakeChanges : Merge {
   }
 
   // Only phrases whose bytes changed are set: the block cuts long ones, the scheme keeps them
-  // whole.
+  // whole. Phrases that a shorter record does not carry to their ends stay as they are.
   bool operator()(const PhraseSetting& row) const {
     const auto before = splitPhrases(current, row);
     const auto after = splitPhrases(returned, row);
     for (std::size_t n = 0; n < after.size(); ++n) {
-      if (before[n] == after[n]) continue;
+      if (before[n] == after[n] || !isCarried(after[n], row)) continue;
       std::u16string phrase;
       utf8ToUtf16(cutReturned(after[n]), phrase);
       (scheme.*row.field)[n] = cutPhrase(phrase);
     }
-    return before != after;
+    const auto areaOf = [&row](ConstBlockBytes bytes) {
+      return std::string_view(reinterpret_cast<const char*>(bytes.data() + row.offset), row.size);
+    };
+    return areaOf(current) != areaOf(returned);
   }
 
  private:
+  // `phrase` is a part of `returned`.
+  [[nodiscard]] bool isCarried(std::string_view phrase, const PhraseSetting& row) const {
+    if (carried >= row.offset + row.size) return true;
+    const auto* const start = reinterpret_cast<const char*>(returned.data());
+    return phrase.data() + phrase.size() < start + carried;
+  }
+
   // A new key brings its mark along. The keys of a preset are delivered without marks, so there
   // only a mark that the game has set says anything.
   bool takeMark(const KeyListSetting& row, std::size_t i) const {
@@ -192,14 +206,16 @@ struct TakeChanges : Merge {
 
 }  // namespace
 
-bool mergeBlock(const HotkeyBlock& current, const HotkeyBlock& returned, HotkeyConfig& config) {
+bool mergeBlock(const HotkeyBlock& current, const HotkeyBlock& returned, std::size_t carried,
+                HotkeyConfig& config) {
   bool differs = ((current.flags ^ returned.flags) & kEnableFlag) != 0;
   if (differs) config.setEnable((returned.flags & kEnableFlag) != 0);
 
   // A current scheme that does not exist shows as the defaults; changes to it go nowhere.
   HotkeyScheme nowhere;
   HotkeyScheme* scheme = config.editableScheme();
-  const Merge merge{bytesOf(current), bytesOf(returned), scheme != nullptr ? *scheme : nowhere};
+  const Merge merge{bytesOf(current), bytesOf(returned), carried,
+                    scheme != nullptr ? *scheme : nowhere};
   for (const SettingId id : blockOrder()) std::visit(ClearChangedKeys{merge}, setting(id).kind);
   for (const SettingId id : blockOrder()) {
     differs = std::visit(TakeChanges{merge}, setting(id).kind) || differs;

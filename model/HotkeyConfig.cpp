@@ -94,6 +94,16 @@ void HotkeyConfig::ResetAndCopyFrom(const HotkeyConfig& main) {
   copyFrom(main, std::move(schemes));
 }
 
+void HotkeyConfig::swap(HotkeyConfig& other) noexcept {
+  std::swap(loaded_, other.loaded_);
+  std::swap(lastSaveTime_, other.lastSaveTime_);
+  std::swap(enable_, other.enable_);
+  std::swap(index_, other.index_);
+  std::swap(schemes_, other.schemes_);
+  std::swap(blockBuilt_, other.blockBuilt_);
+  std::swap(blockBuffer_, other.blockBuffer_);
+}
+
 bool HotkeyConfig::SetHeroSkillKey(int pos, KeyWord key, bool check, int scheme) {
   return setKey(editableScheme(scheme), &HotkeyScheme::HeroSkillKey, pos, key, check);
 }

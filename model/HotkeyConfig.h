@@ -37,6 +37,9 @@ class HotkeyConfig {
   // Reset(), then assignment: no key of the old state can refuse a choice that `main` holds.
   void ResetAndCopyFrom(const HotkeyConfig& main);
 
+  // Exchanges everything with `other`.
+  void swap(HotkeyConfig& other) noexcept;
+
   // Reads the settings file at `path`. Defaults first; returns false, with the defaults in place,
   // when the file is missing, unreadable or not well-formed, or lacks KeyInfo or LastSaveTime.
   // Entries that make no sense are no failure: each falls back to its default or to no key.
@@ -44,7 +47,8 @@ class HotkeyConfig {
   bool Load(std::u16string_view path);
   // Writes the settings file with `lastSaveTime`; this object's own LastSaveTime is left alone.
   // A missing folder is created, one level. Returns whether the file was written whole; after a
-  // failure the old file stands. The game's preference file follows in either case.
+  // failure the old file stands. The game's preference file follows in either case, because it
+  // follows what is in memory.
   bool Save(std::u16string_view path, std::uint32_t lastSaveTime);
 
   // Reads or writes one scheme, 0 to 2; false for any other number. The document's position is
@@ -96,7 +100,7 @@ class HotkeyConfig {
   // The current scheme, 0 to kLargestIndex. A larger number is refused.
   [[nodiscard]] std::uint32_t index() const { return index_; }
   bool setIndex(std::uint32_t index);
-  // The host's own value, as the last successful load found it.
+  // The host's own value, as the last load found it; 0 when that failed.
   [[nodiscard]] std::uint32_t LastSaveTime() const { return lastSaveTime_; }
   // Whether the state came from, or went to, a settings file since the last reset.
   [[nodiscard]] bool loaded() const { return loaded_; }

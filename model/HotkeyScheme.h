@@ -46,7 +46,7 @@ struct ComboKeys {
 };
 
 // Quick-cast marks and phrases know whether they were ever set: an absent mark reads as false and
-// an absent phrase as empty, but neither is written to the settings file.
+// an absent phrase as empty. An absent phrase is not written to the settings file.
 template <std::size_t Count>
 using AutocastMarks = std::array<std::optional<bool>, Count>;
 using Phrases = std::array<std::optional<std::u16string>, kPhrases>;

@@ -3,7 +3,7 @@
 namespace brennet {
 namespace {
 
-// Virtual keys that edit a capture field and are never bound.
+// Virtual keys that edit or close a capture field and cannot be chosen there.
 constexpr std::uint8_t kBackspace = 0x08;
 constexpr std::uint8_t kEnter = 0x0D;
 constexpr std::uint8_t kDelete = 0x2E;

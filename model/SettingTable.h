@@ -14,7 +14,8 @@ namespace brennet {
 
 // The settings of a scheme, one row each: what it is called in the settings file, which member
 // holds it, and where it stands in a HotkeyBlock. Reading and writing the file, filling a block and
-// taking one back all walk these rows; a new setting is a new row.
+// taking one back all walk these rows. A new setting is a member of HotkeyScheme, a row here and
+// its place in the orders below.
 
 // A switch, 0 or 1. In the block a bit of the flag word, or a byte of its own.
 struct SwitchSetting {

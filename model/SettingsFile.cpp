@@ -111,7 +111,9 @@ bool HotkeyConfig::saveTo(MarkupDocument& document, std::uint32_t lastSaveTime) 
 
 bool HotkeyConfig::SaveScheme(int scheme, MarkupDocument& document) const {
   if (scheme < 0 || scheme >= kSchemes) return false;
-  return writeScheme(document, schemes_[static_cast<std::size_t>(scheme)], this->scheme());
+  const HotkeyScheme& written = schemes_[static_cast<std::size_t>(scheme)];
+  // Where the current index names no scheme, each keeps its own marks.
+  return writeScheme(document, written, index_ < schemes_.size() ? this->scheme() : written);
 }
 
 }  // namespace brennet

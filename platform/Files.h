@@ -10,7 +10,7 @@ namespace brennet::platform {
 
 // The whole content of the file at `path`, replacing `bytes`.
 // Returns the system's error, or an empty one. Folders are refused like unreadable files; on any
-// error `bytes` is empty.
+// error `bytes` is empty. Throws std::bad_alloc where the file does not fit into memory.
 [[nodiscard]] std::error_code readFile(const Path& path, std::string& bytes);
 
 // Makes `bytes` the content of the file at `path`, creating it where it is missing.
@@ -18,11 +18,13 @@ namespace brennet::platform {
 // At every moment the disk holds the whole old or the whole new content: the bytes go to a
 // temporary file in the same folder, are flushed, and the temporary file takes the target's place.
 // A file that is there keeps its permissions, a symbolic link stays one, and a file that could not
-// be opened for writing is left alone. Where the folder takes no temporary file, the target is
-// written in place, and gets its old content back when that fails.
+// be opened for writing is left alone. Where the folder takes no temporary file, or the temporary
+// file cannot take the target's place, the target is written in place: room is made sure of first,
+// and the old content is written back when the new one cannot be written.
 //
 // Returns the first error of any step, a failing flush or close included, or an empty one.
-// After an error the old content stands and no temporary file is left.
+// After an error the old content stands and no temporary file is left. Throws std::bad_alloc, and
+// then has changed nothing.
 [[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes);
 
 // Whether a folder stands at `path`.

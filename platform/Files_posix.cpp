@@ -67,12 +67,18 @@ std::error_code finish(OpenFile& file, std::string_view bytes) {
   return file.closeNow();
 }
 
-// The file that `path` names in the end: a symbolic link is kept, its target is replaced.
+// The file that `path` names in the end: a symbolic link is kept, its target is replaced. A link to
+// nothing stays as it is.
 std::string withoutLinks(const std::string& path) {
   struct stat status {};
   if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
   char resolved[PATH_MAX];
   return realpath(path.c_str(), resolved) != nullptr ? resolved : path;
+}
+
+bool isLink(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
 // What stands at the target before it is replaced.
@@ -94,30 +100,41 @@ Target inspect(const std::string& path) {
   return {{}, status};
 }
 
-// Gives a new file the permissions and, where the system lets us, the owner of the old one.
-std::error_code takeOver(int descriptor, const struct stat& old) {
-  if (fchown(descriptor, old.st_uid, old.st_gid) != 0 && errno != EPERM) return lastError();
-  return fchmod(descriptor, old.st_mode & 07777) == 0 ? std::error_code() : lastError();
+// Makes sure that `size` bytes fit, before a byte of the old content is touched. Not every file
+// system can promise that.
+std::error_code reserve(int descriptor, std::size_t size) {
+  if (size == 0) return {};
+  const int error = posix_fallocate(descriptor, 0, static_cast<off_t>(size));
+  if (error == 0 || error == EINVAL || error == EOPNOTSUPP) return {};
+  return {error, std::generic_category()};
 }
 
-std::error_code overwrite(const std::string& path, std::string_view bytes) {
-  OpenFile file(path, O_WRONLY | O_CREAT | O_TRUNC, kNewFileMode);
-  if (!file.isOpen()) return lastError();
-  return finish(file, bytes);
+// Writes `bytes` over the content of an open file.
+std::error_code overwrite(OpenFile& file, std::string_view bytes) {
+  if (lseek(file.get(), 0, SEEK_SET) != 0) return lastError();
+  if (const std::error_code error = writeAll(file.get(), bytes)) return error;
+  if (ftruncate(file.get(), static_cast<off_t>(bytes.size())) != 0) return lastError();
+  return retried([&] { return fsync(file.get()); }) == 0 ? std::error_code() : lastError();
 }
 
+// For files that cannot be replaced. The old content is kept at hand and written back if the new
+// one cannot be written.
 std::error_code writeInPlace(const std::string& path, std::string_view bytes, bool exists) {
   std::string old;
   if (exists) {
-    if (const std::error_code error = readFile(path, old)) return error;
+    const std::error_code error = readFile(path, old);
+    // A file that may be written but not read has to do without.
+    if (error && error != std::errc::permission_denied) return error;
   }
-  const std::error_code error = overwrite(path, bytes);
-  if (error) {
-    if (exists) {
-      static_cast<void>(overwrite(path, old));
-    } else {
-      unlink(path.c_str());
-    }
+  OpenFile file(path, O_WRONLY | O_CREAT, kNewFileMode);
+  if (!file.isOpen()) return lastError();
+  std::error_code error = reserve(file.get(), bytes.size());
+  if (!error) error = overwrite(file, bytes);
+  if (!error) return file.closeNow();
+  if (exists) {
+    static_cast<void>(overwrite(file, old));
+  } else {
+    unlink(withoutLinks(path).c_str());
   }
   return error;
 }
@@ -126,28 +143,46 @@ std::string temporaryName(const std::string& path, int number) {
   return path + "." + std::to_string(getpid()) + "-" + std::to_string(number) + ".tmp";
 }
 
-// Flushes the folder of `path`, so that the new name is on the disk too. Not every file system
-// can; the file's content is safe either way.
-void flushFolder(const std::string& path) {
+std::string folderOf(const std::string& path) {
   const std::size_t slash = path.find_last_of('/');
-  const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-  const OpenFile directory(folder, O_RDONLY | O_DIRECTORY);
-  if (directory.isOpen()) retried([&] { return fsync(directory.get()); });
+  return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
-std::error_code replaceThrough(const std::string& temporary, OpenFile& file,
-                               const std::string& path, const Target& target,
-                               std::string_view bytes) {
+// Gives a new file the permissions and, where the system lets us, the owner of the old one.
+bool takeOver(int descriptor, const struct stat& old) {
+  const bool sameOwner = old.st_uid == geteuid() && old.st_gid == getegid();
+  if (!sameOwner && fchown(descriptor, old.st_uid, old.st_gid) != 0 && errno != EPERM) return false;
+  return fchmod(descriptor, old.st_mode & 07777) == 0;
+}
+
+enum class Outcome { Replaced, Failed, NotReplaceable };
+
+struct Replacement {
+  Outcome outcome;
   std::error_code error;
-  if (target.status) error = takeOver(file.get(), *target.status);
-  if (!error) error = finish(file, bytes);
-  if (!error && std::rename(temporary.c_str(), path.c_str()) != 0) error = lastError();
-  if (error) {
-    unlink(temporary.c_str());
-  } else {
-    flushFolder(path);
+};
+
+// Fills the open temporary file and puts it in the place of `path`. Throws nothing once the new
+// file is there.
+Replacement replaceThrough(const std::string& temporary, OpenFile& file, const std::string& path,
+                           const Target& target, std::string_view bytes) {
+  // Flushed in the end, so that the new name is on the disk too. Not every file system can; the
+  // file's content is safe either way.
+  const OpenFile folder(folderOf(path), O_RDONLY | O_DIRECTORY);
+  Replacement result{Outcome::Replaced, {}};
+  if (target.status && !takeOver(file.get(), *target.status)) {
+    result.outcome = Outcome::NotReplaceable;
+  } else if ((result.error = finish(file, bytes))) {
+    result.outcome = Outcome::Failed;
+  } else if (std::rename(temporary.c_str(), path.c_str()) != 0) {
+    result.outcome = Outcome::NotReplaceable;
   }
-  return error;
+  if (result.outcome != Outcome::Replaced) {
+    unlink(temporary.c_str());
+  } else if (folder.isOpen()) {
+    retried([&] { return fsync(folder.get()); });
+  }
+  return result;
 }
 
 }  // namespace
@@ -186,10 +221,14 @@ std::error_code replaceFile(const Path& name, std::string_view bytes) {
   const Target target = inspect(path);
   if (target.error) return target.error;
 
-  for (int number = 0; number < kTemporaryNames; ++number) {
+  for (int number = 0; number < kTemporaryNames && !isLink(path); ++number) {
     const std::string temporary = temporaryName(path, number);
     OpenFile file(temporary, O_WRONLY | O_CREAT | O_EXCL, kNewFileMode);
-    if (file.isOpen()) return replaceThrough(temporary, file, path, target, bytes);
+    if (file.isOpen()) {
+      const Replacement result = replaceThrough(temporary, file, path, target, bytes);
+      if (result.outcome != Outcome::NotReplaceable) return result.error;
+      break;
+    }
     if (errno != EEXIST) break;
   }
   return writeInPlace(path, bytes, target.status.has_value());

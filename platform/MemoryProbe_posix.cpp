@@ -49,7 +49,8 @@ bool isWritable(void* address, std::size_t size) {
   const auto first = reinterpret_cast<std::uintptr_t>(address);
   if (first == 0 || first + (size - 1) < first) return false;
 
-  ProbePipe pipe;
+  // Kept open: later there may be no free descriptor left to ask with.
+  static ProbePipe pipe;
   if (!pipe.isOpen()) return false;
   const auto pageSize = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
   const std::uintptr_t last = first + (size - 1);

@@ -32,12 +32,12 @@ void checkBlocks(std::string_view bytes) {
     const std::size_t size = std::min(bytes.size(), sizeof(returned));
     std::memcpy(&returned, bytes.data(), size);
     bytes.remove_prefix(size);
-    mergeBlock(current, returned, config);
+    mergeBlock(current, returned, sizeof(returned), config);
 
     HotkeyBlock delivered;
     fillBlock(config, delivered);
     require(delivered.size == sizeof(delivered));
-    require(!mergeBlock(delivered, delivered, config));
+    require(!mergeBlock(delivered, delivered, sizeof(delivered), config));
     require(delivered.quickChat[sizeof(delivered.quickChat) - 1] == '\0');
     require(delivered.chatWheel[sizeof(delivered.chatWheel) - 1] == '\0');
   }

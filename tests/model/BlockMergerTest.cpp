@@ -17,13 +17,15 @@ using namespace test;
 
 using Edit = std::function<void(HotkeyBlock&)>;
 
-// Fills a block from `config`, changes it as the game would, and merges it.
-bool mergeEdited(HotkeyConfig& config, const Edit& edit) {
+// Fills a block from `config`, changes it as the game would, and merges its first `size` bytes.
+bool mergeEdited(HotkeyConfig& config, const Edit& edit, std::size_t size = sizeof(HotkeyBlock)) {
   HotkeyBlock current;
   fillBlock(config, current);
+  HotkeyBlock edited = current;
+  edit(edited);
   HotkeyBlock returned = current;
-  edit(returned);
-  return mergeBlock(current, returned, config);
+  std::memcpy(&returned, &edited, size);
+  return mergeBlock(current, returned, size, config);
 }
 
 HotkeyConfig configWithKeys() {
@@ -102,7 +104,7 @@ TEST(MergeBlock, TakesEveryFieldThatDiffers) {
        [](HotkeyScheme& s) { s.ChatWheel[1] = u"y"; }},
       {"HideUI", [](HotkeyBlock& b) { b.hideUI = 1; }, [](HotkeyScheme& s) { s.HideUI = 1; }},
       {"DisableLeftAltShowHP", [](HotkeyBlock& b) { b.disableLeftAltShowHP = 7; },
-       [](HotkeyScheme& s) { s.DisableLeftAltShowHP = 1; }},
+       [](HotkeyScheme& s) { s.DisableLeftAltShowHP = 7; }},
   };
   for (const FieldRow& row : kRows) {
     HotkeyConfig config = configWithKeys();
@@ -273,6 +275,27 @@ TEST(MergeBlock, SplitsAnAreaWithoutClosingNuls) {
   EXPECT_EQ(config.scheme().ChatWheel[0], std::u16string(42, u'a'));
   EXPECT_EQ(config.scheme().ChatWheel[1], u"");
   EXPECT_EQ(config.scheme().ChatWheelkey, kNoKey);
+}
+
+TEST(MergeBlock, LeavesPhrasesAloneThatAShorterRecordDoesNotCarryToTheirEnds) {
+  HotkeyConfig config;
+  config.editableScheme()->QuickChat[0] = u"hello";
+  config.editableScheme()->QuickChat[1] = u"world";
+  config.editableScheme()->QuickChat[2] = u"gg";
+  const std::size_t area = offsetof(HotkeyBlock, quickChat);
+  const auto shorten = [](HotkeyBlock& b) { std::memcpy(b.quickChat, "hi\0xy", 5); };
+  EXPECT_TRUE(mergeEdited(config, shorten, area + 5));
+  const Phrases& phrases = config.scheme().QuickChat;
+  EXPECT_EQ(phrases[0], u"hi");
+  EXPECT_EQ(phrases[1], u"world");
+  EXPECT_EQ(phrases[2], u"gg");
+  for (std::size_t n = 3; n < kPhrases; ++n) EXPECT_EQ(phrases[n].value_or(u""), u"") << n;
+}
+
+TEST(MergeBlock, CountsADifferenceBehindTheLastPhrase) {
+  HotkeyConfig config;
+  EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) { b.quickChat[1000] = 'x'; }));
+  EXPECT_EQ(config.scheme(), HotkeyScheme());
 }
 
 TEST(MergeBlock, TakesEightPhrasesAndNoMore) {

@@ -224,6 +224,10 @@ TEST_F(SettingsFile, ReadsEverySettingOfAScheme) {
        [](HotkeyScheme& s) {
          s.ComboKey = {kQ, kNoKey, kNoKey, kR};
        }},
+      {"a later combination that is refused clears all four",
+       "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey>"
+       "<ComboKey3to1><Key_A>22272</Key_A><Key_B>17664</Key_B><Key_D>17664</Key_D></ComboKey3to1>",
+       [](HotkeyScheme&) {}},
       {"a refused combination clears all four",
        "<HeroSkillKey>" + key(0, 20992) +
            "</HeroSkillKey>"
@@ -396,6 +400,16 @@ TEST_F(SettingsFile, TakesTheItemMarksOfEverySchemeFromTheCurrentOne) {
   }
 }
 
+TEST_F(SettingsFile, KeepsTheItemMarksWhenTheCurrentIndexIsNoScheme) {
+  HotkeyConfig config;
+  for (int n = 0; n < 3; ++n) ASSERT_TRUE(config.SetItemAutocast(kItemSlotCodes[0], n != 1, n));
+  ASSERT_TRUE(config.setIndex(9));
+  ASSERT_TRUE(save(config));
+  HotkeyConfig loaded;
+  ASSERT_TRUE(loaded.Load(file_.u16string()));
+  for (int n = 0; n < 3; ++n) EXPECT_EQ(loaded.scheme(n).ItemAutocast[0], n != 1) << n;
+}
+
 TEST_F(SettingsFile, ReadsBackEveryPhraseThatItsCodePageHolds) {
   const std::u16string kPhrases2[] = {u"\u8C22\u8C22", u"\u4F60\u597D", u"gg & wp",
                                       u" a ",          u"]]>",          u"\"quoted\" 'single'",
@@ -432,6 +446,15 @@ TEST_F(SettingsFile, IsSavedIntoAMissingFolderOneLevelDeep) {
   EXPECT_TRUE(std::filesystem::exists(folder_ / "new/KeyInfo.xml"));
   EXPECT_FALSE(config.Save((folder_ / "two/levels/KeyInfo.xml").u16string(), 1));
   EXPECT_FALSE(std::filesystem::exists(folder_ / "two"));
+}
+
+TEST_F(SettingsFile, LooksForItsFolderAtTheLastBackslashFirst) {
+  HotkeyConfig config;
+  const std::u16string folder = folder_.path().u16string();
+  // Elsewhere than on Windows a backslash is a part of a name, so the file cannot be written
+  // before or after; what shows is the folder that was created.
+  EXPECT_FALSE(config.Save(folder + u"/first\\second/KeyInfo.xml", 1));
+  EXPECT_TRUE(std::filesystem::exists(folder_ / "first"));
 }
 
 TEST_F(SettingsFile, IsNotSavedWhereItCannotBe) {

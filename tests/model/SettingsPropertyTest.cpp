@@ -248,18 +248,18 @@ TEST(RandomBlocks, LeaveTheSettingsSoundWhenTheyAreTakenBack) {
     random.change(config);
     HotkeyBlock current;
     fillBlock(config, current);
-    ASSERT_FALSE(mergeBlock(current, current, config));
+    ASSERT_FALSE(mergeBlock(current, current, sizeof(current), config));
 
     HotkeyBlock returned = current;
     random.changeBytes(returned);
-    mergeBlock(current, returned, config);
+    mergeBlock(current, returned, sizeof(returned), config);
     ASSERT_NO_FATAL_FAILURE(expectSound(config)) << "round " << round;
 
     // What was delivered once is stable: handing it back changes nothing.
     HotkeyBlock again;
     fillBlock(config, again);
     ASSERT_EQ(again.size, sizeof(again));
-    ASSERT_FALSE(mergeBlock(again, again, config));
+    ASSERT_FALSE(mergeBlock(again, again, sizeof(again), config));
   }
 }
 
@@ -276,7 +276,7 @@ TEST(RandomBlocks, OfAnySizeAreMergedAsAPrefix) {
     const std::size_t size = random.below(sizeof(returned) + 1);
     std::memcpy(&returned, &changed, size);
     const bool differs = std::memcmp(&returned, &current, sizeof(returned)) != 0;
-    const bool merged = mergeBlock(current, returned, config);
+    const bool merged = mergeBlock(current, returned, size, config);
     ASSERT_TRUE(differs || !merged) << "round " << round;
   }
 }

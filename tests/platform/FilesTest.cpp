@@ -86,6 +86,28 @@ TEST(ReplaceFile, KeepsASymbolicLinkAndReplacesWhatItNames) {
   EXPECT_EQ(readBytes(folder / "f"), "new");
 }
 
+TEST(ReplaceFile, WritesThroughALinkToAFileThatIsNotThereYet) {
+  const TempFolder folder;
+  ASSERT_EQ(symlink((folder / "f").c_str(), (folder / "link").c_str()), 0);
+  EXPECT_FALSE(replaceFile(folder / "link", "new"));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+}
+
+TEST(ReplaceFile, WritesAFileThatCannotBeReadInAFolderThatTakesNoNewFile) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "old");
+  ASSERT_EQ(chmod((folder / "f").c_str(), 0222), 0);
+  {
+    const ScopedOrdinaryUser user(folder);
+    ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);
+    EXPECT_FALSE(replaceFile(folder / "f", "new"));
+    ASSERT_EQ(chmod(folder.path().c_str(), 0755), 0);
+  }
+  ASSERT_EQ(chmod((folder / "f").c_str(), 0644), 0);
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+}
+
 TEST(ReplaceFile, RefusesAFolderAMissingFolderAndNoName) {
   const TempFolder folder;
   for (const Path& path : {folder.path(), folder / "missing/f", Path()}) {
