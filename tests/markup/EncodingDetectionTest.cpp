@@ -59,6 +59,32 @@ struct DetectionCase {
   std::u16string_view name;
 };
 
+// A document must be read in the encoding that it will be written in.
+TEST(DeclaredEncoding, IsTheSameForBytesAndForText) {
+  const std::string kRows[] = {
+      "<?xml version='1.0' n='a>b' encoding='big5'?><a/>",
+      "<?xml " + std::string(1100, ' ') + "encoding='gb2312'?><a/>",
+      "\r\n <?xml version='1.0' encoding='gb2312'?><a/>",
+      "<?xml encoding=' gb2312\t'?><a/>",
+      "<?xml version='1.0'?><html><head><meta http-equiv='Content-Type' "
+      "content='text/html; charset=gb2312'></head></html>",
+      "<html><head><!--" + std::string(70000, ' ') +
+          "--><meta http-equiv='Content-Type' "
+          "content='text/html; charset=big5'></head></html>",
+      "<a encoding='gb2312'/>",
+      "",
+  };
+  for (const std::string& row : kRows) {
+    const std::u16string text(row.begin(), row.end());
+    EXPECT_EQ(declaredEncodingOfBytes(row), declaredEncoding(text)) << row.substr(0, 80);
+  }
+  EXPECT_EQ(declaredEncodingOfBytes(kRows[0]), u"big5");
+  EXPECT_EQ(declaredEncodingOfBytes(kRows[1]), u"gb2312");
+  EXPECT_EQ(declaredEncodingOfBytes(kRows[2]), u"gb2312");
+  EXPECT_EQ(declaredEncodingOfBytes(kRows[3]), u"gb2312");
+  EXPECT_EQ(declaredEncodingOfBytes(kRows[4]), u"gb2312");
+}
+
 TEST(EncodingDetection, WeighsMarksSignaturesBytesAndDeclarations) {
   const platform::CodePage ansi = platform::ansiCodePage();
   const DetectionCase kCases[] = {

@@ -86,7 +86,7 @@ TEST(Limits, AValueOfTenMillionUnits) {
 
 TEST(Limits, ADocumentOf64Megabytes) {
   constexpr std::u16string_view kLine = u"<Key id=\"0\" autocast=\"1\">20740</Key>\r\n";
-  const std::size_t count = 64 * 1024 * 1024 / sizeof(char16_t) / kLine.size();
+  const std::size_t count = (std::size_t{64} << 20U) / sizeof(char16_t) / kLine.size();
   MarkupDocument document;
   ASSERT_TRUE(document.setDoc(u"<r>" + repeated(kLine, count) + u"<last>1</last></r>"));
   ASSERT_TRUE(document.findChildElem(u"last"));
