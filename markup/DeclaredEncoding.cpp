@@ -12,22 +12,29 @@ namespace {
 
 using Kind = MarkupToken::Kind;
 
-// How many bytes of a file are searched for an XML declaration, and for the head of an HTML
-// document where there is no such declaration.
-constexpr std::size_t kDeclarationReach = 1024;
-constexpr std::size_t kHeadReach = std::size_t{64} * 1024;
+// How much of a document is searched for a declaration: the same on reading and on writing.
+constexpr std::size_t kReach = std::size_t{64} * 1024;
+
+std::u16string_view trimmed(std::u16string_view text) {
+  while (!text.empty() && isMarkupSpace(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isMarkupSpace(text.back())) text.remove_suffix(1);
+  return text;
+}
 
 std::u16string_view tokenText(std::u16string_view text, const MarkupToken& token) {
   return text.substr(token.start, token.end - token.start);
 }
 
+// People who edit a file by hand leave white space where it does not belong.
 std::u16string_view xmlEncoding(std::u16string_view text) {
+  while (!text.empty() && isMarkupSpace(text.front())) text.remove_prefix(1);
   if (!text.starts_with(u"<?xml")) return {};
   const MarkupToken token = MarkupTokenizer(text).next();
   if (token.kind != Kind::Instruction) return {};
   StartTag declaration(tokenText(text, token));
   const auto encoding = declaration.find(u"encoding");
-  return encoding && declaration.name() == u"xml" ? encoding->value : std::u16string_view();
+  const bool isDeclared = encoding && declaration.name() == u"xml";
+  return isDeclared ? trimmed(encoding->value) : std::u16string_view();
 }
 
 // The charset in a content type such as "text/html; charset=gb2312".
@@ -94,16 +101,21 @@ std::u16string widen(std::string_view bytes) {
 }  // namespace
 
 std::u16string_view declaredEncoding(std::u16string_view text) {
+  text = text.substr(0, kReach);
   const std::u16string_view encoding = xmlEncoding(text);
   return encoding.empty() ? htmlEncoding(text) : encoding;
 }
 
 std::u16string declaredEncodingOfBytes(std::string_view bytes) {
-  const std::string_view front = bytes.substr(0, kDeclarationReach);
-  const std::u16string declaration = widen(front.substr(0, front.find('>') + 1));
-  const std::u16string_view encoding = xmlEncoding(declaration);
-  if (!encoding.empty()) return std::u16string(encoding);
-  return std::u16string(htmlEncoding(widen(bytes.substr(0, kHeadReach))));
+  bytes = bytes.substr(0, kReach);
+  // Most files say it at once, so that the rest need not be looked at.
+  const std::size_t end = bytes.find("?>");
+  if (end != std::string_view::npos) {
+    const std::u16string declaration = widen(bytes.substr(0, end + 2));
+    const std::u16string_view encoding = xmlEncoding(declaration);
+    if (!encoding.empty()) return std::u16string(encoding);
+  }
+  return std::u16string(declaredEncoding(widen(bytes)));
 }
 
 }  // namespace brennet

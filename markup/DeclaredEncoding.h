@@ -7,7 +7,7 @@ namespace brennet {
 
 // The encoding that a document declares: the `encoding` of its XML declaration, or, for an HTML
 // document, the charset of the `meta` element in `head` whose `http-equiv` is "Content-Type".
-// A view into `text`; empty where none is declared.
+// A view into `text`; empty where none is declared in its first 65,536 units.
 [[nodiscard]] std::u16string_view declaredEncoding(std::u16string_view text);
 
 // The same for the bytes of a file whose encoding is not known yet. Zero bytes are skipped, so

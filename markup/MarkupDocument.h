@@ -20,7 +20,11 @@ namespace brennet {
 // The position is three elements, each of which may be missing: the parent, the main element, and
 // the child. After parsing, all are missing, and the document stands for the parent.
 //
-// Every operation may throw std::bad_alloc; the document then is as it was before the call, or,
+// An edit takes time for what stands behind it in the text and around it in the tree; adding at the
+// end, as building a document does, is quick.
+//
+// Every operation may throw std::bad_alloc or, for texts beyond the reach of std::u16string,
+// std::length_error; the document then is as it was before the call, or,
 // when that was an edit of several steps, a valid document in between. A text never grows beyond
 // 2^32 - 1 units: what would need more returns false and changes nothing.
 class MarkupDocument {
@@ -88,9 +92,10 @@ class MarkupDocument {
 
   // Adds an element behind the main element, or as the last one of the parent position when there
   // is no main element, and makes it the main position. With kChild: adds it as the last child of
-  // the main element and makes it the child position. An empty `value` gives an empty tag.
-  // Each added element gets a line of its own, unless its parent holds text of its own.
-  // Returns false for a `name` that cannot be one, and with kChild when there is no main element.
+  // the main element and makes it the child position. An empty `value` gives an empty tag, unless
+  // it is to be a CDATA section. Each added element gets a line of its own, unless its parent holds
+  // text of its own. Returns false for a `name` that cannot be one, and with kChild when there is
+  // no main element.
   bool addElem(std::u16string_view name, std::u16string_view value = {}, std::uint32_t flags = 0);
 
   // Makes the main element the parent position and the child the main position, and clears the

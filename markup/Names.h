@@ -12,7 +12,7 @@ constexpr bool isMarkupSpace(char16_t unit) {
 // Whether `unit` can stand in the name of an element or an attribute. Like the tags themselves,
 // names are read generously: only what has a meaning of its own in a tag ends a name.
 constexpr bool isNameUnit(char16_t unit) {
-  // One bit for each of the 64 units that can be no name unit; this is asked for every unit of
+  // One bit for each unit below 64, set for those that end a name; this is asked for every unit of
   // every name.
   constexpr std::uint64_t kOthers = [] {
     std::uint64_t bits = (std::uint64_t{1} << (U' ' + 1)) - 1;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <map>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "markup/ElementIndex.h"
@@ -9,7 +9,8 @@
 namespace brennet {
 
 // The elements that are open at a point of a document, by name. The parser keeps it only once a
-// document has shown an end tag out of order; then a look-up by name keeps the whole parse linear.
+// document has shown an end tag out of order; then a look-up by name keeps the parse from going
+// through all open elements each time.
 class OpenElements {
  public:
   // `name` is kept as a view.
@@ -32,7 +33,8 @@ class OpenElements {
   }
 
  private:
-  std::unordered_map<std::u16string_view, ElementNumber> innermost_;
+  // Ordered, because names that share a hash could make a hash table slow.
+  std::map<std::u16string_view, ElementNumber> innermost_;
   // For every open element, in order of opening, the one of the same name that it hides, or 0.
   std::vector<ElementNumber> hidden_;
 };

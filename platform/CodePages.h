@@ -5,8 +5,9 @@
 
 namespace brennet::platform {
 
-// A Windows code page number. The conversions are kernel32's on Windows and ICU's converters of
-// the same tables elsewhere, so that a file reads alike on both.
+// A Windows code page number. The conversions are kernel32's on Windows and ICU's converters
+// elsewhere: of the same table for code page 936, which the settings are written in, and of the
+// nearest one for others. Some rare code pages are supported on one system only.
 using CodePage = unsigned;
 
 inline constexpr CodePage kGb2312 = 936;

@@ -4,6 +4,7 @@
 #include <array>
 #include <map>
 #include <memory>
+#include <new>
 #include <string>
 
 #include "platform/CodePages.h"
@@ -76,6 +77,8 @@ using ConverterHandle = std::unique_ptr<UConverter, CloseConverter>;
 ConverterHandle openNamed(const std::string& name) {
   UErrorCode error = U_ZERO_ERROR;
   ConverterHandle converter(ucnv_open(name.c_str(), &error));
+  // Not to be taken for a code page that does not exist.
+  if (error == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
   return U_SUCCESS(error) ? std::move(converter) : nullptr;
 }
 

@@ -1,7 +1,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 
@@ -53,10 +52,10 @@ bool isWritable(void* address, std::size_t size) {
   static ProbePipe pipe;
   if (!pipe.isOpen()) return false;
   const auto pageSize = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
-  const std::uintptr_t last = first + (size - 1);
-  for (std::uintptr_t page = first / pageSize; page <= last / pageSize; ++page) {
-    const std::uintptr_t probe = std::max(first, page * pageSize);
-    if (!pipe.roundTrip(reinterpret_cast<void*>(probe))) return false;
+  auto* const bytes = static_cast<char*>(address);
+  // The first byte, then the first one of every further page.
+  for (std::size_t at = 0; at < size; at += pageSize - (first + at) % pageSize) {
+    if (!pipe.roundTrip(bytes + at)) return false;
   }
   return true;
 }

@@ -3,30 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <new>
-
+#include "tests/host/FailingNew.h"
 #include "tests/host/HostFixture.h"
-
-namespace {
-
-// The number of allocations until the one that fails; negative: none fails.
-long allocationsUntilFailure = -1;
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  if (allocationsUntilFailure >= 0 && allocationsUntilFailure-- == 0) throw std::bad_alloc();
-  void* memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
 
 namespace brennet {
 namespace {
