@@ -56,7 +56,8 @@ class IBrennet {
   virtual std::uint8_t BRENNET_CALL GetDisableLWinFlag() = 0;
 
   // Slot 5. The save time that the last load found in the file; 0 before any load and after a
-  // failed one. Saving does not change it. The library never reads a clock: the value is the host's own.
+  // failed one. Saving does not change it. The library never reads a clock: the value is the
+  // host's own.
   virtual std::uint32_t BRENNET_CALL GetLastSaveTime() = 0;
 
   // Slot 6. Switches the whole feature on or off and saves with `saveTime`.

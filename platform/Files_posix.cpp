@@ -162,21 +162,22 @@ struct Replacement {
   std::error_code error;
 };
 
-// Fills the open temporary file and puts it in the place of `path`. Throws nothing once the new
-// file is there.
+// Fills the open temporary file and puts it in the place of `path`.
+Replacement putInPlace(const std::string& temporary, OpenFile& file, const std::string& path,
+                       const Target& target, std::string_view bytes) {
+  if (target.status && !takeOver(file.get(), *target.status)) return {Outcome::NotReplaceable, {}};
+  if (const std::error_code error = finish(file, bytes)) return {Outcome::Failed, error};
+  const bool isThere = std::rename(temporary.c_str(), path.c_str()) == 0;
+  return {isThere ? Outcome::Replaced : Outcome::NotReplaceable, {}};
+}
+
+// The same, leaving no temporary file. Throws nothing once the new file is there.
 Replacement replaceThrough(const std::string& temporary, OpenFile& file, const std::string& path,
                            const Target& target, std::string_view bytes) {
   // Flushed in the end, so that the new name is on the disk too. Not every file system can; the
   // file's content is safe either way.
   const OpenFile folder(folderOf(path), O_RDONLY | O_DIRECTORY);
-  Replacement result{Outcome::Replaced, {}};
-  if (target.status && !takeOver(file.get(), *target.status)) {
-    result.outcome = Outcome::NotReplaceable;
-  } else if ((result.error = finish(file, bytes))) {
-    result.outcome = Outcome::Failed;
-  } else if (std::rename(temporary.c_str(), path.c_str()) != 0) {
-    result.outcome = Outcome::NotReplaceable;
-  }
+  const Replacement result = putInPlace(temporary, file, path, target, bytes);
   if (result.outcome != Outcome::Replaced) {
     unlink(temporary.c_str());
   } else if (folder.isOpen()) {

@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "gameside/War3PrefsFile.h"
+#include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet {

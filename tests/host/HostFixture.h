@@ -7,6 +7,7 @@
 
 #include "host/CBrennetImpl.h"
 #include "model/HotkeyBlock.h"
+#include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::test {

@@ -8,6 +8,7 @@
 
 #include "host/IBrennet.h"
 #include "model/HotkeyBlock.h"
+#include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet {

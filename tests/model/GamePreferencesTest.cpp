@@ -5,6 +5,7 @@
 #include <string>
 
 #include "tests/model/Keys.h"
+#include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet {

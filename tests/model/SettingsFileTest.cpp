@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <functional>
 #include <string>
@@ -7,6 +6,7 @@
 #include "markup/MarkupDocument.h"
 #include "model/HotkeyConfig.h"
 #include "tests/model/Keys.h"
+#include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet {

@@ -1,7 +1,5 @@
 #include "tests/support/TempFolder.h"
 
-#include <stdlib.h>
-
 #include <algorithm>
 #include <atomic>
 #include <fstream>
@@ -47,16 +45,6 @@ void writeBytes(const fs::path& path, std::string_view bytes) {
   std::ofstream file(path, std::ios::binary);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   if (!file.flush()) throw std::runtime_error("cannot write " + path.string());
-}
-
-ScopedProfile::ScopedProfile(const fs::path& folder) {
-  const char* home = std::getenv("HOME");
-  before_ = home != nullptr ? home : "";
-  setenv("HOME", folder.c_str(), 1);
-}
-
-ScopedProfile::~ScopedProfile() {
-  setenv("HOME", before_.c_str(), 1);
 }
 
 }  // namespace brennet::test

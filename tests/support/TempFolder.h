@@ -30,16 +30,4 @@ class TempFolder {
 std::string readBytes(const std::filesystem::path& path);
 void writeBytes(const std::filesystem::path& path, std::string_view bytes);
 
-// A profile folder for the time of a test, so that nobody's real preference file is touched.
-class ScopedProfile {
- public:
-  explicit ScopedProfile(const std::filesystem::path& folder);
-  ~ScopedProfile();
-  ScopedProfile(const ScopedProfile&) = delete;
-  ScopedProfile& operator=(const ScopedProfile&) = delete;
-
- private:
-  std::string before_;
-};
-
 }  // namespace brennet::test
