@@ -5,7 +5,7 @@ FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run test asan bench fuzz format lint clean
+.PHONY: help run test asan bench bench-build fuzz format lint clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 16
@@ -28,10 +28,12 @@ asan: ## the same under the address and undefined-behaviour sanitizers
 	@cmake --build --preset asan -j $(JOBS)
 	@ctest --preset asan -j $(JOBS)
 
-bench: ## measure against other libraries (BENCH_ARGS="--benchmark_filter=setDoc")
+bench-build:
 	@tools/setup.sh build bench
 	@cmake --preset bench
 	@cmake --build --preset bench -j $(JOBS)
+
+bench: bench-build ## measure against other libraries (BENCH_ARGS="--benchmark_filter=setDoc")
 	@tools/bench.sh build/bench
 
 fuzz: ## run each fuzz target for FUZZ_SECONDS (60)

@@ -10,10 +10,6 @@
 
 namespace brennet::bench {
 
-std::size_t allocationCount() {
-  return allocations;
-}
-
 namespace {
 
 // A key that nothing has: every question has to look at everything.
