@@ -158,125 +158,126 @@ std::string key(int id, int value) {
   return "<Key id=\"" + std::to_string(id) + "\">" + std::to_string(value) + "</Key>";
 }
 
+// What is inside a scheme, and what a load makes of the defaults.
+const SchemeRow kSchemeRows[] = {
+    {"nothing", "", [](HotkeyScheme&) {}},
+    {"zoom", "<ZoomValue>130</ZoomValue>", [](HotkeyScheme& s) { s.ZoomValue = 130; }},
+    {"zoom, low byte", "<ZoomValue>300</ZoomValue>", [](HotkeyScheme& s) { s.ZoomValue = 44; }},
+    {"zoom, empty", "<ZoomValue></ZoomValue>", [](HotkeyScheme&) {}},
+    {"switch on", "<HideUI>1</HideUI>", [](HotkeyScheme& s) { s.HideUI = 1; }},
+    {"switch 2", "<LockMouseFlag>2</LockMouseFlag>", [](HotkeyScheme&) {}},
+    {"hero skills",
+     "<HeroSkillKey><Key id=\"0\" autocast=\"1\">20736</Key>"
+     "<Key id=\"11\" autocast=\"0\">22276</Key></HeroSkillKey>",
+     [](HotkeyScheme& s) {
+       s.HeroSkillKey[0] = kQ, s.HeroSkillAutocast[0] = true;
+       s.HeroSkillKey[11] = kAltW, s.HeroSkillAutocast[11] = false;
+     }},
+    {"Shift is cleared", "<HeroSkillKey>" + key(0, 20737) + "</HeroSkillKey>",
+     [](HotkeyScheme& s) { s.HeroSkillKey[0] = kQ; }},
+    {"ids out of range",
+     "<HeroSkillKey>" + key(12, 20736) + key(-1, 20736) + "<Key>20736</Key>" +
+         "<Key id=\"\">20736</Key></HeroSkillKey><MouseKey>" + key(3, 20736) +
+         "</MouseKey><ItemKey>" + key(0, 20736) + key(102, 20736) + "</ItemKey>" +
+         "<SecretaryKey>" + key(3, 20736) + "</SecretaryKey><HotKey><Key id=\"6\">" +
+         "<Src>20736</Src><Dest>20736</Dest></Key></HotKey><QuickChat><Chat id=\"8\">x</Chat>" +
+         "<Chat>x</Chat></QuickChat>",
+     [](HotkeyScheme&) {}},
+    {"a mark with an empty key", "<ItemKey><Key id=\"98\" autocast=\"7\"></Key></ItemKey>",
+     [](HotkeyScheme& s) { s.ItemAutocast[5] = true; }},
+    {"the first of two equal keys wins",
+     "<HeroSkillKey>" + key(3, 20736) + key(1, 20736) + "</HeroSkillKey>",
+     [](HotkeyScheme& s) { s.HeroSkillKey[3] = kQ; }},
+    {"hero skills before mouse before items",
+     "<ItemKey>" + key(103, 20736) + "</ItemKey><HeroSkillKey/><MouseKey/>",
+     [](HotkeyScheme& s) { s.ItemKey[0] = kQ; }},
+    {"forbidden keys",
+     "<HeroSkillKey>" + key(0, 0x0D00) + key(1, 0x0800) + key(2, 0x2E00) + key(3, 65280) +
+         "</HeroSkillKey>",
+     [](HotkeyScheme&) {}},
+    {"a key of the default quick-chat set", "<SecretaryKey>" + key(0, 0x7004) + "</SecretaryKey>",
+     [](HotkeyScheme&) {}},
+    {"a refused key replaces an accepted one",
+     "<HeroSkillKey>" + key(0, 20736) + key(1, 22272) + key(1, 20736) + "</HeroSkillKey>",
+     [](HotkeyScheme& s) { s.HeroSkillKey[0] = kQ; }},
+    {"remaps",
+     "<HotKey><Key id=\"0\"><Src>20736</Src><Dest>22272</Dest></Key>"
+     "<Key id=\"1\"><Dest>17664</Dest><Src>20736</Src></Key>"
+     "<Key id=\"2\"><Src>20736</Src></Key><Key id=\"3\"><Src/><Dest>20992</Dest></Key>"
+     "<Key id=\"4\"><Src>20736</Src><Dest>22272</Dest></Key>"
+     "<Key id=\"5\"><Src>20736</Src><Dest>65280</Dest></Key></HotKey>",
+     [](HotkeyScheme& s) {
+       s.HotKey[0] = {kQ, kW}, s.HotKey[1] = {kQ, kE}, s.HotKey[5] = {kQ, kNoKey};
+     }},
+    {"a combination", "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey>",
+     [](HotkeyScheme& s) {
+       s.ComboKey = {kQ, kNoKey, kNoKey, kR};
+     }},
+    {"the later combination wins",
+     "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey>"
+     "<ComboKey3to1><Key_A>22272</Key_A><Key_D>20992</Key_D></ComboKey3to1>",
+     [](HotkeyScheme& s) {
+       s.ComboKey = {kW, kNoKey, kNoKey, kR};
+     }},
+    {"an empty later combination says nothing",
+     "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey><ComboKey3to1/>",
+     [](HotkeyScheme& s) {
+       s.ComboKey = {kQ, kNoKey, kNoKey, kR};
+     }},
+    {"a later combination that is refused clears all four",
+     "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey>"
+     "<ComboKey3to1><Key_A>22272</Key_A><Key_B>17664</Key_B><Key_D>17664</Key_D></ComboKey3to1>",
+     [](HotkeyScheme&) {}},
+    {"a refused combination clears all four",
+     "<HeroSkillKey>" + key(0, 20992) +
+         "</HeroSkillKey>"
+         "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey>",
+     [](HotkeyScheme& s) { s.HeroSkillKey[0] = kR; }},
+    {"a preset", "<NumComboKeyIndex>2</NumComboKeyIndex>",
+     [](HotkeyScheme& s) { s.NumComboKeyIndex = 2; }},
+    {"a preset that is none", "<NumComboKeyIndex>3</NumComboKeyIndex>", [](HotkeyScheme&) {}},
+    {"a preset whose keys are taken",
+     "<HeroSkillKey>" + key(0, 20740) + "</HeroSkillKey><NumComboKeyIndex>0</NumComboKeyIndex>",
+     [](HotkeyScheme& s) { s.HeroSkillKey[0] = kAltQ; }},
+    {"single keys are refused by a preset read before",
+     "<NumComboKeyIndex>0</NumComboKeyIndex><ShowFBlood>20740</ShowFBlood>",
+     [](HotkeyScheme& s) { s.NumComboKeyIndex = 0; }},
+    {"single keys",
+     "<ShowFBlood>20736</ShowFBlood><ShowEBlood>22272</ShowEBlood><WinLockMouse>17664"
+     "</WinLockMouse><QuickChatKey>20992</QuickChatKey><ChatWheelkey>20738</ChatWheelkey>"
+     "<HotkeyContrl>22276</HotkeyContrl>",
+     [](HotkeyScheme& s) {
+       s.ShowFBlood = kQ, s.ShowEBlood = kW, s.WinLockMouse = kE, s.QuickChatKey = kR;
+       s.ChatWheelkey = kCtrlQ, s.HotkeyContrl = kAltW;
+     }},
+    {"the chat wheel key wins over the on-off key",
+     "<HotkeyContrl>20736</HotkeyContrl>"
+     "<ChatWheelkey>20736</ChatWheelkey>",
+     [](HotkeyScheme& s) { s.ChatWheelkey = kQ; }},
+    {"the quick-chat set", "<QuickChatIndex>0</QuickChatIndex>",
+     [](HotkeyScheme& s) { s.QuickChatIndex = 0; }},
+    {"a quick-chat set that is none", "<QuickChatIndex>-1</QuickChatIndex>", [](HotkeyScheme&) {}},
+    {"phrases",
+     "<QuickChat><Chat id=\"0\">\xD0\xBB\xD0\xBB</Chat><Chat id=\"7\">a&lt;b</Chat></QuickChat>"
+     "<ChatWheel><Chat id=\"1\"></Chat></ChatWheel>",
+     [](HotkeyScheme& s) {
+       s.QuickChat[0] = u"\u8C22\u8C22", s.QuickChat[7] = u"a<b", s.ChatWheel[1] = u"";
+     }},
+    {"a long phrase", "<ChatWheel><Chat id=\"0\">" + std::string(43, 'a') + "</Chat></ChatWheel>",
+     [](HotkeyScheme& s) { s.ChatWheel[0] = std::u16string(42, u'a'); }},
+    {"settings in any order", "<HideUI>1</HideUI><ZoomValue>90</ZoomValue>",
+     [](HotkeyScheme& s) { s.HideUI = 1, s.ZoomValue = 90; }},
+    {"hero skills in front of the zoom value are not found",
+     "<HeroSkillKey>" + key(0, 20736) + "</HeroSkillKey><ZoomValue>90</ZoomValue>",
+     [](HotkeyScheme& s) { s.ZoomValue = 90; }},
+    {"keys that are no numbers", "<HeroSkillKey><Key id=\"0\">Q</Key></HeroSkillKey>",
+     [](HotkeyScheme& s) { s.HeroSkillKey[0] = KeyWord(0); }},
+    {"a key beyond 16 bits", "<ShowFBlood>86272</ShowFBlood>",
+     [](HotkeyScheme& s) { s.ShowFBlood = kQ; }},
+};
+
 TEST_F(SettingsFile, ReadsEverySettingOfAScheme) {
-  const SchemeRow kRows[] = {
-      {"nothing", "", [](HotkeyScheme&) {}},
-      {"zoom", "<ZoomValue>130</ZoomValue>", [](HotkeyScheme& s) { s.ZoomValue = 130; }},
-      {"zoom, low byte", "<ZoomValue>300</ZoomValue>", [](HotkeyScheme& s) { s.ZoomValue = 44; }},
-      {"zoom, empty", "<ZoomValue></ZoomValue>", [](HotkeyScheme&) {}},
-      {"switch on", "<HideUI>1</HideUI>", [](HotkeyScheme& s) { s.HideUI = 1; }},
-      {"switch 2", "<LockMouseFlag>2</LockMouseFlag>", [](HotkeyScheme&) {}},
-      {"hero skills",
-       "<HeroSkillKey><Key id=\"0\" autocast=\"1\">20736</Key>"
-       "<Key id=\"11\" autocast=\"0\">22276</Key></HeroSkillKey>",
-       [](HotkeyScheme& s) {
-         s.HeroSkillKey[0] = kQ, s.HeroSkillAutocast[0] = true;
-         s.HeroSkillKey[11] = kAltW, s.HeroSkillAutocast[11] = false;
-       }},
-      {"Shift is cleared", "<HeroSkillKey>" + key(0, 20737) + "</HeroSkillKey>",
-       [](HotkeyScheme& s) { s.HeroSkillKey[0] = kQ; }},
-      {"ids out of range",
-       "<HeroSkillKey>" + key(12, 20736) + key(-1, 20736) + "<Key>20736</Key>" +
-           "<Key id=\"\">20736</Key></HeroSkillKey><MouseKey>" + key(3, 20736) +
-           "</MouseKey><ItemKey>" + key(0, 20736) + key(102, 20736) + "</ItemKey>" +
-           "<SecretaryKey>" + key(3, 20736) + "</SecretaryKey><HotKey><Key id=\"6\">" +
-           "<Src>20736</Src><Dest>20736</Dest></Key></HotKey><QuickChat><Chat id=\"8\">x</Chat>" +
-           "<Chat>x</Chat></QuickChat>",
-       [](HotkeyScheme&) {}},
-      {"a mark with an empty key", "<ItemKey><Key id=\"98\" autocast=\"7\"></Key></ItemKey>",
-       [](HotkeyScheme& s) { s.ItemAutocast[5] = true; }},
-      {"the first of two equal keys wins",
-       "<HeroSkillKey>" + key(3, 20736) + key(1, 20736) + "</HeroSkillKey>",
-       [](HotkeyScheme& s) { s.HeroSkillKey[3] = kQ; }},
-      {"hero skills before mouse before items",
-       "<ItemKey>" + key(103, 20736) + "</ItemKey><HeroSkillKey/><MouseKey/>",
-       [](HotkeyScheme& s) { s.ItemKey[0] = kQ; }},
-      {"forbidden keys",
-       "<HeroSkillKey>" + key(0, 0x0D00) + key(1, 0x0800) + key(2, 0x2E00) + key(3, 65280) +
-           "</HeroSkillKey>",
-       [](HotkeyScheme&) {}},
-      {"a key of the default quick-chat set", "<SecretaryKey>" + key(0, 0x7004) + "</SecretaryKey>",
-       [](HotkeyScheme&) {}},
-      {"a refused key replaces an accepted one",
-       "<HeroSkillKey>" + key(0, 20736) + key(1, 22272) + key(1, 20736) + "</HeroSkillKey>",
-       [](HotkeyScheme& s) { s.HeroSkillKey[0] = kQ; }},
-      {"remaps",
-       "<HotKey><Key id=\"0\"><Src>20736</Src><Dest>22272</Dest></Key>"
-       "<Key id=\"1\"><Dest>17664</Dest><Src>20736</Src></Key>"
-       "<Key id=\"2\"><Src>20736</Src></Key><Key id=\"3\"><Src/><Dest>20992</Dest></Key>"
-       "<Key id=\"4\"><Src>20736</Src><Dest>22272</Dest></Key>"
-       "<Key id=\"5\"><Src>20736</Src><Dest>65280</Dest></Key></HotKey>",
-       [](HotkeyScheme& s) {
-         s.HotKey[0] = {kQ, kW}, s.HotKey[1] = {kQ, kE}, s.HotKey[5] = {kQ, kNoKey};
-       }},
-      {"a combination", "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey>",
-       [](HotkeyScheme& s) {
-         s.ComboKey = {kQ, kNoKey, kNoKey, kR};
-       }},
-      {"the later combination wins",
-       "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey>"
-       "<ComboKey3to1><Key_A>22272</Key_A><Key_D>20992</Key_D></ComboKey3to1>",
-       [](HotkeyScheme& s) {
-         s.ComboKey = {kW, kNoKey, kNoKey, kR};
-       }},
-      {"an empty later combination says nothing",
-       "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey><ComboKey3to1/>",
-       [](HotkeyScheme& s) {
-         s.ComboKey = {kQ, kNoKey, kNoKey, kR};
-       }},
-      {"a later combination that is refused clears all four",
-       "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey>"
-       "<ComboKey3to1><Key_A>22272</Key_A><Key_B>17664</Key_B><Key_D>17664</Key_D></ComboKey3to1>",
-       [](HotkeyScheme&) {}},
-      {"a refused combination clears all four",
-       "<HeroSkillKey>" + key(0, 20992) +
-           "</HeroSkillKey>"
-           "<ComboKey><Key_A>20736</Key_A><Key_D>20992</Key_D></ComboKey>",
-       [](HotkeyScheme& s) { s.HeroSkillKey[0] = kR; }},
-      {"a preset", "<NumComboKeyIndex>2</NumComboKeyIndex>",
-       [](HotkeyScheme& s) { s.NumComboKeyIndex = 2; }},
-      {"a preset that is none", "<NumComboKeyIndex>3</NumComboKeyIndex>", [](HotkeyScheme&) {}},
-      {"a preset whose keys are taken",
-       "<HeroSkillKey>" + key(0, 20740) + "</HeroSkillKey><NumComboKeyIndex>0</NumComboKeyIndex>",
-       [](HotkeyScheme& s) { s.HeroSkillKey[0] = kAltQ; }},
-      {"single keys are refused by a preset read before",
-       "<NumComboKeyIndex>0</NumComboKeyIndex><ShowFBlood>20740</ShowFBlood>",
-       [](HotkeyScheme& s) { s.NumComboKeyIndex = 0; }},
-      {"single keys",
-       "<ShowFBlood>20736</ShowFBlood><ShowEBlood>22272</ShowEBlood><WinLockMouse>17664"
-       "</WinLockMouse><QuickChatKey>20992</QuickChatKey><ChatWheelkey>20738</ChatWheelkey>"
-       "<HotkeyContrl>22276</HotkeyContrl>",
-       [](HotkeyScheme& s) {
-         s.ShowFBlood = kQ, s.ShowEBlood = kW, s.WinLockMouse = kE, s.QuickChatKey = kR;
-         s.ChatWheelkey = kCtrlQ, s.HotkeyContrl = kAltW;
-       }},
-      {"the chat wheel key wins over the on-off key",
-       "<HotkeyContrl>20736</HotkeyContrl>"
-       "<ChatWheelkey>20736</ChatWheelkey>",
-       [](HotkeyScheme& s) { s.ChatWheelkey = kQ; }},
-      {"the quick-chat set", "<QuickChatIndex>0</QuickChatIndex>",
-       [](HotkeyScheme& s) { s.QuickChatIndex = 0; }},
-      {"a quick-chat set that is none", "<QuickChatIndex>-1</QuickChatIndex>",
-       [](HotkeyScheme&) {}},
-      {"phrases",
-       "<QuickChat><Chat id=\"0\">\xD0\xBB\xD0\xBB</Chat><Chat id=\"7\">a&lt;b</Chat></QuickChat>"
-       "<ChatWheel><Chat id=\"1\"></Chat></ChatWheel>",
-       [](HotkeyScheme& s) {
-         s.QuickChat[0] = u"\u8C22\u8C22", s.QuickChat[7] = u"a<b", s.ChatWheel[1] = u"";
-       }},
-      {"a long phrase", "<ChatWheel><Chat id=\"0\">" + std::string(43, 'a') + "</Chat></ChatWheel>",
-       [](HotkeyScheme& s) { s.ChatWheel[0] = std::u16string(42, u'a'); }},
-      {"settings in any order", "<HideUI>1</HideUI><ZoomValue>90</ZoomValue>",
-       [](HotkeyScheme& s) { s.HideUI = 1, s.ZoomValue = 90; }},
-      {"hero skills in front of the zoom value are not found",
-       "<HeroSkillKey>" + key(0, 20736) + "</HeroSkillKey><ZoomValue>90</ZoomValue>",
-       [](HotkeyScheme& s) { s.ZoomValue = 90; }},
-      {"keys that are no numbers", "<HeroSkillKey><Key id=\"0\">Q</Key></HeroSkillKey>",
-       [](HotkeyScheme& s) { s.HeroSkillKey[0] = KeyWord(0); }},
-      {"a key beyond 16 bits", "<ShowFBlood>86272</ShowFBlood>",
-       [](HotkeyScheme& s) { s.ShowFBlood = kQ; }},
-  };
-  for (const SchemeRow& row : kRows) {
+  for (const SchemeRow& row : kSchemeRows) {
     HotkeyConfig config;
     HotkeyScheme expected;
     row.expect(expected);
