@@ -13,11 +13,12 @@ namespace brennet {
 // Warcraft III's own preference file, read to have its hotkey sections replaced.
 //
 // Reading drops the game's hotkey sections and every line that is neither a section header nor a
-// "key=value" pair; all other sections stay, byte for byte and in their order. Writing puts the
-// hotkey sections that were added first and the plain sections behind them.
+// "key=value" pair, and pairs before the first header; all other sections stay in their order,
+// their headers and pairs byte for byte. Writing puts the hotkey sections that were added first and
+// the plain sections behind them.
 //
-// No operation throws or shows anything: what cannot be read is an empty file, what cannot be
-// written stays as it is. Texts are bytes; the game's encoding does not matter here.
+// Nothing is thrown but std::bad_alloc, and nothing is shown: what cannot be read is an empty file,
+// what cannot be written stays as it is. Texts are bytes; the game's encoding does not matter here.
 class War3PrefsFile {
  public:
   // A section while its lines are being read. `pairs` holds "key=value" lines, each closed by LF.
@@ -67,7 +68,7 @@ class War3PrefsFile {
   std::optional<std::string> fileBytes_;
   std::vector<War3HotkeySection> hotkeySections_;
   // The plain sections as they are written: header, pairs, blank line, each closed by LF. One text
-  // takes no more memory than the file; a list of millions of tiny sections would take dozens of
+  // takes about the memory of the file; a list of millions of tiny sections would take dozens of
   // times as much, in a process of 2 GB that belongs to the host.
   std::string plainText_;
 };
