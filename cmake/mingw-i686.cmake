@@ -10,11 +10,15 @@ set(CMAKE_RC_COMPILER i686-w64-mingw32-windres)
 set(CMAKE_CXX_FLAGS_INIT "-msse2 -mfpmath=sse")
 add_compile_definitions(UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 
-set(CMAKE_FIND_ROOT_PATH /usr/i686-w64-mingw32)
+# The Qt for the target, as tools/windows/qt.sh builds it.
+set(BRENNET_QT_DIR "" CACHE PATH "The folder of Qt for 32-bit Windows")
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES BRENNET_QT_DIR)
+
+set(CMAKE_FIND_ROOT_PATH ${BRENNET_QT_DIR} /usr/i686-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# Test programs are asked for their tests when they run, not while they are built.
-set(CMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE PRE_TEST)
+# Programs for the target run under Wine, tests among them.
+set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../tools/windows/run.sh")

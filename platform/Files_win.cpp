@@ -87,88 +87,129 @@ DWORD moveTo(const std::wstring& from, const std::wstring& to) {
   return retried([&] { return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH); });
 }
 
-// Puts `temporary` in the place of `path`, which is there. ReplaceFileW keeps the attributes and
-// rights of the old file. Where it fails half-way, one of the two names is gone for the moment:
-// what is left is put right, so that `path` is the old or the new file in the end.
-DWORD replaceExisting(const std::wstring& temporary, const std::wstring& path,
-                      const std::wstring& backup) {
+// The names beside a file under which its new and its old content stand while it is replaced.
+struct BesideNames {
+  std::wstring temporary;
+  std::wstring backup;
+};
+
+BesideNames besideNames(const std::wstring& path, int number) {
+  const std::wstring stem =
+      path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(number);
+  return {stem + L".tmp", stem + L".old"};
+}
+
+// Puts the temporary file in the place of `path`, which is there. ReplaceFileW keeps the
+// attributes and rights of the old file. It can fail half-way; its documentation tells the three
+// states in which it leaves the files then, and in the end `path` is the old or the new file.
+DWORD replaceExisting(const BesideNames& names, const std::wstring& path) {
   DWORD error = retried([&] {
-    return ReplaceFileW(path.c_str(), temporary.c_str(), backup.c_str(),
+    return ReplaceFileW(path.c_str(), names.temporary.c_str(), names.backup.c_str(),
                         REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr);
   });
   switch (error) {
-    case 0:
-      break;
     case ERROR_UNABLE_TO_MOVE_REPLACEMENT_2:
       // The old file has the backup's name, the new one its temporary name.
-      error = moveTo(temporary, path);
-      if (error != 0) moveTo(backup, path);
+      error = moveTo(names.temporary, path);
+      if (error != 0) moveTo(names.backup, path);
       break;
-    case ERROR_UNABLE_TO_MOVE_REPLACEMENT:
     case ERROR_UNABLE_TO_REMOVE_REPLACED:
+    case ERROR_UNABLE_TO_MOVE_REPLACEMENT:
     default:
       break;  // both files have the names they had
   }
-  if (PathFileExistsW(path.c_str()) != FALSE) DeleteFileW(backup.c_str());
+  // The last copy of the old content is not thrown away.
+  if (PathFileExistsW(path.c_str()) != FALSE) DeleteFileW(names.backup.c_str());
   return error;
 }
 
-std::error_code writeThrough(const std::wstring& temporary, const std::wstring& backup,
-                             OpenFile& file, const std::wstring& path, bool exists,
-                             std::string_view bytes) {
-  std::error_code error = finish(file, bytes);
-  if (!error) {
-    const DWORD code = exists ? replaceExisting(temporary, path, backup) : moveTo(temporary, path);
-    if (code != 0) error = errorOf(code);
+enum class Outcome { Replaced, Failed, NotReplaceable };
+
+struct Replacement {
+  Outcome outcome;
+  std::error_code error;
+};
+
+// Fills the open temporary file and gives it the place of `path`; leaves no temporary file.
+Replacement replaceThrough(const BesideNames& names, OpenFile& file, const std::wstring& path,
+                           bool exists, std::string_view bytes) {
+  Replacement result{Outcome::Replaced, finish(file, bytes)};
+  if (result.error) {
+    result.outcome = Outcome::Failed;
+  } else if ((exists ? replaceExisting(names, path) : moveTo(names.temporary, path)) != 0) {
+    result.outcome = Outcome::NotReplaceable;
   }
-  if (error) {
+  if (result.outcome != Outcome::Replaced) {
     static_cast<void>(file.closeNow());
-    DeleteFileW(temporary.c_str());
+    DeleteFileW(names.temporary.c_str());
   }
+  return result;
+}
+
+// Makes `size` bytes the length of an open file and stands at its start.
+std::error_code resize(HANDLE file, std::size_t size) {
+  LARGE_INTEGER end{};
+  end.QuadPart = static_cast<LONGLONG>(size);
+  if (SetFilePointerEx(file, end, nullptr, FILE_BEGIN) == FALSE) return lastError();
+  if (SetEndOfFile(file) == FALSE) return lastError();
+  return SetFilePointerEx(file, LARGE_INTEGER{}, nullptr, FILE_BEGIN) != FALSE ? std::error_code()
+                                                                               : lastError();
+}
+
+// Writes `bytes` over `oldSize` bytes of content. A file that grows gets its room first, before a
+// byte of the old content is touched; one that shrinks is cut last.
+std::error_code overwrite(HANDLE file, std::string_view bytes, std::size_t oldSize) {
+  std::error_code error = resize(file, std::max(bytes.size(), oldSize));
+  if (!error) error = writeAll(file, bytes);
+  if (!error) error = resize(file, bytes.size());
+  if (!error && FlushFileBuffers(file) == FALSE) error = lastError();
   return error;
 }
 
-std::error_code overwrite(const std::wstring& path, std::string_view bytes) {
-  OpenFile file(path, GENERIC_WRITE, 0, CREATE_ALWAYS);
-  return file.isOpen() ? finish(file, bytes) : lastError();
-}
-
+// For files that cannot be replaced. The old content is kept at hand and written back if the new
+// one cannot be written.
 std::error_code writeInPlace(const std::wstring& path, std::string_view bytes, bool exists) {
   std::string old;
   if (exists) {
-    if (const std::error_code error = readFile(path, old)) return error;
+    const std::error_code error = readFile(path, old);
+    // A file that may be written but not read has to do without.
+    if (error && error != errorOf(ERROR_ACCESS_DENIED)) return error;
   }
-  const std::error_code error = overwrite(path, bytes);
-  if (error) {
-    if (exists) {
-      static_cast<void>(overwrite(path, old));
-    } else {
-      DeleteFileW(path.c_str());
-    }
+  OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, exists ? OPEN_EXISTING : CREATE_NEW);
+  if (!file.isOpen()) return lastError();
+  const std::error_code error = overwrite(file.get(), bytes, old.size());
+  if (!error) return file.closeNow();
+  if (exists) {
+    static_cast<void>(overwrite(file.get(), old, bytes.size()));
+  } else {
+    static_cast<void>(file.closeNow());
+    DeleteFileW(path.c_str());
   }
   return error;
 }
 
-// Whether a file can be written at `path`, and whether one is there.
+// Whether a file can be written at `path`, and what is there.
 struct Target {
-  DWORD error = 0;
+  DWORD error;  // it cannot be written; 0: it can
   bool exists = false;
+  bool isLink = false;
 };
 
 Target inspect(const std::wstring& path) {
-  Target target;
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  const bool isKnown = attributes != INVALID_FILE_ATTRIBUTES;
+  // What is marked so stays so for longer than the retries last.
+  if (isKnown && (attributes & FILE_ATTRIBUTE_READONLY) != 0) return {ERROR_ACCESS_DENIED};
   const DWORD error = retried([&] {
     const OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
-    return file.isOpen() ? TRUE : FALSE;
+    if (!file.isOpen()) return FALSE;
+    if (GetFileType(file.get()) == FILE_TYPE_DISK) return TRUE;
+    SetLastError(ERROR_INVALID_HANDLE);
+    return FALSE;
   });
-  target.exists = error == 0;
-  if (error != ERROR_FILE_NOT_FOUND) target.error = error;
-  return target;
-}
-
-std::wstring besideName(const std::wstring& path, int number, const wchar_t* ending) {
-  return path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(number) +
-         ending;
+  if (error == ERROR_FILE_NOT_FOUND) return {0};
+  if (error != 0) return {error};
+  return {0, true, isKnown && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0};
 }
 
 }  // namespace
@@ -206,12 +247,14 @@ std::error_code replaceFile(const Path& name, std::string_view bytes) {
   const std::wstring& path = name.native();
   const Target target = inspect(path);
   if (target.error != 0) return errorOf(target.error);
-  for (int number = 0; number < kTemporaryNames; ++number) {
-    const std::wstring temporary = besideName(path, number, L".tmp");
-    OpenFile file(temporary, GENERIC_WRITE, 0, CREATE_NEW);
+
+  for (int number = 0; number < kTemporaryNames && !target.isLink; ++number) {
+    const BesideNames names = besideNames(path, number);
+    OpenFile file(names.temporary, GENERIC_WRITE, 0, CREATE_NEW);
     if (file.isOpen()) {
-      const std::wstring backup = besideName(path, number, L".old");
-      return writeThrough(temporary, backup, file, path, target.exists, bytes);
+      const Replacement result = replaceThrough(names, file, path, target.exists, bytes);
+      if (result.outcome != Outcome::NotReplaceable) return result.error;
+      break;
     }
     if (GetLastError() != ERROR_FILE_EXISTS) break;
   }

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the given needs take, as far as it is missing: tools/setup.sh build test ...
 #
-# Needs: build, test, bench, fuzz, lint. On Debian and its relatives packages are looked up with
+# Needs: build, test, bench, fuzz, lint, windows, wine. On Debian and its relatives packages are looked up with
 # dpkg and installed with apt-get, as root or where sudo asks for no password; otherwise the line
 # to run is printed and the exit status is 1. On other systems only the commands are checked.
 set -euo pipefail
@@ -13,6 +13,9 @@ declare -A packages=(
            libxml2-dev python3"
   [fuzz]="clang libclang-rt-14-dev"
   [lint]="clang-format clang-tidy"
+  [windows]="cmake ninja-build pkg-config g++ make xz-utils g++-mingw-w64-i686-posix googletest
+             clang lld llvm zip unzip python3"
+  [wine]="mmdebstrap arch-test"
 )
 # shellcheck disable=SC2034  # read through the name reference of words_of
 declare -A commands=(
@@ -21,10 +24,12 @@ declare -A commands=(
   [bench]="python3"
   [fuzz]="clang++"
   [lint]="clang-format clang-tidy"
+  [windows]="cmake ninja make xz i686-w64-mingw32-g++-posix clang++ lld-link zip unzip python3"
+  [wine]="mmdebstrap"
 )
 
 usage() {
-  echo "usage: tools/setup.sh {build|test|bench|fuzz|lint}..." >&2
+  echo "usage: tools/setup.sh {build|test|bench|fuzz|lint|windows|wine}..." >&2
   exit 2
 }
 

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
-#include <sys/mman.h>
-#include <unistd.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "tests/host/HostFixture.h"
+#include "tests/support/GuardedPages.h"
 
 namespace brennet {
 namespace {
@@ -20,29 +20,20 @@ constexpr std::size_t kRecord = sizeof(HotkeyBlock);
 class CallerMemory {
  public:
   CallerMemory(std::size_t provided, std::uint32_t announced)
-      : page_(static_cast<std::size_t>(sysconf(_SC_PAGESIZE))),
-        start_(static_cast<char*>(mmap(nullptr, kPages * page_, PROT_READ | PROT_WRITE,
-                                       MAP_PRIVATE | MAP_ANONYMOUS, -1, 0))) {
-    std::memset(start_, 0xEE, kPages * page_);
-    block_ = start_ + (kPages - 1) * page_ - provided;
+      : pages_(3, Access::None), block_(pages_.boundary() - provided) {
+    std::fill(pages_.begin(), pages_.boundary(), '\xEE');
     std::memcpy(block_, &announced, std::min(sizeof(announced), provided));
-    EXPECT_EQ(mprotect(start_ + (kPages - 1) * page_, page_, PROT_NONE), 0);
   }
-  ~CallerMemory() { munmap(start_, kPages * page_); }
-  CallerMemory(const CallerMemory&) = delete;
-  CallerMemory& operator=(const CallerMemory&) = delete;
 
   [[nodiscard]] HotkeyBlock* block() const { return reinterpret_cast<HotkeyBlock*>(block_); }
   [[nodiscard]] std::string bytes(std::size_t size) const { return {block_, size}; }
   void write(std::size_t offset, std::string_view bytes) const {
     std::memcpy(block_ + offset, bytes.data(), bytes.size());
   }
-  void makeReadOnly() const { EXPECT_EQ(mprotect(start_, (kPages - 1) * page_, PROT_READ), 0); }
+  void makeReadOnly() const { pages_.limit(Access::Read); }
 
  private:
-  static constexpr std::size_t kPages = 4;
-  std::size_t page_;
-  char* start_;
+  GuardedPages pages_;
   char* block_;
 };
 

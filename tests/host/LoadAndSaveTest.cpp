@@ -1,7 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-
-#include <csignal>
 
 #include "host/ProcessConfigs.h"
 #include "tests/host/HostFixture.h"
@@ -81,39 +78,6 @@ TEST_F(LoadAndSave, KeepsTheNewSwitchWhenTheSaveFails) {
   EXPECT_FALSE(brennet_.SetEnabled(true, 1));
   EXPECT_EQ(filled().flags, 0x80000000U);
   EXPECT_FALSE(brennet_.SetEnabled(true, 1)) << "it is so already";
-}
-
-// A limit on the size of files stands for a full disk: the write stops half-way.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t room) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{room, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, SIG_DFL);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
-};
-
-TEST_F(LoadAndSave, KeepsTheOldFileWholeWhenTheDiskIsFull) {
-  const std::string before = readBytes(settings_);
-  {
-    const FullDisk disk(100);
-    EXPECT_FALSE(brennet_.SetEnabled(false, 5));
-  }
-  EXPECT_EQ(readBytes(settings_), before);
-  EXPECT_EQ(folder_.listing(), "Documents\nKeyInfo.xml\n") << "no temporary file is left";
-  EXPECT_TRUE(brennet_.LoadSettings(settings_.wstring().c_str()));
-  EXPECT_EQ(brennet_.GetLastSaveTime(), 77U);
-  EXPECT_EQ(filled().flags, 0x80000000U);
 }
 
 TEST_F(LoadAndSave, OpensNoDialog) {

@@ -1,19 +1,17 @@
-#include "tests/support/ScopedProfile.h"
-
 #include <cstdlib>
 
-#include "tests/support/Environment.h"
+#include "tests/support/ScopedProfile.h"
 
 namespace brennet::test {
 
 ScopedProfile::ScopedProfile(const std::filesystem::path& folder) {
-  const char* before = std::getenv(kProfileVariable);
+  const char* before = std::getenv("HOME");
   before_ = before != nullptr ? before : "";
-  setVariable(kProfileVariable, folder.string());
+  setenv("HOME", folder.c_str(), 1);
 }
 
 ScopedProfile::~ScopedProfile() {
-  setVariable(kProfileVariable, before_);
+  setenv("HOME", before_.c_str(), 1);
 }
 
 }  // namespace brennet::test

@@ -1,0 +1,12 @@
+#include <dlfcn.h>
+
+#include "tests/host/SharedLibrary.h"
+
+namespace brennet::test {
+
+void* functionOf(const char* file, const char* name) {
+  void* const library = dlopen(file, RTLD_NOW);
+  return library != nullptr ? dlsym(library, name) : nullptr;
+}
+
+}  // namespace brennet::test

@@ -1,0 +1,13 @@
+#include <windows.h>
+
+#include "tests/host/SharedLibrary.h"
+
+namespace brennet::test {
+
+void* functionOf(const char* file, const char* name) {
+  const HMODULE library = LoadLibraryA(file);
+  if (library == nullptr) return nullptr;
+  return reinterpret_cast<void*>(GetProcAddress(library, name));
+}
+
+}  // namespace brennet::test

@@ -1,0 +1,16 @@
+// Where wchar_t holds more than UTF-16.
+
+#include <gtest/gtest.h>
+
+#include "host/WideText.h"
+
+namespace brennet {
+namespace {
+
+TEST(FromWide, ReplacesWhatIsNoCodePoint) {
+  const wchar_t text[] = {static_cast<wchar_t>(0x110000), static_cast<wchar_t>(-1), 0};
+  EXPECT_EQ(fromWide(text), u"\uFFFD\uFFFD");
+}
+
+}  // namespace
+}  // namespace brennet

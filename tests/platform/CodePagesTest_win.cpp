@@ -1,0 +1,27 @@
+#include <windows.h>
+// gtest.h comes after windows.h, which would undo its macros.
+#include <gtest/gtest.h>
+
+#include "platform/CodePages.h"
+
+namespace brennet::platform {
+namespace {
+
+constexpr CodePage kGb18030 = 54936;
+
+TEST(AnsiCodePage, IsTheOneOfTheSystem) {
+  EXPECT_EQ(ansiCodePage(), GetACP());
+}
+
+// Windows has it; Wine has not in every version.
+TEST(Gb18030, IsThereWhereTheSystemHasIt) {
+  const bool known = IsValidCodePage(kGb18030) != FALSE;
+  EXPECT_EQ(codePageShape(kGb18030), known ? CodePageShape::Other : CodePageShape::Unsupported);
+
+  std::string bytes;
+  EXPECT_EQ(encode(kGb18030, u"\u8C22", bytes), false);
+  EXPECT_EQ(bytes, known ? "\xD0\xBB" : "");
+}
+
+}  // namespace
+}  // namespace brennet::platform

@@ -1,0 +1,116 @@
+// Permissions, symbolic links and special files.
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/Files.h"
+#include "tests/support/TempFolder.h"
+
+namespace brennet::platform {
+namespace {
+
+using test::readBytes;
+using test::TempFolder;
+using test::writeBytes;
+
+// Root may write everywhere; some refusals only show to an ordinary user.
+class ScopedOrdinaryUser {
+ public:
+  explicit ScopedOrdinaryUser(const TempFolder& folder) {
+    if (geteuid() != 0) return;
+    constexpr uid_t kNobody = 65534;
+    EXPECT_EQ(chown(folder.path().c_str(), kNobody, kNobody), 0);
+    EXPECT_EQ(seteuid(kNobody), 0);
+  }
+  ~ScopedOrdinaryUser() {
+    if (getuid() == 0) {
+      EXPECT_EQ(seteuid(0), 0);
+    }
+  }
+  ScopedOrdinaryUser(const ScopedOrdinaryUser&) = delete;
+  ScopedOrdinaryUser& operator=(const ScopedOrdinaryUser&) = delete;
+};
+
+TEST(ReadFile, RefusesAPipe) {
+  const TempFolder folder;
+  ASSERT_EQ(mkfifo((folder / "fifo").c_str(), 0600), 0);
+  std::string read = "old";
+  EXPECT_TRUE(readFile(folder / "fifo", read));
+  EXPECT_EQ(read, "");
+}
+
+TEST(ReplaceFile, KeepsThePermissions) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "a much longer old content");
+  ASSERT_EQ(chmod((folder / "f").c_str(), 0640), 0);
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+  struct stat status {};
+  ASSERT_EQ(stat((folder / "f").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0640U);
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(ReplaceFile, KeepsASymbolicLinkAndReplacesWhatItNames) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "old");
+  ASSERT_EQ(symlink((folder / "f").c_str(), (folder / "link").c_str()), 0);
+  EXPECT_FALSE(replaceFile(folder / "link", "new"));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+}
+
+TEST(ReplaceFile, WritesThroughALinkToAFileThatIsNotThereYet) {
+  const TempFolder folder;
+  ASSERT_EQ(symlink((folder / "f").c_str(), (folder / "link").c_str()), 0);
+  EXPECT_FALSE(replaceFile(folder / "link", "new"));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+}
+
+TEST(ReplaceFile, WritesAFileThatCannotBeReadInAFolderThatTakesNoNewFile) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "old");
+  ASSERT_EQ(chmod((folder / "f").c_str(), 0222), 0);
+  {
+    const ScopedOrdinaryUser user(folder);
+    ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);
+    EXPECT_FALSE(replaceFile(folder / "f", "new"));
+    ASSERT_EQ(chmod(folder.path().c_str(), 0755), 0);
+  }
+  ASSERT_EQ(chmod((folder / "f").c_str(), 0644), 0);
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+}
+
+TEST(ReplaceFile, LeavesAFileAloneThatCannotBeOpenedForWriting) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "old");
+  ASSERT_EQ(chmod((folder / "f").c_str(), 0444), 0);
+  const ScopedOrdinaryUser user(folder);
+  EXPECT_TRUE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(readBytes(folder / "f"), "old");
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(ReplaceFile, WritesInPlaceWhereTheFolderTakesNoNewFile) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "a longer old content");
+  ASSERT_EQ(chmod((folder / "f").c_str(), 0666), 0);
+  const ScopedOrdinaryUser user(folder);
+  ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+  EXPECT_TRUE(replaceFile(folder / "other", "new"));
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(ReplaceFile, WritesInPlaceWhereTheTemporaryNameWouldBeTooLong) {
+  const TempFolder folder;
+  const std::string name(250, 'n');
+  EXPECT_FALSE(replaceFile(folder / name, "new"));
+  EXPECT_EQ(readBytes(folder / name), "new");
+}
+
+}  // namespace
+}  // namespace brennet::platform

@@ -1,0 +1,130 @@
+// Attributes, other programs that hold a file, and names of every kind.
+
+#include <windows.h>
+// gtest.h comes after windows.h, which would undo its macros.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <thread>
+
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "tests/support/TempFolder.h"
+
+namespace brennet::platform {
+namespace {
+
+using test::readBytes;
+using test::TempFolder;
+using test::writeBytes;
+
+// Another program that has the file open and shares it as far as `sharing` says.
+class Holder {
+ public:
+  Holder(const Path& path, DWORD access, DWORD sharing)
+      : handle_(CreateFileW(path.c_str(), access, sharing, nullptr, OPEN_EXISTING, 0, nullptr)) {
+    EXPECT_NE(handle_, INVALID_HANDLE_VALUE) << GetLastError();
+  }
+  ~Holder() { CloseHandle(handle_); }
+  Holder(const Holder&) = delete;
+  Holder& operator=(const Holder&) = delete;
+
+ private:
+  HANDLE handle_;
+};
+
+TEST(Reading, RefusesADevice) {
+  std::string read = "old";
+  EXPECT_TRUE(readFile(L"NUL", read));
+  EXPECT_EQ(read, "");
+}
+
+TEST(Reading, ReadsWhatAnotherProgramIsWriting) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "bytes");
+  const Holder holder(folder / "f", GENERIC_WRITE, FILE_SHARE_READ);
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_EQ(read, "bytes");
+}
+
+TEST(Replacing, RefusesADevice) {
+  EXPECT_TRUE(replaceFile(L"NUL", "new"));
+}
+
+TEST(Replacing, LeavesAReadOnlyFileAlone) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "old");
+  SetFileAttributesW((folder / "f").c_str(), FILE_ATTRIBUTE_READONLY);
+  EXPECT_EQ(replaceFile(folder / "f", "new").value(), ERROR_ACCESS_DENIED);
+  SetFileAttributesW((folder / "f").c_str(), FILE_ATTRIBUTE_NORMAL);
+  EXPECT_EQ(readBytes(folder / "f"), "old");
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(Replacing, LeavesAFileAloneThatNobodyElseMayOpen) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "old");
+  {
+    const Holder holder(folder / "f", GENERIC_READ, 0);
+    EXPECT_EQ(replaceFile(folder / "f", "new").value(), ERROR_SHARING_VIOLATION);
+  }
+  EXPECT_EQ(readBytes(folder / "f"), "old");
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(Replacing, WaitsForAProgramThatLooksAtTheFileForAMoment) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "old");
+  std::thread scanner;
+  {
+    auto holder = std::make_unique<Holder>(folder / "f", GENERIC_READ, 0);
+    scanner = std::thread([holder = std::move(holder)]() mutable {
+      Sleep(50);
+      holder.reset();
+    });
+  }
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  scanner.join();
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+}
+
+// A reader that forbids deleting keeps the file from being replaced, but not from being written.
+TEST(Replacing, WritesInPlaceWhereAReaderKeepsTheFile) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "a longer old content");
+  {
+    const Holder holder(folder / "f", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  }
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(Replacing, TakesNamesOutsideTheAnsiCodePage) {
+  const TempFolder folder;
+  const Path name = folder.path() / pathFromUtf16(u"\u8C22\u0E01\U0001F600 \u00E9.xml");
+  for (const char* const bytes : {"first", "second"}) {
+    EXPECT_FALSE(replaceFile(name, bytes));
+    std::string read;
+    EXPECT_FALSE(readFile(name, read));
+    EXPECT_EQ(read, bytes);
+  }
+  const Path inner = folder.path() / pathFromUtf16(u"\u0E01\u0E02");
+  EXPECT_TRUE(createFolder(inner));
+  EXPECT_TRUE(folderExists(inner));
+}
+
+// There is no room for the ending of a temporary name then.
+TEST(Replacing, WritesANameOfTheGreatestLength) {
+  const TempFolder folder;
+  const std::size_t room = MAX_PATH - 2 - folder.path().native().size();
+  const Path path = folder / std::string(room, 'n');
+  for (const char* const bytes : {"first", "second"}) {
+    EXPECT_FALSE(replaceFile(path, bytes));
+    EXPECT_EQ(readBytes(path), bytes);
+  }
+}
+
+}  // namespace
+}  // namespace brennet::platform

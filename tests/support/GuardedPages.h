@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+
+namespace brennet::test {
+
+enum class Access { None, Read };
+
+// Writable pages in front of one with another protection, so that one byte too many shows.
+class GuardedPages {
+ public:
+  // `writable` pages in a row, then one page with the access `guard`.
+  GuardedPages(std::size_t writable, Access guard);
+  ~GuardedPages();
+  GuardedPages(const GuardedPages&) = delete;
+  GuardedPages& operator=(const GuardedPages&) = delete;
+
+  // From here to the boundary the bytes may be written; the guard starts at the boundary.
+  [[nodiscard]] char* begin() const { return start_; }
+  [[nodiscard]] char* boundary() const { return start_ + writable_; }
+
+  // Gives the pages before the boundary the given access.
+  void limit(Access access) const;
+
+ private:
+  std::size_t guardSize_;
+  std::size_t writable_;
+  char* start_;
+};
+
+}  // namespace brennet::test

@@ -1,0 +1,42 @@
+#include <windows.h>
+
+#include <stdexcept>
+
+#include "tests/support/GuardedPages.h"
+
+namespace brennet::test {
+namespace {
+
+std::size_t pageSize() {
+  SYSTEM_INFO info{};
+  GetSystemInfo(&info);
+  return info.dwPageSize;
+}
+
+void protect(char* start, std::size_t size, Access access) {
+  DWORD before = 0;
+  const DWORD protection = access == Access::Read ? PAGE_READONLY : PAGE_NOACCESS;
+  if (VirtualProtect(start, size, protection, &before) == FALSE) {
+    throw std::runtime_error("VirtualProtect failed");
+  }
+}
+
+}  // namespace
+
+GuardedPages::GuardedPages(std::size_t writable, Access guard)
+    : guardSize_(pageSize()),
+      writable_(writable * guardSize_),
+      start_(static_cast<char*>(VirtualAlloc(nullptr, writable_ + guardSize_,
+                                             MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE))) {
+  protect(boundary(), guardSize_, guard);
+}
+
+GuardedPages::~GuardedPages() {
+  VirtualFree(start_, 0, MEM_RELEASE);
+}
+
+void GuardedPages::limit(Access access) const {
+  protect(start_, writable_, access);
+}
+
+}  // namespace brennet::test

@@ -1,0 +1,130 @@
+#!/usr/bin/env bash
+# Builds Qt for 32-bit Windows once, from the distribution's own source package, and prints its
+# folder: tools/windows/qt.sh
+#
+# Only what the component needs is built: Core, Gui, Widgets and Test, the platform plugins
+# "windows" and "offscreen", and the native style. What it takes: a quarter of an hour on two cores,
+# 2 GB of disk while it builds, 100 MB afterwards.
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+# shellcheck source=tools/windows/lib.sh
+source "$here/lib.sh"
+
+version=5.15.8
+package=qtbase-opensource-src
+# Where Qt believes to be installed. It finds itself at run time, so the folder need not exist, and
+# no path of this machine gets into the binaries.
+prefix=/opt/brennet-qt
+
+# Tablet events need a header that the distribution's tarball lacks; the rest is not used.
+options=(
+  -opensource -confirm-license -release -shared
+  -xplatform win32-g++ -device-option CROSS_COMPILE=i686-w64-mingw32-
+  -prefix "$prefix" -nomake examples -nomake tests
+  -no-opengl -no-dbus -no-openssl -no-icu
+  -qt-zlib -qt-pcre -qt-libpng -no-libjpeg -qt-freetype -qt-harfbuzz
+  -no-feature-sql -no-feature-network -no-feature-xml -no-feature-concurrent
+  -no-feature-tabletevent -no-feature-vulkan -no-feature-printer
+)
+# Folders below src/ that are installed, once the targets of build_qt are made.
+parts=(
+  winmain corelib gui widgets testlib tools/moc tools/rcc tools/uic
+  plugins/platforms/windows plugins/platforms/offscreen plugins/styles/windowsvista
+)
+key=$(key_of "${options[@]}" "${parts[@]}" 1)
+qt_dir=$toolchain_dir/qt-$version-$key
+
+is_whole() { # FOLDER
+  local file
+  for file in bin/Qt5Core.dll bin/Qt5Gui.dll bin/Qt5Widgets.dll bin/Qt5Test.dll bin/moc bin/rcc \
+    bin/uic lib/cmake/Qt5Widgets/Qt5WidgetsConfig.cmake plugins/platforms/qwindows.dll \
+    plugins/platforms/qoffscreen.dll plugins/styles/qwindowsvistastyle.dll; do
+    [[ -s $1/$file ]] || { echo "$file" && return 1; }
+  done
+}
+
+# Fetches the source with a configuration of apt of its own, so that the machine's stays as it is.
+# apt compares the file with the signed index.
+fetch_source() {
+  local apt=$work_dir/apt
+  mkdir -p "$apt/lists/partial" "$apt/archives/partial"
+  own_package_sources deb-src >"$apt/sources.list"
+  [[ -s $apt/sources.list ]] || die "apt knows no package source; add the distribution's to /etc/apt."
+  local options=(-o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=-
+    -o "Dir::State::Lists=$apt/lists" -o "Dir::Cache=$apt" -o APT::Sandbox::User=
+    -o Acquire::Languages=none)
+  say "Fetching the source of Qt $version"
+  apt-get "${options[@]}" update -qq -o APT::Update::Error-Mode=any >"$work_dir/fetch.log" 2>&1 ||
+    no_source "the package index cannot be fetched; is there a network?"
+  (cd "$work_dir" && apt-get "${options[@]}" source -qq --download-only --only-source \
+    "$package") >>"$work_dir/fetch.log" 2>&1 ||
+    no_source "the package $package cannot be fetched; is there a network?"
+  local tarball
+  tarball=$(compgen -G "$work_dir/${package}_${version}*.orig.tar.xz") ||
+    no_source "this distribution has no $package $version, which Debian 12 has."
+  mkdir "$work_dir/source"
+  tar -xJf "$tarball" -C "$work_dir/source" --strip-components=1
+}
+
+no_source() {
+  tail -n 3 "$work_dir/fetch.log" >&2
+  rm -rf "$work_dir"
+  die "No source of Qt $version: $1"
+}
+
+build_qt() {
+  local jobs
+  jobs=$(nproc)
+  mkdir "$work_dir/build"
+  cd "$work_dir/build"
+  logged ../configure.log "Qt (1/4): configure" ../source/configure "${options[@]}"
+  # The target of the whole tree would configure the tests too, which the options above leave out.
+  logged ../qmake.log "Qt (2/4): makefiles" make sub-src-qmake_all
+  cd src
+  logged ../../build.log "Qt (3/4): libraries, some 2000 lines" \
+    make -j "$jobs" sub-widgets sub-testlib sub-winmain sub-platformsupport
+  logged ../../plugins.log "Qt (4/4): plugins" build_plugins "$jobs"
+  logged ../../install.log "Qt: install" install_parts
+}
+
+build_plugins() { # JOBS
+  local part
+  for part in "${parts[@]}"; do
+    [[ $part != plugins/* ]] || make -j "$1" -C "$part"
+  done
+}
+
+install_parts() {
+  local part
+  for part in "${parts[@]}" platformsupport/*/; do
+    make -C "$part" install INSTALL_ROOT="$work_dir/stage"
+  done
+  make -C .. install_mkspecs INSTALL_ROOT="$work_dir/stage"
+  # The CMake files of Qt5Core ask for it.
+  cp ../bin/qmake "$work_dir/stage$prefix/bin/"
+  # They look for the libraries there; the plugins and programs are found beside them.
+  cp -R "$work_dir/source/LICENSE.LGPLv3" "$work_dir/source/LICENSE.LGPL3" \
+    "$work_dir/stage$prefix/" 2>/dev/null || true
+}
+
+main() {
+  local missing
+  open_toolchain_dir
+  if [[ -d $qt_dir ]]; then
+    missing=$(is_whole "$qt_dir") ||
+      die "$qt_dir is damaged ($missing is missing); remove that folder and run again."
+    return
+  fi
+  need_free_space 3000
+  say "Qt $version for Windows is built once, into $qt_dir: about 15 minutes on two cores"
+  make_work_dir
+  trap 'rm -rf "$work_dir"' EXIT
+  fetch_source
+  (build_qt)
+  missing=$(is_whole "$work_dir/stage$prefix") ||
+    die "The build of Qt made no $missing; please report this with the output above."
+  mv "$work_dir/stage$prefix" "$qt_dir"
+  say "Qt is ready"
+}
+
+main

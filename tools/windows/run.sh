@@ -1,0 +1,64 @@
+#!/usr/bin/env bash
+# Runs a Windows program under Wine and ends with its exit status:
+# tools/windows/run.sh PROGRAM.exe ARGUMENT...
+#
+# The program finds the registry and the profile folder as a new user would, whatever ran before,
+# and nothing of Wine is left running when it ends. It sees this checkout, the toolchain folder and
+# the working folder under their own names (drive Z: is the root). DLLs are looked for beside the
+# program and in the folders of WINEPATH.
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+# shellcheck source=tools/windows/lib.sh
+source "$here/lib.sh"
+checkout=$(cd "$here/../.." && pwd)
+
+# In namespaces of its own: mounts and processes go with the program. What is written to the root
+# file system goes to memory, so that the next program finds it fresh.
+run_in_root() {
+  need_root "Running programs in the root file system of Wine"
+  exec unshare --mount --pid --fork --kill-child bash -euc '
+    wine_dir=$1 home=$2 locale=$3
+    shift 3
+    mount --make-rprivate /
+    layers=$wine_dir/layers
+    mount -t tmpfs none "$layers"
+    mkdir "$layers/upper" "$layers/work" "$layers/root"
+    root=$layers/root
+    mount -t overlay overlay \
+      -o "lowerdir=$wine_dir/root,upperdir=$layers/upper,workdir=$layers/work" "$root"
+    mount -t proc proc "$root/proc"
+    mount --rbind /dev "$root/dev"
+    for folder in "$checkout" "$toolchain_dir" "$PWD"; do
+      mkdir -p "$root$folder"
+      mount --rbind "$folder" "$root$folder"
+    done
+    status=0
+    chroot "$root" env -u DISPLAY -u LANG -u LANGUAGE -u TMPDIR -u TMP -u TEMP --chdir="$PWD" \
+      HOME="$home" WINEPREFIX="$home/prefix" LC_ALL="$locale" PATH=/usr/bin:/bin \
+      wine "$@" || status=$?
+    exit $status' run_in_root "$wine_dir" "$wine_home" "$wine_locale" "$@"
+}
+
+run_with_installed_wine() {
+  local folder status=0
+  folder=$(mktemp -d)
+  export WINEPREFIX=$folder/prefix
+  # shellcheck disable=SC2064  # the folder of now
+  trap "wineserver --kill 2>/dev/null || true; wineserver --wait || true; rm -rf '$folder'" EXIT
+  cp -a "$wine_dir/prefix" "$WINEPREFIX"
+  env -u DISPLAY LC_ALL="$wine_locale" wine "$@" || status=$?
+  exit "$status"
+}
+
+main() {
+  [[ $# -gt 0 ]] || { echo "usage: tools/windows/run.sh PROGRAM.exe ARGUMENT..." >&2 && exit 2; }
+  export WINEDEBUG=${WINEDEBUG:--all} checkout toolchain_dir
+  if [[ -d $wine_dir/root ]]; then
+    run_in_root "$@"
+  elif [[ -d $wine_dir ]]; then
+    run_with_installed_wine "$@"
+  fi
+  die "Wine is not set up; run tools/windows/wine.sh."
+}
+
+main "$@"
