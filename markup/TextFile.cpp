@@ -10,10 +10,15 @@
 namespace brennet {
 namespace {
 
-// The message is the system's own, whatever its encoding; only its ASCII part is sure to be right.
+// The common errors have the same words on every system; the system's own words for the others
+// would come in the user's language and in some code page.
 void logError(const std::error_code& error, ResultLog& log) {
-  std::u16string message;
-  utf8ToUtf16(error.message(), message);
+  const std::error_condition common = error.default_error_condition();
+  std::u16string message = u"System error";
+  if (common.category() == std::generic_category()) {
+    message.clear();
+    utf8ToUtf16(common.message(), message);
+  }
   log.add(LogEvent::FileError, message, error.value());
 }
 

@@ -173,6 +173,12 @@ Converter& converterOf(CodePage codePage) {
   return converters.try_emplace(codePage, codePage).first->second;
 }
 
+// Some of ICU's tables turn half-width arrows into the control characters that are drawn as arrows
+// on old consoles; kernel32 does so in no double-byte code page.
+bool isConsoleArrow(char16_t unit, std::string_view bytes) {
+  return unit >= 0x80 && bytes.size() == 1 && static_cast<unsigned char>(bytes[0]) < 0x20;
+}
+
 }  // namespace
 
 CodePage ansiCodePage() {
@@ -211,7 +217,7 @@ char16_t pairToUtf16(CodePage codePage, unsigned char lead, unsigned char trail)
 EncodedUnit utf16ToBytes(CodePage codePage, char16_t unit) {
   std::string bytes;
   const bool lost = converterOf(codePage).encode({&unit, 1}, bytes);
-  if (lost || bytes.empty() || bytes.size() > 2) {
+  if (lost || bytes.empty() || bytes.size() > 2 || isConsoleArrow(unit, bytes)) {
     return {{static_cast<unsigned char>(kDefaultByte), 0}, 1, true};
   }
   const auto second = bytes.size() == 2 ? static_cast<unsigned char>(bytes[1]) : std::uint8_t{0};

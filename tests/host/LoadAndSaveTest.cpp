@@ -31,9 +31,12 @@ TEST_F(LoadAndSave, AnswersTheDefaultsAfterAFailedLoadAndKeepsThePath) {
 }
 
 TEST_F(LoadAndSave, ReadsASettingsFileWithAChineseName) {
-  writeBytes(folder_ / "\xE8\xAE\xBE\xE7\xBD\xAE\xF0\x9F\x98\x80.xml", kDefaults);
-  const std::wstring path = folder_.path().wstring() + L"/\u8BBE\u7F6E\U0001F600.xml";
-  EXPECT_TRUE(brennet_.LoadSettings(path.c_str()));
+  const auto path = folder_.path() / u8"\u8BBE\u7F6E\U0001F600.xml";
+  writeBytes(path, kDefaults);
+  const std::wstring name = folder_.path().wstring() + L"/\u8BBE\u7F6E\U0001F600.xml";
+  EXPECT_TRUE(brennet_.LoadSettings(name.c_str()));
+  EXPECT_TRUE(brennet_.SetEnabled(false, 5));
+  EXPECT_NE(readBytes(path).find("<LastSaveTime>5</LastSaveTime>"), std::string::npos);
 }
 
 TEST_F(LoadAndSave, AnswersForTheCurrentSchemeOnly) {

@@ -9,7 +9,7 @@
 
 #include "host/IBrennet.h"
 #include "model/HotkeyBlock.h"
-#include "tests/host/SharedLibrary.h"
+#include "tests/support/SharedLibrary.h"
 #include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"
 

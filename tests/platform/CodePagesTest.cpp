@@ -57,7 +57,8 @@ TEST(CodePage936, EncodesUnitsWithBestFitAndDefault) {
   EXPECT_EQ(bestFit.length, 2);
   EXPECT_FALSE(bestFit.lost);
 
-  for (const char16_t unit : {char16_t{0x0E01}, char16_t{0xD83D}, char16_t{0xDE00}}) {
+  constexpr char16_t kNotThere[] = {0x0E01, 0xD83D, 0xDE00, 0xFFE9, 0xFFEE};
+  for (const char16_t unit : kNotThere) {
     const EncodedUnit lost = utf16ToBytes(kGb2312, unit);
     EXPECT_TRUE(lost.lost);
     EXPECT_EQ(lost.length, 1);

@@ -1,6 +1,6 @@
 #include <windows.h>
 
-#include "tests/host/SharedLibrary.h"
+#include "tests/support/SharedLibrary.h"
 
 namespace brennet::test {
 

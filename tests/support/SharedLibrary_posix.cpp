@@ -1,6 +1,6 @@
 #include <dlfcn.h>
 
-#include "tests/host/SharedLibrary.h"
+#include "tests/support/SharedLibrary.h"
 
 namespace brennet::test {
 
