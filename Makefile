@@ -5,10 +5,10 @@ FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run test asan bench bench-build fuzz format lint clean
+.PHONY: help run test asan windows test-windows bench bench-build fuzz format lint clean
 
 help: ## show this list
-	@sed -n 's/^\([a-z]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 16
+	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
 
 run: ## load the sample settings and show what the library does (SETTINGS=path for others)
 	@tools/setup.sh build
@@ -27,6 +27,19 @@ asan: ## the same under the address and undefined-behaviour sanitizers
 	@cmake --preset asan
 	@cmake --build --preset asan -j $(JOBS)
 	@ctest --preset asan -j $(JOBS)
+
+windows: ## build the 32-bit Windows library, the sample host and all test programs
+	@tools/setup.sh build windows
+	@tools/windows/qt.sh
+	@tools/windows/configure.sh
+	@cmake --build --preset windows -j $(JOBS)
+
+test-windows: windows ## run all tests as Windows programs, under Wine
+	@tools/windows/wine.sh
+	@tools/setup.sh build test
+	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
+	@cmake --build --preset native -j $(JOBS) --target agreement_dump
+	@ctest --preset windows -j $(JOBS)
 
 bench-build:
 	@tools/setup.sh build bench

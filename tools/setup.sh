@@ -13,7 +13,7 @@ declare -A packages=(
            libxml2-dev python3"
   [fuzz]="clang libclang-rt-14-dev"
   [lint]="clang-format clang-tidy"
-  [windows]="cmake ninja-build pkg-config g++ make xz-utils g++-mingw-w64-i686-posix googletest
+  [windows]="cmake ninja-build pkg-config g++ make patch xz-utils g++-mingw-w64-i686-posix googletest
              clang lld llvm zip unzip python3"
   [wine]="mmdebstrap arch-test"
 )
@@ -24,7 +24,7 @@ declare -A commands=(
   [bench]="python3"
   [fuzz]="clang++"
   [lint]="clang-format clang-tidy"
-  [windows]="cmake ninja make xz i686-w64-mingw32-g++-posix clang++ lld-link zip unzip python3"
+  [windows]="cmake ninja make patch xz i686-w64-mingw32-g++-posix clang++ lld-link zip unzip python3"
   [wine]="mmdebstrap"
 )
 
@@ -48,20 +48,25 @@ words_of() {
   done | sort -u
 }
 
+# One line on what is missing and what to do about it.
+die() {
+  echo "brennet: $*" >&2
+  exit 1
+}
+
 install_packages() {
   local as_root=()
   if [[ $EUID -ne 0 ]]; then
-    if ! sudo -n true 2>/dev/null; then
-      echo "Some packages are missing. Please run:" >&2
-      echo "  sudo apt-get install --no-install-recommends $*" >&2
-      exit 1
-    fi
+    sudo -n true 2>/dev/null || die "Packages are missing and take root to install;" \
+      "please run: sudo apt-get install --no-install-recommends $*"
     as_root=(sudo -n)
   fi
   echo "Installing: $*"
-  "${as_root[@]}" apt-get update -q
+  # Where a part of the index cannot be fetched, the packages may still be had.
+  "${as_root[@]}" apt-get update -q || true
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -q -y --no-install-recommends "$@"
+    apt-get install -q -y --no-install-recommends "$@" ||
+    die "The packages above could not be installed; is there a network? Missing: $*"
 }
 
 main() {
@@ -84,9 +89,8 @@ main() {
     command -v "$name" >/dev/null || missing+=("$name")
   done
   if [[ ${#missing[@]} -gt 0 ]]; then
-    echo "Please install these commands: ${missing[*]}" >&2
-    echo "The libraries that go with them are listed in tools/setup.sh." >&2
-    exit 1
+    die "Please install these commands: ${missing[*]}" \
+      "(the libraries that go with them are listed in tools/setup.sh)."
   fi
 }
 

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Shared by the scripts of this folder, which source it: where the toolchain lives, how a step is
 # made once and whole, and how a failure is told.
 #
@@ -60,8 +61,9 @@ need_root() { # WHAT FOR
   [[ $EUID -eq 0 ]] || die "$1 needs root; run the same command as root."
 }
 
-# Runs a command with its output in a log file; tells every 20 seconds how far it is. When the
-# command fails, the end of the log is shown and the script ends.
+# Runs a command with its output in a log file; tells every 20 seconds how long it has run and, when
+# "progress" names a function, how far it is. When the command fails, the end of the log is shown
+# and the script ends.
 logged() { # LOG WHAT COMMAND...
   local log=$1 what=$2 started=$SECONDS beat=0
   shift 2
@@ -71,8 +73,7 @@ logged() { # LOG WHAT COMMAND...
   while kill -0 "$pid" 2>/dev/null; do
     sleep 1
     if ((++beat % 20 == 0)); then
-      say "$what: $((SECONDS - started)) s, $(wc -l <"$log") lines so far," \
-        "now: $(tail -n 1 "$log" | tr '\t' ' ' | grep -oE '[^ ]+$' | cut -c1-60 || true)"
+      say "$what: $((SECONDS - started)) s${progress:+, $($progress)}"
     fi
   done
   if ! wait "$pid"; then

@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
-# Builds Qt for 32-bit Windows once, from the distribution's own source package, and prints its
-# folder: tools/windows/qt.sh
+# Builds Qt for 32-bit Windows once, from the distribution's own source package:
+# tools/windows/qt.sh [--folder]
+#
+# With --folder it only prints where Qt is or would be.
 #
 # Only what the component needs is built: Core, Gui, Widgets and Test, the platform plugins
 # "windows" and "offscreen", and the native style. What it takes: a quarter of an hour on two cores,
@@ -31,7 +33,7 @@ parts=(
   winmain corelib gui widgets testlib tools/moc tools/rcc tools/uic
   plugins/platforms/windows plugins/platforms/offscreen plugins/styles/windowsvista
 )
-key=$(key_of "${options[@]}" "${parts[@]}" 1)
+key=$(key_of "${options[@]}" "${parts[@]}" 2)
 qt_dir=$toolchain_dir/qt-$version-$key
 
 is_whole() { # FOLDER
@@ -64,6 +66,18 @@ fetch_source() {
     no_source "this distribution has no $package $version, which Debian 12 has."
   mkdir "$work_dir/source"
   tar -xJf "$tarball" -C "$work_dir/source" --strip-components=1
+  apply_backports
+}
+
+# The fixes, for security above all, that the distribution took over from later versions. They come
+# before its own changes in the list.
+apply_backports() {
+  local name
+  tar -xJf "$work_dir/$package"_*.debian.tar.xz -C "$work_dir" debian/patches
+  while read -r name; do
+    patch -d "$work_dir/source" -p1 -s <"$work_dir/debian/patches/$name" >"$work_dir/fetch.log" ||
+      no_source "$name does not apply."
+  done < <(sed -n '/^# Debian specific/q; /^[^#]/p' "$work_dir/debian/patches/series")
 }
 
 no_source() {
@@ -77,14 +91,21 @@ build_qt() {
   jobs=$(nproc)
   mkdir "$work_dir/build"
   cd "$work_dir/build"
-  logged ../configure.log "Qt (1/4): configure" ../source/configure "${options[@]}"
+  # Messages of Qt name its source files; they need not tell where this was built.
+  logged ../configure.log "Qt (1/4): configure" ../source/configure "${options[@]}" \
+    "QMAKE_CXXFLAGS+=-ffile-prefix-map=$work_dir/source=qtbase"
   # The target of the whole tree would configure the tests too, which the options above leave out.
   logged ../qmake.log "Qt (2/4): makefiles" make sub-src-qmake_all
   cd src
-  logged ../../build.log "Qt (3/4): libraries, some 2000 lines" \
+  progress=count_objects
+  logged ../../build.log "Qt (3/4): libraries" \
     make -j "$jobs" sub-widgets sub-testlib sub-winmain sub-platformsupport
   logged ../../plugins.log "Qt (4/4): plugins" build_plugins "$jobs"
   logged ../../install.log "Qt: install" install_parts
+}
+
+count_objects() {
+  echo "$(find "$work_dir/build" -name '*.o' | wc -l) of about 1200 files compiled"
 }
 
 build_plugins() { # JOBS
@@ -108,6 +129,10 @@ install_parts() {
 }
 
 main() {
+  if [[ ${1:-} == --folder ]]; then
+    echo "$qt_dir"
+    return
+  fi
   local missing
   open_toolchain_dir
   if [[ -d $qt_dir ]]; then
@@ -127,4 +152,4 @@ main() {
   say "Qt is ready"
 }
 
-main
+main "$@"

@@ -29,6 +29,7 @@ run_in_root() {
     mount -t proc proc "$root/proc"
     mount --rbind /dev "$root/dev"
     for folder in "$checkout" "$toolchain_dir" "$PWD"; do
+      [[ $folder != / ]] || continue
       mkdir -p "$root$folder"
       mount --rbind "$folder" "$root$folder"
     done
