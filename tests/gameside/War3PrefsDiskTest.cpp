@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "gameside/War3PrefsFile.h"
+#include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet {
 namespace {
 
 using test::readBytes;
+using test::ScopedProfile;
 using test::TempFolder;
 using test::writeBytes;
 
@@ -119,6 +121,29 @@ TEST(PrefsOnDisk, AreWrittenNowhereWithoutAPath) {
   War3PrefsFile parsed = War3PrefsFile::parse(kOffFile);
   parsed.setCustomKeys(true);
   EXPECT_FALSE(parsed.save());
+}
+
+TEST(PrefsPath, LiesBelowTheProfileFolder) {
+  for (const char8_t* const user : {u8"Player One", u8"\u5F20\u4E09"}) {
+    const TempFolder folder;
+    const std::filesystem::path home = folder.path() / user;
+    const std::filesystem::path game = home / "Documents" / "Warcraft III";
+    std::filesystem::create_directories(game);
+    writeBytes(game / kName, kOffFile);
+
+    const ScopedProfile profile(home);
+    War3PrefsFile file;
+    file.setCustomKeys(true);
+    EXPECT_TRUE(file.save());
+    EXPECT_EQ(readBytes(game / kName), kOnFile);
+  }
+}
+
+TEST(PrefsPath, IsNoneWithoutAProfileFolder) {
+  const ScopedProfile profile{std::filesystem::path()};
+  War3PrefsFile file;
+  file.addHotkeySection({});
+  EXPECT_FALSE(file.save());
 }
 
 }  // namespace

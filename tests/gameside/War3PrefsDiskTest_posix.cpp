@@ -8,14 +8,12 @@
 #include <cstdlib>
 
 #include "gameside/War3PrefsFile.h"
-#include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet {
 namespace {
 
 using test::readBytes;
-using test::ScopedProfile;
 using test::TempFolder;
 using test::writeBytes;
 
@@ -95,26 +93,6 @@ TEST(PrefsPermissions, MakeAFileThatMayOnlyBeWrittenAnEmptyOne) {
   EXPECT_TRUE(trySwitchOn(folder, 0777, 0222));
   EXPECT_EQ(readBytes(folder / kName), "");
   EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
-}
-
-TEST(PrefsPath, LiesBelowTheProfileFolder) {
-  const TempFolder home;
-  const std::filesystem::path game = home / "Documents" / "Warcraft III";
-  std::filesystem::create_directories(game);
-  writeBytes(game / kName, kOffFile);
-
-  const ScopedProfile profile(home.path());
-  War3PrefsFile file;
-  file.setCustomKeys(true);
-  EXPECT_TRUE(file.save());
-  EXPECT_EQ(readBytes(game / kName), kOnFile);
-}
-
-TEST(PrefsPath, IsNoneWithoutAProfileFolder) {
-  const ScopedProfile profile{std::filesystem::path()};
-  War3PrefsFile file;
-  file.addHotkeySection({});
-  EXPECT_FALSE(file.save());
 }
 
 }  // namespace

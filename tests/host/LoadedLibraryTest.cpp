@@ -9,8 +9,8 @@
 
 #include "host/IBrennet.h"
 #include "model/HotkeyBlock.h"
-#include "tests/support/SharedLibrary.h"
 #include "tests/support/ScopedProfile.h"
+#include "tests/support/SharedLibrary.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet {

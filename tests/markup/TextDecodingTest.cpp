@@ -91,15 +91,14 @@ TEST(TextDecoding, TakesTheRestWhereABlockEndCannotBeExamined) {
   EXPECT_EQ(decoded.text, decode(bytes).text);
   EXPECT_EQ(decoded.text, known ? u"<?xml encoding='gb18030'?>\u0080\u54C8"
                                 : u"<?xml encoding='gb18030'?>??\u54C8");
-  EXPECT_EQ(decoded.log,
-            known ? u"<read encoding=\"gb18030\" length=\"28\"/>"
-                    u"<truncation_error encoding=\"gb18030\"/>"
-                    u"<read encoding=\"gb18030\" length=\"32\"/>"
-                    u"<converted_to encoding=\"UTF-16\" length=\"28\"/>"
-                  : u"<read encoding=\"gb18030\" length=\"28\"/>"
-                    u"<converted_to encoding=\"UTF-16\" length=\"27\"/>"
-                    u"<read encoding=\"gb18030\" length=\"4\"/>"
-                    u"<converted_to encoding=\"UTF-16\" length=\"2\"/>");
+  EXPECT_EQ(decoded.log, known ? u"<read encoding=\"gb18030\" length=\"28\"/>"
+                                 u"<truncation_error encoding=\"gb18030\"/>"
+                                 u"<read encoding=\"gb18030\" length=\"32\"/>"
+                                 u"<converted_to encoding=\"UTF-16\" length=\"28\"/>"
+                               : u"<read encoding=\"gb18030\" length=\"28\"/>"
+                                 u"<converted_to encoding=\"UTF-16\" length=\"27\"/>"
+                                 u"<read encoding=\"gb18030\" length=\"4\"/>"
+                                 u"<converted_to encoding=\"UTF-16\" length=\"2\"/>");
 }
 
 TEST(TextDecoding, GivesTheSameTextForEveryBlockSize) {

@@ -445,8 +445,7 @@ TEST_F(SettingsFile, IsSavedIntoAMissingFolderOneLevelDeep) {
   HotkeyConfig config;
   EXPECT_TRUE(config.Save((folder_ / "new/KeyInfo.xml").make_preferred().u16string(), 1));
   EXPECT_TRUE(std::filesystem::exists(folder_ / "new/KeyInfo.xml"));
-  EXPECT_FALSE(
-      config.Save((folder_ / "two/levels/KeyInfo.xml").make_preferred().u16string(), 1));
+  EXPECT_FALSE(config.Save((folder_ / "two/levels/KeyInfo.xml").make_preferred().u16string(), 1));
   EXPECT_FALSE(std::filesystem::exists(folder_ / "two"));
 }
 

@@ -96,7 +96,7 @@ BOOL WINAPI replaceExistingFile(LPCWSTR replaced, LPCWSTR replacement, LPCWSTR b
 
 // Calls of the system go through these pointers. The linker takes them from here before it looks
 // into the import library.
-#define STAND_BEFORE(function, symbol, ours) \
+#define STAND_BEFORE(function, symbol, ours)                                        \
   extern decltype(&function) const standBefore##function __asm__("__imp__" symbol); \
   decltype(&function) const standBefore##function __attribute__((used)) = &ours
 

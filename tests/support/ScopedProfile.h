@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 
 namespace brennet::test {
 
@@ -17,7 +16,7 @@ class ScopedProfile {
   ScopedProfile& operator=(const ScopedProfile&) = delete;
 
  private:
-  std::string before_;
+  std::filesystem::path before_;
 };
 
 }  // namespace brennet::test
