@@ -26,12 +26,19 @@ std::error_code lastError() {
 
 class OpenFile {
  public:
-  OpenFile(const std::wstring& name, DWORD access, DWORD sharing, DWORD creation)
-      : handle_(CreateFileW(name.c_str(), access, sharing, nullptr, creation, FILE_ATTRIBUTE_NORMAL,
-                            nullptr)) {}
+  OpenFile() = default;
+  OpenFile(const std::wstring& name, DWORD access, DWORD sharing, DWORD creation) {
+    open(name, access, sharing, creation);
+  }
   ~OpenFile() { static_cast<void>(closeNow()); }
   OpenFile(const OpenFile&) = delete;
   OpenFile& operator=(const OpenFile&) = delete;
+
+  bool open(const std::wstring& name, DWORD access, DWORD sharing, DWORD creation) {
+    handle_ = CreateFileW(name.c_str(), access, sharing, nullptr, creation, FILE_ATTRIBUTE_NORMAL,
+                          nullptr);
+    return isOpen();
+  }
 
   [[nodiscard]] bool isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
   [[nodiscard]] HANDLE get() const { return handle_; }
@@ -44,7 +51,7 @@ class OpenFile {
   }
 
  private:
-  HANDLE handle_;
+  HANDLE handle_ = INVALID_HANDLE_VALUE;
 };
 
 std::error_code writeAll(HANDLE file, std::string_view bytes) {
@@ -65,19 +72,24 @@ std::error_code finish(OpenFile& file, std::string_view bytes) {
   return file.closeNow();
 }
 
+// Somebody else has the file open just now.
+bool isHeld(DWORD error) {
+  return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
+}
+
+// A file that is about to be deleted or moved denies access too.
 bool mayPass(DWORD error) {
-  return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION ||
-         error == ERROR_LOCK_VIOLATION;
+  return isHeld(error) || error == ERROR_ACCESS_DENIED;
 }
 
 // Calls `operation` until it succeeds or fails for good; 0 or the error.
 template <class Operation>
-DWORD retried(Operation operation) {
+DWORD retried(Operation operation, bool (*isWorthIt)(DWORD error) = mayPass) {
   DWORD error = 0;
   for (int i = 0; i < kTries; ++i) {
     if (operation() != FALSE) return 0;
     error = GetLastError();
-    if (!mayPass(error)) return error;
+    if (!isWorthIt(error)) return error;
     Sleep(kPause);
   }
   return error;
@@ -198,8 +210,9 @@ struct Target {
 Target inspect(const std::wstring& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
   const bool isKnown = attributes != INVALID_FILE_ATTRIBUTES;
-  // What is marked so stays so for longer than the retries last.
-  if (isKnown && (attributes & FILE_ATTRIBUTE_READONLY) != 0) return {ERROR_ACCESS_DENIED};
+  // These do not pass; waiting for them would only hold up the host.
+  constexpr DWORD kForbidden = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
+  if (isKnown && (attributes & kForbidden) != 0) return {ERROR_ACCESS_DENIED};
   const DWORD error = retried([&] {
     const OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
     if (!file.isOpen()) return FALSE;
@@ -216,9 +229,14 @@ Target inspect(const std::wstring& path) {
 
 std::error_code readFile(const Path& path, std::string& bytes) {
   bytes.clear();
-  const OpenFile file(path.native(), GENERIC_READ,
-                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
-  if (!file.isOpen()) return lastError();
+  constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  OpenFile file;
+  const DWORD error = retried(
+      [&] {
+        return file.open(path.native(), GENERIC_READ, kSharing, OPEN_EXISTING) ? TRUE : FALSE;
+      },
+      isHeld);
+  if (error != 0) return errorOf(error);
   if (GetFileType(file.get()) != FILE_TYPE_DISK) return errorOf(ERROR_INVALID_HANDLE);
   LARGE_INTEGER fileSize{};
   if (GetFileSizeEx(file.get(), &fileSize) == FALSE) return lastError();
@@ -232,9 +250,9 @@ std::error_code readFile(const Path& path, std::string& bytes) {
         static_cast<DWORD>(std::min<std::size_t>(bytes.size() - size, kLargestPiece));
     DWORD count = 0;
     if (ReadFile(file.get(), bytes.data() + size, piece, &count, nullptr) == FALSE) {
-      const std::error_code error = lastError();
+      const std::error_code failure = lastError();
       bytes.clear();
-      return error;
+      return failure;
     }
     if (count == 0) break;
     size += count;
@@ -258,7 +276,8 @@ std::error_code replaceFile(const Path& name, std::string_view bytes) {
     }
     if (GetLastError() != ERROR_FILE_EXISTS) break;
   }
-  return writeInPlace(path, bytes, target.exists);
+  // A replacement that failed half-way may have left nothing there but a backup beside it.
+  return writeInPlace(path, bytes, target.exists && PathFileExistsW(path.c_str()) != FALSE);
 }
 
 bool folderExists(const Path& path) {

@@ -20,8 +20,9 @@ int callsUntilFailure = -1;
 DWORD newFilesFailWith = 0;
 DWORD replacingFailsWith = 0;
 
-// The temporary file cannot be moved to where the replaced file was.
+// The temporary file, or no file at all, can be moved to where the replaced file was.
 bool movingTheNewFileFails = false;
+bool movingFails = false;
 
 bool failsNow() {
   if (callsUntilFailure < 0) return false;
@@ -78,7 +79,8 @@ BOOL WINAPI closeHandle(HANDLE file) {
 BOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
   static auto* const real = systems<decltype(MoveFileExW)>("MoveFileExW");
   const bool isNew = std::wstring(from).ends_with(L".tmp");
-  if ((movingTheNewFileFails && isNew) || failsNow()) return failWith(ERROR_INVALID_NAME);
+  if (movingFails || (movingTheNewFileFails && isNew) || failsNow())
+    return failWith(ERROR_INVALID_NAME);
   return real(from, to, flags);
 }
 
@@ -127,6 +129,7 @@ class FileFaults : public testing::Test {
     newFilesFailWith = 0;
     replacingFailsWith = 0;
     movingTheNewFileFails = false;
+    movingFails = false;
   }
 
   [[nodiscard]] Path path() const { return folder_ / "f"; }
@@ -204,6 +207,17 @@ TEST_F(FileFaults, OfAReplacementThatTookTheOldNameAwayAreMadeGood) {
   EXPECT_FALSE(replaceFile(path(), kShort));
   EXPECT_EQ(readBytes(path()), kShort);
   EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+TEST_F(FileFaults, OfAReplacementThatCannotBeMadeGoodLeaveTheOldFileUnderItsBackupName) {
+  writeBytes(path(), kOld);
+  replacingFailsWith = ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
+  movingFails = true;
+  EXPECT_FALSE(replaceFile(path(), kNew));
+  EXPECT_EQ(readBytes(path()), kNew);
+  const std::string backup = "f." + std::to_string(GetCurrentProcessId()) + "-0.old";
+  EXPECT_EQ(folder_.listing(), "f\n" + backup + "\n");
+  EXPECT_EQ(readBytes(folder_ / backup), kOld);
 }
 
 TEST_F(FileFaults, LeaveNoHandleOpen) {

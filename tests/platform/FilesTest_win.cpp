@@ -33,6 +33,15 @@ class Holder {
   HANDLE handle_;
 };
 
+// Holds the file from now on, alone, until the thread that is returned lets it go.
+std::thread holdForAMoment(const Path& path) {
+  auto holder = std::make_unique<Holder>(path, GENERIC_READ, 0);
+  return std::thread([holder = std::move(holder)]() mutable {
+    Sleep(50);
+    holder.reset();
+  });
+}
+
 TEST(Reading, RefusesADevice) {
   std::string read = "old";
   EXPECT_TRUE(readFile(L"NUL", read));
@@ -45,6 +54,16 @@ TEST(Reading, ReadsWhatAnotherProgramIsWriting) {
   const Holder holder(folder / "f", GENERIC_WRITE, FILE_SHARE_READ);
   std::string read;
   EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_EQ(read, "bytes");
+}
+
+TEST(Reading, WaitsForAProgramThatHoldsTheFileForAMoment) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "bytes");
+  std::thread scanner = holdForAMoment(folder / "f");
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "f", read));
+  scanner.join();
   EXPECT_EQ(read, "bytes");
 }
 
@@ -76,14 +95,7 @@ TEST(Replacing, LeavesAFileAloneThatNobodyElseMayOpen) {
 TEST(Replacing, WaitsForAProgramThatLooksAtTheFileForAMoment) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
-  std::thread scanner;
-  {
-    auto holder = std::make_unique<Holder>(folder / "f", GENERIC_READ, 0);
-    scanner = std::thread([holder = std::move(holder)]() mutable {
-      Sleep(50);
-      holder.reset();
-    });
-  }
+  std::thread scanner = holdForAMoment(folder / "f");
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
   scanner.join();
   EXPECT_EQ(readBytes(folder / "f"), "new");
