@@ -22,6 +22,10 @@ int callsUntilFailure = -1;
 bool newFilesFail = false;
 bool renamesFail = false;
 
+// What is written cannot be brought to the disk.
+bool flushingFails = false;
+bool closingFails = false;
+
 bool failsNow() {
   if (callsUntilFailure < 0) return false;
   return callsUntilFailure-- == 0;
@@ -60,11 +64,11 @@ ssize_t __wrap_write(int file, const void* bytes, size_t size) {
   return __real_write(file, bytes, size / 2);
 }
 int __wrap_fsync(int file) {
-  return failsNow() ? failWith(EIO) : __real_fsync(file);
+  return flushingFails || failsNow() ? failWith(EIO) : __real_fsync(file);
 }
 int __wrap_close(int file) {
   const int result = __real_close(file);
-  return failsNow() ? failWith(EIO) : result;
+  return closingFails || failsNow() ? failWith(EIO) : result;
 }
 int __wrap_rename(const char* from, const char* to) {
   return renamesFail || failsNow() ? failWith(EBUSY) : __real_rename(from, to);
@@ -107,6 +111,19 @@ TEST(FileFaults, LeaveTheWholeOldOrTheWholeNewContent) {
     failures += error ? 1 : 0;
   }
   EXPECT_GE(failures, 3) << "a failing open, flush and close are all reported";
+}
+
+TEST(FileFaults, OfFlushingAndClosingAreReported) {
+  for (bool* const fails : {&flushingFails, &closingFails}) {
+    const TempFolder folder;
+    writeBytes(folder / "f", kOld);
+    *fails = true;
+    const std::error_code error = replaceFile(folder / "f", kNew);
+    *fails = false;
+    EXPECT_EQ(error.value(), EIO);
+    EXPECT_EQ(readBytes(folder / "f"), kOld);
+    EXPECT_EQ(folder.listing(), "f\n");
+  }
 }
 
 TEST(FileFaults, LeaveNothingWhereNothingWas) {

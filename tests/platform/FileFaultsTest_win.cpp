@@ -24,6 +24,10 @@ DWORD replacingFailsWith = 0;
 bool movingTheNewFileFails = false;
 bool movingFails = false;
 
+// What is written cannot be brought to the disk.
+bool flushingFails = false;
+bool closingFails = false;
+
 bool failsNow() {
   if (callsUntilFailure < 0) return false;
   return callsUntilFailure-- == 0;
@@ -62,7 +66,7 @@ BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written, O
 
 BOOL WINAPI flushFile(HANDLE file) {
   static auto* const real = systems<decltype(FlushFileBuffers)>("FlushFileBuffers");
-  return failsNow() ? failWith(ERROR_IO_DEVICE) : real(file);
+  return flushingFails || failsNow() ? failWith(ERROR_IO_DEVICE) : real(file);
 }
 
 BOOL WINAPI setEnd(HANDLE file) {
@@ -73,7 +77,7 @@ BOOL WINAPI setEnd(HANDLE file) {
 BOOL WINAPI closeHandle(HANDLE file) {
   static auto* const real = systems<decltype(CloseHandle)>("CloseHandle");
   const BOOL closed = real(file);
-  return failsNow() ? failWith(ERROR_IO_DEVICE) : closed;
+  return closingFails || failsNow() ? failWith(ERROR_IO_DEVICE) : closed;
 }
 
 BOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
@@ -130,6 +134,8 @@ class FileFaults : public testing::Test {
     replacingFailsWith = 0;
     movingTheNewFileFails = false;
     movingFails = false;
+    flushingFails = false;
+    closingFails = false;
   }
 
   [[nodiscard]] Path path() const { return folder_ / "f"; }
@@ -154,6 +160,18 @@ TEST_F(FileFaults, LeaveTheWholeOldOrTheWholeNewContent) {
     failures += error ? 1 : 0;
   }
   EXPECT_GE(failures, 3) << "a failing open, flush and close are all reported";
+}
+
+TEST_F(FileFaults, OfFlushingAndClosingAreReported) {
+  for (bool* const fails : {&flushingFails, &closingFails}) {
+    writeBytes(path(), kOld);
+    *fails = true;
+    const std::error_code error = replaceFile(path(), kNew);
+    *fails = false;
+    EXPECT_EQ(error.value(), ERROR_IO_DEVICE);
+    EXPECT_EQ(readBytes(path()), kOld);
+    EXPECT_EQ(folder_.listing(), "f\n");
+  }
 }
 
 TEST_F(FileFaults, LeaveNothingWhereNothingWas) {
