@@ -12,11 +12,22 @@ here=$(cd "$(dirname "$0")" && pwd)
 source "$here/lib.sh"
 checkout=$(cd "$here/../.." && pwd)
 
+# Runs a command and ends with its exit status; kills it when this script is told to end. It runs in
+# the background, because a signal does not end the waiting for anything else.
+stoppable() {
+  local status=0
+  "$@" <&0 &
+  # shellcheck disable=SC2064  # the process of now
+  trap "kill -KILL $!; exit 143" INT TERM
+  wait $! || status=$?
+  exit "$status"
+}
+
 # In namespaces of its own: mounts and processes go with the program. What is written to the root
 # file system goes to memory, so that the next program finds it fresh.
 run_in_root() {
   need_root "Running programs in the root file system of Wine"
-  exec unshare --mount --pid --fork --kill-child bash -euc '
+  stoppable unshare --mount --pid --fork --kill-child bash -euc '
     wine_dir=$1 home=$2 locale=$3
     shift 3
     mount --make-rprivate /
@@ -41,14 +52,13 @@ run_in_root() {
 }
 
 run_with_installed_wine() {
-  local folder status=0
+  local folder
   folder=$(mktemp -d)
   export WINEPREFIX=$folder/prefix
   # shellcheck disable=SC2064  # the folder of now
   trap "wineserver --kill 2>/dev/null || true; wineserver --wait || true; rm -rf '$folder'" EXIT
   cp -a "$wine_dir/prefix" "$WINEPREFIX"
-  env -u DISPLAY LC_ALL="$wine_locale" wine "$@" || status=$?
-  exit "$status"
+  stoppable env -u DISPLAY LC_ALL="$wine_locale" wine "$@"
 }
 
 main() {

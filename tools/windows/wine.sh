@@ -32,12 +32,13 @@ make_root() {
     make_prefix "$work_dir/whole/root" "$wine_home" "$wine_locale"
 }
 
-# Succeeds when the machine's own Wine makes a 32-bit prefix.
+# Succeeds when the machine's own Wine makes a 32-bit prefix and the machine has the locale.
 make_prefix_with_installed_wine() {
   command -v wineboot >/dev/null && command -v wineserver >/dev/null || return 1
+  locale -a | grep -qix "${wine_locale/UTF-8/utf-\\?8}" || return 1
   mkdir -p "$work_dir/whole"
   (
-    export WINEARCH=win32 WINEPREFIX=$work_dir/whole/prefix WINEDEBUG=-all
+    export WINEARCH=win32 WINEPREFIX=$work_dir/whole/prefix WINEDEBUG=-all LC_ALL=$wine_locale
     unset DISPLAY
     timeout 300 wineboot --init && timeout 60 wineserver --wait
   ) >"$work_dir/prefix.log" 2>&1 9>&- && return
