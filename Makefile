@@ -5,7 +5,7 @@ FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run test asan windows test-windows bench bench-build fuzz format lint clean
+.PHONY: help run test asan windows test-windows sdk bench bench-build fuzz format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -41,6 +41,9 @@ test-windows: windows ## run all tests as Windows programs, under Wine
 	@cmake --build --preset native -j $(JOBS) --target agreement_dump
 	@ctest --preset windows -j $(JOBS)
 
+sdk: windows ## write the package for embedders, build/sdk/brennet-sdk-<version>.zip
+	@tools/sdk.sh build/windows build/sdk
+
 bench-build:
 	@tools/setup.sh build bench
 	@cmake --preset bench
@@ -63,7 +66,11 @@ lint: ## check the format and run clang-tidy
 	@tools/setup.sh build test lint
 	@tools/format.sh --check
 	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
-	@tools/lint.sh build/native
+	@tools/lint.sh native build/native
+
+lint-windows: windows ## run clang-tidy over what only the Windows build has
+	@tools/setup.sh lint
+	@tools/lint.sh windows build/windows
 
 clean: ## remove everything that was built
 	@rm -rf build

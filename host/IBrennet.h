@@ -23,7 +23,7 @@
 
 namespace brennet {
 
-struct HotkeyBlock;  // model/HotkeyBlock.h
+struct HotkeyBlock;  // HotkeyBlock.h
 
 // Twelve operations in a fixed order. The order of the slots is law: hosts are compiled against
 // it. New operations are only ever appended. No destructor and no data belong here.

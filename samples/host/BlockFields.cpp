@@ -1,8 +1,8 @@
-#include "samples/host/BlockFields.h"
+#include "BlockFields.h"
 
 #include <QStringList>
 
-#include "samples/host/KeyText.h"
+#include "KeyText.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <QVector>
 #include <cstddef>
 
-#include "model/HotkeyBlock.h"
+#include <brennet/HotkeyBlock.h>
 
 // One field of a HotkeyBlock for a person to read.
 struct BlockField {

@@ -1,4 +1,4 @@
-#include "samples/host/KeyText.h"
+#include "KeyText.h"
 
 namespace {
 

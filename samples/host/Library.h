@@ -4,7 +4,7 @@
 #include <QString>
 #include <memory>
 
-#include "host/IBrennet.h"
+#include <brennet/IBrennet.h>
 
 // The Brennet library, loaded at run time. It stays loaded as long as the process runs, because
 // the interface object lives in it.

@@ -1,7 +1,8 @@
-#include "samples/host/Options.h"
+#include "Options.h"
 
 #include <QCommandLineParser>
 #include <QDateTime>
+#include <QOperatingSystemVersion>
 #include <cstdio>
 
 namespace {
@@ -29,7 +30,8 @@ void declareOptions(QCommandLineParser& parser) {
       valued("data", "DIR", "The folder that holds Tollamere.reg."),
       valued("profile", "DIR",
              "The user profile folder, where Documents/Warcraft III lies. "
-             "Without it no preference file is touched."),
+             "Without it no preference file is touched. Not under Windows, where it is the folder "
+             "of the user who runs this program."),
       flag("block", "Print every field of the block for the game."),
       valued("save-block", "FILE", "Write the block to FILE."),
       valued("apply-block", "FILE", "Hand the block in FILE back to the library."),
@@ -37,6 +39,11 @@ void declareOptions(QCommandLineParser& parser) {
       valued("save-time", "N", "The save time for --enable and --apply-block; default: now."),
       flag("json", "Print JSON."),
   });
+}
+
+// Windows keeps the profile folder of each user itself; elsewhere the environment names it.
+bool hasFixedProfile() {
+  return QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
 }
 
 }  // namespace
@@ -59,6 +66,9 @@ std::optional<Options> parseOptions(const QStringList& arguments) {
   options.applyBlock = parser.value(QStringLiteral("apply-block"));
   options.block = parser.isSet(QStringLiteral("block"));
   options.json = parser.isSet(QStringLiteral("json"));
+  if (!options.profile.isEmpty() && hasFixedProfile()) {
+    return refuse(QStringLiteral("--profile cannot be given under Windows"));
+  }
   if (options.settings.isEmpty()) return refuse(QStringLiteral("--settings FILE is needed"));
 
   if (parser.isSet(QStringLiteral("enable"))) {

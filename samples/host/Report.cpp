@@ -1,11 +1,11 @@
-#include "samples/host/Report.h"
+#include "Report.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "samples/host/BlockFields.h"
-#include "samples/host/KeyText.h"
+#include "BlockFields.h"
+#include "KeyText.h"
 
 namespace {
 

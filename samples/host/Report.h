@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-#include "host/IBrennet.h"
-#include "model/HotkeyBlock.h"
+#include <brennet/HotkeyBlock.h>
+#include <brennet/IBrennet.h>
 
 // What the library answered, gathered while the host works.
 struct Report {

@@ -8,9 +8,9 @@
 #include <cstdio>
 #include <cstring>
 
-#include "samples/host/Library.h"
-#include "samples/host/Options.h"
-#include "samples/host/Report.h"
+#include "Library.h"
+#include "Options.h"
+#include "Report.h"
 
 namespace {
 

@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$1"
 
 layers=(platform keys markup gameside model ui host)  # lowest first
-public_headers='host/IBrennet\.h|model/HotkeyBlock\.h'
+public_headers='brennet/IBrennet\.h|brennet/HotkeyBlock\.h'
 
 status=0
 
@@ -58,8 +58,9 @@ check_systems() {
 }
 
 check_samples() {
-  report private-header "$(lines '^ *# *include *"' samples |
-    grep -vE "include *\"(samples/|($public_headers)\")" || true)"
+  # A host's own headers stand beside it; ours go by the names that the package gives them.
+  report private-header "$(lines '^ *# *include *("|<[^>]*/)' samples |
+    grep -vE "include *(\"[^/\"]+\"|<($public_headers)>)" || true)"
 }
 
 check_layers

@@ -1,18 +1,26 @@
 #!/usr/bin/env bash
 # Checks exit statuses, output and written files of the sample host:
-# host_cli.sh HOST_PROGRAM LIBRARY SAMPLE_DATA
+# host_cli.sh WORK_FOLDER SAMPLE_DATA LIBRARY HOST_COMMAND...
+#
+# The command is the host's program, after an emulator where the program takes one.
 set -euo pipefail
 
-host=$1
-library=$2
-samples=$3
+work=$1
+samples=$2
+library=$3
+shift 3
+host=("$@")
+program=${*: -1}
+is_windows() { [[ $program == *.exe ]]; }
 
-folder=$(mktemp -d)
+mkdir -p "$work"
+folder=$(mktemp -d "$work/files.XXXXXX")
 trap 'rm -rf "$folder"' EXIT
 # Nothing may reach the real profile, whatever the host does.
-export HOME=$folder/home
+home=$folder/home
+is_windows || export HOME=$home
 game="$folder/profile/Documents/Warcraft III"
-mkdir -p "$HOME" "$game"
+mkdir -p "$home" "$game"
 cp "$samples/KeyInfo.xml" "$folder/KeyInfo.xml"
 cp "$samples/War3Preferences.txt" "$game/War3Preferences.txt"
 
@@ -26,7 +34,8 @@ fail() {
 run() {
   local expected=$1 status=0
   shift
-  "$host" --library "$library" "$@" >"$folder/out" 2>"$folder/err" || status=$?
+  "${host[@]}" --library "$library" "$@" >"$folder/out.raw" 2>"$folder/err" || status=$?
+  tr -d '\r' <"$folder/out.raw" >"$folder/out"
   [[ $status == "$expected" ]] || fail "exit status $status, not $expected: $* ($(cat "$folder/err"))"
 }
 says() { grep -qF -- "$1" "$folder/out" || fail "the output does not say: $1"; }
@@ -51,18 +60,30 @@ says 'no, defaults are in place'
 run 1 --settings "$folder/KeyInfo.xml" --enable on
 complains 'it is so already'
 
-# Without a profile no preference file is touched.
+# The profile is the user's own under Windows; elsewhere none is touched that is not given.
+if is_windows; then
+  run 2 --settings "$folder/KeyInfo.xml" --profile "$folder/profile"
+  complains 'cannot be given under Windows'
+  profile=()
+else
+  profile=(--profile "$folder/profile")
+fi
+# follows WORD: the preference file has the word, where the host could be told of it.
+follows() {
+  is_windows || grep -q "$1" "$game/War3Preferences.txt" ||
+    fail 'the preference file does not follow'
+}
 run 0 --settings "$folder/KeyInfo.xml"
 cmp -s "$samples/War3Preferences.txt" "$game/War3Preferences.txt" || fail 'a preference file changed'
-[[ -z $(ls -A "$HOME") ]] || fail 'the real profile was touched'
+[[ -z $(ls -A "$home") ]] || fail 'the real profile was touched'
 
 # The block, in words, as bytes and as JSON.
-run 0 --settings "$folder/KeyInfo.xml" --profile "$folder/profile" --block \
+run 0 --settings "$folder/KeyInfo.xml" "${profile[@]}" --block \
   --save-block "$folder/block"
 says 'Loaded           yes'
 says '1806  DisableLeftAltShowHP'
 [[ $(wc -c <"$folder/block") == 1807 ]] || fail 'the saved block is no record'
-grep -q 'customkeys=2' "$game/War3Preferences.txt" || fail 'the preference file does not follow'
+follows 'customkeys=2'
 run 0 --settings "$folder/KeyInfo.xml" --json
 python3 - "$folder/out" <<'PYTHON' || fail 'the JSON is wrong'
 import json
@@ -89,9 +110,9 @@ head -c 100 "$folder/block" >"$folder/cut"
 run 2 --settings "$folder/KeyInfo.xml" --apply-block "$folder/cut"
 
 # Switching off and on again.
-run 0 --settings "$folder/KeyInfo.xml" --profile "$folder/profile" --enable off
+run 0 --settings "$folder/KeyInfo.xml" "${profile[@]}" --enable off
 says 'Feature          off'
-grep -q 'customkeys=0' "$game/War3Preferences.txt" || fail 'the preference file does not follow'
+follows 'customkeys=0'
 run 0 --settings "$folder/KeyInfo.xml" --enable on
 
 exit $((failures > 0))

@@ -1,0 +1,42 @@
+# What `cmake --install` lays out: the package that hosts are built with. The native package is the
+# library, its headers and the CMake files; the Windows package has what sdk/README.md lists.
+
+include(CMakePackageConfigHelpers)
+
+# The public headers under the names that a host includes. The copies in the build tree let the
+# sample host say <brennet/IBrennet.h> here as it does in the package.
+set(public_headers host/IBrennet.h model/HotkeyBlock.h)
+foreach(header IN LISTS public_headers)
+  get_filename_component(name "${header}" NAME)
+  configure_file("${PROJECT_SOURCE_DIR}/${header}" "${PROJECT_BINARY_DIR}/include/brennet/${name}"
+    COPYONLY)
+endforeach()
+install(FILES ${public_headers} DESTINATION include/brennet)
+
+add_library(brennet_headers INTERFACE)
+add_library(Brennet::Headers ALIAS brennet_headers)
+target_include_directories(brennet_headers INTERFACE
+  "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>" "$<INSTALL_INTERFACE:include>")
+set_target_properties(brennet_headers PROPERTIES EXPORT_NAME Headers)
+
+# Who links the library sees the public headers, and none of the sources'.
+set_target_properties(brennet PROPERTIES
+  EXPORT_NAME Brennet
+  INTERFACE_INCLUDE_DIRECTORIES ""
+  INTERFACE_LINK_LIBRARIES brennet_headers)
+
+set(package_dir lib/cmake/Brennet)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/BrennetConfigVersion.cmake"
+  COMPATIBILITY SameMajorVersion)
+install(FILES sdk/BrennetConfig.cmake "${PROJECT_BINARY_DIR}/BrennetConfigVersion.cmake"
+  DESTINATION ${package_dir})
+
+if(MINGW AND CMAKE_CROSSCOMPILING)
+  include(BrennetWindowsPackage)
+else()
+  set_target_properties(brennet PROPERTIES
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  install(TARGETS brennet brennet_headers EXPORT BrennetTargets
+    LIBRARY DESTINATION lib ARCHIVE DESTINATION lib RUNTIME DESTINATION bin)
+  install(EXPORT BrennetTargets NAMESPACE Brennet:: DESTINATION ${package_dir})
+endif()

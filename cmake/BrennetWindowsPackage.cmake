@@ -1,0 +1,48 @@
+# The rest of the Windows package: import libraries, what the library needs to run, the sample host
+# as source and as a program, the contract and the licences. tools/sdk.sh makes the zip of it.
+
+# For linkers that read Microsoft's import libraries. What the GNU linker makes by itself is
+# libBrennet.dll.a.
+find_program(BRENNET_DLLTOOL NAMES llvm-dlltool llvm-dlltool-14 REQUIRED)
+set(definitions "${PROJECT_SOURCE_DIR}/sdk/windows/Brennet.def")
+set(import_library "${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}/Brennet.lib")
+add_custom_command(OUTPUT "${import_library}" DEPENDS "${definitions}"
+  COMMAND "${CMAKE_COMMAND}" -E make_directory "${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}"
+  COMMAND "${BRENNET_DLLTOOL}" -m i386 -d "${definitions}" -l "${import_library}")
+add_custom_target(brennet_import_library ALL DEPENDS "${import_library}")
+
+# The same sources give the same package, whenever they are built.
+target_link_options(brennet PRIVATE "LINKER:--no-insert-timestamp")
+
+install(TARGETS brennet RUNTIME DESTINATION bin ARCHIVE DESTINATION lib)
+install(FILES "${import_library}" "${definitions}" DESTINATION lib)
+install(FILES sdk/windows/BrennetTargets.cmake DESTINATION ${package_dir})
+if(TARGET brennet-host)
+  install(TARGETS brennet-host RUNTIME DESTINATION bin)
+endif()
+
+install(PROGRAMS ${BRENNET_RUNTIME_FILES} DESTINATION bin)
+foreach(plugin IN LISTS BRENNET_RUNTIME_PLUGINS)
+  # That platform is for tests without a screen.
+  if(NOT plugin STREQUAL "platforms/qoffscreen.dll")
+    get_filename_component(folder "${plugin}" DIRECTORY)
+    install(PROGRAMS "${BRENNET_QT_DIR}/plugins/${plugin}" DESTINATION "bin/${folder}")
+  endif()
+endforeach()
+
+install(DIRECTORY samples/host DESTINATION samples
+  FILES_MATCHING PATTERN "*.h" PATTERN "*.cpp")
+install(FILES sdk/sample/CMakeLists.txt DESTINATION samples/host)
+install(FILES samples/data/KeyInfo.xml samples/data/War3Preferences.txt DESTINATION samples/data)
+install(FILES sdk/README.md sdk/CONTRACT.md DESTINATION .)
+
+# The texts come from where the parts come from: the folder of Qt and the compiler's packages.
+install(FILES sdk/NOTICE.md DESTINATION licences)
+install(FILES "${BRENNET_QT_DIR}/LICENSE.LGPLv3" DESTINATION licences RENAME LGPL-3.txt)
+install(FILES /usr/share/common-licenses/GPL-3 DESTINATION licences RENAME GPL-3.txt)
+install(FILES /usr/share/doc/libqt5core5a/copyright DESTINATION licences RENAME qt-parts.txt)
+install(FILES /usr/share/doc/gcc-mingw-w64-base/copyright DESTINATION licences
+  RENAME gcc-runtime.txt)
+install(FILES /usr/share/doc/mingw-w64-i686-dev/copyright DESTINATION licences
+  RENAME mingw-w64.txt)
+install(FILES tools/windows/qt.sh tools/windows/lib.sh DESTINATION licences/qt-build)

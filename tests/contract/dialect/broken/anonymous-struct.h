@@ -1,0 +1,5 @@
+struct Outer {
+  struct {
+    int inner;
+  };
+};

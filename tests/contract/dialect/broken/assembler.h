@@ -1,0 +1,3 @@
+inline void pause() {
+  asm("pause");
+}

@@ -1,0 +1,4 @@
+struct __attribute__((packed)) Attribute {
+  char one;
+  int four;
+};

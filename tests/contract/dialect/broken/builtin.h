@@ -1,0 +1,3 @@
+inline int countOf(unsigned value) {
+  return __builtin_popcount(value);
+}

@@ -1,0 +1,3 @@
+inline const char* name() {
+  return __PRETTY_FUNCTION__;
+}

@@ -1,0 +1,3 @@
+inline int& first(int* __restrict__ values) {
+  return values[0];
+}

@@ -1,0 +1,3 @@
+inline int orOne(int value) {
+  return value ?: 1;
+}

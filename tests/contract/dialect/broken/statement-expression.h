@@ -1,0 +1,6 @@
+inline int next(int value) {
+  return ({
+    int result = value;
+    result + 1;
+  });
+}

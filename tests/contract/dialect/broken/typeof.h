@@ -1,0 +1,4 @@
+inline int twice(int value) {
+  __typeof__(value) copy = value;
+  return copy + value;
+}

@@ -1,0 +1,3 @@
+inline __int128 wide(int value) {
+  return value;
+}

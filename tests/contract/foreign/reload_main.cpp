@@ -1,0 +1,117 @@
+// Loads, uses and unloads the library a hundred times in one process, and looks what that leaves
+// behind: foreign-reload.exe. It ends with 0 or with one of the codes of Failures.h.
+//
+// To check the check: with "leaks handles", "leaks indexes", "leaks blocks" or "leaks pages" behind
+// it, the program does not load the library, but leaves one of those behind in each round.
+
+#include "Footprint.h"
+#include "Kernel32.h"
+#include "Report.h"
+#include "Scenario.h"
+
+namespace {
+
+// What is made once, on a first load, is there after these.
+constexpr unsigned kWarmUp = 10;
+constexpr unsigned kRounds = 90;
+
+// What grows less often than in each tenth round is none of a load's: a load that leaves a single
+// handle, index, block or page behind adds kRounds.
+constexpr unsigned kBound = kRounds / 10;
+
+// A heap grows by this many pages, whatever the reason.
+constexpr unsigned kHeapGrowth = 16;
+
+void useLibrary() {
+  const SettingsFile settings(kSettings);
+  Library library;
+  checkDefaults(library);
+  checkLoad(library, settings);
+  checkSwitch(library);
+  library.unload();
+}
+
+void leakHandle() {
+  CreateEventW(nullptr, 0, 0, nullptr);
+}
+void leakIndex() {
+  TlsAlloc();
+}
+void leakBlock() {
+  HeapAlloc(GetProcessHeap(), 0, 1);
+}
+void leakPage() {
+  VirtualAlloc(nullptr, 1, kMemReserve | kMemCommit, kPageReadWrite);
+}
+
+bool endsWith(const wchar_t* text, const wchar_t* end) {
+  unsigned size = 0;
+  unsigned endSize = 0;
+  while (text[size] != L'\0') ++size;
+  while (end[endSize] != L'\0') ++endSize;
+  if (endSize > size) return false;
+  for (unsigned i = 0; i < endSize; ++i) {
+    if (text[size - endSize + i] != end[i]) return false;
+  }
+  return true;
+}
+
+using Round = void (*)();
+
+Round roundOf(const wchar_t* commandLine) {
+  struct Choice {
+    const wchar_t* words;
+    Round round;
+  };
+  constexpr Choice kChoices[] = {
+      {L"leaks handles", leakHandle},
+      {L"leaks indexes", leakIndex},
+      {L"leaks blocks", leakBlock},
+      {L"leaks pages", leakPage},
+  };
+  for (const Choice& choice : kChoices) {
+    if (endsWith(commandLine, choice.words)) return choice.round;
+  }
+  return useLibrary;
+}
+
+constexpr const wchar_t* kQt[] = {L"Qt5Core.dll", L"Qt5Gui.dll", L"Qt5Widgets.dll"};
+
+// A host runs a QApplication: Qt, and what it needs, is in its process all the time.
+void becomeAQtHost() {
+  for (const wchar_t* name : kQt) require(LoadLibraryW(name) != nullptr, kNoQt);
+}
+
+void tell(const char* title, const Footprint& footprint) {
+  print(title);
+  print(footprint.handles);
+  print(" handles, ");
+  print(footprint.tlsIndexes);
+  print(" indexes, ");
+  print(footprint.heapBlocks);
+  print(" blocks, ");
+  print(footprint.pages);
+  print(" pages\n");
+}
+
+}  // namespace
+
+extern "C" [[noreturn]] void start() {
+  reportCrashes();
+  keepAwayFromThePlayersFiles();
+  becomeAQtHost();
+  const Round round = roundOf(GetCommandLineW());
+  for (unsigned i = 0; i < kWarmUp; ++i) round();
+  const Footprint before = footprint();
+  for (unsigned i = 0; i < kRounds; ++i) round();
+  const Footprint after = footprint();
+  tell("before: ", before);
+  tell("after: ", after);
+  place.slot = kNoSlot;
+  require(after.handles < before.handles + kBound, kHandlesGrow);
+  require(after.tlsIndexes < before.tlsIndexes + kBound, kTlsGrows);
+  require(after.heapBlocks < before.heapBlocks + kBound, kHeapsGrow);
+  require(after.pages < before.pages + kHeapGrowth + kBound, kMemoryGrows);
+  print("nothing is left behind\n");
+  ExitProcess(0);
+}

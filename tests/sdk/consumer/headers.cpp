@@ -1,0 +1,7 @@
+#include <brennet/HotkeyBlock.h>
+#include <brennet/IBrennet.h>
+
+std::uint32_t emptyRecord(brennet::GetBrennetPtrFunction get) {
+  brennet::HotkeyBlock block = {};
+  return get()->FillHotkeyBlock(&block) ? block.size : 1;
+}

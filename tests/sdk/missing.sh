@@ -1,0 +1,75 @@
+#!/usr/bin/env bash
+# Takes DLLs away from the package, and has each missing one named:
+# missing.sh WORK PACKAGE SAMPLE_DATA EMULATOR
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+# shellcheck source=tests/sdk/lib.sh
+source "$here/lib.sh"
+
+work=$1 package=$2 data=$3 emulator=$4
+host=(host/brennet-host.exe --settings KeyInfo.xml)
+
+empty_folder "$work"
+cd "$work"
+cp "$data/KeyInfo.xml" .
+
+# A fresh copy of the package's programs in host/.
+copy_host() {
+  empty_folder host
+  cp "$package"/bin/*.* host/
+}
+
+# compile NAME TEXT DLL...: makes a DLL of that C++ text which needs the other ones.
+compile() {
+  local name=$1 text=$2
+  shift 2
+  quietly i686-w64-mingw32-g++-posix -shared -x c++ - -x none "$@" -o "made/$name" <<<"$text"
+}
+
+# What the host itself needs is named by the loader, under Wine with this word in WINEDEBUG.
+for name in Qt5Core.dll libstdc++-6.dll libgcc_s_dw2-1.dll; do
+  copy_host
+  rm "host/$name"
+  WINEDEBUG=-all,err+module run 53 "$emulator" "${host[@]}"
+  says "Library $name (which is needed by" err
+done
+
+# The library itself.
+copy_host
+rm host/Brennet.dll
+run 2 "$emulator" "${host[@]}"
+says 'there is no library' err
+says 'host\Brennet.dll' err
+run 2 "$emulator" "${host[@]}" --library nowhere/Other.dll
+says 'there is no library nowhere\Other.dll' err
+
+# What the library needs, and what that needs: three DLLs stand in for it.
+mkdir made
+compile lost.dll 'extern "C" __declspec(dllexport) int lost() { return 1; }'
+compile middle.dll 'extern "C" int lost();
+  extern "C" __declspec(dllexport) int middle() { return lost(); }' made/lost.dll
+compile Brennet.dll 'extern "C" int middle();
+  extern "C" __declspec(dllexport) int needy() { return middle(); }' made/middle.dll
+copy_host
+cp made/*.dll host/
+run 2 "$emulator" "${host[@]}"
+says 'Brennet.dll exports no GetBrennetPtr' err
+! grep -q Missing err || fail "nothing is missing: $(cat err)"
+
+rm host/lost.dll
+run 2 "$emulator" "${host[@]}"
+says 'Missing beside this program: lost.dll (needed by middle.dll)' err
+says 'host\Brennet.dll cannot be loaded' err
+[[ $(grep -o 'needed by' err | wc -l) == 1 ]] || fail "more is named than is missing: $(cat err)"
+rm host/middle.dll
+run 2 "$emulator" "${host[@]}"
+says 'Missing beside this program: middle.dll (needed by Brennet.dll)' err
+
+# Damaged libraries: text, and the stand-in cut off in its headers and in its sections.
+echo 'no library at all' >host/Brennet.dll
+run 2 "$emulator" "${host[@]}"
+for size in 0 63 100 300 600 2000; do
+  head -c "$size" made/Brennet.dll >host/Brennet.dll
+  run 2 "$emulator" "${host[@]}"
+  says 'Brennet.dll' err
+done
