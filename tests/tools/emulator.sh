@@ -44,11 +44,12 @@ cmd 1 "type $file"
 mkfifo "$folder/input"
 "$emulator" cmd.exe /k "rem $marker" <>"$folder/input" >/dev/null 2>&1 &
 program=$!
-for _ in {1..100}; do
-  is_waiting && break
+waiting=no
+for _ in {1..300}; do
+  is_waiting && waiting=yes && break
   sleep 0.1
 done
-is_waiting || fail 'the program that waits does not start'
+[[ $waiting == yes ]] || fail 'the program that waits does not start'
 kill "$program"
 for _ in {1..50}; do
   [[ -z $(marked) ]] && break
