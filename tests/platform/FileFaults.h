@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+
+namespace brennet::test {
+
+// Which of the system calls under platform/Files.h fail. Programs that link FileFaults_<system>.cpp
+// have it stand between those calls and the system.
+struct FileFaults {
+  int callsUntilFailure = -1;  // how many calls still work before one fails; negative: none fails
+  bool newFiles = false;       // the folder takes no new file
+  bool replacing = false;      // no file takes the place of another
+  bool flushing = false;       // what is written cannot be brought to the disk...
+  bool closing = false;        // ...or cannot on closing; the error is kDeviceError
+
+  // Counts a call; whether it is the one that fails.
+  bool failsNow() { return callsUntilFailure >= 0 && callsUntilFailure-- == 0; }
+};
+
+extern FileFaults faults;
+extern const int kDeviceError;
+
+// How many files and other things of the system this process has open.
+std::size_t openHandles();
+
+}  // namespace brennet::test

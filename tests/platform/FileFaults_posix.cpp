@@ -1,0 +1,80 @@
+// The linker sends the calls here first (--wrap).
+
+#include "tests/platform/FileFaults.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdarg>
+#include <filesystem>
+#include <iterator>
+
+namespace brennet::test {
+
+FileFaults faults;
+const int kDeviceError = EIO;
+
+std::size_t openHandles() {
+  const std::filesystem::directory_iterator files("/proc/self/fd");
+  return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+}
+
+}  // namespace brennet::test
+
+using brennet::test::faults;
+
+namespace {
+
+int failWith(int error) {
+  errno = error;
+  return -1;
+}
+
+}  // namespace
+
+extern "C" {
+
+int __real_open(const char* path, int flags, ...);
+ssize_t __real_write(int file, const void* bytes, size_t size);
+int __real_fsync(int file);
+int __real_close(int file);
+int __real_rename(const char* from, const char* to);
+int __real_fstat(int file, struct stat* status);
+int __real_fchmod(int file, mode_t mode);
+
+int __wrap_open(const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  const bool isNew = (flags & O_EXCL) != 0;
+  if ((isNew && faults.newFiles) || faults.failsNow()) return failWith(EACCES);
+  return __real_open(path, flags, mode);
+}
+// A full disk takes a part before it refuses the rest.
+ssize_t __wrap_write(int file, const void* bytes, size_t size) {
+  if (!faults.failsNow()) return __real_write(file, bytes, size);
+  if (size == 1) return failWith(ENOSPC);
+  faults.callsUntilFailure = 0;
+  return __real_write(file, bytes, size / 2);
+}
+int __wrap_fsync(int file) {
+  return faults.flushing || faults.failsNow() ? failWith(EIO) : __real_fsync(file);
+}
+int __wrap_close(int file) {
+  const int result = __real_close(file);
+  return faults.closing || faults.failsNow() ? failWith(EIO) : result;
+}
+int __wrap_rename(const char* from, const char* to) {
+  return faults.replacing || faults.failsNow() ? failWith(EBUSY) : __real_rename(from, to);
+}
+int __wrap_fstat(int file, struct stat* status) {
+  return faults.failsNow() ? failWith(EIO) : __real_fstat(file, status);
+}
+int __wrap_fchmod(int file, mode_t mode) {
+  return faults.failsNow() ? failWith(EPERM) : __real_fchmod(file, mode);
+}
+
+}  // extern "C"

@@ -1,0 +1,111 @@
+#include "tests/platform/FileFaults_win.h"
+
+#include <string>
+
+namespace brennet::test {
+
+FileFaults faults;
+HalfwayFaults halfwayFaults;
+const int kDeviceError = ERROR_IO_DEVICE;
+
+// Wine does not count handles; their values are multiples of four.
+std::size_t openHandles() {
+  constexpr std::uintptr_t kMoreThanAnyTestOpens = 0x10000;
+  std::size_t count = 0;
+  for (std::uintptr_t value = 4; value < kMoreThanAnyTestOpens; value += 4) {
+    DWORD flags = 0;
+    count += GetHandleInformation(reinterpret_cast<HANDLE>(value), &flags) != FALSE ? 1U : 0U;
+  }
+  return count;
+}
+
+}  // namespace brennet::test
+
+namespace {
+
+using brennet::test::faults;
+using brennet::test::halfwayFaults;
+
+BOOL failWith(DWORD error) {
+  SetLastError(error);
+  return FALSE;
+}
+
+// The system's own function behind one that a test stands before.
+template <class Function>
+Function* systems(const char* name) {
+  return reinterpret_cast<Function*>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), name)));
+}
+
+HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD sharing, SECURITY_ATTRIBUTES* security,
+                         DWORD creation, DWORD flags, HANDLE like) {
+  static auto* const real = systems<decltype(CreateFileW)>("CreateFileW");
+  const bool isNew = creation == CREATE_NEW;
+  if ((!isNew || !faults.newFiles) && !faults.failsNow()) {
+    return real(name, access, sharing, security, creation, flags, like);
+  }
+  SetLastError(ERROR_PATH_NOT_FOUND);
+  return INVALID_HANDLE_VALUE;
+}
+
+// A full disk takes a part before it refuses the rest.
+BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written, OVERLAPPED* where) {
+  static auto* const real = systems<decltype(WriteFile)>("WriteFile");
+  if (!faults.failsNow()) return real(file, bytes, size, written, where);
+  if (size == 1) return failWith(ERROR_DISK_FULL);
+  faults.callsUntilFailure = 0;
+  return real(file, bytes, size / 2, written, where);
+}
+
+BOOL WINAPI flushFile(HANDLE file) {
+  static auto* const real = systems<decltype(FlushFileBuffers)>("FlushFileBuffers");
+  return faults.flushing || faults.failsNow() ? failWith(ERROR_IO_DEVICE) : real(file);
+}
+
+BOOL WINAPI setEnd(HANDLE file) {
+  static auto* const real = systems<decltype(SetEndOfFile)>("SetEndOfFile");
+  return faults.failsNow() ? failWith(ERROR_DISK_FULL) : real(file);
+}
+
+BOOL WINAPI closeHandle(HANDLE file) {
+  static auto* const real = systems<decltype(CloseHandle)>("CloseHandle");
+  const BOOL closed = real(file);
+  return faults.closing || faults.failsNow() ? failWith(ERROR_IO_DEVICE) : closed;
+}
+
+BOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
+  static auto* const real = systems<decltype(MoveFileExW)>("MoveFileExW");
+  const bool isNew = std::wstring(from).ends_with(L".tmp");
+  if (halfwayFaults.moving || (halfwayFaults.movingTheNew && isNew) || faults.failsNow()) {
+    return failWith(ERROR_INVALID_NAME);
+  }
+  return real(from, to, flags);
+}
+
+BOOL WINAPI replaceExistingFile(LPCWSTR replaced, LPCWSTR replacement, LPCWSTR backup, DWORD flags,
+                                LPVOID exclude, LPVOID reserved) {
+  static auto* const real = systems<decltype(ReplaceFileW)>("ReplaceFileW");
+  static auto* const move = systems<decltype(MoveFileExW)>("MoveFileExW");
+  const DWORD error = halfwayFaults.replacing;
+  if (error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2) move(replaced, backup, 0);
+  if (error != 0) return failWith(error);
+  if (faults.replacing || faults.failsNow()) return failWith(ERROR_UNABLE_TO_REMOVE_REPLACED);
+  return real(replaced, replacement, backup, flags, exclude, reserved);
+}
+
+}  // namespace
+
+// Calls of the system go through these pointers. The linker takes them from here before it looks
+// into the import library.
+#define STAND_BEFORE(function, symbol, ours)                                        \
+  extern decltype(&function) const standBefore##function __asm__("__imp__" symbol); \
+  decltype(&function) const standBefore##function __attribute__((used)) = &ours
+
+STAND_BEFORE(CreateFileW, "CreateFileW@28", createFile);
+STAND_BEFORE(WriteFile, "WriteFile@20", writeFile);
+STAND_BEFORE(FlushFileBuffers, "FlushFileBuffers@4", flushFile);
+STAND_BEFORE(SetEndOfFile, "SetEndOfFile@4", setEnd);
+STAND_BEFORE(CloseHandle, "CloseHandle@4", closeHandle);
+STAND_BEFORE(MoveFileExW, "MoveFileExW@12", moveFile);
+STAND_BEFORE(ReplaceFileW, "ReplaceFileW@24", replaceExistingFile);
