@@ -13,6 +13,8 @@ struct FileFaults {
   bool flushing = false;       // what is written cannot be brought to the disk...
   bool closing = false;        // ...or cannot on closing; the error is kDeviceError
 
+  bool diskFull = false;  // no file gets more room, and no write is finished
+
   // Counts a call; whether it is the one that fails.
   bool failsNow() { return callsUntilFailure >= 0 && callsUntilFailure-- == 0; }
 };

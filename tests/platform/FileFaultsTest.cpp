@@ -86,6 +86,15 @@ TEST_F(FileFaults, LeaveTheOldContentOfAFileThatIsWrittenInPlace) {
   }
 }
 
+// The old content could not be written back then: it must not be touched before there is room.
+TEST_F(FileFaults, OfADiskThatStaysFullLeaveTheOldContentAlone) {
+  writeBytes(path(), kOld);
+  faults.newFiles = true;
+  faults.diskFull = true;
+  EXPECT_TRUE(replaceFile(path(), kNew));
+  EXPECT_EQ(readBytes(path()), kOld);
+}
+
 TEST_F(FileFaults, LeaveNoHandleOpen) {
   writeBytes(path(), kOld);
   static_cast<void>(replaceWithFailure(0));  // what the system keeps for itself is there now

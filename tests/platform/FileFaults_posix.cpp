@@ -38,6 +38,7 @@ extern "C" {
 
 int __real_open(const char* path, int flags, ...);
 ssize_t __real_write(int file, const void* bytes, size_t size);
+int __real_posix_fallocate(int file, off_t start, off_t size);
 int __real_fsync(int file);
 int __real_close(int file);
 int __real_rename(const char* from, const char* to);
@@ -55,10 +56,13 @@ int __wrap_open(const char* path, int flags, ...) {
 }
 // A full disk takes a part before it refuses the rest.
 ssize_t __wrap_write(int file, const void* bytes, size_t size) {
-  if (!faults.failsNow()) return __real_write(file, bytes, size);
+  if (!faults.diskFull && !faults.failsNow()) return __real_write(file, bytes, size);
   if (size == 1) return failWith(ENOSPC);
   faults.callsUntilFailure = 0;
   return __real_write(file, bytes, size / 2);
+}
+int __wrap_posix_fallocate(int file, off_t start, off_t size) {
+  return faults.diskFull ? ENOSPC : __real_posix_fallocate(file, start, size);
 }
 int __wrap_fsync(int file) {
   return faults.flushing || faults.failsNow() ? failWith(EIO) : __real_fsync(file);

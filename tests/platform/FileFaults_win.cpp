@@ -52,7 +52,7 @@ HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD sharing, SECURITY_ATT
 // A full disk takes a part before it refuses the rest.
 BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written, OVERLAPPED* where) {
   static auto* const real = systems<decltype(WriteFile)>("WriteFile");
-  if (!faults.failsNow()) return real(file, bytes, size, written, where);
+  if (!faults.diskFull && !faults.failsNow()) return real(file, bytes, size, written, where);
   if (size == 1) return failWith(ERROR_DISK_FULL);
   faults.callsUntilFailure = 0;
   return real(file, bytes, size / 2, written, where);
@@ -65,7 +65,7 @@ BOOL WINAPI flushFile(HANDLE file) {
 
 BOOL WINAPI setEnd(HANDLE file) {
   static auto* const real = systems<decltype(SetEndOfFile)>("SetEndOfFile");
-  return faults.failsNow() ? failWith(ERROR_DISK_FULL) : real(file);
+  return faults.diskFull || faults.failsNow() ? failWith(ERROR_DISK_FULL) : real(file);
 }
 
 BOOL WINAPI closeHandle(HANDLE file) {
