@@ -83,8 +83,8 @@ bool mayPass(DWORD error) {
 }
 
 // Calls `operation` until it succeeds or fails for good; 0 or the error.
-template <class Operation>
-DWORD retried(Operation operation, bool (*isWorthIt)(DWORD error) = mayPass) {
+template <class Operation, class Condition = bool (*)(DWORD error)>
+DWORD retried(Operation operation, Condition isWorthIt = mayPass) {
   DWORD error = 0;
   for (int i = 0; i < kTries; ++i) {
     if (operation() != FALSE) return 0;
@@ -99,16 +99,45 @@ DWORD moveTo(const std::wstring& from, const std::wstring& to) {
   return retried([&] { return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH); });
 }
 
-// The names beside a file under which its new and its old content stand while it is replaced.
+void removeFile(const std::wstring& path) {
+  retried([&] { return DeleteFileW(path.c_str()); });
+}
+
+bool exists(const std::wstring& path) {
+  return PathFileExistsW(path.c_str()) != FALSE;
+}
+
+// The names beside a file under which its new and its old content stand while it is replaced. The
+// old one's is always the same, so that whoever comes next finds it if this process ends half-way.
 struct BesideNames {
   std::wstring temporary;
   std::wstring backup;
 };
 
+std::wstring backupName(const std::wstring& path) {
+  return path + L".brennet-old";
+}
+
 BesideNames besideNames(const std::wstring& path, int number) {
-  const std::wstring stem =
-      path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(number);
-  return {stem + L".tmp", stem + L".old"};
+  return {path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(number) +
+              L".tmp",
+          backupName(path)};
+}
+
+// While ReplaceFileW works there is no file of that name for a moment, only its backup. Whether
+// that is why a file was not found.
+bool isBeingReplaced(const std::wstring& path, DWORD error) {
+  return error == ERROR_FILE_NOT_FOUND && (exists(backupName(path)) || exists(path));
+}
+
+// Waits for whoever is replacing a file; if nobody is any more, the backup becomes the file again.
+void awaitReplacement(const std::wstring& path) {
+  const std::wstring backup = backupName(path);
+  for (int i = 0; i < kTries; ++i) {
+    if (exists(path) || !exists(backup)) return;
+    Sleep(kPause);
+  }
+  MoveFileExW(backup.c_str(), path.c_str(), MOVEFILE_WRITE_THROUGH);
 }
 
 // Puts the temporary file in the place of `path`, which is there. ReplaceFileW keeps the
@@ -131,8 +160,18 @@ DWORD replaceExisting(const BesideNames& names, const std::wstring& path) {
       break;  // both files have the names they had
   }
   // The last copy of the old content is not thrown away.
-  if (PathFileExistsW(path.c_str()) != FALSE) DeleteFileW(names.backup.c_str());
+  if (exists(path) && exists(names.backup)) removeFile(names.backup);
   return error;
+}
+
+// Gives the temporary file the place of `path`, which may come or go under way.
+DWORD takePlace(const BesideNames& names, const std::wstring& path, bool isThere) {
+  if (isThere) {
+    const DWORD error = replaceExisting(names, path);
+    return error == ERROR_FILE_NOT_FOUND ? moveTo(names.temporary, path) : error;
+  }
+  const DWORD error = moveTo(names.temporary, path);
+  return error == ERROR_ALREADY_EXISTS ? replaceExisting(names, path) : error;
 }
 
 enum class Outcome { Replaced, Failed, NotReplaceable };
@@ -144,16 +183,16 @@ struct Replacement {
 
 // Fills the open temporary file and gives it the place of `path`; leaves no temporary file.
 Replacement replaceThrough(const BesideNames& names, OpenFile& file, const std::wstring& path,
-                           bool exists, std::string_view bytes) {
+                           bool isThere, std::string_view bytes) {
   Replacement result{Outcome::Replaced, finish(file, bytes)};
   if (result.error) {
     result.outcome = Outcome::Failed;
-  } else if ((exists ? replaceExisting(names, path) : moveTo(names.temporary, path)) != 0) {
+  } else if (takePlace(names, path, isThere) != 0) {
     result.outcome = Outcome::NotReplaceable;
   }
   if (result.outcome != Outcome::Replaced) {
     static_cast<void>(file.closeNow());
-    DeleteFileW(names.temporary.c_str());
+    removeFile(names.temporary);
   }
   return result;
 }
@@ -180,22 +219,22 @@ std::error_code overwrite(HANDLE file, std::string_view bytes, std::size_t oldSi
 
 // For files that cannot be replaced. The old content is kept at hand and written back if the new
 // one cannot be written.
-std::error_code writeInPlace(const std::wstring& path, std::string_view bytes, bool exists) {
+std::error_code writeInPlace(const std::wstring& path, std::string_view bytes, bool isThere) {
   std::string old;
-  if (exists) {
+  if (isThere) {
     const std::error_code error = readFile(path, old);
     // A file that may be written but not read has to do without.
     if (error && error != errorOf(ERROR_ACCESS_DENIED)) return error;
   }
-  OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, exists ? OPEN_EXISTING : CREATE_NEW);
+  OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, isThere ? OPEN_EXISTING : CREATE_NEW);
   if (!file.isOpen()) return lastError();
   const std::error_code error = overwrite(file.get(), bytes, old.size());
   if (!error) return file.closeNow();
-  if (exists) {
+  if (isThere) {
     static_cast<void>(overwrite(file.get(), old, bytes.size()));
   } else {
     static_cast<void>(file.closeNow());
-    DeleteFileW(path.c_str());
+    removeFile(path);
   }
   return error;
 }
@@ -203,7 +242,7 @@ std::error_code writeInPlace(const std::wstring& path, std::string_view bytes, b
 // Whether a file can be written at `path`, and what is there.
 struct Target {
   DWORD error;  // it cannot be written; 0: it can
-  bool exists = false;
+  bool isThere = false;
   bool isLink = false;
 };
 
@@ -230,12 +269,13 @@ Target inspect(const std::wstring& path) {
 std::error_code readFile(const Path& path, std::string& bytes) {
   bytes.clear();
   constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  awaitReplacement(path.native());
   OpenFile file;
   const DWORD error = retried(
       [&] {
         return file.open(path.native(), GENERIC_READ, kSharing, OPEN_EXISTING) ? TRUE : FALSE;
       },
-      isHeld);
+      [&](DWORD code) { return isHeld(code) || isBeingReplaced(path.native(), code); });
   if (error != 0) return errorOf(error);
   if (GetFileType(file.get()) != FILE_TYPE_DISK) return errorOf(ERROR_INVALID_HANDLE);
   LARGE_INTEGER fileSize{};
@@ -263,6 +303,7 @@ std::error_code readFile(const Path& path, std::string& bytes) {
 
 std::error_code replaceFile(const Path& name, std::string_view bytes) {
   const std::wstring& path = name.native();
+  awaitReplacement(path);
   const Target target = inspect(path);
   if (target.error != 0) return errorOf(target.error);
 
@@ -270,14 +311,14 @@ std::error_code replaceFile(const Path& name, std::string_view bytes) {
     const BesideNames names = besideNames(path, number);
     OpenFile file(names.temporary, GENERIC_WRITE, 0, CREATE_NEW);
     if (file.isOpen()) {
-      const Replacement result = replaceThrough(names, file, path, target.exists, bytes);
+      const Replacement result = replaceThrough(names, file, path, target.isThere, bytes);
       if (result.outcome != Outcome::NotReplaceable) return result.error;
       break;
     }
     if (GetLastError() != ERROR_FILE_EXISTS) break;
   }
   // A replacement that failed half-way may have left nothing there but a backup beside it.
-  return writeInPlace(path, bytes, target.exists && PathFileExistsW(path.c_str()) != FALSE);
+  return writeInPlace(path, bytes, exists(path));
 }
 
 bool folderExists(const Path& path) {

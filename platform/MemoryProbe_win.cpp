@@ -5,6 +5,23 @@
 #include "platform/MemoryProbe.h"
 
 namespace brennet::platform {
+namespace {
+
+// IsBadWritePtr touches the pages: on one that guards the end of a stack it would set the guard off.
+bool hasGuardPage(const char* first, const char* last) {
+  MEMORY_BASIC_INFORMATION region{};
+  for (const char* at = first; VirtualQuery(at, &region, sizeof(region)) != 0;) {
+    if (region.State == MEM_COMMIT && (region.Protect & PAGE_GUARD) != 0) return true;
+    const auto* const start = static_cast<const char*>(region.BaseAddress);
+    // The last byte of the region, because the address behind it may be 0.
+    const char* const end = start + (region.RegionSize - 1);
+    if (end >= last) return false;
+    at = end + 1;
+  }
+  return false;
+}
+
+}  // namespace
 
 // IsBadWritePtr is obsolete for good reasons, but it is the contract with the host: an answer, not
 // a fault, for memory that is not there. It does not look at ranges that wrap around.
@@ -12,7 +29,8 @@ bool isWritable(void* address, std::size_t size) {
   if (size == 0) return true;
   const auto first = reinterpret_cast<std::uintptr_t>(address);
   if (first + (size - 1) < first) return false;
-  return IsBadWritePtr(address, size) == FALSE;
+  const auto* const bytes = static_cast<const char*>(address);
+  return !hasGuardPage(bytes, bytes + (size - 1)) && IsBadWritePtr(address, size) == FALSE;
 }
 
 }  // namespace brennet::platform

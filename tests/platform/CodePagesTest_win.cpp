@@ -23,5 +23,12 @@ TEST(Gb18030, IsThereWhereTheSystemHasIt) {
   EXPECT_EQ(bytes, known ? "\xD0\xBB" : "");
 }
 
+// kernel32 cannot tell of losses there, and fails when it is asked to.
+TEST(Utf7, IsWritten) {
+  std::string bytes;
+  EXPECT_FALSE(encode(65000, u"a\u8C22", bytes));
+  EXPECT_EQ(bytes, "a+jCI-");
+}
+
 }  // namespace
 }  // namespace brennet::platform

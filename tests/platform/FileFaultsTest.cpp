@@ -57,6 +57,14 @@ TEST_F(FileFaults, OfFlushingAndClosingAreReported) {
   }
 }
 
+TEST_F(FileFaults, OfFlushingAreReportedInPlaceToo) {
+  writeBytes(path(), kOld);
+  faults.newFiles = true;
+  faults.flushing = true;
+  EXPECT_EQ(replaceFile(path(), kNew).value(), kDeviceError);
+  EXPECT_EQ(readBytes(path()), kOld);
+}
+
 TEST_F(FileFaults, LeaveNothingWhereNothingWas) {
   for (int call = 0; call < kMoreCallsThanAnyWrite; ++call) {
     std::filesystem::remove(path());

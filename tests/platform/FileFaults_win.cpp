@@ -6,6 +6,8 @@ namespace brennet::test {
 
 FileFaults faults;
 HalfwayFaults halfwayFaults;
+PassingFaults passingFaults;
+int replacedFiles = 0;
 const int kDeviceError = ERROR_IO_DEVICE;
 
 // Wine does not count handles; their values are multiples of four.
@@ -25,10 +27,20 @@ namespace {
 
 using brennet::test::faults;
 using brennet::test::halfwayFaults;
+using brennet::test::passingFaults;
+using brennet::test::replacedFiles;
 
 BOOL failWith(DWORD error) {
   SetLastError(error);
   return FALSE;
+}
+
+// Whether a call fails, being one of the `left` ones that do.
+bool failsInPassing(int& left) {
+  if (left == 0) return false;
+  --left;
+  SetLastError(passingFaults.error);
+  return true;
 }
 
 // The system's own function behind one that a test stands before.
@@ -42,6 +54,7 @@ HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD sharing, SECURITY_ATT
                          DWORD creation, DWORD flags, HANDLE like) {
   static auto* const real = systems<decltype(CreateFileW)>("CreateFileW");
   const bool isNew = creation == CREATE_NEW;
+  if (!isNew && failsInPassing(passingFaults.opening)) return INVALID_HANDLE_VALUE;
   if ((!isNew || !faults.newFiles) && !faults.failsNow()) {
     return real(name, access, sharing, security, creation, flags, like);
   }
@@ -76,6 +89,7 @@ BOOL WINAPI closeHandle(HANDLE file) {
 
 BOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
   static auto* const real = systems<decltype(MoveFileExW)>("MoveFileExW");
+  if (failsInPassing(passingFaults.moving)) return FALSE;
   const bool isNew = std::wstring(from).ends_with(L".tmp");
   if (halfwayFaults.moving || (halfwayFaults.movingTheNew && isNew) || faults.failsNow()) {
     return failWith(ERROR_INVALID_NAME);
@@ -87,11 +101,14 @@ BOOL WINAPI replaceExistingFile(LPCWSTR replaced, LPCWSTR replacement, LPCWSTR b
                                 LPVOID exclude, LPVOID reserved) {
   static auto* const real = systems<decltype(ReplaceFileW)>("ReplaceFileW");
   static auto* const move = systems<decltype(MoveFileExW)>("MoveFileExW");
+  if (failsInPassing(passingFaults.replacing)) return FALSE;
   const DWORD error = halfwayFaults.replacing;
   if (error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2) move(replaced, backup, 0);
   if (error != 0) return failWith(error);
   if (faults.replacing || faults.failsNow()) return failWith(ERROR_UNABLE_TO_REMOVE_REPLACED);
-  return real(replaced, replacement, backup, flags, exclude, reserved);
+  const BOOL isDone = real(replaced, replacement, backup, flags, exclude, reserved);
+  if (isDone != FALSE) ++replacedFiles;
+  return isDone;
 }
 
 }  // namespace

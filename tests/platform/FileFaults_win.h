@@ -15,4 +15,17 @@ struct HalfwayFaults {
 
 extern HalfwayFaults halfwayFaults;
 
+// Calls that fail a few times and then work, as while another program looks at the file.
+struct PassingFaults {
+  DWORD error = 0;
+  int opening = 0;    // how many calls still fail: CreateFileW of a file that is there...
+  int moving = 0;     // ...MoveFileExW...
+  int replacing = 0;  // ...ReplaceFileW
+};
+
+extern PassingFaults passingFaults;
+
+// How many files took the place of another since the program started.
+extern int replacedFiles;
+
 }  // namespace brennet::test

@@ -113,6 +113,67 @@ TEST(Replacing, WritesInPlaceWhereAReaderKeepsTheFile) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
+// What a process leaves that ends while it replaces a file.
+constexpr char kBackup[] = "f.brennet-old";
+
+TEST(Reading, FindsTheFileThatWasBeingReplaced) {
+  const TempFolder folder;
+  writeBytes(folder / kBackup, "old");
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_EQ(read, "old");
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(Reading, WaitsForAReplacementUnderWay) {
+  const TempFolder folder;
+  writeBytes(folder / kBackup, "old");
+  std::thread writer([&] {
+    Sleep(50);
+    writeBytes(folder / "f", "new");
+  });
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "f", read));
+  writer.join();
+  EXPECT_EQ(read, "new");
+}
+
+TEST(Replacing, FinishesWhatWasLeftHalfDone) {
+  const TempFolder folder;
+  writeBytes(folder / kBackup, "old");
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(Replacing, DoesNotTakeAnOldBackupForTheFile) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "new");
+  writeBytes(folder / kBackup, "old");
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_EQ(read, "new");
+  EXPECT_FALSE(replaceFile(folder / "f", "newer"));
+  EXPECT_EQ(readBytes(folder / "f"), "newer");
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+// A reader meets the whole old or the whole new content, and never no file.
+TEST(Replacing, IsNotNoticedByAReader) {
+  const TempFolder folder;
+  const std::string contents[] = {std::string(5000, 'a'), std::string(7000, 'b')};
+  writeBytes(folder / "f", contents[0]);
+  std::thread writer([&] {
+    for (int i = 1; i <= 200; ++i) EXPECT_FALSE(replaceFile(folder / "f", contents[i % 2]));
+  });
+  for (int i = 0; i < 200; ++i) {
+    std::string read;
+    EXPECT_FALSE(readFile(folder / "f", read));
+    EXPECT_TRUE(read == contents[0] || read == contents[1]) << read.size();
+  }
+  writer.join();
+}
+
 TEST(Replacing, TakesNamesOutsideTheAnsiCodePage) {
   const TempFolder folder;
   const Path name = folder.path() / pathFromUtf16(u"\u8C22\u0E01\U0001F600 \u00E9.xml");

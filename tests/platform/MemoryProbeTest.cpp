@@ -31,13 +31,22 @@ TEST(IsWritable, RefusesNullAndUnmappedMemory) {
 }
 
 TEST(IsWritable, RefusesARangeThatRunsIntoForbiddenMemory) {
-  for (const Access guard : {Access::None, Access::Read}) {
+  for (const Access guard : {Access::None, Access::Read, Access::Signal}) {
     const GuardedPages pages(1, guard);
     const auto size = static_cast<std::size_t>(pages.boundary() - pages.begin());
     EXPECT_TRUE(isWritable(pages.begin(), size));
     EXPECT_TRUE(isWritable(pages.boundary() - 4, 4));
     EXPECT_FALSE(isWritable(pages.boundary() - 3, 4));
     EXPECT_FALSE(isWritable(pages.begin(), size + 1));
+  }
+}
+
+TEST(IsWritable, LeavesAPageAloneThatSignalsTheFirstTouch) {
+  const GuardedPages pages(1, Access::Signal);
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_FALSE(isWritable(pages.boundary(), 1)) << round;
+    EXPECT_FALSE(isWritable(pages.boundary() - 1, 2)) << round;
+    EXPECT_TRUE(isWritable(pages.boundary() - 1, 1)) << round;
   }
 }
 

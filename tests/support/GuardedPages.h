@@ -4,7 +4,8 @@
 
 namespace brennet::test {
 
-enum class Access { None, Read };
+// Signal: on Windows the first touch is told of and then allowed; elsewhere the same as None.
+enum class Access { None, Read, Signal };
 
 // Writable pages in front of one with another protection, so that one byte too many shows.
 class GuardedPages {

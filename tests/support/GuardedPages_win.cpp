@@ -13,10 +13,21 @@ std::size_t pageSize() {
   return info.dwPageSize;
 }
 
+DWORD protectionOf(Access access) {
+  switch (access) {
+    case Access::Read:
+      return PAGE_READONLY;
+    case Access::Signal:
+      return PAGE_READWRITE | PAGE_GUARD;
+    case Access::None:
+      break;
+  }
+  return PAGE_NOACCESS;
+}
+
 void protect(char* start, std::size_t size, Access access) {
   DWORD before = 0;
-  const DWORD protection = access == Access::Read ? PAGE_READONLY : PAGE_NOACCESS;
-  if (VirtualProtect(start, size, protection, &before) == FALSE) {
+  if (VirtualProtect(start, size, protectionOf(access), &before) == FALSE) {
     throw std::runtime_error("VirtualProtect failed");
   }
 }
