@@ -8,7 +8,6 @@ set(CMAKE_CXX_COMPILER i686-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER i686-w64-mingw32-windres)
 
 set(CMAKE_CXX_FLAGS_INIT "-msse2 -mfpmath=sse")
-add_compile_definitions(UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 
 # The Qt for the target, as tools/windows/qt.sh builds it.
 set(BRENNET_QT_DIR "" CACHE PATH "The folder of Qt for 32-bit Windows")

@@ -7,7 +7,6 @@
   X(3, kNoSettingsFile, "the settings file for the test cannot be written or read") \
   X(4, kNoMemory, "the memory for the test cannot be had")                          \
   X(5, kNoCount, "the system does not tell what the process holds")                 \
-  X(6, kNoQt, "the Qt that a host has in its process does not load")                \
   X(10, kNoLibrary, "the library does not load")                                    \
   X(11, kNoExport, "the library does not export GetBrennetPtr")                     \
   X(12, kNoObject, "GetBrennetPtr gives no object")                                 \

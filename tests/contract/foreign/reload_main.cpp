@@ -75,13 +75,6 @@ Round roundOf(const wchar_t* commandLine) {
   return useLibrary;
 }
 
-constexpr const wchar_t* kQt[] = {L"Qt5Core.dll", L"Qt5Gui.dll", L"Qt5Widgets.dll"};
-
-// A host runs a QApplication: Qt, and what it needs, is in its process all the time.
-void becomeAQtHost() {
-  for (const wchar_t* name : kQt) require(LoadLibraryW(name) != nullptr, kNoQt);
-}
-
 void tell(const char* title, const Footprint& footprint) {
   print(title);
   print(footprint.handles);
@@ -99,7 +92,6 @@ void tell(const char* title, const Footprint& footprint) {
 extern "C" [[noreturn]] void start() {
   reportCrashes();
   keepAwayFromThePlayersFiles();
-  becomeAQtHost();
   const Round round = roundOf(GetCommandLineW());
   for (unsigned i = 0; i < kWarmUp; ++i) round();
   const Footprint before = footprint();
