@@ -22,7 +22,7 @@ test: ## build everything and run all tests
 	@cmake --build --preset native -j $(JOBS)
 	@ctest --preset native -j $(JOBS)
 
-asan: ## the same under the address and undefined-behaviour sanitizers
+asan: ## build and run the native tests under the address and undefined-behaviour sanitizers
 	@tools/setup.sh build test
 	@cmake --preset asan
 	@cmake --build --preset asan -j $(JOBS)
@@ -34,8 +34,9 @@ windows: ## build the 32-bit Windows library, the sample host and all test progr
 	@tools/windows/configure.sh
 	@cmake --build --preset windows -j $(JOBS)
 
-test-windows: windows ## run all tests as Windows programs, under Wine
+test-windows: ## run all tests as Windows programs, under Wine
 	@tools/windows/wine.sh
+	@$(MAKE) --no-print-directory windows
 	@tools/setup.sh build test
 	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
 	@cmake --build --preset native -j $(JOBS) --target agreement_dump

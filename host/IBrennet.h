@@ -33,8 +33,9 @@ class IBrennet {
   // Slot 0. Reads the player's settings from the file at `path` (UTF-16; copied) and keeps the
   // path for every later save, also when the load fails. A successful load rewrites the hotkey
   // sections of the game's preference file.
-  // Returns false, with the defaults in place, when the file is missing, unreadable or damaged;
-  // false with nothing changed when `path` is null.
+  // Returns false, with the defaults in place, when the file is missing, unreadable or damaged; the
+  // quick-chat phrases, quick-cast marks and left-Alt switches of an earlier load stay then.
+  // False with nothing changed when `path` is null.
   virtual bool BRENNET_CALL LoadSettings(const wchar_t* path) = 0;
 
   // Slot 1. Stores the folder (copied) that holds Tollamere.reg; null stores an empty name.

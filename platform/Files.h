@@ -22,8 +22,13 @@ namespace brennet::platform {
 // file cannot take the target's place, the target is written in place: room is made sure of first,
 // and the old content is written back when the new one cannot be written.
 //
+// On Windows a file that is replaced has another name for a moment; both functions wait for it, put
+// back what a process left there that ended half-way, and wait for programs that hold the file, up
+// to a fifth of a second.
+//
 // Returns the first error of any step, a failing flush or close included, or an empty one.
-// After an error the old content stands and no temporary file is left. Throws std::bad_alloc, and
+// After an error the old content stands and no temporary file is left; only a file that was written
+// in place and whose closing failed has the new content. Throws std::bad_alloc, and
 // then has changed nothing.
 [[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes);
 

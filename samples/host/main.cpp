@@ -86,8 +86,9 @@ int run(const Options& options) {
   if (!options.saveBlock.isEmpty() && !writeBlock(options.saveBlock, report.block)) {
     return badUsage(options.saveBlock + QStringLiteral(": cannot be written"));
   }
+  // Text for people is in the system's encoding, as the messages are; JSON is UTF-8.
   const QByteArray text =
-      options.json ? jsonReport(report) : textReport(report, options.block).toUtf8();
+      options.json ? jsonReport(report) : textReport(report, options.block).toLocal8Bit();
   std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
   for (const QString& refusal : qAsConst(report.refusals)) {
     std::fprintf(stderr, "brennet-host: %s\n", qPrintable(refusal));

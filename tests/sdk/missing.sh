@@ -26,13 +26,16 @@ compile() {
   quietly i686-w64-mingw32-g++-posix -shared -x c++ - -x none "$@" -o "made/$name" <<<"$text"
 }
 
-# What the host itself needs is named by the loader, under Wine with this word in WINEDEBUG.
+# What the host itself needs is named by the loader: by Windows in a box, by Wine in a line.
 for name in Qt5Core.dll libstdc++-6.dll libgcc_s_dw2-1.dll; do
   copy_host
   rm "host/$name"
-  WINEDEBUG=-all,err+module run 53 "$emulator" "${host[@]}"
+  run 53 "$emulator" "${host[@]}"
   says "Library $name (which is needed by" err
 done
+
+# What the host says itself from here on.
+export WINEDEBUG=-all
 
 # The library itself.
 copy_host

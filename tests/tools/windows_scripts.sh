@@ -57,20 +57,20 @@ without_stand_ins
 
 # No network, and a distribution without the source.
 stand_in apt-get 'case "$*" in
-  indextargets*) echo "http://none.invalid $(. /etc/os-release; echo $VERSION_CODENAME) main" ;;
+  indextargets*) echo "http://none.invalid stable $(. /etc/os-release; echo $VERSION_CODENAME) main" ;;
   *) echo "E: no network" >&2; exit 100 ;;
 esac'
 refuses 'the package index cannot be fetched; is there a network?' \
   with_stand_ins "$scripts/qt.sh"
 is_clean
 stand_in apt-get 'case "$*" in
-  indextargets*) echo "http://none.invalid $(. /etc/os-release; echo $VERSION_CODENAME) main" ;;
+  indextargets*) echo "http://none.invalid stable $(. /etc/os-release; echo $VERSION_CODENAME) main" ;;
   *" source "*) echo "E: Unable to find a source package" >&2; exit 100 ;;
 esac'
 refuses 'the package qtbase-opensource-src cannot be fetched' with_stand_ins "$scripts/qt.sh"
 is_clean
 stand_in apt-get 'case "$*" in
-  indextargets*) echo "http://none.invalid $(. /etc/os-release; echo $VERSION_CODENAME) main" ;;
+  indextargets*) echo "http://none.invalid stable $(. /etc/os-release; echo $VERSION_CODENAME) main" ;;
 esac'
 refuses 'this distribution has no qtbase-opensource-src 5.15.8' with_stand_ins "$scripts/qt.sh"
 is_clean
@@ -96,6 +96,14 @@ if [[ $EUID -eq 0 ]]; then
 else
   as_nobody=()
 fi
+stand_in dpkg-query 'echo not-installed'
+stand_in sudo 'exit 1'
+refuses 'Packages are missing and take root to install; please run: sudo apt-get install' \
+  with_stand_ins "${as_nobody[@]}" "$scripts/../setup.sh" wine
+stand_in sudo 'shift; exec "$@"'
+stand_in apt-get 'echo "E: no network" >&2; exit 100'
+refuses 'could not be installed; is there a network? Missing: arch-test mmdebstrap' \
+  with_stand_ins "${as_nobody[@]}" "$scripts/../setup.sh" wine
 stand_in wineboot 'exit 1'
 stand_in wineserver 'exit 1'
 refuses 'needs root; run the same command as root' with_stand_ins "${as_nobody[@]}" \

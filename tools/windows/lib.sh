@@ -5,6 +5,8 @@
 # The toolchain folder holds one folder per thing and version, say qt-5.15.8-1a2b3c4d. It is made
 # under another name and renamed when it is whole, so a folder that is there is finished.
 
+# Where nobody says so, the shell knows the home folder from the user's entry.
+export HOME=${HOME:-$(unset HOME && echo ~)}
 toolchain_dir=${BRENNET_TOOLCHAIN_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/brennet}
 
 # Eight hexadecimal digits that change when one of the arguments does.
@@ -58,7 +60,8 @@ need_free_space() { # MEBIBYTES
 }
 
 need_root() { # WHAT FOR
-  [[ $EUID -eq 0 ]] || die "$1 needs root; run the same command as root."
+  [[ $EUID -eq 0 ]] ||
+    die "$1 needs root; run the same command as root, with BRENNET_TOOLCHAIN_DIR=$toolchain_dir."
 }
 
 # Runs a command with its output in a log file; tells every 20 seconds how long it has run and, when
@@ -86,10 +89,10 @@ logged() { # LOG WHAT COMMAND...
 # The package sources of this machine's own release, as lines for a sources.list with the given
 # type. Updates are left out: their indexes change under way, and nothing of it is shipped but Qt.
 own_package_sources() { # deb|deb-src
-  apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT) $(TRUSTED)' \
+  apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(CODENAME) $(COMPONENT) $(TRUSTED)' \
     'Created-By: Packages' | awk -v type="$1" -v suite="$(own_suite)" '
-      $2 == suite && $3 == "main" && !seen[$1]++ {
-        print type ($4 == "yes" ? " [trusted=yes]" : ""), $1, $2, $3
+      ($2 == suite || $3 == suite) && $4 == "main" && !seen[$1]++ {
+        print type ($5 == "yes" ? " [trusted=yes]" : ""), $1, $2, $4
       }'
 }
 

@@ -40,7 +40,7 @@ is_whole() { # FOLDER
   local file
   for file in bin/Qt5Core.dll bin/Qt5Gui.dll bin/Qt5Widgets.dll bin/Qt5Test.dll bin/moc bin/rcc \
     bin/uic lib/cmake/Qt5Widgets/Qt5WidgetsConfig.cmake plugins/platforms/qwindows.dll \
-    plugins/platforms/qoffscreen.dll plugins/styles/qwindowsvistastyle.dll; do
+    plugins/platforms/qoffscreen.dll plugins/styles/qwindowsvistastyle.dll LICENSE.LGPLv3; do
     [[ -s $1/$file ]] || { echo "$file" && return 1; }
   done
 }
@@ -123,9 +123,8 @@ install_parts() {
   make -C .. install_mkspecs INSTALL_ROOT="$work_dir/stage"
   # The CMake files of Qt5Core ask for it.
   cp ../bin/qmake "$work_dir/stage$prefix/bin/"
-  # They look for the libraries there; the plugins and programs are found beside them.
-  cp -R "$work_dir/source/LICENSE.LGPLv3" "$work_dir/source/LICENSE.LGPL3" \
-    "$work_dir/stage$prefix/" 2>/dev/null || true
+  # Whoever passes the DLLs on has to pass it on too.
+  cp "$work_dir/source/LICENSE.LGPLv3" "$work_dir/stage$prefix/"
 }
 
 main() {

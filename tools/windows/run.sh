@@ -4,8 +4,8 @@
 #
 # The program finds the registry and the profile folder as a new user would, whatever ran before,
 # and nothing of Wine is left running when it ends. It sees this checkout, the toolchain folder and
-# the working folder under their own names (drive Z: is the root). DLLs are looked for beside the
-# program and in the folders of WINEPATH.
+# the working folder under their own names (drive Z: is the root), unless Wine has one of that name.
+# DLLs are looked for beside the program and in the folders of WINEPATH.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 # shellcheck source=tools/windows/lib.sh
@@ -40,7 +40,8 @@ run_in_root() {
     mount -t proc proc "$root/proc"
     mount --rbind /dev "$root/dev"
     for folder in "$checkout" "$toolchain_dir" "$PWD"; do
-      [[ $folder != / ]] || continue
+      # What is there already is part of Wine, or was mounted with a folder above it.
+      [[ ! -e $root$folder ]] || continue
       mkdir -p "$root$folder"
       mount --rbind "$folder" "$root$folder"
     done
@@ -54,7 +55,8 @@ run_in_root() {
 run_with_installed_wine() {
   local folder
   folder=$(mktemp -d)
-  export WINEPREFIX=$folder/prefix
+  # Wine links the folders of the home folder into the user's profile.
+  export HOME=$folder WINEPREFIX=$folder/prefix
   # shellcheck disable=SC2064  # the folder of now
   trap "wineserver --kill 2>/dev/null || true; wineserver --wait || true; rm -rf '$folder'" EXIT
   cp -a "$wine_dir/prefix" "$WINEPREFIX"
@@ -63,7 +65,8 @@ run_with_installed_wine() {
 
 main() {
   [[ $# -gt 0 ]] || { echo "usage: tools/windows/run.sh PROGRAM.exe ARGUMENT..." >&2 && exit 2; }
-  export WINEDEBUG=${WINEDEBUG:--all} checkout toolchain_dir
+  # Wine is silent but for the DLLs that it does not find.
+  export WINEDEBUG=${WINEDEBUG:--all,err+module} checkout toolchain_dir
   if [[ -d $wine_dir/root ]]; then
     run_in_root "$@"
   elif [[ -d $wine_dir ]]; then

@@ -36,9 +36,10 @@ make_root() {
 make_prefix_with_installed_wine() {
   command -v wineboot >/dev/null && command -v wineserver >/dev/null || return 1
   locale -a | grep -qix "${wine_locale/UTF-8/utf-\\?8}" || return 1
-  mkdir -p "$work_dir/whole"
+  mkdir -p "$work_dir/whole" "$work_dir/home"
   (
-    export WINEARCH=win32 WINEPREFIX=$work_dir/whole/prefix WINEDEBUG=-all LC_ALL=$wine_locale
+    # Wine links the folders of the home folder into the user's profile.
+    export HOME=$work_dir/home WINEARCH=win32 WINEPREFIX=$work_dir/whole/prefix WINEDEBUG=-all LC_ALL=$wine_locale
     unset DISPLAY
     timeout 300 wineboot --init && timeout 60 wineserver --wait
   ) >"$work_dir/prefix.log" 2>&1 9>&- && return
