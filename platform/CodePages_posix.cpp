@@ -47,6 +47,9 @@ constexpr CodePageName kConverterNames[] = {
     {65000, "UTF-7"},
 };
 
+// kernel32 drops the top bit of a byte there.
+constexpr CodePage kAscii = 20127;
+
 // The lead bytes that kernel32 reports for its double-byte code pages (CPINFO.LeadByte).
 struct LeadByteRange {
   CodePage codePage;
@@ -227,7 +230,8 @@ EncodedUnit utf16ToBytes(CodePage codePage, char16_t unit) {
 }
 
 void decode(CodePage codePage, std::string_view bytes, std::u16string& out) {
-  converterOf(codePage).decode(bytes, out);
+  if (codePage != kAscii) return converterOf(codePage).decode(bytes, out);
+  for (const char byte : bytes) out.push_back(static_cast<char16_t>(byte & 0x7F));
 }
 
 bool encode(CodePage codePage, std::u16string_view text, std::string& out) {

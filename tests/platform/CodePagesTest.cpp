@@ -80,6 +80,12 @@ TEST(CodePage936, ReadsBackEveryPairThatStandsForSomething) {
   }
 }
 
+TEST(WholeTexts, LoseTheTopBitInAscii) {
+  std::u16string text;
+  decode(20127, "a\xE9\x80", text);
+  EXPECT_EQ(text, std::u16string({u'a', u'i', u'\0'}));
+}
+
 TEST(WholeTexts, AreDecodedAndEncoded) {
   std::u16string text = u"<";
   decode(1252, "\x80\xE9", text);
