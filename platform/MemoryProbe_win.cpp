@@ -7,7 +7,8 @@
 namespace brennet::platform {
 namespace {
 
-// IsBadWritePtr touches the pages: on one that guards the end of a stack it would set the guard off.
+// IsBadWritePtr touches the pages: on one that guards the end of a stack it would set the guard
+// off.
 bool hasGuardPage(const char* first, const char* last) {
   MEMORY_BASIC_INFORMATION region{};
   for (const char* at = first; VirtualQuery(at, &region, sizeof(region)) != 0;) {
