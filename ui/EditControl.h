@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace brennet {
+
+// Which setting a key field of a basic page edits, as its object name says: all counters are 0 but
+// the one that the name selects.
+struct EditControl {
+  std::uint8_t nSkillIndex = 0;           // hero skill, from 1
+  std::uint8_t nGoodsIndex = 0;           // inventory slot, by its digit on the numeric keypad
+  std::uint8_t nSkillExSrcIndex = 0;      // custom remap, from 1: source
+  std::uint8_t nSkillExDstIndex = 0;      // custom remap: target
+  std::uint8_t nSkillGroupSrcIndex = 0;   // group remap: source, from 1
+  std::uint8_t nSkillGroupDstIndex = 0;   // group remap: target
+  std::uint8_t nMouseWheelIndex = 0;      // wheel up, click, down: 1, 2, 3
+  std::uint8_t nLedgerIndex = 0;          // Ledger panel: open and close, show data, reminder
+  std::uint8_t nSkillGroup2SrcIndex = 0;  // second group remap: source, from 1
+  std::uint8_t nSkillGroup2DstIndex = 0;  // second group remap: target
+
+  friend constexpr bool operator==(const EditControl&, const EditControl&) = default;
+};
+
+// The older page has seven skills and no second group remap.
+enum class BasicPage { Older, Current };
+
+// Fills `control` from the object name of a field. Returns false for a name that selects nothing,
+// and for one whose number the page has not; the number stands in its counter then.
+bool getEditControlTypeByParseName(std::u16string_view name, BasicPage page, EditControl& control);
+
+}  // namespace brennet
