@@ -47,18 +47,12 @@ TEST(KeySetting, IsFoundThroughTheNameOfTheField) {
     int number;
   };
   constexpr Row kRows[] = {
-      {u"edtSkill_1", Kind::HeroSkill, 0},
-      {u"edtSkill_12", Kind::HeroSkill, 11},
-      {u"edtGoodsKey_7", Kind::Item, 0x67},
-      {u"edtGoodsKey_2", Kind::Item, 0x62},
-      {u"edt_skillex_L_1", Kind::RemapSource, 0},
-      {u"edt_skillex_R_5", Kind::RemapDestination, 4},
-      {u"edt_skillex_GROUP_L_2", Kind::Combo, 1},
-      {u"edt_skillex_GROUP_R_1", Kind::Combo, 3},
-      {u"edt_skillex_GROUP_2_L_3", Kind::Combo, 2},
-      {u"edt_skillex_GROUP_2_R_1", Kind::Combo, 3},
-      {u"edtMouseWheelMiddleKey", Kind::Mouse, 1},
-      {u"edtHotKeyLedgerSkill", Kind::Ledger, 2},
+      {u"edtSkill_1", Kind::HeroSkill, 0},          {u"edtSkill_12", Kind::HeroSkill, 11},
+      {u"edtGoodsKey_7", Kind::Item, 0x67},         {u"edtGoodsKey_2", Kind::Item, 0x62},
+      {u"edt_skillex_L_1", Kind::RemapSource, 0},   {u"edt_skillex_R_5", Kind::RemapDestination, 4},
+      {u"edt_skillex_GROUP_L_2", Kind::Combo, 1},   {u"edt_skillex_GROUP_R_1", Kind::Combo, 3},
+      {u"edt_skillex_GROUP_2_L_3", Kind::Combo, 2}, {u"edt_skillex_GROUP_2_R_1", Kind::Combo, 3},
+      {u"edtMouseWheelMiddleKey", Kind::Mouse, 1},  {u"edtHotKeyLedgerSkill", Kind::Ledger, 2},
   };
   for (const Row& row : kRows) {
     EditControl control;
