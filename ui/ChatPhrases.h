@@ -1,0 +1,17 @@
+#pragma once
+
+#include <span>
+
+namespace brennet {
+
+// A branch of the tree of ready-made phrases. All texts are the keys that the catalogue is looked
+// up by, in the context "QObject"; some end in a space, and one stands twice.
+struct PhraseCategory {
+  const char* key;
+  std::span<const char* const> phrases;
+};
+
+// The branches in the order in which the tree shows them.
+[[nodiscard]] std::span<const PhraseCategory> chatPhrases();
+
+}  // namespace brennet
