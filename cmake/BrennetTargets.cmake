@@ -56,12 +56,17 @@ endfunction()
 
 # brennet_add_test(markup SOURCES a_test.cpp DEPENDS Brennet::markup)
 # One GoogleTest program per folder, each of its cases a CTest test. Programs for another system
-# are a test each: starting its emulator takes longer than most programs run.
+# are a test each: starting its emulator takes longer than most programs run. With OWN_MAIN behind
+# the name the sources hold the function main.
 function(brennet_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;DEPENDS")
+  cmake_parse_arguments(PARSE_ARGV 1 test "OWN_MAIN" "" "SOURCES;DEPENDS")
+  set(main GTest::gtest_main)
+  if(test_OWN_MAIN)
+    set(main GTest::gtest)
+  endif()
   add_executable(${name}_tests ${test_SOURCES})
   brennet_target_defaults(${name}_tests)
-  target_link_libraries(${name}_tests PRIVATE ${test_DEPENDS} GTest::gmock GTest::gtest_main)
+  target_link_libraries(${name}_tests PRIVATE ${test_DEPENDS} GTest::gmock ${main})
   target_compile_definitions(${name}_tests PRIVATE
     BRENNET_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
   if(CMAKE_CROSSCOMPILING)

@@ -1,0 +1,168 @@
+// The style sheet of the settings dialogs on controls that have the names it looks for.
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+
+#include "ui/StyleSheet.h"
+
+namespace brennet {
+namespace {
+
+constexpr QRgb kBelow = 0xFF1E242F;
+
+class TheSettingsSheet : public testing::Test {
+ protected:
+  TheSettingsSheet() {
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(kBelow));
+    window_.setPalette(palette);
+    window_.resize(300, 200);
+    EXPECT_TRUE(loadStyleSheet(window_, QStringLiteral(":/skin/war3key.qss")));
+    window_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window_));
+    QTest::mouseMove(&window_, QPoint(299, 199));
+  }
+
+  // A control of that name, with the size that the sheet gives it.
+  template <class Control>
+  Control* make(const char* name) {
+    auto* const control = new Control(&window_);
+    control->setObjectName(QLatin1String(name));
+    control->move(20, 20);
+    control->show();
+    control->resize(control->sizeHint());
+    return control;
+  }
+
+  QImage pictureOf(const QWidget& control) {
+    const QPixmap all = window_.grab(control.geometry());
+    return all.toImage().convertToFormat(QImage::Format_RGB32);
+  }
+
+  QWidget window_;
+};
+
+struct PictureButton {
+  const char* name;
+  const char* picture;
+  int height;  // of one state
+  const char* hovered;
+  int hoveredAt;
+  const char* checked;
+  int checkedAt;
+};
+
+const PictureButton kButtons[] = {
+    {"btnSwichBasicSetting", "bg", 26, "bg", 26, "bg", 52},
+    {"btnSwichAdvancedSetting", "bg", 26, "bg", 26, "bg", 52},
+    {"btnSwichChatWheelSetting", "bg", 26, "bg", 26, "bg", 52},
+    {"btnSwitchPlat", "btnSwitch_2", 28, "btnSwitch_1", 0, nullptr, 0},
+    {"btnSwitchDota7", "btnSwitch_2", 28, "btnSwitch_1", 0, nullptr, 0},
+    {"btnOrrerySetting", "box", 55, "box", 55, "box", 55},
+    {"btnTalkSetting", "chat", 55, "chat", 55, "chat", 55},
+    {"btnDota7Setting", "dota7", 55, "dota7", 55, "dota7", 55},
+    {"chatHotkeyBtn", "chatHotKey_1", 55, "chatHotKey_2", 0, nullptr, 0},
+    {"btn_skillcast_12", "auto", 13, nullptr, 0, "auto", 13},
+    {"btn_goods_cast_7", "auto", 13, nullptr, 0, "auto", 13},
+};
+
+// One state of a picture as it stands in the window.
+QImage state(const char* picture, int at, int height) {
+  const QImage all(QStringLiteral(":/skin/image/%1.png").arg(QLatin1String(picture)));
+  QImage expected(all.width(), height, QImage::Format_RGB32);
+  expected.fill(kBelow);
+  QPainter(&expected).drawImage(0, 0, all, 0, at, all.width(), height);
+  return expected;
+}
+
+TEST_F(TheSettingsSheet, CutsTheStatesOfPicturesWithoutStretchingThem) {
+  for (const PictureButton& row : kButtons) {
+    auto* const button = make<QPushButton>(row.name);
+    button->setCheckable(true);
+    EXPECT_TRUE(pictureOf(*button) == state(row.picture, 0, row.height)) << row.name;
+    if (row.hovered != nullptr) {
+      QTest::mouseMove(button);
+      EXPECT_TRUE(pictureOf(*button) == state(row.hovered, row.hoveredAt, row.height))
+          << row.name << " under the mouse";
+      QTest::mouseMove(&window_, QPoint(299, 199));
+    }
+    button->setChecked(true);
+    if (row.checked != nullptr) {
+      EXPECT_TRUE(pictureOf(*button) == state(row.checked, row.checkedAt, row.height))
+          << row.name << " checked";
+    }
+    delete button;
+  }
+}
+
+TEST_F(TheSettingsSheet, ColoursTexts) {
+  struct Row {
+    const char* name;
+    QRgb color;
+  };
+  for (const Row& row : {Row{"lblOther", 0xFF909FB0}, Row{"lblTitle", 0xFFB1D9D9},
+                         Row{"lblResetToDefaultSetting", 0xFF909FB0}}) {
+    const auto* const label = make<QLabel>(row.name);
+    EXPECT_EQ(label->palette().color(QPalette::WindowText).rgb(), row.color) << row.name;
+  }
+  EXPECT_EQ(make<QLabel>("lblTitle")->font().pixelSize(), 14);
+}
+
+TEST_F(TheSettingsSheet, DrawsPushButtons) {
+  auto* const button = make<QPushButton>("btnOther");
+  button->resize(100, 40);
+  EXPECT_EQ(pictureOf(*button).pixel(50, 0), 0xFF6886B4);
+  EXPECT_EQ(pictureOf(*button).pixel(50, 20), 0xFF435777);
+  button->setDown(true);
+  EXPECT_EQ(pictureOf(*button).pixel(50, 0), 0xFF414E6D);
+  EXPECT_EQ(pictureOf(*button).pixel(50, 20), 0xFF2D3851);
+}
+
+TEST_F(TheSettingsSheet, DrawsComboBoxes) {
+  auto* const box = make<QComboBox>("cmbHotkeySetting");
+  box->resize(100, box->sizeHint().height());
+  EXPECT_EQ(box->height(), 26 + 2);
+  const QImage picture = pictureOf(*box);
+  EXPECT_EQ(picture.pixel(50, 0), 0xFF6886B4);
+  EXPECT_EQ(picture.pixel(10, 10), 0xFFFFFFFF);
+  EXPECT_EQ(picture.pixel(100 - 2, 2), 0xFF414E6E);
+  EXPECT_EQ(picture.pixel(100 - 1 - 27, 2), 0xFF414E6E);
+  EXPECT_EQ(picture.pixel(100 - 1 - 28, 2), 0xFFFFFFFF);
+}
+
+TEST_F(TheSettingsSheet, DrawsScrollBarsOfEightPixels) {
+  for (const Qt::Orientation orientation : {Qt::Vertical, Qt::Horizontal}) {
+    auto* const bar = make<QScrollBar>("bar");
+    bar->setOrientation(orientation);
+    const bool isVertical = orientation == Qt::Vertical;
+    EXPECT_EQ(isVertical ? bar->sizeHint().width() : bar->sizeHint().height(), 8);
+    bar->resize(isVertical ? QSize(8, 100) : QSize(100, 8));
+    bar->setPageStep(50);
+    const QImage picture = pictureOf(*bar);
+    EXPECT_EQ(picture.pixel(isVertical ? QPoint(4, 10) : QPoint(10, 4)), 0xFF5C6B98);
+    EXPECT_EQ(picture.pixel(isVertical ? QPoint(4, 98) : QPoint(98, 4)), 0xFF2F384E);
+    delete bar;
+  }
+}
+
+TEST_F(TheSettingsSheet, DrawsABorderAroundGroupsButThree) {
+  for (const char* const name :
+       {"grpOther", "grpNumKeypadHotkey", "grpCommonOptions", "grpMouseWheelKeys"}) {
+    auto* const group = make<QGroupBox>(name);
+    group->resize(100, 60);
+    const QRgb expected = qstrcmp(name, "grpOther") == 0 ? 0xFF526E7A : kBelow;
+    EXPECT_EQ(pictureOf(*group).pixel(50, 59), expected) << name;
+    delete group;
+  }
+}
+
+}  // namespace
+}  // namespace brennet

@@ -1,0 +1,51 @@
+// Main of the tests of windows. They run without a screen, and look the same on all machines.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QStyleFactory>
+
+#include "platform/Export.h"
+#include "tests/ui/UiTest.h"
+
+// The leak sanitizer asks for this by name: the library of fonts keeps what it read.
+extern "C" BRENNET_EXPORT const char* __lsan_default_suppressions() {
+  return "leak:libfontconfig";
+}
+
+namespace {
+
+// The offscreen platform knows the fonts of other systems, but not where Windows has them. Wine
+// uses those of the system below it.
+void setFontFolder() {
+  const QString windows = qEnvironmentVariable("windir");
+  if (windows.isEmpty()) return;
+  for (const QString& folder :
+       {windows + QStringLiteral("/Fonts"), QStringLiteral("Z:/usr/share/fonts/truetype/wqy")}) {
+    if (!QDir(folder).isEmpty(QDir::Files)) {
+      qputenv("QT_QPA_FONTDIR", folder.toLocal8Bit());
+      return;
+    }
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  for (const char* const variable :
+       {"QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS",
+        "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_FONT_DPI"}) {
+    qunsetenv(variable);
+  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  setFontFolder();
+  brennet::test::failOnWarnings();
+  // It is never deleted: the offscreen platform loses its screen with it, and the leak sanitizer
+  // would tell of that.
+  static const QApplication* const application = new QApplication(argc, argv);
+  Q_UNUSED(application)
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,45 @@
+// The message box with each icon, with one button and with two.
+
+#include <QPushButton>
+
+#include "tests/ui/shots/Shots.h"
+#include "ui/CMsgBox.h"
+
+namespace brennet::shots {
+namespace {
+
+struct Icon {
+  const char* name;
+  QMessageBox::Icon icon;
+};
+constexpr Icon kIcons[] = {{"warning", QMessageBox::Warning},
+                           {"critical", QMessageBox::Critical},
+                           {"question", QMessageBox::Question},
+                           {"plain", QMessageBox::NoIcon}};
+
+std::unique_ptr<QWidget> makeBox(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons) {
+  const QString text = buttons == QMessageBox::Ok
+                           ? QStringLiteral(u"The key is used already. 按键已被使用")
+                           : QStringLiteral(
+                                 "After resetting, your modification on basic and advanced "
+                                 "settings will lost.\nAre you sure to continue?");
+  auto box = std::make_unique<CMsgBox>(icon, QStringLiteral("reset settings"), text, buttons);
+  box->setButtonTexts();
+  box->setDefaultButton(QMessageBox::Ok);
+  return box;
+}
+
+}  // namespace
+
+QList<Shot> boxShots() {
+  QList<Shot> shots;
+  for (const Icon& row : kIcons) {
+    const QString name = QStringLiteral("box-%1").arg(QLatin1String(row.name));
+    shots.append({name, [&row] { return makeBox(row.icon, QMessageBox::Ok); }});
+    shots.append({name + QStringLiteral("-cancel"),
+                  [&row] { return makeBox(row.icon, QMessageBox::Ok | QMessageBox::Cancel); }});
+  }
+  return shots;
+}
+
+}  // namespace brennet::shots

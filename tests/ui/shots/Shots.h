@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+namespace brennet::shots {
+
+// A window to take a picture of, under the name of its file.
+struct Shot {
+  QString name;
+  std::function<std::unique_ptr<QWidget>()> make;
+};
+
+// One function for each kind of window; main.cpp calls all of them.
+[[nodiscard]] QList<Shot> boxShots();
+[[nodiscard]] QList<Shot> controlShots();
+
+}  // namespace brennet::shots

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace brennet {
+
+// A line edit that takes the text of an item that is dropped on it from one of Qt's item views, in
+// the place of what it held. Of several items it takes the last one's.
+class CCustomLineEdit : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+};
+
+}  // namespace brennet

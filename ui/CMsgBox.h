@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QMessageBox>
+
+namespace brennet {
+struct DraggableWindow;
+}
+
+// The message box of all settings windows: a QMessageBox in the skin, without the system's frame,
+// with a title strip of its own. It is in no namespace, because style sheets and catalogues of
+// translations know it by this name.
+class CMsgBox : public QMessageBox {
+  Q_OBJECT
+
+ public:
+  CMsgBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons = NoButton,
+          QWidget* parent = nullptr,
+          Qt::WindowFlags flags = Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+
+  // Shows a box and waits for the answer: the button that was clicked, or NoButton when the box was
+  // closed by its close button. `defaultButton` is the one that Return clicks; without it, the
+  // first one that accepts.
+  static StandardButton showMessage(QWidget* parent, Icon icon, const QString& title,
+                                    const QString& text, StandardButtons buttons = Ok,
+                                    StandardButton defaultButton = NoButton);
+
+  // Gives the standard buttons that the box has their texts, and the widths that go with them.
+  void setButtonTexts();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  bool nativeEvent(const QByteArray& eventType, void* message, long* result) override;
+
+ private:
+  void applySkin();
+  void buildTitleStrip();
+  void addButtons(StandardButtons buttons, StandardButton defaultButton);
+  [[nodiscard]] QWidget* titleStrip() const;
+  [[nodiscard]] QWidget* buttonPanel() const;
+  [[nodiscard]] brennet::DraggableWindow dragged() const;
+};
