@@ -6,7 +6,6 @@
 #include <QMimeData>
 #include <QVariant>
 
-namespace brennet {
 namespace {
 
 // What item views drag: for each item its row, its column and its data by role.
@@ -38,5 +37,3 @@ void CCustomLineEdit::dropEvent(QDropEvent* event) {
     setText(roles.value(Qt::DisplayRole).toString());
   }
 }
-
-}  // namespace brennet

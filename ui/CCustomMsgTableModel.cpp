@@ -1,6 +1,5 @@
 #include "ui/CCustomMsgTableModel.h"
 
-namespace brennet {
 namespace {
 
 constexpr int kIndexColumn = 0;
@@ -78,5 +77,3 @@ Qt::ItemFlags CCustomMsgTableModel::flags(const QModelIndex& index) const {
   flags.setFlag(Qt::ItemIsEditable, index.column() == kContentColumn);
   return flags;
 }
-
-}  // namespace brennet

@@ -4,10 +4,9 @@
 #include <QString>
 #include <QVector>
 
-namespace brennet {
-
 // Rows of an index and a content, both texts; only the content can be edited in place. The advanced
-// page shows the quick-chat phrases with it.
+// page shows the quick-chat phrases with it. In no namespace: catalogues of translations know it by
+// this name.
 class CCustomMsgTableModel : public QAbstractTableModel {
   Q_OBJECT
 
@@ -37,5 +36,3 @@ class CCustomMsgTableModel : public QAbstractTableModel {
 
   QVector<Row> rows_;
 };
-
-}  // namespace brennet

@@ -1,11 +1,7 @@
 #include "ui/CCustomTreeWidget.h"
 
-namespace brennet {
-
 void CCustomTreeWidget::startDrag(Qt::DropActions supportedActions) {
   const QTreeWidgetItem* const item = currentItem();
   if (item == nullptr || item->parent() == nullptr) return;
   QTreeWidget::startDrag(supportedActions);
 }
-
-}  // namespace brennet

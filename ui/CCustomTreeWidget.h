@@ -2,9 +2,8 @@
 
 #include <QTreeWidget>
 
-namespace brennet {
-
 // A tree whose branches cannot be dragged, but the items in them can.
+// In no namespace: style sheets know it by this name.
 class CCustomTreeWidget : public QTreeWidget {
   Q_OBJECT
 
@@ -14,5 +13,3 @@ class CCustomTreeWidget : public QTreeWidget {
  protected:
   void startDrag(Qt::DropActions supportedActions) override;
 };
-
-}  // namespace brennet

@@ -23,9 +23,9 @@ IBrennet& library() {
 }
 
 // The files of one player, and where what became of them is put.
-class Session {
+class Player {
  public:
-  Session(std::string_view settings, std::string_view preferences, fs::path results)
+  Player(std::string_view settings, std::string_view preferences, fs::path results)
       : results_(std::move(results)) {
     fs::create_directories(preferences_.parent_path());
     fs::create_directories(results_);
@@ -79,18 +79,18 @@ void change(HotkeyBlock& block) {
 }  // namespace
 
 void dumpSettings(std::string_view settings, std::string_view preferences, const fs::path& folder) {
-  Session session(settings, preferences, folder);
+  Player player(settings, preferences, folder);
   IBrennet& brennet = library();
   brennet.SetDataFolder(L"");
   const HotkeyBlock loaded =
-      session.record("1-loaded", brennet.LoadSettings(session.settings().c_str()));
+      player.record("1-loaded", brennet.LoadSettings(player.settings().c_str()));
   const bool enabled = (loaded.flags & 0x80000000U) != 0;
-  session.record("2-switched", brennet.SetEnabled(!enabled, 1000));
-  HotkeyBlock block = session.record("3-switched-back", brennet.SetEnabled(enabled, 2000));
-  session.record("4-unchanged", brennet.ApplyHotkeyBlock(&block, 3000));
+  player.record("2-switched", brennet.SetEnabled(!enabled, 1000));
+  HotkeyBlock block = player.record("3-switched-back", brennet.SetEnabled(enabled, 2000));
+  player.record("4-unchanged", brennet.ApplyHotkeyBlock(&block, 3000));
   change(block);
-  session.record("5-changed", brennet.ApplyHotkeyBlock(&block, 4000000000U));
-  session.record("6-loaded-again", brennet.LoadSettings(session.settings().c_str()));
+  player.record("5-changed", brennet.ApplyHotkeyBlock(&block, 4000000000U));
+  player.record("6-loaded-again", brennet.LoadSettings(player.settings().c_str()));
 }
 
 }  // namespace brennet::test

@@ -91,6 +91,10 @@ TEST(MsgTableModel, LetsTheContentAloneBeEditedInPlace) {
   EXPECT_TRUE(model.flags(model.at(0, 1)).testFlag(Qt::ItemIsEditable));
 }
 
+TEST(MsgTableModel, IsKnownToCataloguesByItsName) {
+  EXPECT_STREQ(CCustomMsgTableModel::staticMetaObject.className(), "CCustomMsgTableModel");
+}
+
 TEST(MsgTableModel, NamesItsColumns) {
   const AnyIndexModel model;
   EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::DisplayRole), QStringLiteral("index"));
