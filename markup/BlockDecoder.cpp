@@ -32,6 +32,15 @@ std::size_t startOfLastNonZero(std::string_view bytes, std::size_t count) {
   return at;
 }
 
+// Takes the nulls out of `text` from `start` on, and returns how many there were. Bytes that are
+// not zero may stand for them: ASCII is read without the high bit, so that 0x80 is one.
+std::size_t removeNulls(std::u16string& text, std::size_t start) {
+  const auto rest = std::remove(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), 0);
+  const auto count = static_cast<std::size_t>(text.end() - rest);
+  text.erase(rest, text.end());
+  return count;
+}
+
 }  // namespace
 
 BlockDecoder::BlockDecoder(platform::CodePage codePage)
@@ -118,9 +127,10 @@ DecodedBlock BlockDecoder::decodeBytes(std::string_view block, bool isLast, std:
     std::remove_copy(block.begin(), block.end(), std::back_inserter(withoutNulls_), '\0');
     bytes = withoutNulls_;
   }
+  const std::size_t start = out.size();
   const std::size_t left = bytes.size() - convert(bytes, isLast, out);
   const std::size_t used = startOfLastNonZero(block, left);
-  return {used, used - (bytes.size() - left)};
+  return {used, used - (bytes.size() - left) + removeNulls(out, start)};
 }
 
 // Appends the text in `bytes`, which hold no zeros, and returns how many of them that were.

@@ -44,6 +44,9 @@ TEST(TextDecoding, ReportsWhatItDid) {
       {"zero bytes", "<\0\0a/>\0"sv, u"<a/>",
        u"<utf8_detection/><read encoding=\"UTF-8\" length=\"7\"/><nulls_removed count=\"3\"/>"
        u"<converted_to encoding=\"UTF-16\" length=\"4\"/>"},
+      {"a byte that becomes a zero", "<?xml encoding='us'?>\x80 \xE1", u"<?xml encoding='us'?> a",
+       u"<read encoding=\"us\" length=\"24\"/><nulls_removed count=\"1\"/>"
+       u"<converted_to encoding=\"UTF-16\" length=\"23\"/>"},
       {"UTF-16", "\xFF\xFE<\0\x22\x8C\0\0"sv, u"<\u8C22",
        u"<bom/><read encoding=\"UTF-16LE\" length=\"3\"/><nulls_removed count=\"1\"/>"},
       {"UTF-16, high byte first", "\xFE\xFF\0<\x8C\x22"sv, u"<\u8C22",
