@@ -4,16 +4,14 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QString>
+#include <algorithm>
 #include <utility>
 
+#include "ui/Text.h"
 #include "ui/VirtualKey.h"
 
 namespace brennet {
 namespace {
-
-QString toQString(const std::u16string& text) {
-  return QString::fromUtf16(text.data(), static_cast<int>(text.size()));
-}
 
 KeyEvent toKeyEvent(const QKeyEvent& event) {
   return {
@@ -30,12 +28,25 @@ KeyEvent toKeyEvent(const QKeyEvent& event) {
 CaptureFields::CaptureFields(CapturePage page, HotkeyConfig& config)
     : page_(std::move(page)), config_(&config), capture_(page_.style) {}
 
-void CaptureFields::install(QWidget& page) {
+void CaptureFields::install(const QWidget& window, QObject& page) {
   const QRegularExpression names(QStringLiteral("^edt"));
-  for (QLineEdit* const field : page.findChildren<QLineEdit*>(names)) {
+  for (QLineEdit* const field : window.findChildren<QLineEdit*>(names)) {
     field->setAttribute(Qt::WA_InputMethodEnabled, false);
     field->installEventFilter(&page);
+    const auto setting = page_.settingOf(field->objectName().toStdU16String());
+    if (setting) fields_.push_back({field, *setting});
   }
+}
+
+void CaptureFields::refresh() const {
+  for (const Field& row : fields_) row.field->setText(keyText(keyOf(*config_, row.setting)));
+}
+
+std::optional<KeySetting> CaptureFields::settingOf(const QLineEdit& field) const {
+  const auto row = std::find_if(fields_.begin(), fields_.end(),
+                                [&](const Field& candidate) { return candidate.field == &field; });
+  if (row == fields_.end()) return std::nullopt;
+  return row->setting;
 }
 
 bool CaptureFields::filter(QObject* watched, QEvent* event) {
@@ -61,7 +72,8 @@ bool CaptureFields::filter(QObject* watched, QEvent* event) {
 void CaptureFields::handleKey(QLineEdit& field, const QKeyEvent& event) {
   const Capture capture = capture_.handle(toKeyEvent(event));
   if (capture.outcome == Capture::Outcome::Ignored) return;
-  const bool isUsed = store(capture, page_.settingOf(field), *config_);
+  if (capture.outcome != Capture::Outcome::Shown) page_.trace(field);
+  const bool isUsed = store(capture, settingOf(field), *config_);
   field.setText(isUsed ? QString() : toQString(capture.text));
   if (isUsed) page_.tellUsed();
 }

@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <optional>
+#include <string_view>
+#include <vector>
 
 #include "ui/KeyCapture.h"
 #include "ui/KeySetting.h"
@@ -18,9 +20,11 @@ namespace brennet {
 struct CapturePage {
   CaptureStyle style;
   // Whether a field captures keys; the others take text as usual.
-  std::function<bool(const QLineEdit&)> captures;
-  // The setting that a field edits, if any.
-  std::function<std::optional<KeySetting>(const QLineEdit&)> settingOf;
+  std::function<bool(const QLineEdit&)> captures = [](const QLineEdit&) { return true; };
+  // The setting that a field of this object name edits, if any.
+  std::function<std::optional<KeySetting>(std::u16string_view)> settingOf;
+  // Hears which field a key was pressed in, before the key is stored.
+  std::function<void(const QLineEdit&)> trace = [](const QLineEdit&) {};
   // Tells the player that a key is used already. May run an event loop.
   std::function<void()> tellUsed;
 };
@@ -31,19 +35,29 @@ class CaptureFields {
   // `config` outlives this object.
   CaptureFields(CapturePage page, HotkeyConfig& config);
 
-  // Makes `page` the event filter of all its line edits named "edt...", and turns input methods off
-  // there: they would swallow keys.
-  static void install(QWidget& page);
+  // Makes `page` the event filter of all line edits named "edt..." in `window`, and turns input
+  // methods off there: they would swallow keys. The fields outlive this object.
+  void install(const QWidget& window, QObject& page);
+
+  // Shows the keys of the current scheme in all fields that have a setting.
+  void refresh() const;
 
   // For the event filter of the page: whether the event is used up.
   bool filter(QObject* watched, QEvent* event);
 
  private:
+  struct Field {
+    QLineEdit* field;
+    KeySetting setting;
+  };
+
+  [[nodiscard]] std::optional<KeySetting> settingOf(const QLineEdit& field) const;
   void handleKey(QLineEdit& field, const QKeyEvent& event);
 
   CapturePage page_;
   HotkeyConfig* config_;
   KeyCapture capture_;
+  std::vector<Field> fields_;
 };
 
 }  // namespace brennet

@@ -14,9 +14,8 @@
 namespace brennet {
 namespace {
 
-std::optional<KeySetting> basicSetting(const QLineEdit& field) {
+std::optional<KeySetting> basicSetting(std::u16string_view name) {
   EditControl control;
-  const std::u16string name = field.objectName().toStdU16String();
   if (!getEditControlTypeByParseName(name, BasicPage::Current, control)) return std::nullopt;
   return settingOf(control);
 }
@@ -28,7 +27,7 @@ class Page : public QWidget {
       auto* const field = new QLineEdit(this);
       field->setObjectName(QLatin1String(name));
     }
-    CaptureFields::install(*this);
+    fields_.install(*this, *this);
   }
 
   QLineEdit& field(const char* name) { return *findChild<QLineEdit*>(QLatin1String(name)); }
