@@ -1,47 +1,18 @@
 #include "model/GamePreferences.h"
 
-#include <array>
 #include <exception>
 
 #include "gameside/War3PrefsFile.h"
 #include "model/BlockBytes.h"
 #include "model/BlockFiller.h"
+#include "model/CardPositions.h"
 #include "model/SettingTable.h"
 
 namespace brennet {
 namespace {
 
-struct Position {
-  std::int32_t row;
-  std::int32_t column;
-};
-
-// Where the hero skills stand on the game's command card, and the items in its inventory.
-constexpr std::array<Position, kHeroSkills> kCommandCard = {{
-    {2, 0},
-    {2, 1},
-    {2, 2},
-    {2, 3},
-    {1, 1},
-    {1, 2},
-    {1, 3},
-    {1, 0},
-    {0, 0},
-    {0, 1},
-    {0, 2},
-    {0, 3},
-}};
-constexpr std::array<Position, kItemSlots> kInventory = {{
-    {0, 0},
-    {0, 1},
-    {1, 0},
-    {1, 1},
-    {2, 0},
-    {2, 1},
-}};
-
 void addSections(War3PrefsFile& file, const HotkeyBlock& block, SettingId id, std::int32_t kind,
-                 std::span<const Position> positions, bool heroOnly) {
+                 std::span<const CardPosition> positions, bool heroOnly) {
   const auto& keys = std::get<KeyListSetting>(setting(id).kind);
   for (std::size_t i = 0; i < positions.size(); ++i) {
     const KeyWord key(load16(bytesOf(block), keys.offsets[i]));

@@ -23,6 +23,12 @@ KeyEvent toKeyEvent(const QKeyEvent& event) {
   };
 }
 
+// Of a long text the start is what tells keys apart.
+void show(QLineEdit& field, const QString& text) {
+  field.setText(text);
+  field.home(false);
+}
+
 }  // namespace
 
 CaptureFields::CaptureFields(CapturePage page, HotkeyConfig& config)
@@ -39,7 +45,7 @@ void CaptureFields::install(const QWidget& window, QObject& page) {
 }
 
 void CaptureFields::refresh() const {
-  for (const Field& row : fields_) row.field->setText(keyText(keyOf(*config_, row.setting)));
+  for (const Field& row : fields_) show(*row.field, keyText(keyOf(*config_, row.setting)));
 }
 
 std::optional<KeySetting> CaptureFields::settingOf(const QLineEdit& field) const {
@@ -74,7 +80,7 @@ void CaptureFields::handleKey(QLineEdit& field, const QKeyEvent& event) {
   if (capture.outcome == Capture::Outcome::Ignored) return;
   if (capture.outcome != Capture::Outcome::Shown) page_.trace(field);
   const bool isUsed = store(capture, settingOf(field), *config_);
-  field.setText(isUsed ? QString() : toQString(capture.text));
+  show(field, isUsed ? QString() : toQString(capture.text));
   if (isUsed) page_.tellUsed();
 }
 

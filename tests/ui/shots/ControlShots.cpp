@@ -68,26 +68,10 @@ std::unique_ptr<QWidget> makeControls() {
   return window;
 }
 
-std::unique_ptr<QWidget> makeWheel() {
-  auto window = std::make_unique<QWidget>();
-  auto* const wheel = new QWidget(window.get());
-  wheel->setObjectName(QStringLiteral("ChatWheel"));
-  wheel->resize(460, 460);
-  int y = 20;
-  for (const char* const text : {"withdraw", "hang on", "gank"}) {
-    auto* const field = new QLineEdit(QLatin1String(text), wheel);
-    field->setGeometry(165, y, 130, 28);
-    y += 110;
-  }
-  window->resize(460, 460);
-  loadStyleSheet(*window, QStringLiteral(":/skin/war3key.qss"));
-  return window;
-}
-
 }  // namespace
 
 QList<Shot> controlShots() {
-  return {{QStringLiteral("controls"), makeControls}, {QStringLiteral("wheel"), makeWheel}};
+  return {{QStringLiteral("controls"), makeControls}};
 }
 
 }  // namespace brennet::shots

@@ -16,7 +16,10 @@ struct Shot {
 };
 
 // One function for each kind of window; main.cpp calls all of them.
+[[nodiscard]] QList<Shot> basicShots();
 [[nodiscard]] QList<Shot> boxShots();
+[[nodiscard]] QList<Shot> chatShots();
 [[nodiscard]] QList<Shot> controlShots();
+[[nodiscard]] QList<Shot> wheelShots();
 
 }  // namespace brennet::shots

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFont>
 #include <QPixmap>
 
 #include <cstdio>
@@ -38,8 +39,13 @@ int main(int argc, char** argv) {
     return 2;
   }
   QApplication::setStyle(QStringLiteral("fusion"));
+  // As large as a host on Windows has it: 9 points.
+  QFont font = QApplication::font();
+  font.setPointSizeF(9);
+  QApplication::setFont(font);
   const QDir folder(QString::fromLocal8Bit(argv[1]));
-  const QList<Shot> shots = brennet::shots::boxShots() + brennet::shots::controlShots();
+  const QList<Shot> shots = brennet::shots::basicShots() + brennet::shots::boxShots() + brennet::shots::chatShots() +
+                            brennet::shots::controlShots() + brennet::shots::wheelShots();
   for (const Shot& shot : shots) {
     for (const int scale : {1, 2}) {
       if (!take(shot, folder, scale)) return 1;

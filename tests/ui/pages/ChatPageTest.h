@@ -1,0 +1,141 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMetaMethod>
+#include <QStringList>
+#include <QTimer>
+#include <QTranslator>
+#include <QWidget>
+
+#include "tests/ui/UiTest.h"
+
+// What the tests of the two windows with quick-chat phrases share.
+
+namespace brennet::test {
+
+template <class Widget>
+Widget& find(const QWidget& window, const QString& name) {
+  auto* const widget = window.findChild<Widget*>(name);
+  if (widget == nullptr) qFatal("there is no %s", qPrintable(name));
+  return *widget;
+}
+
+// The signals and slots of the class itself, in their order.
+inline QStringList ownMethods(const QMetaObject& meta) {
+  QStringList signatures;
+  for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+    signatures += QString::fromLatin1(meta.method(i).methodSignature());
+  }
+  return signatures;
+}
+
+// The named widgets in the order in which Tab reaches them.
+inline QStringList tabOrder(const QWidget& window) {
+  QStringList names;
+  for (const QWidget* widget = window.nextInFocusChain(); widget != &window;
+       widget = widget->nextInFocusChain()) {
+    const bool takesTab = (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
+    const QString name = widget->objectName();
+    if (takesTab && !name.isEmpty() && !name.startsWith(QLatin1String("qt_"))) names += name;
+  }
+  return names;
+}
+
+inline QString accessible(QWidget& widget, QAccessible::Text what) {
+  return QAccessible::queryAccessibleInterface(&widget)->text(what);
+}
+
+inline QString buddyOf(const QWidget& window, const QString& label) {
+  const QWidget* const buddy = find<QLabel>(window, label).buddy();
+  return buddy == nullptr ? QString() : buddy->objectName();
+}
+
+// A key as Windows sends it, whose code is that of the letter where none is given.
+inline bool sendKey(QWidget& field, QEvent::Type type, int key, Qt::KeyboardModifiers modifiers) {
+  const auto code = static_cast<quint32>(key == Qt::Key_Control     ? 0x11
+                                         : key == Qt::Key_Backspace ? 0x08
+                                         : key == Qt::Key_Delete    ? 0x2E
+                                         : key == Qt::Key_Return    ? 0x0D
+                                                                    : key);
+  QKeyEvent event(type, key, modifiers, 0, code, 0, QStringLiteral("x"));
+  return QApplication::sendEvent(&field, &event);
+}
+inline void press(QWidget& field, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  sendKey(field, QEvent::KeyPress, key, modifiers);
+}
+inline void release(QWidget& field, int key) {
+  sendKey(field, QEvent::KeyRelease, key, Qt::NoModifier);
+}
+
+// Does `act`, which has to bring one warning up: about `text`, modal to `parent`, with OK alone.
+template <class Act>
+void expectWarning(const QWidget& parent, const char* text, Act act) {
+  int boxes = 0;
+  whenBoxIsShown([&](QMessageBox& box) {
+    ++boxes;
+    EXPECT_EQ(box.icon(), QMessageBox::Warning);
+    EXPECT_EQ(box.windowTitle(), QStringLiteral("IDS_TITLE"));
+    EXPECT_EQ(box.text(), QLatin1String(text));
+    EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+    EXPECT_EQ(box.parentWidget(), &parent);
+    EXPECT_STREQ(box.metaObject()->className(), "CMsgBox");
+    box.button(QMessageBox::Ok)->click();
+  });
+  QTimer another;
+  QObject::connect(&another, &QTimer::timeout, [&] {
+    QWidget* const box = QApplication::activeModalWidget();
+    if (box == nullptr || boxes == 0) return;
+    ADD_FAILURE() << "there is one more box";
+    box->close();
+  });
+  another.start(0);
+  act();
+  EXPECT_EQ(boxes, 1);
+}
+
+// Fails where a box comes up in its life, instead of waiting for somebody to close it.
+class NoBoxes {
+ public:
+  NoBoxes() {
+    QObject::connect(&timer_, &QTimer::timeout, [] {
+      QWidget* const box = QApplication::activeModalWidget();
+      if (box == nullptr) return;
+      ADD_FAILURE() << "a box comes up";
+      box->close();
+    });
+    timer_.start(0);
+  }
+
+ private:
+  QTimer timer_;
+};
+
+// Makes all texts half as long again while it lives.
+class LongerTexts : public QTranslator {
+ public:
+  LongerTexts() { QCoreApplication::installTranslator(this); }
+  ~LongerTexts() override { QCoreApplication::removeTranslator(this); }
+  [[nodiscard]] bool isEmpty() const override { return false; }
+  [[nodiscard]] QString translate(const char* /*context*/, const char* text,
+                                  const char* /*comment*/, int /*number*/) const override {
+    const QString whole = QString::fromUtf8(text);
+    return whole + whole.left((whole.size() + 1) / 2);
+  }
+};
+
+// Fails for each of the widgets that is smaller than its text.
+template <class Widget>
+void expectWholeTexts(const QWidget& window) {
+  for (const Widget* const widget : window.findChildren<Widget*>()) {
+    EXPECT_GE(widget->width(), widget->sizeHint().width()) << qPrintable(widget->objectName());
+    EXPECT_GE(widget->height(), widget->sizeHint().height()) << qPrintable(widget->objectName());
+  }
+}
+
+}  // namespace brennet::test

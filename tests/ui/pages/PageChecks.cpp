@@ -1,0 +1,112 @@
+#include "tests/ui/pages/PageChecks.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMetaMethod>
+
+namespace brennet::test {
+namespace {
+
+void send(QLineEdit& field, QEvent::Type type, int virtualKey, Qt::KeyboardModifiers modifiers,
+          Qt::Key key) {
+  QKeyEvent event(type, key, modifiers, 0, static_cast<quint32>(virtualKey), 0);
+  QApplication::sendEvent(&field, &event);
+}
+
+bool isControl(const QWidget& widget) {
+  return qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+         qobject_cast<const QComboBox*>(&widget) != nullptr ||
+         qobject_cast<const QAbstractItemView*>(&widget) != nullptr;
+}
+
+// What assistive technology calls the widget.
+QString spokenName(const QWidget& widget) {
+  if (!widget.accessibleName().isEmpty()) return widget.accessibleName();
+  const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
+  return button == nullptr ? QString() : button->text();
+}
+
+QString textOf(const QWidget& widget) {
+  if (const auto* const label = qobject_cast<const QLabel*>(&widget)) return label->text();
+  // Pictures have no room for their texts: labels below them show those.
+  const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
+  if (button == nullptr || button->maximumWidth() < QWIDGETSIZE_MAX) return {};
+  return button->text();
+}
+
+QRect placeIn(const QWidget& window, const QWidget& widget) {
+  return {widget.mapTo(&window, QPoint()), widget.size()};
+}
+
+}  // namespace
+
+QStringList methodNames(const QMetaObject& type) {
+  QStringList names;
+  for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
+    names += QString::fromLatin1(type.method(i).name());
+  }
+  return names;
+}
+
+void pressKey(QLineEdit& field, int virtualKey, Qt::KeyboardModifiers modifiers, Qt::Key key) {
+  send(field, QEvent::KeyPress, virtualKey, modifiers, key);
+}
+
+void releaseKey(QLineEdit& field, int virtualKey) {
+  send(field, QEvent::KeyRelease, virtualKey, Qt::NoModifier, Qt::Key_unknown);
+}
+
+QStringList tabOrder(QWidget& window) {
+  QStringList names;
+  for (QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain()) {
+    const bool isReached = (at->focusPolicy() & Qt::TabFocus) != 0 && at->isVisibleTo(&window);
+    if (isReached && window.isAncestorOf(at)) names += at->objectName();
+  }
+  return names;
+}
+
+void expectAccessible(const QWidget& page) {
+  const auto labels = page.findChildren<QLabel*>();
+  for (const QWidget* const widget : page.findChildren<QWidget*>()) {
+    if (!isControl(*widget) || !widget->isVisibleTo(&page)) continue;
+    if (widget->objectName().startsWith(QLatin1String("qt_"))) continue;
+    EXPECT_FALSE(spokenName(*widget).isEmpty()) << qPrintable(widget->objectName());
+  }
+  for (const QLabel* const label : labels) {
+    for (const QLineEdit* const field : page.findChildren<QLineEdit*>()) {
+      if (!label->isVisibleTo(&page) || !field->isVisibleTo(&page)) continue;
+      const QRect one = placeIn(page, *label);
+      const QRect other = placeIn(page, *field);
+      const int gap = other.left() - one.right();
+      const bool isBefore = gap > 0 && gap < 20 && one.center().y() >= other.top() &&
+                            one.center().y() <= other.bottom();
+      if (isBefore) EXPECT_EQ(label->buddy(), field) << qPrintable(label->text());
+    }
+  }
+}
+
+void expectNothingIsCut(QWidget& window) {
+  const auto widgets = window.findChildren<QWidget*>();
+  for (const QWidget* const widget : widgets) {
+    if (!widget->isVisibleTo(&window)) continue;
+    const QString text = textOf(*widget);
+    const int needed = QFontMetrics(widget->font()).size(Qt::TextShowMnemonic, text).width();
+    EXPECT_LE(needed, widget->width()) << qPrintable(text);
+    EXPECT_GE(widget->height(), widget->minimumSizeHint().height())
+        << qPrintable(widget->objectName());
+    if (widget->parentWidget() == nullptr || widget->isWindow()) continue;
+    EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()))
+        << qPrintable(widget->objectName()) << " stands out of its parent";
+  }
+}
+
+}  // namespace brennet::test

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QStringList>
+#include <Qt>
+
+class QLineEdit;
+class QWidget;
+struct QMetaObject;
+
+// What the tests of pages share: real events, and what holds for every page.
+
+namespace brennet::test {
+
+// The signals and slots that a class adds, in the order in which clients see them.
+[[nodiscard]] QStringList methodNames(const QMetaObject& type);
+
+// A key with its Windows virtual-key code; `key` is what Qt calls it.
+void pressKey(QLineEdit& field, int virtualKey, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+              Qt::Key key = Qt::Key_unknown);
+void releaseKey(QLineEdit& field, int virtualKey);
+
+// The object names of all widgets that Tab reaches in a window that is shown, from the first on.
+[[nodiscard]] QStringList tabOrder(QWidget& window);
+
+// Fails for each control without a name for assistive technology, and for each label with a mnemonic
+// partner missing: a label that stands left of a line edit in its row is its buddy.
+void expectAccessible(const QWidget& page);
+
+// Fails where the text of a label, check box or button does not fit in, and where siblings overlap.
+void expectNothingIsCut(QWidget& window);
+
+}  // namespace brennet::test

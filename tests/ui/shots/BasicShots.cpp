@@ -1,0 +1,60 @@
+// The basic pages and the Orrery window, with keys of all lengths.
+
+#include <QVBoxLayout>
+
+#include "model/RecommendedScheme.h"
+#include "tests/ui/shots/Shots.h"
+#include "ui/StyleSheet.h"
+#include "ui/pages/CBasicSetting7Widget.h"
+#include "ui/pages/CBasicSettingWidget.h"
+#include "ui/pages/COrrerySettingDlg.h"
+
+namespace brennet::shots {
+namespace {
+
+// The windows keep a reference to it.
+HotkeyConfig& settings() {
+  static HotkeyConfig config;
+  HotkeyScheme& scheme = *config.editableScheme();
+  recommend(scheme);
+  scheme.HeroSkillKey[9] = KeyWord(0x91, KeyWord::kCtrl | KeyWord::kAlt);  // a long text
+  scheme.HeroSkillKey[10] = kNoKey;
+  for (std::size_t i = 0; i < 4; ++i) scheme.HeroSkillAutocast[i] = true;
+  scheme.ItemAutocast[0] = true;
+  scheme.HotKey[0] = KeyRemap(KeyWord('T', 0), KeyWord('B', KeyWord::kCtrl));
+  scheme.ComboKey.Key_A = KeyWord('G', 0);
+  scheme.ComboKey.Key_B = KeyWord('H', 0);
+  scheme.ComboKey.Key_D = KeyWord('P', 0);
+  scheme.MouseKey[0] = KeyWord('Y', 0);
+  scheme.SecretaryKey[0] = KeyWord(0x24, KeyWord::kCtrl);
+  scheme.ShowFBlood = KeyWord(0xDB, 0);
+  scheme.WinLockMouse = KeyWord('L', KeyWord::kAlt);
+  scheme.LockMouseFlag = 1;
+  scheme.ViewNoDragFlag = 1;
+  return config;
+}
+
+// On the background of the settings window.
+template <typename Page>
+std::unique_ptr<QWidget> makePage() {
+  auto window = std::make_unique<QWidget>();
+  QPalette palette;
+  palette.setColor(QPalette::Window, QColor(0x1e, 0x24, 0x2f));
+  window->setPalette(palette);
+  auto* const layout = new QVBoxLayout(window.get());
+  layout->addWidget(new Page(settings(), window.get()));
+  loadStyleSheet(*window, QStringLiteral(":/skin/war3key.qss"));
+  // Windows are not made as large by themselves on the small screen that they are drawn for.
+  window->resize(window->sizeHint());
+  return window;
+}
+
+}  // namespace
+
+QList<Shot> basicShots() {
+  return {{QStringLiteral("basic"), makePage<CBasicSetting7Widget>},
+          {QStringLiteral("basic-older"), makePage<CBasicSettingWidget>},
+          {QStringLiteral("orrery"), [] { return std::make_unique<COrrerySettingDlg>(); }}};
+}
+
+}  // namespace brennet::shots

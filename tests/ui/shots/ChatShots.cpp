@@ -1,0 +1,58 @@
+// The quick-chat dialog and the advanced page, with keys and phrases of all lengths.
+
+#include <QVBoxLayout>
+
+#include "tests/ui/shots/Shots.h"
+#include "ui/StyleSheet.h"
+#include "ui/pages/CAdvancedSettingWidget.h"
+#include "ui/pages/ChatKeySettingWidget.h"
+
+namespace brennet::shots {
+namespace {
+
+// The windows keep a reference to it.
+HotkeyConfig& settings() {
+  static HotkeyConfig config;
+  HotkeyScheme& scheme = *config.editableScheme();
+  scheme.NumComboKeyIndex = 1;
+  scheme.HotkeyContrl = KeyWord(0x77, KeyWord::kCtrl | KeyWord::kAlt);
+  scheme.WinLockMouse = KeyWord('L', KeyWord::kAlt);
+  scheme.QuickChatKey = KeyWord(0x90, KeyWord::kCtrl | KeyWord::kAlt);
+  scheme.QuickChat = {u"上路消失，请小心",
+                      u"大家集合",
+                      u"",
+                      u"B, 他们全部在中路",
+                      std::u16string(kPhraseUnits, u'字'),
+                      u"The enemy is at the rune, do not go there",
+                      u"推塔",
+                      u"好"};
+  return config;
+}
+
+std::unique_ptr<QWidget> makeDialog() {
+  auto dialog = std::make_unique<ChatKeySettingWidget>(settings(), nullptr);
+  loadStyleSheet(*dialog, QStringLiteral(":/skin/war3key.qss"));
+  return dialog;
+}
+
+// On the background of the settings window.
+std::unique_ptr<QWidget> makePage() {
+  auto window = std::make_unique<QWidget>();
+  QPalette palette;
+  palette.setColor(QPalette::Window, QColor(0x1e, 0x24, 0x2f));
+  window->setPalette(palette);
+  auto* const layout = new QVBoxLayout(window.get());
+  layout->addWidget(new CAdvancedSettingWidget(settings(), window.get()));
+  loadStyleSheet(*window, QStringLiteral(":/skin/war3key.qss"));
+  // Windows are not made as large by themselves on the small screen that they are drawn for.
+  window->resize(window->sizeHint());
+  return window;
+}
+
+}  // namespace
+
+QList<Shot> chatShots() {
+  return {{QStringLiteral("quick-chat"), makeDialog}, {QStringLiteral("advanced"), makePage}};
+}
+
+}  // namespace brennet::shots

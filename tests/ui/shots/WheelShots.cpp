@@ -1,0 +1,75 @@
+// The chat wheel page: as it comes, in a wide window, and with letters of double size.
+
+#include <QApplication>
+#include <QFile>//X
+#include <QVBoxLayout>
+
+#include "tests/ui/shots/Shots.h"
+#include "ui/StyleSheet.h"
+#include "ui/pages/CChatRouletteSettingWidget.h"
+
+namespace brennet::shots {
+namespace {
+
+constexpr int kLetters = 12;  // pixels, as Windows has them
+
+// The page looks at the settings as long as it is shown.
+class Window : public QWidget {
+ public:
+  Window(HotkeyConfig settings, int letters)
+      : settings_(std::move(settings)), font_(QApplication::font()) {
+    QFont font = font_;
+    font.setPixelSize(letters);
+    QApplication::setFont(font);
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(0x1e, 0x24, 0x2f));
+    setPalette(palette);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(new CChatRouletteSettingWidget(settings_, this));
+    QFile f(QStringLiteral(":/skin/war3key.qss"));f.open(QIODevice::ReadOnly);setStyleSheet(QString::fromUtf8(f.readAll()+qgetenv("XQSS")));//X
+    resize(sizeHint());
+  }
+
+  ~Window() override {
+    qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+    QApplication::setFont(font_);
+  }
+
+ private:
+  HotkeyConfig settings_;
+  QFont font_;  // of the application, before
+};
+
+HotkeyConfig someSettings() {
+  HotkeyConfig settings;
+  HotkeyScheme& scheme = *settings.editableScheme();
+  constexpr std::u16string_view kSome[] = {u"gank", u"withdraw", u"稳住，我们能赢",
+                                           u"push line respectively,run in danger "};
+  for (std::size_t n = 0; n < std::size(kSome); ++n) scheme.ChatWheel[2 * n].emplace(kSome[n]);
+  scheme.ChatWheelkey = KeyWord('Y', KeyWord::kCtrl | KeyWord::kAlt);
+  return settings;
+}
+
+std::unique_ptr<QWidget> makeWheel() {
+  return std::make_unique<Window>(someSettings(), kLetters);
+}
+
+std::unique_ptr<QWidget> makeWideWheel() {
+  auto window = makeWheel();
+  window->resize(1200, 800);
+  return window;
+}
+
+std::unique_ptr<QWidget> makeLargeWheel() {
+  return std::make_unique<Window>(someSettings(), 2 * kLetters);
+}
+
+}  // namespace
+
+QList<Shot> wheelShots() {
+  return {{QStringLiteral("wheel"), makeWheel},
+          {QStringLiteral("wheel-wide"), makeWideWheel},
+          {QStringLiteral("wheel-large"), makeLargeWheel}};
+}
+
+}  // namespace brennet::shots

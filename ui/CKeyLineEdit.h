@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QLineEdit>
+
+// A line edit for a key: as wide as the text of a key with two modifiers.
+// In no namespace: forms know it by this name.
+class CKeyLineEdit : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  using QLineEdit::QLineEdit;
+
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+};

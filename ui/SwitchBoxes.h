@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+class QCheckBox;
+
+namespace brennet {
+
+class HotkeyConfig;
+struct HotkeyScheme;
+
+// Check boxes that show switches of the current scheme.
+class SwitchBoxes {
+ public:
+  using Switch = std::uint8_t HotkeyScheme::*;
+
+  // `config` and all boxes outlive this object.
+  explicit SwitchBoxes(HotkeyConfig& config) : config_(&config) {}
+
+  void add(QCheckBox& box, Switch field) { rows_.push_back({&box, field}); }
+
+  // Checks what the current scheme has on. Stores nothing.
+  void refresh() const;
+
+  // Stores a switch; nothing where the current scheme cannot be changed.
+  void store(Switch field, bool isOn) const;
+
+ private:
+  struct Row {
+    QCheckBox* box;
+    Switch field;
+  };
+
+  HotkeyConfig* config_;
+  std::vector<Row> rows_;
+};
+
+}  // namespace brennet

@@ -1,0 +1,365 @@
+#include "ui/pages/CBasicSetting7Widget.h"
+
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QWindow>
+
+#include "model/RecommendedScheme.h"
+#include "ui/FeatureKeys.h"
+#include "ui/KeyMessages.h"
+#include "ui/pages/COrrerySettingDlg.h"
+#include "ui/pages/EditControlTrace.h"
+#include "ui/pages/KeyRows.h"
+#include "ui_CHotkeySettingPage.h"
+
+using brennet::HotkeyScheme;
+
+// A switch of the game. One that does nothing but to store needs no slot of its own.
+struct CBasicSetting7Widget::Option {
+  const char* objectName;
+  const char* text;
+  std::uint8_t HotkeyScheme::*field;
+  void (CBasicSetting7Widget::*slot)(bool) = nullptr;
+  const char* keyField = nullptr;  // for the key that does the same in game
+};
+
+namespace {
+
+constexpr int kOptionRows = 3;
+
+std::unique_ptr<Ui::CHotkeySettingPage> formOn(QWidget& page) {
+  auto form = std::make_unique<Ui::CHotkeySettingPage>();
+  form->setupUi(&page);
+  return form;
+}
+
+// All texts of the page belong to its form.
+QString text(const char* source) {
+  return QCoreApplication::translate("CHotkeySettingPage", source);
+}
+
+brennet::KeyRowTexts rowTexts() {
+  return {
+      .skill = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "英雄技能 %1")),
+      .item = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "物品栏 %1")),
+      .quickCast = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "%1 快捷施法")),
+      .castToolTip = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "快捷施法")),
+      .remapSource = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "自定义改键 %1：按下的键")),
+      .remapTarget = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "自定义改键 %1：发送的键")),
+      .groupSource = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "组合改键：按下的键 %1")),
+      .groupTarget = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "组合改键：发送的键")),
+  };
+}
+
+std::optional<brennet::KeySetting> settingOf(std::u16string_view name) {
+  if (const auto feature = brennet::featureKeyOf(name)) return feature;
+  brennet::EditControl control;
+  const bool known =
+      brennet::getEditControlTypeByParseName(name, brennet::BasicPage::Current, control);
+  return known ? brennet::settingOf(control) : std::nullopt;
+}
+
+brennet::CapturePage capturePage(const CBasicSetting7Widget& page, QWidget* box) {
+  return {
+      .style = {.beforeName = u" "},
+      .settingOf = settingOf,
+      .trace =
+          [&page](const QLineEdit& field) {
+            const QString name = field.objectName();
+            if (brennet::featureKeyOf(name.toStdU16String())) return;
+            brennet::EditControl control;
+            page.getEditControlTypeByParseName(name, control);
+          },
+      .tellUsed = [box] { brennet::tellKeyIsUsed(box); },
+  };
+}
+
+}  // namespace
+
+std::span<const CBasicSetting7Widget::Option> CBasicSetting7Widget::options() {
+  using Page = CBasicSetting7Widget;
+  using Scheme = HotkeyScheme;
+  // Column by column; the switches with a key stand in the first one.
+  static const Option kOptions[] = {
+      {"chkLockMouse", QT_TRANSLATE_NOOP("CHotkeySettingPage", "窗口模式锁定鼠标"),
+       &Scheme::LockMouseFlag, &Page::onToggled_LockMouse, "edtWinLockMouse"},
+      {"chkShowFriendBlood", QT_TRANSLATE_NOOP("CHotkeySettingPage", "显示己方血量"),
+       &Scheme::ShowFBloodFlag, &Page::onToggled_ShowFriendBlood, "edtShowFBlood"},
+      {"chkShowEnimiesBlood", QT_TRANSLATE_NOOP("CHotkeySettingPage", "显示敌方血量"),
+       &Scheme::ShowEBloodFlag, &Page::onToggled_ShowEnimiesBlood, "edtShowEBlood"},
+      {"chkDisableLWin", QT_TRANSLATE_NOOP("CHotkeySettingPage", "禁用左Win键"),
+       &Scheme::DisableLWinFlag, &Page::onToggled_DisableLWin},
+      {"chkDisableLeftAlt", QT_TRANSLATE_NOOP("CHotkeySettingPage", "禁用左Alt键"),
+       &Scheme::DisableLeftAlt, &Page::onToggled_checkBox_DisableLeftAlt},
+      {"chkDisableLeftAltShowHP", QT_TRANSLATE_NOOP("CHotkeySettingPage", "禁用左Alt键显血"),
+       &Scheme::DisableLeftAltShowHP, &Page::onToggled_checkBox_DisableLeftAltShowHP},
+      {"chkKeepNoStretch", QT_TRANSLATE_NOOP("CHotkeySettingPage", "画面不拉伸（留黑边）"),
+       &Scheme::ViewNoDragFlag, &Page::onToggled_KeepNoStretch},
+      {"chkDelayOptimization", QT_TRANSLATE_NOOP("CHotkeySettingPage", "延迟优化"),
+       &Scheme::StartJSQFlag, &Page::onToggled_DelayOptimization},
+      {"chkHideUI", QT_TRANSLATE_NOOP("CHotkeySettingPage", "隐藏游戏内按钮"), &Scheme::HideUI,
+       &Page::onToggled_HideUI},
+  };
+  return kOptions;
+}
+
+CBasicSetting7Widget::CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidget* dialog)
+    : QWidget(dialog),
+      config_(config),
+      form_(formOn(*this)),
+      orrery_(std::make_unique<COrrerySettingDlg>()),
+      fields_(capturePage(*this, this), config),
+      switches_(config),
+      presets_({form_->chkGroupKey1, form_->chkGroupKey2, form_->chkGroupKey3}, config) {
+  buildRows();
+  connectSwitches();
+  connectButtons();
+  fields_.install(*this, *this);
+  // The Orrery window has no rules of its own: its keys are captured here.
+  fields_.install(*orrery_, *this);
+  refresh();
+}
+
+CBasicSetting7Widget::~CBasicSetting7Widget() = default;
+
+void CBasicSetting7Widget::buildRows() {
+  const brennet::KeyRowTexts texts = rowTexts();
+  brennet::addSkillRows(*form_->laySkills, brennet::kHeroSkills, texts);
+  brennet::addItemRows(*form_->layItems, texts);
+  brennet::addRemapRows(*form_->layRemaps, texts);
+  // Both rows edit the same combination keys; the one with three sources is for the player.
+  brennet::addGroupRow(*form_->layGroupRemap, QStringLiteral("edt_skillex_GROUP"), 2, texts);
+  form_->wgtGroupRemap->hide();
+  brennet::addGroupRow(*form_->layGroupRemap2, QStringLiteral("edt_skillex_GROUP_2"), 3, texts);
+  int number = 0;
+  for (const Option& option : options()) addOption(*form_->layCommonOptions, number++, option);
+}
+
+void CBasicSetting7Widget::addOption(QGridLayout& grid, int number, const Option& option) {
+  const int row = number % kOptionRows;
+  const int column = 2 * (number / kOptionRows);
+  auto* const box = new QCheckBox(text(option.text));
+  box->setObjectName(QLatin1String(option.objectName));
+  grid.addWidget(box, row, column);
+  switches_.add(*box, option.field);
+  if (option.slot != nullptr) {
+    connect(box, &QCheckBox::toggled, this, option.slot);
+  } else {
+    connect(box, &QCheckBox::toggled, this,
+            [this, field = option.field](bool isOn) { switches_.store(field, isOn); });
+  }
+  if (option.keyField == nullptr) return;
+  auto* const field = brennet::newKeyField(QLatin1String(option.keyField), box->text());
+  field->setAccessibleDescription(
+      text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "在游戏中切换此项的按键")));
+  grid.addWidget(field, row, column + 1);
+}
+
+void CBasicSetting7Widget::connectSwitches() {
+  using Page = CBasicSetting7Widget;
+  switches_.add(*form_->chkSkillHero, &HotkeyScheme::SkillHeroOnly);
+  switches_.add(*form_->chkKeyModifyHero, &HotkeyScheme::CombokeyHeroOnly);
+  switches_.add(*orreryMana(), &HotkeyScheme::ShowFManaFlag);
+  connect(form_->chkSkillHero, &QCheckBox::toggled, this, &Page::onToggled_checkBox_Skill_Hero);
+  connect(form_->chkKeyModifyHero, &QCheckBox::toggled, this,
+          &Page::onToggled_checkBox_KeyModify_Hero);
+  connect(orrery_.get(), &COrrerySettingDlg::chkShowFriendsMana, this,
+          &Page::onToggled_ShowFirendMana);
+  connect(form_->chkGroupKey1, &QCheckBox::toggled, this, &Page::onToggled_GroupKey1);
+  connect(form_->chkGroupKey2, &QCheckBox::toggled, this, &Page::onToggled_GroupKey2);
+  connect(form_->chkGroupKey3, &QCheckBox::toggled, this, &Page::onToggled_GroupKey3);
+}
+
+void CBasicSetting7Widget::connectButtons() {
+  using Page = CBasicSetting7Widget;
+  const auto onClick = [this](QPushButton* button, void (Page::*slot)()) {
+    connect(button, &QPushButton::clicked, this, slot);
+  };
+  onClick(form_->btn_SetAll_AutoCast, &Page::onClickedHeroSKillAutocastSetAll);
+  onClick(form_->btn_SetAll_NormalCast, &Page::onClickedHeroSkillAutocastClearAll);
+  onClick(form_->btnOrrerySetting, &Page::onClickedOrrerySettingBtn);
+  onClick(form_->btnTalkSetting, &Page::onClickedTalkSettingBtn);
+  onClick(form_->btnDota7Setting, &Page::onClickedDota7SettingBtn);
+  for (std::size_t i = 0; i < brennet::kHeroSkills; ++i) {
+    onClick(skillMark(i), &Page::onClickedHeroSkillAutocastButton);
+  }
+  for (std::size_t i = 0; i < brennet::kItemSlots; ++i) {
+    onClick(itemMark(i), &Page::onClickedItemAutocastButton);
+  }
+}
+
+QPushButton* CBasicSetting7Widget::skillMark(std::size_t position) const {
+  return findChild<QPushButton*>(QStringLiteral("btn_skillcast_%1").arg(position + 1));
+}
+
+QPushButton* CBasicSetting7Widget::itemMark(std::size_t slot) const {
+  constexpr int kNumpad0 = 0x60;
+  const int digit = brennet::kItemSlotCodes[slot] - kNumpad0;
+  return findChild<QPushButton*>(QStringLiteral("btn_goods_cast_%1").arg(digit));
+}
+
+QCheckBox* CBasicSetting7Widget::orreryMana() const {
+  return orrery_->findChild<QCheckBox*>(QStringLiteral("chkShowFriendsMana"));
+}
+
+void CBasicSetting7Widget::refresh() {
+  fields_.refresh();
+  switches_.refresh();
+  presets_.refresh();
+  refreshMarks();
+}
+
+// A click stores a mark; checking a button from here does not.
+void CBasicSetting7Widget::refreshMarks() {
+  const HotkeyScheme& scheme = config_.scheme();
+  for (std::size_t i = 0; i < brennet::kHeroSkills; ++i) {
+    skillMark(i)->setChecked(scheme.HeroSkillAutocast[i].value_or(false));
+  }
+  for (std::size_t i = 0; i < brennet::kItemSlots; ++i) {
+    itemMark(i)->setChecked(scheme.ItemAutocast[i].value_or(false));
+  }
+}
+
+void CBasicSetting7Widget::reset() {
+  if (HotkeyScheme* const scheme = config_.editableScheme()) {
+    scheme->reset();
+    // A reset of a scheme spares these; a player who clears the page sees them here, and means all.
+    scheme->HeroSkillAutocast = {};
+    scheme->ItemAutocast = {};
+    scheme->DisableLeftAlt = 0;
+    scheme->DisableLeftAltShowHP = 0;
+  }
+  refresh();
+}
+
+void CBasicSetting7Widget::useRecommended() {
+  if (HotkeyScheme* const scheme = config_.editableScheme()) brennet::recommend(*scheme);
+  refresh();
+}
+
+bool CBasicSetting7Widget::getEditControlTypeByParseName(const QString& name,
+                                                         brennet::EditControl& control) const {
+  const bool known = brennet::getEditControlTypeByParseName(
+      name.toStdU16String(), brennet::BasicPage::Current, control);
+  brennet::traceEditControl(name, known, control);
+  return known;
+}
+
+bool CBasicSetting7Widget::eventFilter(QObject* watched, QEvent* event) {
+  return fields_.filter(watched, event) || QWidget::eventFilter(watched, event);
+}
+
+void CBasicSetting7Widget::onToggled_DisableLWin(bool bChecked) {
+  switches_.store(&HotkeyScheme::DisableLWinFlag, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_LockMouse(bool bChecked) {
+  switches_.store(&HotkeyScheme::LockMouseFlag, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_ShowFriendBlood(bool bChecked) {
+  switches_.store(&HotkeyScheme::ShowFBloodFlag, bChecked);
+  // Mana is not shown without health. The check box tells onToggled_ShowFirendMana.
+  if (!bChecked) orreryMana()->setChecked(false);
+}
+
+void CBasicSetting7Widget::onToggled_ShowFirendMana(bool bChecked) {
+  switches_.store(&HotkeyScheme::ShowFManaFlag, bChecked);
+  if (bChecked) findChild<QCheckBox*>(QStringLiteral("chkShowFriendBlood"))->setChecked(true);
+}
+
+void CBasicSetting7Widget::onToggled_ShowEnimiesBlood(bool bChecked) {
+  switches_.store(&HotkeyScheme::ShowEBloodFlag, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_KeepNoStretch(bool bChecked) {
+  switches_.store(&HotkeyScheme::ViewNoDragFlag, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_DelayOptimization(bool bChecked) {
+  switches_.store(&HotkeyScheme::StartJSQFlag, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_GroupKey1(bool bChecked) {
+  presets_.toggled(0, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_GroupKey2(bool bChecked) {
+  presets_.toggled(1, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_GroupKey3(bool bChecked) {
+  presets_.toggled(2, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_HideUI(bool bChecked) {
+  switches_.store(&HotkeyScheme::HideUI, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_checkBox_Skill_Hero(bool bChecked) {
+  switches_.store(&HotkeyScheme::SkillHeroOnly, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_checkBox_KeyModify_Hero(bool bChecked) {
+  switches_.store(&HotkeyScheme::CombokeyHeroOnly, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_checkBox_DisableLeftAlt(bool bChecked) {
+  switches_.store(&HotkeyScheme::DisableLeftAlt, bChecked);
+}
+
+void CBasicSetting7Widget::onToggled_checkBox_DisableLeftAltShowHP(bool bChecked) {
+  switches_.store(&HotkeyScheme::DisableLeftAltShowHP, bChecked);
+}
+
+void CBasicSetting7Widget::onClickedHotKeySettingBtn() {
+  emit showHotKeySettingDlg();
+}
+
+void CBasicSetting7Widget::onClickedDota7SettingBtn() {
+  emit showDota7SettingDlg();
+}
+
+// The quick-chat window is one of the hotkey windows, and comes by their signal.
+void CBasicSetting7Widget::onClickedTalkSettingBtn() {
+  emit showHotKeySettingDlg();
+}
+
+void CBasicSetting7Widget::onClickedOrrerySettingBtn() {
+  if (orrery_->isVisible()) {
+    orrery_->hide();
+    return;
+  }
+  const QWidget* const native = nativeParentWidget();
+  if (QWindow* const owner = native == nullptr ? nullptr : native->windowHandle()) {
+    orrery_->setWindowFlags(orrery_->windowFlags() | Qt::Tool);
+    orrery_->winId();  // makes the native window, which can be given an owner
+    orrery_->windowHandle()->setTransientParent(owner);
+  }
+  orrery_->show();
+}
+
+void CBasicSetting7Widget::onClickedHeroSkillAutocastButton() {
+  for (int i = 0; i < brennet::kHeroSkills; ++i) {
+    config_.SetHeroSkillAutocast(i, skillMark(static_cast<std::size_t>(i))->isChecked());
+  }
+}
+
+void CBasicSetting7Widget::onClickedHeroSKillAutocastSetAll() {
+  setSkillMarks(true);
+}
+
+void CBasicSetting7Widget::onClickedHeroSkillAutocastClearAll() {
+  setSkillMarks(false);
+}
+
+void CBasicSetting7Widget::setSkillMarks(bool on) {
+  for (std::size_t i = 0; i < brennet::kHeroSkills; ++i) skillMark(i)->setChecked(on);
+  onClickedHeroSkillAutocastButton();
+}
+
+void CBasicSetting7Widget::onClickedItemAutocastButton() {
+  for (std::size_t i = 0; i < brennet::kItemSlots; ++i) {
+    config_.SetItemAutocast(brennet::kItemSlotCodes[i], itemMark(i)->isChecked());
+  }
+}

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+#include <span>
+
+#include "ui/CaptureFields.h"
+#include "ui/EditControl.h"
+#include "ui/PresetBoxes.h"
+#include "ui/SwitchBoxes.h"
+
+namespace Ui {
+class CHotkeySettingPage;
+}
+class COrrerySettingDlg;
+class QCheckBox;
+class QGridLayout;
+class QPushButton;
+
+// The basic page: the keys of hero skills, items, remaps and the mouse wheel, the switches of the
+// game, and the ways to the other windows. Each change is in the current scheme at once.
+class CBasicSetting7Widget : public QWidget {
+  Q_OBJECT
+
+ public:
+  // `config` outlives the page. `dialog` is its parent; it may be null.
+  CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidget* dialog);
+  ~CBasicSetting7Widget() override;
+
+  // Shows the current scheme, here and in the Orrery window. Stores nothing.
+  void refresh();
+  // Takes away all that the page shows, and what else a reset takes, from the current scheme.
+  void reset();
+  // Puts the recommended keys into the current scheme (RecommendedScheme.h).
+  void useRecommended();
+
+  // Which setting the field of this name edits; writes a trace line.
+  bool getEditControlTypeByParseName(const QString& name, brennet::EditControl& control) const;
+
+ signals:
+  void showHotKeySettingDlg();
+  void showDota7SettingDlg();
+  void showTalkSettingDlg();
+  void showOrrerySettingDlg();
+
+ public slots:
+  void onToggled_DisableLWin(bool bChecked);
+  void onToggled_LockMouse(bool bChecked);
+  void onToggled_ShowFriendBlood(bool bChecked);
+  void onToggled_ShowFirendMana(bool bChecked);
+  void onToggled_ShowEnimiesBlood(bool bChecked);
+  void onToggled_KeepNoStretch(bool bChecked);
+  void onToggled_DelayOptimization(bool bChecked);
+  void onToggled_GroupKey1(bool bChecked);
+  void onToggled_GroupKey2(bool bChecked);
+  void onToggled_GroupKey3(bool bChecked);
+  void onToggled_HideUI(bool bChecked);
+  void onToggled_checkBox_Skill_Hero(bool bChecked);
+  void onToggled_checkBox_KeyModify_Hero(bool bChecked);
+  void onToggled_checkBox_DisableLeftAlt(bool bChecked);
+  void onToggled_checkBox_DisableLeftAltShowHP(bool bChecked);
+  void onClickedHotKeySettingBtn();
+  void onClickedDota7SettingBtn();
+  void onClickedTalkSettingBtn();
+  // Shows the Orrery window, or hides it.
+  void onClickedOrrerySettingBtn();
+  void onClickedHeroSkillAutocastButton();
+  void onClickedHeroSKillAutocastSetAll();
+  void onClickedHeroSkillAutocastClearAll();
+  void onClickedItemAutocastButton();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  struct Option;
+  static std::span<const Option> options();
+
+  void buildRows();
+  void addOption(QGridLayout& grid, int number, const Option& option);
+  void connectSwitches();
+  void connectButtons();
+  void refreshMarks();
+  void setSkillMarks(bool on);
+  [[nodiscard]] QPushButton* skillMark(std::size_t position) const;
+  [[nodiscard]] QPushButton* itemMark(std::size_t slot) const;
+  [[nodiscard]] QCheckBox* orreryMana() const;
+
+  brennet::HotkeyConfig& config_;
+  std::unique_ptr<Ui::CHotkeySettingPage> form_;
+  std::unique_ptr<COrrerySettingDlg> orrery_;
+  brennet::CaptureFields fields_;
+  brennet::SwitchBoxes switches_;
+  brennet::PresetBoxes presets_;
+};

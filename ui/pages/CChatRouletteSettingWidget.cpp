@@ -1,0 +1,172 @@
+#include "ui/pages/CChatRouletteSettingWidget.h"
+
+#include <QCoreApplication>
+#include <QDragEnterEvent>
+#include <QHeaderView>
+#include <QRegularExpression>
+#include <QSignalBlocker>
+#include <QTextDocument>
+#include <QTreeWidgetItem>
+
+#include "ui/CCustomLineEdit.h"
+#include "ui/ChatPhrases.h"
+#include "ui/FeatureKeys.h"
+#include "ui/KeyMessages.h"
+#include "ui/PhraseDelegate.h"
+#include "ui/RingLayout.h"
+#include "ui/Text.h"
+#include "ui/TypedPhrase.h"
+#include "ui_CChatRouletteSettingWidget.h"
+
+namespace {
+
+// Of the wheel's picture, which the style sheet puts that much above the middle; and of the ring of
+// slots, which leaves the hub free and the rim of the picture to be seen.
+constexpr QSize kPicture(380, 380);
+constexpr int kRoomBelow = 80;
+constexpr QSize kRing(340, 300);
+
+// How many characters can be read at once, at least.
+constexpr int kSlotCharacters = 12;
+constexpr int kTreeCharacters = 18;
+constexpr char16_t kWideCharacter = u'\u4E2D';
+
+int widthOf(int characters, const QWidget& page) {
+  return page.fontMetrics().horizontalAdvance(QString(characters, QChar(kWideCharacter)));
+}
+
+std::unique_ptr<Ui::CChatRouletteSettingWidget> makeForm(QWidget& page) {
+  auto form = std::make_unique<Ui::CChatRouletteSettingWidget>();
+  form->setupUi(&page);
+  return form;
+}
+
+// The number that the name of a slot ends in, 1 to 8; 0 for other names.
+std::size_t slotNumber(const QObject& field) {
+  const QString name = field.objectName();
+  if (name.isEmpty()) return 0;
+  const QChar last = name.at(name.size() - 1);
+  return last >= u'1' && last <= u'8' ? static_cast<std::size_t>(last.unicode() - u'0') : 0;
+}
+
+QString translated(const char* key) {
+  QString text = QCoreApplication::translate("CChatRouletteSettingWidget", key);
+  return text.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
+}
+
+// A phrase may be longer than its field: that shows the beginning, and all of it as a tool tip.
+void showFromStart(QLineEdit& field) {
+  const QString text = field.text();
+  field.setCursorPosition(0);
+  field.setToolTip(text.isEmpty() ? QString() : Qt::convertFromPlainText(text));
+}
+
+}  // namespace
+
+CChatRouletteSettingWidget::CChatRouletteSettingWidget(brennet::HotkeyConfig& config,
+                                                       QWidget* parent)
+    : QWidget(parent),
+      config_(&config),
+      ui_(makeForm(*this)),
+      capture_(
+          {.style = {},
+           .captures = [this](const QLineEdit& field) { return &field == ui_->edtChatWheelKey; },
+           .settingOf = brennet::featureKeyOf,
+           .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
+          config) {
+  makeSlots();
+  capture_.install(*this, *this);
+  fillTree();
+  load();
+  connectAll();
+}
+
+CChatRouletteSettingWidget::~CChatRouletteSettingWidget() = default;
+
+void CChatRouletteSettingWidget::makeSlots() {
+  auto* const ring = new brennet::RingLayout(kPicture, kRing, ui_->ChatWheel);
+  ring->setContentsMargins(0, 0, 0, kRoomBelow);
+  QWidget* before = nullptr;
+  for (int n = 1; n <= brennet::kPhrases; ++n) {
+    auto* const field = new CCustomLineEdit(ui_->ChatWheel);
+    field->setObjectName(QStringLiteral("edtChatWheel_%1").arg(n));
+    field->setAccessibleName(tr("轮盘短语 %1").arg(n));
+    field->setReadOnly(true);
+    field->setAcceptDrops(true);
+    field->setFocusPolicy(Qt::StrongFocus);
+    field->setMinimumWidth(widthOf(kSlotCharacters, *this));
+    ring->addWidget(field);
+    if (before != nullptr) setTabOrder(before, field);
+    before = field;
+    slots_.push_back(field);
+  }
+  setTabOrder(before, ui_->edtChatWheelKey);
+  setTabOrder(ui_->edtChatWheelKey, ui_->chkShowMana);
+}
+
+void CChatRouletteSettingWidget::fillTree() {
+  for (const brennet::PhraseCategory& category : brennet::chatPhrases()) {
+    auto* const branch = new QTreeWidgetItem(ui_->ChatPhrases, {translated(category.key)});
+    for (const char* const key : category.phrases) new QTreeWidgetItem(branch, {translated(key)});
+  }
+  ui_->ChatPhrases->setMinimumWidth(widthOf(kTreeCharacters, *this));
+  ui_->ChatPhrases->setItemDelegate(new brennet::PhraseDelegate(ui_->ChatPhrases));
+  // As wide as the widest phrase: there is a scroll bar where that is wider than the tree.
+  ui_->ChatPhrases->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  ui_->ChatPhrases->expandAll();
+}
+
+void CChatRouletteSettingWidget::connectAll() {
+  using This = CChatRouletteSettingWidget;
+  for (const CCustomLineEdit* const field : slots_) {
+    connect(field, &QLineEdit::textChanged, this, &This::OnChatPhraseChanged);
+  }
+  connect(ui_->chkShowMana, &QCheckBox::toggled, this, &This::onToggled_ShowFMana);
+  connect(ui_->ChatPhrases, &QTreeWidget::itemClicked, this, &This::onChatPhraseSelected);
+}
+
+void CChatRouletteSettingWidget::load() {
+  for (std::size_t n = 0; n < slots_.size(); ++n) {
+    const auto& phrase = config_->scheme().ChatWheel[n];
+    if (!phrase) continue;
+    // What is stored may be longer than what would be stored of it.
+    const QSignalBlocker blocker(slots_[n]);
+    slots_[n]->setText(brennet::toQString(*phrase));
+    showFromStart(*slots_[n]);
+  }
+  capture_.refresh();
+  ui_->chkShowMana->hide();
+}
+
+void CChatRouletteSettingWidget::OnChatPhraseChanged() {
+  auto* const field = qobject_cast<QLineEdit*>(sender());
+  if (field == nullptr) return;
+  const std::size_t number = slotNumber(*field);
+  if (number == 0) return;
+  showFromStart(*field);
+  brennet::HotkeyScheme* const scheme = config_->editableScheme();
+  if (scheme == nullptr) return;
+  scheme->ChatWheel[number - 1] = brennet::cutTypedPhrase(field->text().toStdU16String());
+}
+
+void CChatRouletteSettingWidget::onChatPhraseSelected(QTreeWidgetItem* item, int /*col*/) {
+  if (item == nullptr || item->parent() == nullptr) return;
+  const QString phrase = item->text(0);
+  const QRegularExpression names(QStringLiteral("^edt"));
+  for (QLineEdit* const field : findChildren<QLineEdit*>(names)) {
+    if (slotNumber(*field) != 0 && field->hasFocus()) field->setText(phrase);
+  }
+}
+
+void CChatRouletteSettingWidget::onToggled_ShowFMana(bool bChecked) {
+  brennet::HotkeyScheme* const scheme = config_->editableScheme();
+  if (scheme != nullptr) scheme->ShowFManaFlag = bChecked ? 1 : 0;
+}
+
+bool CChatRouletteSettingWidget::eventFilter(QObject* watched, QEvent* event) {
+  return capture_.filter(watched, event) || QWidget::eventFilter(watched, event);
+}
+
+void CChatRouletteSettingWidget::dragEnterEvent(QDragEnterEvent* event) {
+  event->acceptProposedAction();
+}

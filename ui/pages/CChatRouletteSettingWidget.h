@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+#include "ui/CaptureFields.h"
+
+class CCustomLineEdit;
+class QTreeWidgetItem;
+
+namespace Ui {
+class CChatRouletteSettingWidget;
+}
+
+// The chat wheel page: the eight phrases of the current scheme around a wheel, ready-made phrases
+// to click or to drag onto them, and the key that opens the wheel in game. All changes are stored
+// at once. In no namespace: the style sheet and catalogues of translations know it by this name.
+class CChatRouletteSettingWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  // `config` outlives the page.
+  CChatRouletteSettingWidget(brennet::HotkeyConfig& config, QWidget* parent);
+  ~CChatRouletteSettingWidget() override;
+
+  // Shows the current scheme. Stores nothing. The field of a phrase that the scheme lacks stays as
+  // it is.
+  void load();
+
+ public slots:
+  // Stores the text of the field that sent the signal, cut to the length of a phrase.
+  void OnChatPhraseChanged();
+  // Puts the phrase into the slot that has the focus, if one has.
+  void onChatPhraseSelected(QTreeWidgetItem* item, int col);
+  void onToggled_ShowFMana(bool bChecked);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  // Takes every drag, so that the mouse shows on the whole page that there is a place to drop.
+  void dragEnterEvent(QDragEnterEvent* event) override;
+
+ private:
+  void makeSlots();
+  void fillTree();
+  void connectAll();
+
+  brennet::HotkeyConfig* config_;
+  std::unique_ptr<Ui::CChatRouletteSettingWidget> ui_;
+  std::vector<CCustomLineEdit*> slots_;
+  brennet::CaptureFields capture_;
+};

@@ -1,0 +1,28 @@
+#include "ui/pages/COrrerySettingDlg.h"
+
+#include "ui/StyleSheet.h"
+#include "ui/WindowDrag.h"
+#include "ui_COrrerySettingDlg.h"
+
+COrrerySettingDlg::COrrerySettingDlg(QWidget* parent)
+    : QDialog(parent), form_(std::make_unique<Ui::COrrerySettingDlg>()) {
+  form_->setupUi(this);
+  setWindowFlag(Qt::FramelessWindowHint);
+  setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
+  // Without its skin the window is plain, and as usable.
+  brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"));
+  connect(form_->chkShowFriendsMana, &QCheckBox::toggled, this,
+          &COrrerySettingDlg::chkShowFriendsMana);
+  connect(form_->btnClose, &QPushButton::clicked, this, &COrrerySettingDlg::accept);
+}
+
+COrrerySettingDlg::~COrrerySettingDlg() = default;
+
+void COrrerySettingDlg::mousePressEvent(QMouseEvent* event) {
+  if (!brennet::startDrag({.window = *this}, *event)) QDialog::mousePressEvent(event);
+}
+
+bool COrrerySettingDlg::nativeEvent(const QByteArray& eventType, void* message, long* result) {
+  return brennet::answerHitTest({.window = *this}, eventType, message, result) ||
+         QDialog::nativeEvent(eventType, message, result);
+}

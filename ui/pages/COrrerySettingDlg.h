@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class COrrerySettingDlg;
+}
+
+// The keys of the Ledger panel and the switch for allied mana: a small window beside the settings.
+// The basic page owns it, captures its keys and stores them.
+class COrrerySettingDlg : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit COrrerySettingDlg(QWidget* parent = nullptr);
+  ~COrrerySettingDlg() override;
+
+ signals:
+  // The check box of this name was toggled.
+  void chkShowFriendsMana(bool s);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  bool nativeEvent(const QByteArray& eventType, void* message, long* result) override;
+
+ private:
+  std::unique_ptr<Ui::COrrerySettingDlg> form_;
+};

@@ -1,0 +1,120 @@
+#include "ui/pages/ChatKeySettingWidget.h"
+
+#include <QMouseEvent>
+
+#include <string_view>
+
+#include "ui/KeyMessages.h"
+#include "ui/Text.h"
+#include "ui/TypedPhrase.h"
+#include "ui_ChatKeySettingWidget.h"
+
+namespace {
+
+constexpr int kAltDigits = 0;
+constexpr int kAltFunctionKeys = 1;
+
+constexpr int kFieldColumn = 1;
+constexpr char16_t kWideCharacter = u'\u4E2D';
+
+std::unique_ptr<Ui::ChatKeySettingWidget> makeForm(QDialog& dialog) {
+  auto form = std::make_unique<Ui::ChatKeySettingWidget>();
+  form->setupUi(&dialog);
+  // The longest phrase can be read whole, in any font; one character more is for the frame.
+  const QString longest(static_cast<int>(brennet::kPhraseUnits) + 1, QChar(kWideCharacter));
+  form->phraseLayout->setColumnMinimumWidth(kFieldColumn,
+                                            dialog.fontMetrics().horizontalAdvance(longest));
+  return form;
+}
+
+}  // namespace
+
+ChatKeySettingWidget::ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidget* parent)
+    : QDialog(parent),
+      config_(&config),
+      ui_(makeForm(*this)),
+      keyButtons_({ui_->optChatKey_1, ui_->optChatKey_2}, config),
+      capture_({.style = {},
+                .settingOf = [](std::u16string_view) { return std::nullopt; },
+                .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
+               config) {
+  load();
+  using This = ChatKeySettingWidget;
+  connect(ui_->optChatKey_1, &QRadioButton::toggled, this, &This::onToggled_ChatKey_1);
+  connect(ui_->optChatKey_2, &QRadioButton::toggled, this, &This::onToggled_ChatKey_2);
+  connect(ui_->btnCancel, &QPushButton::clicked, this, &This::onClickedCancelBtn);
+  connect(ui_->btnOK, &QPushButton::clicked, this, &This::onClickedOkBtn);
+  setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
+}
+
+ChatKeySettingWidget::~ChatKeySettingWidget() = default;
+
+QLineEdit& ChatKeySettingWidget::field(std::size_t phrase) const {
+  QLineEdit* const fields[] = {ui_->chatLineEdit_1, ui_->chatLineEdit_2, ui_->chatLineEdit_3,
+                               ui_->chatLineEdit_4, ui_->chatLineEdit_5, ui_->chatLineEdit_6,
+                               ui_->chatLineEdit_7, ui_->chatLineEdit_8};
+  return *fields[phrase];
+}
+
+void ChatKeySettingWidget::load() {
+  keyButtons_.refresh();
+  QString text;
+  for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
+    const auto& phrase = config_->scheme().QuickChat[n];
+    // What was found for one field is kept for those behind it that find nothing.
+    if (phrase) text = brennet::toQString(*phrase);
+    field(n).setText(text);
+  }
+}
+
+void ChatKeySettingWidget::reset() {
+  ui_->optChatKey_2->setChecked(true);
+  // The button says nothing if it was checked already, whatever the scheme has by now.
+  config_->SetQuickChatIndex(kAltFunctionKeys);
+  brennet::HotkeyScheme* const scheme = config_->editableScheme();
+  for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
+    if (scheme != nullptr) scheme->QuickChat[n].emplace();
+    field(n).clear();
+  }
+}
+
+void ChatKeySettingWidget::onClickedOkBtn() {
+  if (brennet::HotkeyScheme* const scheme = config_->editableScheme()) {
+    for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
+      scheme->QuickChat[n] = brennet::cutTypedPhrase(field(n).text().toStdU16String());
+    }
+  }
+  accept();
+}
+
+void ChatKeySettingWidget::onClickedCancelBtn() {
+  reject();
+}
+
+void ChatKeySettingWidget::onToggled_ChatKey_1(bool bChecked) {
+  keyButtons_.toggled(kAltDigits, bChecked);
+}
+
+void ChatKeySettingWidget::onToggled_ChatKey_2(bool bChecked) {
+  keyButtons_.toggled(kAltFunctionKeys, bChecked);
+}
+
+bool ChatKeySettingWidget::eventFilter(QObject* watched, QEvent* event) {
+  return capture_.filter(watched, event) || QDialog::eventFilter(watched, event);
+}
+
+void ChatKeySettingWidget::mousePressEvent(QMouseEvent* event) {
+  QDialog::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton) isDragged_ = true;
+  dragOffset_ = event->globalPos() - pos();
+}
+
+void ChatKeySettingWidget::mouseReleaseEvent(QMouseEvent* event) {
+  QDialog::mouseReleaseEvent(event);
+  isDragged_ = false;
+}
+
+void ChatKeySettingWidget::mouseMoveEvent(QMouseEvent* event) {
+  QDialog::mouseMoveEvent(event);
+  if (isDragged_) move(event->globalPos() - dragOffset_);
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QDialog>
+#include <QPoint>
+
+#include <memory>
+
+#include "ui/CaptureFields.h"
+#include "ui/QuickChatKeyButtons.h"
+
+class QLineEdit;
+
+namespace Ui {
+class ChatKeySettingWidget;
+}
+
+// The quick-chat dialog: the eight phrases of the current scheme, which OK stores, and the keys
+// that send them, which are stored at once. It has no frame; the mouse moves it by any place that
+// is no control. In no namespace: the style sheet and catalogues of translations know it by this
+// name.
+class ChatKeySettingWidget : public QDialog {
+  Q_OBJECT
+
+ public:
+  // `config` outlives the dialog.
+  ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidget* parent);
+  ~ChatKeySettingWidget() override;
+
+  // Shows the current scheme. Stores nothing. The field of a phrase that the scheme lacks shows the
+  // same text as the field before it.
+  void load();
+
+  // Chooses Alt+F1 to Alt+F8 and empties all phrases, in the fields and in the current scheme.
+  // Where one of these keys is used otherwise, the player is told and the choice stays.
+  void reset();
+
+ public slots:
+  void onClickedOkBtn();
+  void onClickedCancelBtn();
+  void onToggled_ChatKey_1(bool bChecked);
+  void onToggled_ChatKey_2(bool bChecked);
+
+ protected:
+  // Captures keys as the pages do, without a setting to store them in. Nothing has this filter: the
+  // fields take text.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  [[nodiscard]] QLineEdit& field(std::size_t phrase) const;
+
+  brennet::HotkeyConfig* config_;
+  std::unique_ptr<Ui::ChatKeySettingWidget> ui_;
+  brennet::QuickChatKeyButtons keyButtons_;
+  brennet::CaptureFields capture_;
+  bool isDragged_ = false;
+  QPoint dragOffset_;  // from the corner of the window to where the mouse was pressed
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+
+class QGridLayout;
+class QBoxLayout;
+class QLineEdit;
+class QPushButton;
+class QWidget;
+
+// The rows of key fields that the basic pages are made of. All widgets become children of the
+// widget that the layout belongs to, and stand in the tab order as they are made.
+
+namespace brennet {
+
+// The texts of a page that go with a key field.
+struct KeyRowTexts {
+  QString skill;       // "... %1": a hero skill, by its number
+  QString item;        // "... %1": an item, by the digit of its slot
+  QString quickCast;   // "... %1 ...": the quick-cast button of what %1 names; empty: no buttons
+  QString castToolTip;
+  QString remapSource, remapTarget;  // "... %1"
+  QString groupSource, groupTarget;  // "... %1"
+};
+
+// A field for a key, as wide as most keys need.
+[[nodiscard]] QLineEdit* newKeyField(const QString& objectName, const QString& accessibleName);
+
+// The first `count` hero skills on the places that they have on the game's command card: fields
+// edtSkill_n and their quick-cast buttons btn_skillcast_n.
+void addSkillRows(QGridLayout& grid, int count, const KeyRowTexts& texts);
+
+// The six items on the places that they have in the inventory, each with the digit of its slot:
+// fields edtGoodsKey_d and their quick-cast buttons btn_goods_cast_d.
+void addItemRows(QGridLayout& grid, const KeyRowTexts& texts);
+
+// The five custom remaps, three and two: fields edt_skillex_L_n and edt_skillex_R_n.
+void addRemapRows(QGridLayout& grid, const KeyRowTexts& texts);
+
+// A group remap of `sources` keys: fields PREFIX_L_n and PREFIX_R_1.
+void addGroupRow(QBoxLayout& row, const QString& prefix, int sources, const KeyRowTexts& texts);
+
+}  // namespace brennet
