@@ -7,8 +7,8 @@ namespace brennet {
 QSize PhraseDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   const QSize hint = QStyledItemDelegate::sizeHint(option, index);
   const QString text = index.data(Qt::DisplayRole).toString();
-  const int needed = option.fontMetrics.size(0, text).height();
-  return {hint.width(), std::max(hint.height(), needed)};
+  const int lines = text.count(QLatin1Char('\n')) + 1;
+  return {hint.width(), std::max(hint.height(), lines * option.fontMetrics.height())};
 }
 
 void PhraseDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {

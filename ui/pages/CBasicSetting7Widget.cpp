@@ -8,6 +8,7 @@
 #include "ui/FeatureKeys.h"
 #include "ui/KeyMessages.h"
 #include "ui/pages/COrrerySettingDlg.h"
+#include "ui/TabOrder.h"
 #include "ui/pages/EditControlTrace.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_CHotkeySettingPage.h"
@@ -112,6 +113,7 @@ CBasicSetting7Widget::CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidge
       switches_(config),
       presets_({form_->chkGroupKey1, form_->chkGroupKey2, form_->chkGroupKey3}, config) {
   buildRows();
+  brennet::setTabOrderOfLayouts(*this);
   connectSwitches();
   connectButtons();
   fields_.install(*this, *this);

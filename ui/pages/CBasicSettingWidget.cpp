@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "ui/KeyMessages.h"
+#include "ui/TabOrder.h"
 #include "ui/pages/EditControlTrace.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_CBasicSettingWidget.h"
@@ -48,6 +49,7 @@ CBasicSettingWidget::CBasicSettingWidget(brennet::HotkeyConfig& config, QWidget*
       fields_(capturePage(*this, this), config),
       switches_(config) {
   buildRows();
+  brennet::setTabOrderOfLayouts(*this);
   connectSwitches();
   fields_.install(*this, *this);
   fields_.refresh();

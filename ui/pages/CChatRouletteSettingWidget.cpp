@@ -29,6 +29,7 @@ constexpr QSize kRing(340, 300);
 // How many characters can be read at once, at least.
 constexpr int kSlotCharacters = 12;
 constexpr int kTreeCharacters = 18;
+constexpr int kKeyCharacters = 16;  // "CTRL + Alt + PRINT SCREEN"
 constexpr char16_t kWideCharacter = u'\u4E2D';
 
 int widthOf(int characters, const QWidget& page) {
@@ -86,7 +87,9 @@ CChatRouletteSettingWidget::~CChatRouletteSettingWidget() = default;
 void CChatRouletteSettingWidget::makeSlots() {
   auto* const ring = new brennet::RingLayout(kPicture, kRing, ui_->ChatWheel);
   ring->setContentsMargins(0, 0, 0, kRoomBelow);
-  QWidget* before = nullptr;
+  // In two steps, since Qt sees no difference between an order and one that starts elsewhere: the
+  // slots go behind the key, before the check box, and then the key goes behind them.
+  QWidget* before = ui_->edtChatWheelKey;
   for (int n = 1; n <= brennet::kPhrases; ++n) {
     auto* const field = new CCustomLineEdit(ui_->ChatWheel);
     field->setObjectName(QStringLiteral("edtChatWheel_%1").arg(n));
@@ -96,12 +99,12 @@ void CChatRouletteSettingWidget::makeSlots() {
     field->setFocusPolicy(Qt::StrongFocus);
     field->setMinimumWidth(widthOf(kSlotCharacters, *this));
     ring->addWidget(field);
-    if (before != nullptr) setTabOrder(before, field);
+    setTabOrder(before, field);
     before = field;
     slots_.push_back(field);
   }
   setTabOrder(before, ui_->edtChatWheelKey);
-  setTabOrder(ui_->edtChatWheelKey, ui_->chkShowMana);
+  ui_->edtChatWheelKey->setMinimumWidth(widthOf(kKeyCharacters, *this));
 }
 
 void CChatRouletteSettingWidget::fillTree() {

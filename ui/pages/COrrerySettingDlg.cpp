@@ -1,12 +1,14 @@
 #include "ui/pages/COrrerySettingDlg.h"
 
 #include "ui/StyleSheet.h"
+#include "ui/TabOrder.h"
 #include "ui/WindowDrag.h"
 #include "ui_COrrerySettingDlg.h"
 
 COrrerySettingDlg::COrrerySettingDlg(QWidget* parent)
     : QDialog(parent), form_(std::make_unique<Ui::COrrerySettingDlg>()) {
   form_->setupUi(this);
+  brennet::setTabOrderOfLayouts(*this);
   setWindowFlag(Qt::FramelessWindowHint);
   setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
   // Without its skin the window is plain, and as usable.

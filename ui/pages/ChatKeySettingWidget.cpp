@@ -20,8 +20,8 @@ constexpr char16_t kWideCharacter = u'\u4E2D';
 std::unique_ptr<Ui::ChatKeySettingWidget> makeForm(QDialog& dialog) {
   auto form = std::make_unique<Ui::ChatKeySettingWidget>();
   form->setupUi(&dialog);
-  // The longest phrase can be read whole, in any font; one character more is for the frame.
-  const QString longest(static_cast<int>(brennet::kPhraseUnits) + 1, QChar(kWideCharacter));
+  // The longest phrase can be read whole, in any font; two characters more are for the frame.
+  const QString longest(static_cast<int>(brennet::kPhraseUnits) + 2, QChar(kWideCharacter));
   form->phraseLayout->setColumnMinimumWidth(kFieldColumn,
                                             dialog.fontMetrics().horizontalAdvance(longest));
   return form;

@@ -93,12 +93,12 @@ void addItemRows(QGridLayout& grid, const KeyRowTexts& texts) {
 }
 
 void addRemapRows(QGridLayout& grid, const KeyRowTexts& texts) {
-  constexpr int kRows = 3;
+  constexpr int kInARow = 2;
   constexpr int kColumnsOfOne = 5;  // four widgets, and a gap
   for (int i = 0; i < kRemaps; ++i) {
     const int number = i + 1;
-    const int row = i % kRows;
-    const int column = kColumnsOfOne * (i / kRows);
+    const int row = i / kInARow;
+    const int column = kColumnsOfOne * (i % kInARow);
     auto* const source = newKeyField(QStringLiteral("edt_skillex_L_%1").arg(number),
                                      texts.remapSource.arg(number));
     auto* const target = newKeyField(QStringLiteral("edt_skillex_R_%1").arg(number),

@@ -34,7 +34,7 @@ void addSkillRows(QGridLayout& grid, int count, const KeyRowTexts& texts);
 // fields edtGoodsKey_d and their quick-cast buttons btn_goods_cast_d.
 void addItemRows(QGridLayout& grid, const KeyRowTexts& texts);
 
-// The five custom remaps, three and two: fields edt_skillex_L_n and edt_skillex_R_n.
+// The five custom remaps, two in a row: fields edt_skillex_L_n and edt_skillex_R_n.
 void addRemapRows(QGridLayout& grid, const KeyRowTexts& texts);
 
 // A group remap of `sources` keys: fields PREFIX_L_n and PREFIX_R_1.

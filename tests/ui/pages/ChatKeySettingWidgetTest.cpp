@@ -7,7 +7,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -15,6 +14,7 @@
 #include <memory>
 
 #include "tests/ui/pages/ChatPageTest.h"
+#include "tests/ui/pages/PageChecks.h"
 #include "ui/Text.h"
 
 namespace brennet::test {
@@ -36,9 +36,7 @@ class ChatDialog : public testing::Test {
   QRadioButton& family(int n) {
     return find<QRadioButton>(dialog(), QStringLiteral("optChatKey_%1").arg(n));
   }
-  QPushButton& button(const char* name) {
-    return find<QPushButton>(dialog(), QLatin1String(name));
-  }
+  QPushButton& button(const char* name) { return find<QPushButton>(dialog(), QLatin1String(name)); }
   QStringList shown() {
     QStringList texts;
     for (int n = 1; n <= kPhrases; ++n) texts += phrase(n).text();
@@ -61,8 +59,7 @@ const QStringList kNothing = {{}, {}, {}, {}, {}, {}, {}, {}};
 TEST_F(ChatDialog, HasNoFrameAndItsNames) {
   EXPECT_STREQ(dialog().metaObject()->className(), "ChatKeySettingWidget");
   EXPECT_EQ(dialog().windowTitle(), QStringLiteral("CAdvancedSettingWidget"));
-  EXPECT_EQ(dialog().windowFlags(),
-            Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
+  EXPECT_EQ(dialog().windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
   EXPECT_EQ(static_cast<unsigned>(dialog().windowFlags()), 0x280BU);
   EXPECT_EQ(dialog().font().family(), QStringLiteral("微软雅黑"));
   EXPECT_EQ(dialog().styleSheet(), QString());
@@ -71,10 +68,9 @@ TEST_F(ChatDialog, HasNoFrameAndItsNames) {
 }
 
 TEST_F(ChatDialog, HasItsSlotsInOrder) {
-  EXPECT_EQ(ownMethods(ChatKeySettingWidget::staticMetaObject),
-            QStringList({QStringLiteral("onClickedOkBtn()"), QStringLiteral("onClickedCancelBtn()"),
-                         QStringLiteral("onToggled_ChatKey_1(bool)"),
-                         QStringLiteral("onToggled_ChatKey_2(bool)")}));
+  EXPECT_EQ(
+      methodNames(ChatKeySettingWidget::staticMetaObject).join(QLatin1Char(' ')),
+      QStringLiteral("onClickedOkBtn onClickedCancelBtn onToggled_ChatKey_1 onToggled_ChatKey_2"));
 }
 
 TEST_F(ChatDialog, HasItsWidgetsWithTheirTexts) {
@@ -102,9 +98,11 @@ TEST_F(ChatDialog, HasItsWidgetsWithTheirTexts) {
 TEST_F(ChatDialog, IsReadInOrderByTab) {
   QStringList names;
   for (int n = 1; n <= kPhrases; ++n) names += phrase(n).objectName();
-  names += {QStringLiteral("optChatKey_1"), QStringLiteral("optChatKey_2"),
-            QStringLiteral("btnOK"), QStringLiteral("btnCancel")};
+  names += {QStringLiteral("optChatKey_1"), QStringLiteral("optChatKey_2"), QStringLiteral("btnOK"),
+            QStringLiteral("btnCancel")};
+  dialog().show();
   EXPECT_EQ(tabOrder(dialog()), names);
+  expectAccessible(dialog());
 }
 
 TEST_F(ChatDialog, ShowsTheLongestPhraseWholeInOneColumn) {
@@ -120,8 +118,7 @@ TEST_F(ChatDialog, ShowsTheLongestPhraseWholeInOneColumn) {
 TEST_F(ChatDialog, HasRoomForLongerTexts) {
   const LongerTexts longer;
   open().show();
-  expectWholeTexts<QLabel>(dialog());
-  expectWholeTexts<QAbstractButton>(dialog());
+  expectNothingIsCut(dialog());
 }
 
 TEST_F(ChatDialog, LoadsTheCurrentScheme) {
@@ -222,6 +219,94 @@ TEST_F(ChatDialog, TakesReturnForOkAndEscapeForCancel) {
   QTest::keyClick(&phrase(2), Qt::Key_Return);
   EXPECT_FALSE(dialog().isVisible());
   EXPECT_EQ(scheme().QuickChat[1], u"typed");
+}
+
+TEST_F(ChatDialog, StoresTheKeysAtOnce) {
+  const NoBoxes noBoxes;
+  family(1).click();
+  EXPECT_EQ(scheme().QuickChatIndex, 0U);
+  family(2).click();
+  EXPECT_EQ(scheme().QuickChatIndex, 1U);
+}
+
+TEST_F(ChatDialog, RefusesKeysThatAreUsed) {
+  using Use = void (*)(HotkeyScheme&);
+  constexpr Use kUses[] = {
+      [](HotkeyScheme& scheme) { scheme.ItemKey[2] = KeyWord('3', kAlt); },
+      [](HotkeyScheme& scheme) { scheme.NumComboKeyIndex = 2; },
+      [](HotkeyScheme& scheme) { scheme.QuickChatKey = KeyWord('8', kAlt); },
+  };
+  for (const Use use : kUses) {
+    scheme() = HotkeyScheme();
+    use(scheme());
+    expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { family(1).click(); });
+    expectFamily(2);
+    EXPECT_EQ(scheme().QuickChatIndex, 1U);
+  }
+}
+
+TEST_F(ChatDialog, AsksOnceWhenNoKeysCanBeHad) {
+  scheme().HeroSkillKey[0] = KeyWord('1', kAlt);
+  scheme().HeroSkillKey[1] = KeyWord(kF1, kAlt);
+  expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { family(1).click(); });
+  expectFamily(2);
+  scheme().QuickChatIndex = 0;
+  dialog().load();
+  expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { family(2).click(); });
+  expectFamily(1);
+  EXPECT_EQ(scheme().QuickChatIndex, 0U);
+}
+
+TEST_F(ChatDialog, ResetsKeysAndPhrases) {
+  const NoBoxes noBoxes;
+  config.setIndex(1);
+  scheme(1).QuickChatIndex = 0;
+  scheme(1).QuickChat = {u"a", u"b", u"c", u"d", u"e", u"f", u"g", std::nullopt};
+  const HotkeyScheme other = scheme(0);
+  phrase(5).setText(QStringLiteral("typed"));
+  dialog().reset();
+  expectFamily(2);
+  EXPECT_EQ(shown(), kNothing);
+  EXPECT_EQ(scheme(1).QuickChatIndex, 1U);
+  for (const auto& text : scheme(1).QuickChat) EXPECT_EQ(text, u"");
+  EXPECT_EQ(scheme(0), other);
+}
+
+TEST_F(ChatDialog, ResetsKeysThatWereChosenElsewhere) {
+  expectFamily(2);
+  scheme().QuickChatIndex = 0;
+  dialog().reset();
+  EXPECT_EQ(scheme().QuickChatIndex, 1U);
+}
+
+TEST_F(ChatDialog, ResetsThePhrasesEvenIfTheKeysAreUsed) {
+  scheme().QuickChatIndex = 0;
+  scheme().QuickChat[0] = u"a";
+  scheme().HeroSkillKey[0] = KeyWord(kF1 + 7, kAlt);
+  expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { dialog().reset(); });
+  expectFamily(1);
+  EXPECT_EQ(scheme().QuickChatIndex, 0U);
+  EXPECT_EQ(scheme().QuickChat[0], u"");
+  EXPECT_EQ(shown(), kNothing);
+}
+
+TEST_F(ChatDialog, StoresNothingWhereThereIsNoScheme) {
+  for (std::uint32_t index = 3; index <= HotkeyConfig::kLargestIndex; ++index) {
+    ASSERT_TRUE(config.setIndex(index));
+    open();
+    expectFamily(2);
+    EXPECT_EQ(shown(), kNothing);
+    expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { family(1).click(); });
+    expectFamily(2);
+    phrase(1).setText(QStringLiteral("typed"));
+    button("btnOK").click();
+    EXPECT_EQ(dialog().result(), QDialog::Accepted);
+    const NoBoxes noBoxes;
+    dialog().reset();
+    EXPECT_EQ(shown(), kNothing);
+    dialog().load();
+    for (int n = 0; n < HotkeyConfig::kSchemes; ++n) EXPECT_EQ(scheme(n), HotkeyScheme());
+  }
 }
 
 }  // namespace

@@ -2,13 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
-#include <QMetaMethod>
-#include <QStringList>
 #include <QTimer>
 #include <QTranslator>
 #include <QWidget>
@@ -26,27 +24,6 @@ Widget& find(const QWidget& window, const QString& name) {
   return *widget;
 }
 
-// The signals and slots of the class itself, in their order.
-inline QStringList ownMethods(const QMetaObject& meta) {
-  QStringList signatures;
-  for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-    signatures += QString::fromLatin1(meta.method(i).methodSignature());
-  }
-  return signatures;
-}
-
-// The named widgets in the order in which Tab reaches them.
-inline QStringList tabOrder(const QWidget& window) {
-  QStringList names;
-  for (const QWidget* widget = window.nextInFocusChain(); widget != &window;
-       widget = widget->nextInFocusChain()) {
-    const bool takesTab = (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
-    const QString name = widget->objectName();
-    if (takesTab && !name.isEmpty() && !name.startsWith(QLatin1String("qt_"))) names += name;
-  }
-  return names;
-}
-
 inline QString accessible(QWidget& widget, QAccessible::Text what) {
   return QAccessible::queryAccessibleInterface(&widget)->text(what);
 }
@@ -54,23 +31,6 @@ inline QString accessible(QWidget& widget, QAccessible::Text what) {
 inline QString buddyOf(const QWidget& window, const QString& label) {
   const QWidget* const buddy = find<QLabel>(window, label).buddy();
   return buddy == nullptr ? QString() : buddy->objectName();
-}
-
-// A key as Windows sends it, whose code is that of the letter where none is given.
-inline bool sendKey(QWidget& field, QEvent::Type type, int key, Qt::KeyboardModifiers modifiers) {
-  const auto code = static_cast<quint32>(key == Qt::Key_Control     ? 0x11
-                                         : key == Qt::Key_Backspace ? 0x08
-                                         : key == Qt::Key_Delete    ? 0x2E
-                                         : key == Qt::Key_Return    ? 0x0D
-                                                                    : key);
-  QKeyEvent event(type, key, modifiers, 0, code, 0, QStringLiteral("x"));
-  return QApplication::sendEvent(&field, &event);
-}
-inline void press(QWidget& field, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-  sendKey(field, QEvent::KeyPress, key, modifiers);
-}
-inline void release(QWidget& field, int key) {
-  sendKey(field, QEvent::KeyRelease, key, Qt::NoModifier);
 }
 
 // Does `act`, which has to bring one warning up: about `text`, modal to `parent`, with OK alone.
@@ -128,14 +88,5 @@ class LongerTexts : public QTranslator {
     return whole + whole.left((whole.size() + 1) / 2);
   }
 };
-
-// Fails for each of the widgets that is smaller than its text.
-template <class Widget>
-void expectWholeTexts(const QWidget& window) {
-  for (const Widget* const widget : window.findChildren<Widget*>()) {
-    EXPECT_GE(widget->width(), widget->sizeHint().width()) << qPrintable(widget->objectName());
-    EXPECT_GE(widget->height(), widget->sizeHint().height()) << qPrintable(widget->objectName());
-  }
-}
 
 }  // namespace brennet::test

@@ -12,12 +12,13 @@
 #include <QLineEdit>
 #include <QMetaMethod>
 
+#include "ui/VirtualKey.h"
+
 namespace brennet::test {
 namespace {
 
-void send(QLineEdit& field, QEvent::Type type, int virtualKey, Qt::KeyboardModifiers modifiers,
-          Qt::Key key) {
-  QKeyEvent event(type, key, modifiers, 0, static_cast<quint32>(virtualKey), 0);
+void send(QLineEdit& field, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QKeyEvent event(type, key, modifiers, 0, virtualKeyOfQtKey(key, false), 0);
   QApplication::sendEvent(&field, &event);
 }
 
@@ -57,12 +58,12 @@ QStringList methodNames(const QMetaObject& type) {
   return names;
 }
 
-void pressKey(QLineEdit& field, int virtualKey, Qt::KeyboardModifiers modifiers, Qt::Key key) {
-  send(field, QEvent::KeyPress, virtualKey, modifiers, key);
+void pressKey(QLineEdit& field, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  send(field, QEvent::KeyPress, key, modifiers);
 }
 
-void releaseKey(QLineEdit& field, int virtualKey) {
-  send(field, QEvent::KeyRelease, virtualKey, Qt::NoModifier, Qt::Key_unknown);
+void releaseKey(QLineEdit& field, Qt::Key key) {
+  send(field, QEvent::KeyRelease, key, Qt::NoModifier);
 }
 
 QStringList tabOrder(QWidget& window) {
@@ -89,7 +90,9 @@ void expectAccessible(const QWidget& page) {
       const int gap = other.left() - one.right();
       const bool isBefore = gap > 0 && gap < 20 && one.center().y() >= other.top() &&
                             one.center().y() <= other.bottom();
-      if (isBefore) EXPECT_EQ(label->buddy(), field) << qPrintable(label->text());
+      if (isBefore) {
+        EXPECT_EQ(label->buddy(), field) << qPrintable(label->text());
+      }
     }
   }
 }

@@ -14,10 +14,9 @@ namespace brennet::test {
 // The signals and slots that a class adds, in the order in which clients see them.
 [[nodiscard]] QStringList methodNames(const QMetaObject& type);
 
-// A key with its Windows virtual-key code; `key` is what Qt calls it.
-void pressKey(QLineEdit& field, int virtualKey, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-              Qt::Key key = Qt::Key_unknown);
-void releaseKey(QLineEdit& field, int virtualKey);
+// A key with the code that Windows sends for it.
+void pressKey(QLineEdit& field, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void releaseKey(QLineEdit& field, Qt::Key key);
 
 // The object names of all widgets that Tab reaches in a window that is shown, from the first on.
 [[nodiscard]] QStringList tabOrder(QWidget& window);

@@ -1,7 +1,6 @@
 // The chat wheel page: as it comes, in a wide window, and with letters of double size.
 
 #include <QApplication>
-#include <QFile>//X
 #include <QVBoxLayout>
 
 #include "tests/ui/shots/Shots.h"
@@ -26,7 +25,7 @@ class Window : public QWidget {
     setPalette(palette);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(new CChatRouletteSettingWidget(settings_, this));
-    QFile f(QStringLiteral(":/skin/war3key.qss"));f.open(QIODevice::ReadOnly);setStyleSheet(QString::fromUtf8(f.readAll()+qgetenv("XQSS")));//X
+    loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"));
     resize(sizeHint());
   }
 

@@ -1,0 +1,114 @@
+#include "ui/pages/CBasicSettingWidget.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "model/HotkeyConfig.h"
+#include "tests/ui/UiTest.h"
+#include "tests/ui/pages/PageChecks.h"
+
+namespace brennet::test {
+namespace {
+
+class OlderBasicPage : public testing::Test {
+ protected:
+  HotkeyConfig config;
+  HotkeyScheme& scheme = *config.editableScheme();
+  CBasicSettingWidget page{config, nullptr};
+
+  QLineEdit& field(const char* name) { return *page.findChild<QLineEdit*>(QLatin1String(name)); }
+  QCheckBox& box(const char* name) { return *page.findChild<QCheckBox*>(QLatin1String(name)); }
+};
+
+TEST_F(OlderBasicPage, HasItsMethodsInTheOrderThatClientsKnow) {
+  const QStringList expected = {
+      QStringLiteral("onToggled_DisableLWin"),      QStringLiteral("onToggled_LockMouse"),
+      QStringLiteral("onToggled_ShowFriendBlood"),  QStringLiteral("onToggled_ShowFirendMana"),
+      QStringLiteral("onToggled_ShowEnimiesBlood"), QStringLiteral("onToggled_KeepNoStretch"),
+      QStringLiteral("onToggled_DelayOptimization")};
+  EXPECT_EQ(methodNames(CBasicSettingWidget::staticMetaObject), expected);
+}
+
+TEST_F(OlderBasicPage, HasItsTexts) {
+  QStringList texts;
+  for (const QGroupBox* const group : page.findChildren<QGroupBox*>()) texts += group->title();
+  for (const QLabel* const label : page.findChildren<QLabel*>()) texts += label->text();
+  for (const QCheckBox* const each : page.findChildren<QCheckBox*>()) texts += each->text();
+  for (const char16_t* const text :
+       {u"英雄技能快捷键", u"自定义技能快捷键", u"常用选项", u"延迟优化（请根据自身需求选用）",
+        u"显示己方蓝量(需DotAOrrery)", u"小键盘物品栏快捷键", u"滚轮改键", u"技能提醒快捷键"}) {
+    EXPECT_TRUE(texts.contains(QString::fromUtf16(text))) << qPrintable(QString::fromUtf16(text));
+  }
+}
+
+TEST_F(OlderBasicPage, HasSevenSkillsAndNothingThatLeadsElsewhere) {
+  EXPECT_NE(page.findChild<QLineEdit*>(QStringLiteral("edtSkill_7")), nullptr);
+  EXPECT_EQ(page.findChild<QLineEdit*>(QStringLiteral("edtSkill_8")), nullptr);
+  EXPECT_TRUE(page.findChildren<QPushButton*>().isEmpty());
+  EXPECT_EQ(page.findChild<QCheckBox*>(QStringLiteral("chkGroupKey1")), nullptr);
+}
+
+TEST_F(OlderBasicPage, CapturesKeys) {
+  pressKey(field("edtSkill_7"), Qt::Key_Q, Qt::AltModifier);
+  EXPECT_EQ(scheme.HeroSkillKey[6], KeyWord('Q', KeyWord::kAlt));
+  EXPECT_EQ(field("edtSkill_7").text(), QStringLiteral("Alt + Q"));
+  pressKey(field("edtHotKeyLedgerSkill"), Qt::Key_W);
+  EXPECT_EQ(scheme.SecretaryKey[2], KeyWord('W', 0));
+  whenBoxIsShown([](QMessageBox& box) { box.accept(); });
+  pressKey(field("edtGoodsKey_1"), Qt::Key_W);
+  EXPECT_EQ(scheme.ItemKey[4], kNoKey);
+  pressKey(field("edt_skillex_GROUP_L_2"), Qt::Key_E);
+  EXPECT_EQ(scheme.ComboKey.Key_B, KeyWord('E', 0));
+}
+
+TEST_F(OlderBasicPage, ParsesNamesByItsOwnRule) {
+  EditControl control;
+  EXPECT_TRUE(page.getEditControlTypeByParseName(QStringLiteral("edtSkill_7"), control));
+  EXPECT_FALSE(page.getEditControlTypeByParseName(QStringLiteral("edtSkill_8"), control));
+  EXPECT_EQ(control.nSkillIndex, 8);
+  EXPECT_FALSE(page.getEditControlTypeByParseName(QStringLiteral("edtSkill_12"), control));
+  EXPECT_FALSE(page.getEditControlTypeByParseName(QStringLiteral("edt_skillex_GROUP_2_R_1"), control));
+}
+
+TEST_F(OlderBasicPage, StoresEachSwitch) {
+  struct Row {
+    const char* box;
+    std::uint8_t HotkeyScheme::*field;
+  };
+  const Row kRows[] = {
+      {"chkDisableLWin", &HotkeyScheme::DisableLWinFlag},
+      {"chkLockMouse", &HotkeyScheme::LockMouseFlag},
+      {"chkShowFriendBlood", &HotkeyScheme::ShowFBloodFlag},
+      {"chkShowEnimiesBlood", &HotkeyScheme::ShowEBloodFlag},
+      {"chkKeepNoStretch", &HotkeyScheme::ViewNoDragFlag},
+      {"chkDelayOptimization", &HotkeyScheme::StartJSQFlag},
+  };
+  for (const Row& row : kRows) {
+    HotkeyScheme expected = scheme;
+    box(row.box).click();
+    expected.*row.field = 1;
+    EXPECT_EQ(scheme, expected) << row.box;
+    box(row.box).click();
+  }
+}
+
+TEST_F(OlderBasicPage, ShowsNoManaWithoutHealth) {
+  box("chkShowFirendMana").click();
+  EXPECT_EQ(scheme.ShowFManaFlag, 1);
+  EXPECT_EQ(scheme.ShowFBloodFlag, 1);
+  box("chkShowFriendBlood").click();
+  EXPECT_EQ(scheme.ShowFManaFlag, 0);
+}
+
+TEST_F(OlderBasicPage, CanBeUsedWithoutAMouse) {
+  page.show();
+  expectAccessible(page);
+}
+
+}  // namespace
+}  // namespace brennet::test

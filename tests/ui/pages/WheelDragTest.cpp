@@ -1,0 +1,91 @@
+// Phrases that are dragged over the chat wheel page, with the events that a window gets.
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QTextDocumentFragment>
+#include <QWindow>
+
+#include "tests/ui/pages/WheelPage.h"
+
+namespace brennet::test {
+namespace {
+
+class WheelDrag : public WheelPage {
+ protected:
+  // What the tree gives for these items when they are dragged.
+  std::unique_ptr<QMimeData> dragged(const QList<QTreeWidgetItem*>& items) {
+    QModelIndexList indexes;
+    for (QTreeWidgetItem* const item : items) {
+      tree().scrollToItem(item);
+      indexes += tree().indexAt(tree().visualItemRect(item).center());
+    }
+    return std::unique_ptr<QMimeData>(tree().model()->mimeData(indexes));
+  }
+
+  // Whether the mouse shows that `what` may be dropped there.
+  bool enters(QWidget& target, const QMimeData& what) {
+    const QPoint place = target.mapTo(&page(), target.rect().center());
+    QDragEnterEvent enter(place, Qt::MoveAction, &what, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(page().windowHandle(), &enter);
+    return enter.isAccepted();
+  }
+  void drop(QWidget& target, const QMimeData& what) {
+    enters(target, what);
+    const QPoint place = target.mapTo(&page(), target.rect().center());
+    QDropEvent event(place, Qt::MoveAction, &what, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(page().windowHandle(), &event);
+    // The tree moves by default: it would lose a phrase that somebody accepts.
+    EXPECT_FALSE(event.isAccepted());
+  }
+};
+
+TEST_F(WheelDrag, IsWelcomeOnTheWholePage) {
+  show();
+  const auto phrases = dragged({&phrase(0, 18)});
+  QMimeData text;
+  text.setText(QStringLiteral("text"));
+  for (const QMimeData* const what : {phrases.get(), &text}) {
+    EXPECT_TRUE(enters(page(), *what));
+    EXPECT_TRUE(enters(*slot(1).parentWidget(), *what));
+    EXPECT_TRUE(enters(find<QWidget>(page(), QStringLiteral("ChatWheelkey")), *what));
+    EXPECT_TRUE(enters(tree(), *what)) << "the page behind the tree takes it";
+  }
+  EXPECT_TRUE(enters(slot(1), *phrases));
+}
+
+TEST_F(WheelDrag, PutsAPhraseIntoTheSlotItIsDroppedOn) {
+  show();
+  for (int n = 1; n <= 8; ++n) {
+    drop(slot(n), *dragged({&phrase(0, n)}));
+    EXPECT_EQ(slot(n).text(), phrase(0, n).text(0));
+    EXPECT_EQ(stored(n), phrase(0, n).text(0).toStdU16String());
+    EXPECT_EQ(slot(n).cursorPosition(), 0) << "the beginning is what shows";
+    const auto toolTip = QTextDocumentFragment::fromHtml(slot(n).toolTip());
+    EXPECT_EQ(toolTip.toPlainText(), phrase(0, n).text(0));
+  }
+  EXPECT_EQ(tree().topLevelItem(0)->childCount(), 21) << "the tree keeps its phrases";
+}
+
+TEST_F(WheelDrag, LeavesTheLastOfTwoPhrases) {
+  show();
+  drop(slot(8), *dragged({&phrase(0, 18), &phrase(0, 19)}));
+  EXPECT_EQ(slot(8).text(), QStringLiteral("back,defend"));
+  EXPECT_EQ(stored(8), u"back,defend");
+}
+
+TEST_F(WheelDrag, TakesNothingElse) {
+  show();
+  QMimeData text;
+  text.setText(QStringLiteral("text"));
+  const HotkeyScheme before = scheme();
+  drop(slot(1), text);
+  drop(page(), *dragged({&phrase(0, 18)}));
+  drop(tree(), *dragged({&phrase(0, 18)}));
+  EXPECT_EQ(slot(1).text(), QString());
+  EXPECT_TRUE(scheme() == before);
+  EXPECT_EQ(tree().topLevelItemCount(), 4);
+}
+
+}  // namespace
+}  // namespace brennet::test
