@@ -5,7 +5,7 @@ FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run test asan windows test-windows sdk bench bench-build fuzz format lint lint-windows clean
+.PHONY: help run test asan windows test-windows sdk bench bench-build fuzz translations format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -58,6 +58,10 @@ fuzz: ## run each fuzz target for FUZZ_SECONDS (60)
 	@cmake --preset fuzz
 	@cmake --build --preset fuzz -j $(JOBS) --target fuzzers
 	@tools/fuzz.sh build/fuzz build/fuzz-corpus $(FUZZ_SECONDS)
+
+translations: ## bring the catalogues up to date with the texts of the windows
+	@tools/setup.sh build
+	@tools/translations.sh
 
 format: ## put all C++ sources into the house's format
 	@tools/setup.sh lint

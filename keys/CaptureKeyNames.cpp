@@ -43,12 +43,18 @@ static_assert(isSortedByCode(kCaptureNames), "the look-up is a binary search");
 
 }  // namespace
 
-bool getKeyName(int code, std::u16string& out) {
+std::u16string_view keyName(int code) {
   const auto* row = std::lower_bound(
       std::begin(kCaptureNames), std::end(kCaptureNames), code,
       [](const KeyName& candidate, int wanted) { return candidate.code < wanted; });
-  if (row == std::end(kCaptureNames) || row->code != code) return false;
-  out = row->name;
+  if (row == std::end(kCaptureNames) || row->code != code) return {};
+  return row->name;
+}
+
+bool getKeyName(int code, std::u16string& out) {
+  const std::u16string_view name = keyName(code);
+  if (name.empty()) return false;
+  out = name;
   return true;
 }
 

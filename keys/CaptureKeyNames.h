@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace brennet {
 
@@ -9,5 +10,8 @@ namespace brennet {
 // `code` is a Windows virtual-key code; names exist between 0x08 and 0xDE, with gaps. Returns
 // whether the code has a name: `out` then holds it, else `out` is left as it was.
 bool getKeyName(int code, std::u16string& out);
+
+// The same without a copy: empty for a code without a name.
+[[nodiscard]] std::u16string_view keyName(int code);
 
 }  // namespace brennet

@@ -7,24 +7,26 @@
 set -euo pipefail
 
 declare -A packages=(
-  [build]="g++ cmake ninja-build pkg-config libicu-dev qtbase5-dev"
+  [build]="g++ cmake ninja-build pkg-config libicu-dev qtbase5-dev
+           qttools5-dev-tools"
   [test]="libgtest-dev libgmock-dev clang python3"
   [bench]="libbenchmark-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libexpat1-dev
            libxml2-dev python3"
   [fuzz]="clang libclang-rt-14-dev"
   [lint]="clang-format clang-tidy"
   [windows]="cmake ninja-build pkg-config g++ make patch xz-utils g++-mingw-w64-i686-posix googletest
-             clang lld llvm zip unzip python3"
+             clang lld llvm zip unzip python3 qttools5-dev-tools"
   [wine]="mmdebstrap arch-test"
 )
 # shellcheck disable=SC2034  # read through the name reference of words_of
 declare -A commands=(
-  [build]="g++ cmake ninja"
+  [build]="g++ cmake ninja lrelease lupdate"
   [test]="ctest python3"
   [bench]="python3"
   [fuzz]="clang++"
   [lint]="clang-format clang-tidy"
-  [windows]="cmake ninja make patch xz i686-w64-mingw32-g++-posix clang++ lld-link zip unzip python3"
+  [windows]="cmake ninja make patch xz i686-w64-mingw32-g++-posix clang++ lld-link zip unzip python3
+             lrelease"
   [wine]="mmdebstrap"
 )
 

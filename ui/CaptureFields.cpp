@@ -39,7 +39,7 @@ void CaptureFields::install(const QWidget& window, QObject& page) {
   for (QLineEdit* const field : window.findChildren<QLineEdit*>(names)) {
     field->setAttribute(Qt::WA_InputMethodEnabled, false);
     field->installEventFilter(&page);
-    const auto setting = page_.settingOf(field->objectName().toStdU16String());
+    const auto setting = page_.settingOf(viewOf(field->objectName()));
     if (setting) fields_.push_back({field, *setting});
   }
 }
@@ -80,7 +80,7 @@ void CaptureFields::handleKey(QLineEdit& field, const QKeyEvent& event) {
   if (capture.outcome == Capture::Outcome::Ignored) return;
   if (capture.outcome != Capture::Outcome::Shown) page_.trace(field);
   const bool isUsed = store(capture, settingOf(field), *config_);
-  show(field, isUsed ? QString() : toQString(capture.text));
+  show(field, isUsed ? QString() : toQString(capture.text.view()));
   if (isUsed) page_.tellUsed();
 }
 

@@ -1,44 +1,67 @@
 #include "ui/ChatPhrases.h"
 
+#include <QtGlobal>
+
 namespace brennet {
 namespace {
 
 constexpr const char* kGame[] = {
-    "initiate first",
-    "withdraw",
-    "hang on",
-    "wait ,i will be in position",
-    "caution,not to be caught",
-    "Miss!Miss",
-    "all in,quick",
-    "farm,not to be caught",
-    "farm,no group battle",
-    "assemblely",
-    "farm,no group battle",
-    "jungle ",
-    "i will sacrifice",
-    "assemble,remove fog",
-    "do not chase,push tower",
-    "come here, i am coming",
-    "i will try push towers down secretly,defend!",
-    "push line respectively,run in danger ",
-    "gank",
-    "back,defend",
-    "steady",
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "initiate first"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "withdraw"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "hang on"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "wait ,i will be in position"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "caution,not to be caught"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "Miss!Miss"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "all in,quick"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "farm,not to be caught"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "farm,no group battle"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "assemblely"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "farm,no group battle"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "jungle "),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "i will sacrifice"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "assemble,remove fog"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "do not chase,push tower"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "come here, i am coming"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "i will try push towers down secretly,defend!"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "push line respectively,run in danger "),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "gank"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "back,defend"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "steady"),
 };
-constexpr const char* kStatus[] = {"phrase 1", "phrase 2", "phrase 3", "phrase 4",
-                                   "phrase 5", "phrase 6", "phrase 7", "phrase 8"};
-constexpr const char* kEquipment[] = {"phrase 9", "phrase 10", "phrase 11", "phrase 12",
-                                      "phrase 13"};
-constexpr const char* kEmotions[] = {"phrase 14", "phrase 15", "phrase 16",
-                                     "phrase 17", "phrase 18", "phrase 19",
-                                     "phrase 20", "phrase 21", "phrase 22"};
+constexpr const char* kStatus[] = {
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 1"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 2"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 3"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 4"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 5"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 6"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 7"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 8"),
+};
+constexpr const char* kEquipment[] = {
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 9"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 10"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 11"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 12"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 13"),
+};
+constexpr const char* kEmotions[] = {
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 14"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 15"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 16"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 17"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 18"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 19"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 20"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 21"),
+    QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "phrase 22"),
+};
 
 constexpr PhraseCategory kCategories[] = {
-    {"game", kGame},
-    {"status", kStatus},
-    {"equipment", kEquipment},
-    {"emotions", kEmotions},
+    {QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "game"), kGame},
+    {QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "status"), kStatus},
+    {QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "equipment"), kEquipment},
+    {QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "emotions"), kEmotions},
 };
 
 }  // namespace

@@ -50,10 +50,8 @@ Capture KeyCapture::press(const KeyEvent& event) {
   }
   if (code == kBackspace || code == kDelete) return {Outcome::Cleared, {}, kNoKey};
 
-  std::u16string name;
-  getKeyName(static_cast<int>(code), name);
   capture.text += style_.beforeName;
-  capture.text += name;
+  capture.text += keyName(static_cast<int>(code));
   capture.key = KeyWord(static_cast<std::uint8_t>(code), flags);
   capture.outcome = Outcome::Captured;
   return capture;

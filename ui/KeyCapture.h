@@ -1,9 +1,9 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "keys/KeyWord.h"
+#include "ui/KeyText.h"
 
 namespace brennet {
 
@@ -33,7 +33,7 @@ struct Capture {
   };
 
   Outcome outcome = Outcome::Ignored;
-  std::u16string text;
+  KeyText text;
   KeyWord key;
 };
 

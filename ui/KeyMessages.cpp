@@ -13,7 +13,8 @@ QString shared(const char* key) {
 }
 
 void warn(QWidget* parent, const char* key) {
-  CMsgBox::showMessage(parent, QMessageBox::Warning, shared("IDS_TITLE"), shared(key));
+  CMsgBox::showMessage(parent, QMessageBox::Warning,
+                       shared(QT_TRANSLATE_NOOP("QObject", "IDS_TITLE")), shared(key));
 }
 
 }  // namespace

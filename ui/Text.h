@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <string>
 #include <string_view>
 
 #include "keys/KeyWordText.h"
@@ -12,6 +11,11 @@ namespace brennet {
 // From the texts of the settings to those of the windows.
 inline QString toQString(std::u16string_view text) {
   return QString::fromUtf16(text.data(), static_cast<int>(text.size()));
+}
+
+// The other way, without a copy: valid as long as `text` is.
+inline std::u16string_view viewOf(const QString& text) {
+  return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())};
 }
 
 // What a field shows of a key that is set; nothing for no key.

@@ -71,7 +71,7 @@ TEST(KeyCapture, TurnsAPressIntoAKeyAndItsText) {
       const bool isBasic = !style.beforeName.empty();
       SCOPED_TRACE(testing::Message() << "key " << row.event.virtualKey << " basic " << isBasic);
       EXPECT_EQ(capture.outcome, row.outcome);
-      EXPECT_EQ(capture.text, isBasic ? row.basic : row.advanced);
+      EXPECT_EQ(capture.text.view(), isBasic ? row.basic : row.advanced);
       EXPECT_EQ(capture.key.raw(), row.key);
     }
   }
@@ -112,20 +112,20 @@ TEST(KeyCapture, WaitsAfterALoneModifier) {
 
 TEST(KeyCapture, EmptiesTheFieldOnReleaseAndWhenTheFocusGoes) {
   KeyCapture capture(kAdvancedPage);
-  EXPECT_EQ(capture.handle(press(kControl)).text, u"CTRL +");
-  EXPECT_EQ(capture.handle(release(kControl)).text, u"");
+  EXPECT_EQ(capture.handle(press(kControl)).text.view(), u"CTRL +");
+  EXPECT_EQ(capture.handle(release(kControl)).text.view(), u"");
 
   EXPECT_EQ(capture.leave().outcome, Outcome::Ignored);
-  EXPECT_EQ(capture.handle(press(kAlt)).text, u"Alt +");
+  EXPECT_EQ(capture.handle(press(kAlt)).text.view(), u"Alt +");
   const Capture left = capture.leave();
   EXPECT_EQ(left.outcome, Outcome::Shown);
-  EXPECT_EQ(left.text, u"");
+  EXPECT_EQ(left.text.view(), u"");
   EXPECT_EQ(capture.leave().outcome, Outcome::Ignored);
 }
 
 TEST(KeyCapture, WritesModifiersInTheStyleOfThePage) {
   KeyCapture capture({.control = u"Ctrl-", .alt = u"ALT +", .beforeName = u"_"});
-  EXPECT_EQ(capture.handle(withBoth('Q')).text, u"Ctrl-ALT +_Q");
+  EXPECT_EQ(capture.handle(withBoth('Q')).text.view(), u"Ctrl-ALT +_Q");
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ constexpr KeyWord kAltQ('Q', KeyWord::kAlt);
 constexpr KeyWord kCtrlV('V', KeyWord::kCtrl);
 
 Capture captured(KeyWord key) {
-  return {Outcome::Captured, u"shown", key};
+  return {Outcome::Captured, KeyText(u"shown"), key};
 }
 const Capture kCleared{Outcome::Cleared, {}, kNoKey};
 
@@ -136,7 +136,7 @@ TEST(KeySetting, LeavesTheChatWheelWithoutAKeyForPaste) {
 TEST(KeySetting, IsLeftAloneByWhatIsOnlyShown) {
   HotkeyConfig config;
   ASSERT_FALSE(store(captured(kQ), kHeroSkill3, config));
-  EXPECT_FALSE(store({Outcome::Shown, u"CTRL +", kNoKey}, kHeroSkill3, config));
+  EXPECT_FALSE(store({Outcome::Shown, KeyText(u"CTRL +"), kNoKey}, kHeroSkill3, config));
   EXPECT_FALSE(store({}, kHeroSkill3, config));
   EXPECT_FALSE(store(kCleared, std::nullopt, config));
   EXPECT_FALSE(store(captured(kW), std::nullopt, config));

@@ -31,6 +31,9 @@ class CAdvancedSettingWidget : public QWidget {
   // is.
   void refresh();
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  public slots:
   void onToggled_GroupKey1(bool bChecked);
   void onToggled_GroupKey2(bool bChecked);
@@ -40,9 +43,6 @@ class CAdvancedSettingWidget : public QWidget {
   // Stores the phrase of a cell that was edited, cut to its length; the cell keeps the whole text.
   void onDataChanged_Table(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                            const QVector<int>& roles);
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void buildTable();

@@ -9,6 +9,7 @@
 #include "ui/KeyMessages.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/TabOrder.h"
+#include "ui/Text.h"
 #include "ui/pages/EditControlTrace.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_CHotkeySettingPage.h"
@@ -67,7 +68,7 @@ brennet::CapturePage capturePage(const CBasicSetting7Widget& page, QWidget* box)
       .trace =
           [&page](const QLineEdit& field) {
             const QString name = field.objectName();
-            if (brennet::featureKeyOf(name.toStdU16String())) return;
+            if (brennet::featureKeyOf(brennet::viewOf(name))) return;
             brennet::EditControl control;
             page.getEditControlTypeByParseName(name, control);
           },
@@ -242,7 +243,7 @@ void CBasicSetting7Widget::useRecommended() {
 bool CBasicSetting7Widget::getEditControlTypeByParseName(const QString& name,
                                                          brennet::EditControl& control) const {
   const bool known = brennet::getEditControlTypeByParseName(
-      name.toStdU16String(), brennet::BasicPage::Current, control);
+      brennet::viewOf(name), brennet::BasicPage::Current, control);
   brennet::traceEditControl(name, known, control);
   return known;
 }

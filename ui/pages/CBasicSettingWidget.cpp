@@ -5,6 +5,7 @@
 
 #include "ui/KeyMessages.h"
 #include "ui/TabOrder.h"
+#include "ui/Text.h"
 #include "ui/pages/EditControlTrace.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_CBasicSettingWidget.h"
@@ -94,7 +95,7 @@ void CBasicSettingWidget::connectSwitches() {
 
 bool CBasicSettingWidget::getEditControlTypeByParseName(const QString& name,
                                                         brennet::EditControl& control) const {
-  const bool known = brennet::getEditControlTypeByParseName(name.toStdU16String(),
+  const bool known = brennet::getEditControlTypeByParseName(brennet::viewOf(name),
                                                             brennet::BasicPage::Older, control);
   brennet::traceEditControl(name, known, control);
   return known;

@@ -34,12 +34,6 @@ class ChatKeySettingWidget : public QDialog {
   // Where one of these keys is used otherwise, the player is told and the choice stays.
   void reset();
 
- public slots:
-  void onClickedOkBtn();
-  void onClickedCancelBtn();
-  void onToggled_ChatKey_1(bool bChecked);
-  void onToggled_ChatKey_2(bool bChecked);
-
  protected:
   // Captures keys as the pages do, without a setting to store them in. Nothing has this filter: the
   // fields take text.
@@ -47,6 +41,12 @@ class ChatKeySettingWidget : public QDialog {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+
+ public slots:
+  void onClickedOkBtn();
+  void onClickedCancelBtn();
+  void onToggled_ChatKey_1(bool bChecked);
+  void onToggled_ChatKey_2(bool bChecked);
 
  private:
   [[nodiscard]] QLineEdit& field(std::size_t phrase) const;

@@ -1,0 +1,24 @@
+// The windows are measured without a screen, in the style that they are shown with in tests.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+namespace {
+
+// What a page says of each key, and what the platform says of itself, is not to be measured.
+void ignoreMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/,
+                   const QString& /*text*/) {}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(ignoreMessage);
+  const QApplication application(argc, argv);
+  QApplication::setStyle(QStringLiteral("fusion"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

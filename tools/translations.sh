@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Brings the catalogues up to date with the texts of ui/: tools/translations.sh
+#
+# New texts are added, to be translated; texts that are gone are dropped; translations stay. With
+# --check nothing is written, and the exit status is 1 where something would be.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+die() {
+  echo "brennet: $*" >&2
+  exit 1
+}
+
+# Debian's command of that name in the path is a chooser, which does not always have a choice.
+find_lupdate() {
+  local candidate
+  for candidate in /usr/lib/qt5/bin/lupdate lupdate-qt5 lupdate; do
+    if command -v "$candidate"; then return; fi
+  done
+  die "Please install lupdate, of Qt 5's Linguist tools."
+}
+
+main() {
+  local lupdate sources languages=(en zh_CN) language file
+  [[ $# -eq 0 || $* == --check ]] || { echo "usage: tools/translations.sh [--check]" >&2 && exit 2; }
+  lupdate=$(find_lupdate)
+  # In the same order on all machines.
+  mapfile -t sources < <(find ui \( -name '*.cpp' -o -name '*.h' -o -name '*.ui' \) | LC_ALL=C sort)
+
+  work_dir=$(mktemp -d)
+  trap 'rm -rf "$work_dir"' EXIT
+  local status=0
+  for language in "${languages[@]}"; do
+    file=translations/brennet_$language.ts
+    [[ ! -f $file ]] || cp "$file" "$work_dir/"
+    "$lupdate" -silent -I . -locations none -no-obsolete "${sources[@]}" \
+      -target-language "$language" -ts "$work_dir/brennet_$language.ts"
+    if [[ $# -eq 0 ]]; then
+      cp "$work_dir/brennet_$language.ts" "$file"
+    elif ! diff -u "$file" "$work_dir/brennet_$language.ts"; then
+      status=1
+    fi
+  done
+  [[ $status -eq 0 ]] || echo "The catalogues are not those of the sources; run: make translations"
+  return $status
+}
+
+main "$@"

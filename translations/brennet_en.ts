@@ -1,0 +1,726 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name>CAdvancedSettingWidget</name>
+    <message>
+        <source>组合快捷键</source>
+        <translation>Key combinations</translation>
+    </message>
+    <message>
+        <source>小键盘 Num784512  =  组合键 Alt+QWERDF</source>
+        <translation>Keypad 784512  =  Alt+QWERDF</translation>
+    </message>
+    <message>
+        <source>小键盘 Num784512  =  组合键 Alt+QWASZX</source>
+        <translation>Keypad 784512  =  Alt+QWASZX</translation>
+    </message>
+    <message>
+        <source>小键盘 Num784512  =  组合键 Alt+123456</source>
+        <translation>Keypad 784512  =  Alt+123456</translation>
+    </message>
+    <message>
+        <source>快捷喊话设置</source>
+        <translation>Quick chat</translation>
+    </message>
+    <message>
+        <source>快捷方式选择</source>
+        <translation>Chat keys</translation>
+    </message>
+    <message>
+        <source>ALT + 1～8</source>
+        <translation>Alt + 1–8</translation>
+    </message>
+    <message>
+        <source>ALT + F1～F8</source>
+        <translation>Alt + F1–F8</translation>
+    </message>
+    <message>
+        <source>热键设置</source>
+        <translation>Hotkeys</translation>
+    </message>
+    <message>
+        <source>改键开关</source>
+        <translation>Hotkeys on/off</translation>
+    </message>
+    <message>
+        <source>窗口锁鼠标</source>
+        <translation>Lock cursor to window</translation>
+    </message>
+    <message>
+        <source>快捷喊话</source>
+        <translation>Quick chat</translation>
+    </message>
+    <message>
+        <source>己方血量显示</source>
+        <translation>Ally health bars</translation>
+    </message>
+    <message>
+        <source>敌方血量显示</source>
+        <translation>Enemy health bars</translation>
+    </message>
+    <message>
+        <source>message %1:</source>
+        <translation>Message %1:</translation>
+    </message>
+</context>
+<context>
+    <name>CBasicSettingWidget</name>
+    <message>
+        <source>英雄技能快捷键</source>
+        <translation>Hero skill keys</translation>
+    </message>
+    <message>
+        <source>小键盘物品栏快捷键</source>
+        <translation>Inventory keys (keypad)</translation>
+    </message>
+    <message>
+        <source>自定义技能快捷键</source>
+        <translation>Custom skill keys</translation>
+    </message>
+    <message>
+        <source>滚轮改键</source>
+        <translation>Mouse wheel</translation>
+    </message>
+    <message>
+        <source>滚轮向上</source>
+        <translation>Wheel up</translation>
+    </message>
+    <message>
+        <source>滚轮中键</source>
+        <translation>Wheel click</translation>
+    </message>
+    <message>
+        <source>滚轮向下</source>
+        <translation>Wheel down</translation>
+    </message>
+    <message>
+        <source>技能提醒快捷键</source>
+        <translation>Skill reminder key</translation>
+    </message>
+    <message>
+        <source>常用选项</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>禁用左Win键</source>
+        <translation>Disable left Windows key</translation>
+    </message>
+    <message>
+        <source>窗口模式锁定鼠标</source>
+        <translation>Lock cursor in windowed mode</translation>
+    </message>
+    <message>
+        <source>显示己方血量</source>
+        <translation>Show ally health</translation>
+    </message>
+    <message>
+        <source>显示己方蓝量(需DotAOrrery)</source>
+        <translation>Show ally mana (needs DotA Orrery)</translation>
+    </message>
+    <message>
+        <source>显示敌方血量</source>
+        <translation>Show enemy health</translation>
+    </message>
+    <message>
+        <source>画面不拉伸（留黑边）</source>
+        <translation>Keep aspect ratio (black bars)</translation>
+    </message>
+    <message>
+        <source>延迟优化（请根据自身需求选用）</source>
+        <translation>Reduce delay (if you need it)</translation>
+    </message>
+    <message>
+        <source>英雄技能 %1</source>
+        <translation>Hero skill %1</translation>
+    </message>
+    <message>
+        <source>物品栏 %1</source>
+        <translation>Item slot %1</translation>
+    </message>
+    <message>
+        <source>自定义技能 %1：按下的键</source>
+        <translation>Custom skill %1: key to press</translation>
+    </message>
+    <message>
+        <source>自定义技能 %1：发送的键</source>
+        <translation>Custom skill %1: key to send</translation>
+    </message>
+    <message>
+        <source>组合改键：按下的键 %1</source>
+        <translation>Combination: key to press %1</translation>
+    </message>
+    <message>
+        <source>组合改键：发送的键</source>
+        <translation>Combination: key to send</translation>
+    </message>
+</context>
+<context>
+    <name>CChatRouletteSettingWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Chat wheel</translation>
+    </message>
+    <message>
+        <source>聊天轮盘热键</source>
+        <translation>Chat wheel key</translation>
+    </message>
+    <message>
+        <source>己方显蓝</source>
+        <translation>Show ally mana</translation>
+    </message>
+    <message>
+        <source>可选短语</source>
+        <translation>Ready-made phrases</translation>
+    </message>
+    <message>
+        <source>点击短语放入当前轮盘短语，或拖到轮盘上</source>
+        <translation>Click a phrase to put it into the selected slot, or drag it onto the wheel</translation>
+    </message>
+    <message>
+        <source>initiate first</source>
+        <translation>Initiate, I&apos;ll follow</translation>
+    </message>
+    <message>
+        <source>withdraw</source>
+        <translation>Fall back!</translation>
+    </message>
+    <message>
+        <source>hang on</source>
+        <translation>Hang on, help is coming</translation>
+    </message>
+    <message>
+        <source>wait ,i will be in position</source>
+        <translation>Wait, I&apos;m getting into position</translation>
+    </message>
+    <message>
+        <source>caution,not to be caught</source>
+        <translation>Careful, don&apos;t get caught</translation>
+    </message>
+    <message>
+        <source>Miss!Miss</source>
+        <translation>Miss! Miss!</translation>
+    </message>
+    <message>
+        <source>all in,quick</source>
+        <translation>All in, quick!</translation>
+    </message>
+    <message>
+        <source>farm,not to be caught</source>
+        <translation>Farm, but don&apos;t get caught</translation>
+    </message>
+    <message>
+        <source>farm,no group battle</source>
+        <translation>Farm, no team fights</translation>
+    </message>
+    <message>
+        <source>assemblely</source>
+        <translation>Group up!</translation>
+    </message>
+    <message>
+        <source>jungle </source>
+        <translation>I&apos;m going to the jungle</translation>
+    </message>
+    <message>
+        <source>i will sacrifice</source>
+        <translation>I&apos;ll sacrifice myself</translation>
+    </message>
+    <message>
+        <source>assemble,remove fog</source>
+        <translation>Group up and clear the wards</translation>
+    </message>
+    <message>
+        <source>do not chase,push tower</source>
+        <translation>Don&apos;t chase, push the tower</translation>
+    </message>
+    <message>
+        <source>come here, i am coming</source>
+        <translation>Come here, I&apos;m on my way</translation>
+    </message>
+    <message>
+        <source>i will try push towers down secretly,defend!</source>
+        <translation>I&apos;ll sneak-push a tower, you defend!</translation>
+    </message>
+    <message>
+        <source>push line respectively,run in danger </source>
+        <translation>Split push, run when in danger</translation>
+    </message>
+    <message>
+        <source>gank</source>
+        <translation>Let&apos;s gank</translation>
+    </message>
+    <message>
+        <source>back,defend</source>
+        <translation>Go back and defend!</translation>
+    </message>
+    <message>
+        <source>steady</source>
+        <translation>Steady, we can win this</translation>
+    </message>
+    <message>
+        <source>phrase 1</source>
+        <translation>I&apos;m out of mana</translation>
+    </message>
+    <message>
+        <source>phrase 2</source>
+        <translation>I&apos;m low on health</translation>
+    </message>
+    <message>
+        <source>phrase 3</source>
+        <translation>My ultimate is ready</translation>
+    </message>
+    <message>
+        <source>phrase 4</source>
+        <translation>My ultimate is not ready yet</translation>
+    </message>
+    <message>
+        <source>phrase 5</source>
+        <translation>My skills are on cooldown</translation>
+    </message>
+    <message>
+        <source>phrase 6</source>
+        <translation>I&apos;m going back to base</translation>
+    </message>
+    <message>
+        <source>phrase 7</source>
+        <translation>I&apos;m almost level 6</translation>
+    </message>
+    <message>
+        <source>phrase 8</source>
+        <translation>I&apos;m back, let&apos;s go</translation>
+    </message>
+    <message>
+        <source>phrase 9</source>
+        <translation>I need money for my core item</translation>
+    </message>
+    <message>
+        <source>phrase 10</source>
+        <translation>My core item is done</translation>
+    </message>
+    <message>
+        <source>phrase 11</source>
+        <translation>I have a town portal scroll</translation>
+    </message>
+    <message>
+        <source>phrase 12</source>
+        <translation>Please buy wards</translation>
+    </message>
+    <message>
+        <source>phrase 13</source>
+        <translation>Please use the courier for me</translation>
+    </message>
+    <message>
+        <source>phrase 14</source>
+        <translation>Well played!</translation>
+    </message>
+    <message>
+        <source>phrase 15</source>
+        <translation>Thank you!</translation>
+    </message>
+    <message>
+        <source>phrase 16</source>
+        <translation>Sorry, my mistake</translation>
+    </message>
+    <message>
+        <source>phrase 17</source>
+        <translation>Don&apos;t worry, we can come back</translation>
+    </message>
+    <message>
+        <source>phrase 18</source>
+        <translation>Nice teamwork!</translation>
+    </message>
+    <message>
+        <source>phrase 19</source>
+        <translation>Please don&apos;t argue, focus on the game</translation>
+    </message>
+    <message>
+        <source>phrase 20</source>
+        <translation>Good luck, have fun!</translation>
+    </message>
+    <message>
+        <source>phrase 21</source>
+        <translation>That was close!</translation>
+    </message>
+    <message>
+        <source>phrase 22</source>
+        <translation>Good game!</translation>
+    </message>
+    <message>
+        <source>game</source>
+        <translation>Battle</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>equipment</source>
+        <translation>Equipment</translation>
+    </message>
+    <message>
+        <source>emotions</source>
+        <translation>Emotions</translation>
+    </message>
+    <message>
+        <source>轮盘短语 %1</source>
+        <translation>Wheel phrase %1</translation>
+    </message>
+</context>
+<context>
+    <name>CCustomMsgTableModel</name>
+    <message>
+        <source>index</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>content</source>
+        <translation>Phrase</translation>
+    </message>
+</context>
+<context>
+    <name>CHotkeySettingPage</name>
+    <message>
+        <source>英雄技能</source>
+        <translation>Hero skills</translation>
+    </message>
+    <message>
+        <source>只对英雄有效</source>
+        <translation>Heroes only</translation>
+    </message>
+    <message>
+        <source>技能键只对英雄有效</source>
+        <translation>Skill keys work for heroes only</translation>
+    </message>
+    <message>
+        <source>全部设为快捷施法</source>
+        <translation>Quick cast for all</translation>
+    </message>
+    <message>
+        <source>全部设为常规施法</source>
+        <translation>Normal cast for all</translation>
+    </message>
+    <message>
+        <source>小键盘物品栏</source>
+        <translation>Inventory (keypad)</translation>
+    </message>
+    <message>
+        <source>自定义改键</source>
+        <translation>Custom keys</translation>
+    </message>
+    <message>
+        <source>自定义改键只对英雄有效</source>
+        <translation>Custom keys work for heroes only</translation>
+    </message>
+    <message>
+        <source>小键盘组合快捷键</source>
+        <translation>Keypad combinations</translation>
+    </message>
+    <message>
+        <source>Num784512  =  Alt+QWERDF</source>
+        <translation>Keypad 784512  =  Alt+QWERDF</translation>
+    </message>
+    <message>
+        <source>Num784512  =  Alt+QWASZX</source>
+        <translation>Keypad 784512  =  Alt+QWASZX</translation>
+    </message>
+    <message>
+        <source>Num784512  =  Alt+123456</source>
+        <translation>Keypad 784512  =  Alt+123456</translation>
+    </message>
+    <message>
+        <source>滚轮改键</source>
+        <translation>Mouse wheel</translation>
+    </message>
+    <message>
+        <source>滚轮向上</source>
+        <translation>Wheel up</translation>
+    </message>
+    <message>
+        <source>滚轮中键</source>
+        <translation>Wheel click</translation>
+    </message>
+    <message>
+        <source>滚轮向下</source>
+        <translation>Wheel down</translation>
+    </message>
+    <message>
+        <source>游戏设置</source>
+        <translation>Game options</translation>
+    </message>
+    <message>
+        <source>Orrery设置</source>
+        <translation>Orrery settings</translation>
+    </message>
+    <message>
+        <source>快捷喊话</source>
+        <translation>Quick chat</translation>
+    </message>
+    <message>
+        <source>7.0专用改键</source>
+        <translation>Keys for 7.0</translation>
+    </message>
+    <message>
+        <source>英雄技能 %1</source>
+        <translation>Hero skill %1</translation>
+    </message>
+    <message>
+        <source>物品栏 %1</source>
+        <translation>Item slot %1</translation>
+    </message>
+    <message>
+        <source>%1 快捷施法</source>
+        <translation>%1: quick cast</translation>
+    </message>
+    <message>
+        <source>快捷施法</source>
+        <translation>Quick cast</translation>
+    </message>
+    <message>
+        <source>自定义改键 %1：按下的键</source>
+        <translation>Custom key %1: key to press</translation>
+    </message>
+    <message>
+        <source>自定义改键 %1：发送的键</source>
+        <translation>Custom key %1: key to send</translation>
+    </message>
+    <message>
+        <source>组合改键：按下的键 %1</source>
+        <translation>Combination: key to press %1</translation>
+    </message>
+    <message>
+        <source>组合改键：发送的键</source>
+        <translation>Combination: key to send</translation>
+    </message>
+    <message>
+        <source>窗口模式锁定鼠标</source>
+        <translation>Lock cursor in windowed mode</translation>
+    </message>
+    <message>
+        <source>显示己方血量</source>
+        <translation>Show ally health</translation>
+    </message>
+    <message>
+        <source>显示敌方血量</source>
+        <translation>Show enemy health</translation>
+    </message>
+    <message>
+        <source>禁用左Win键</source>
+        <translation>Disable left Windows key</translation>
+    </message>
+    <message>
+        <source>禁用左Alt键</source>
+        <translation>Disable left Alt key</translation>
+    </message>
+    <message>
+        <source>禁用左Alt键显血</source>
+        <translation>No health bars with left Alt</translation>
+    </message>
+    <message>
+        <source>画面不拉伸（留黑边）</source>
+        <translation>Keep aspect ratio (black bars)</translation>
+    </message>
+    <message>
+        <source>延迟优化</source>
+        <translation>Reduce delay</translation>
+    </message>
+    <message>
+        <source>隐藏游戏内按钮</source>
+        <translation>Hide in-game buttons</translation>
+    </message>
+    <message>
+        <source>在游戏中切换此项的按键</source>
+        <translation>Key that switches this in game</translation>
+    </message>
+</context>
+<context>
+    <name>CMsgBox</name>
+    <message>
+        <source>error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>failed to read qss file</source>
+        <translation>The style sheet could not be read.</translation>
+    </message>
+</context>
+<context>
+    <name>COrrerySettingDlg</name>
+    <message>
+        <source>Orrery设置</source>
+        <translation>Orrery settings</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>打开/关闭Orrery实时数据</source>
+        <translation>Open/close Orrery live data</translation>
+    </message>
+    <message>
+        <source>打开/关闭Orrery生涯数据</source>
+        <translation>Open/close Orrery career data</translation>
+    </message>
+    <message>
+        <source>技能提醒快捷键（Dota）</source>
+        <translation>Skill reminder key (DotA)</translation>
+    </message>
+    <message>
+        <source>显示己方蓝量（Dota）</source>
+        <translation>Show ally mana (DotA)</translation>
+    </message>
+</context>
+<context>
+    <name>ChatKeySettingWidget</name>
+    <message>
+        <source>CAdvancedSettingWidget</source>
+        <translation>Quick chat</translation>
+    </message>
+    <message>
+        <source>快捷喊话设置</source>
+        <translation>Quick chat</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>4</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>5</source>
+        <translation>5</translation>
+    </message>
+    <message>
+        <source>6</source>
+        <translation>6</translation>
+    </message>
+    <message>
+        <source>7</source>
+        <translation>7</translation>
+    </message>
+    <message>
+        <source>8</source>
+        <translation>8</translation>
+    </message>
+    <message>
+        <source>快捷键</source>
+        <translation>Keys</translation>
+    </message>
+    <message>
+        <source>ALT + 1～8</source>
+        <translation>Alt + 1–8</translation>
+    </message>
+    <message>
+        <source>ALT + F1～F8</source>
+        <translation>Alt + F1–F8</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>QDialogButtonBox</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Don&apos;t save</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>RestoreDefaults</source>
+        <translation>Restore defaults</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>SaveAll</source>
+        <translation>Save all</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>YesToAll</source>
+        <translation>Yes to all</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>NoToAll</source>
+        <translation>No to all</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abort</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Retry</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignore</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>IDS_TITLE</source>
+        <translation>Hotkey settings</translation>
+    </message>
+    <message>
+        <source>IDS_KEY_USED</source>
+        <translation>This key is already in use. Please choose another one.</translation>
+    </message>
+    <message>
+        <source>IDS_GROUP_KEY_USED</source>
+        <translation>One of these keys is already in use, so they cannot be chosen.</translation>
+    </message>
+</context>
+</TS>
