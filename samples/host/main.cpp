@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "Catalogue.h"
 #include "Library.h"
 #include "Options.h"
 #include "Report.h"
@@ -100,6 +101,7 @@ int run(const Options& options) {
 
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
+  const Catalogue catalogue;
   const std::optional<Options> options = parseOptions(QCoreApplication::arguments());
   return options ? run(*options) : kBadUsage;
 }

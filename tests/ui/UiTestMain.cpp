@@ -39,7 +39,8 @@ int main(int argc, char** argv) {
         "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_FONT_DPI"}) {
     qunsetenv(variable);
   }
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QByteArray platform = qgetenv("BRENNET_TEST_PLATFORM");
+  qputenv("QT_QPA_PLATFORM", platform.isEmpty() ? "offscreen" : platform);
   setFontFolder();
   brennet::test::failOnWarnings();
   // It is never deleted: the offscreen platform loses its screen with it, and the leak sanitizer

@@ -15,7 +15,7 @@ key_of() {
 }
 
 # What wine.sh sets up and run.sh uses.
-wine_packages=wine,wine32,locales,fonts-wqy-microhei
+wine_packages=wine,wine32,locales,fonts-wqy-microhei,xvfb
 wine_locale=zh_CN.UTF-8
 wine_home=/home/wine
 wine_dir=$toolchain_dir/wine-$(key_of "$wine_packages" "$wine_locale" "$wine_home" 1)

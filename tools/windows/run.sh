@@ -5,7 +5,8 @@
 # The program finds the registry and the profile folder as a new user would, whatever ran before,
 # and nothing of Wine is left running when it ends. It sees this checkout, the toolchain folder and
 # the working folder under their own names (drive Z: is the root), unless Wine has one of that name.
-# DLLs are looked for beside the program and in the folders of WINEPATH.
+# DLLs are looked for beside the program and in the folders of WINEPATH. With BRENNET_SCREEN=1 there
+# is a screen of its own, which nobody sees; else windows are made without one.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 # shellcheck source=tools/windows/lib.sh
@@ -45,9 +46,21 @@ run_in_root() {
       mkdir -p "$root$folder"
       mount --rbind "$folder" "$root$folder"
     done
+    screen=(-u DISPLAY)
+    if [[ -n ${BRENNET_SCREEN-} ]]; then
+      # The number is one that no other program has at the moment.
+      chroot "$root" Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp \
+        3>"$root/tmp/screen" >"$root/tmp/screen.log" 2>&1 &
+      for ((tries = 0; tries < 100; ++tries)); do
+        [[ ! -s $root/tmp/screen ]] || break
+        sleep 0.1
+      done
+      read -r number <"$root/tmp/screen" || { cat "$root/tmp/screen.log" >&2 && exit 1; }
+      screen=(DISPLAY=":$number")
+    fi
     status=0
-    chroot "$root" env -u DISPLAY -u LANG -u LANGUAGE -u TMPDIR -u TMP -u TEMP --chdir="$PWD" \
-      HOME="$home" WINEPREFIX="$home/prefix" LC_ALL="$locale" PATH=/usr/bin:/bin \
+    chroot "$root" env -u LANG -u LANGUAGE -u TMPDIR -u TMP -u TEMP --chdir="$PWD" \
+      "${screen[@]}" HOME="$home" WINEPREFIX="$home/prefix" LC_ALL="$locale" PATH=/usr/bin:/bin \
       wine "$@" || status=$?
     exit $status' run_in_root "$wine_dir" "$wine_home" "$wine_locale" "$@"
 }
@@ -60,7 +73,13 @@ run_with_installed_wine() {
   # shellcheck disable=SC2064  # the folder of now
   trap "wineserver --kill 2>/dev/null || true; wineserver --wait || true; rm -rf '$folder'" EXIT
   cp -a "$wine_dir/prefix" "$WINEPREFIX"
-  stoppable env -u DISPLAY LC_ALL="$wine_locale" wine "$@"
+  unset DISPLAY
+  if [[ -n ${BRENNET_SCREEN-} ]]; then
+    # The screen ends with the last program that it showed.
+    stoppable env LC_ALL="$wine_locale" xvfb-run --auto-servernum \
+      --server-args="-screen 0 1280x1024x24 -nolisten tcp" wine "$@"
+  fi
+  stoppable env LC_ALL="$wine_locale" wine "$@"
 }
 
 main() {

@@ -28,7 +28,8 @@ constexpr QSize kRing(340, 300);
 
 // How many characters can be read at once, at least.
 constexpr int kSlotCharacters = 12;
-constexpr int kTreeCharacters = 18;
+constexpr int kTreeCharacters = 20;
+constexpr int kKeyCharacters = 16;  // "CTRL + Alt + PRINT SCREEN"
 constexpr char16_t kWideCharacter = u'\u4E2D';
 
 int widthOf(int characters, const QWidget& page) {
@@ -103,6 +104,7 @@ void CChatRouletteSettingWidget::makeSlots() {
     slots_.push_back(field);
   }
   setTabOrder(before, ui_->edtChatWheelKey);
+  ui_->edtChatWheelKey->setMinimumWidth(widthOf(kKeyCharacters, *this));
 }
 
 void CChatRouletteSettingWidget::fillTree() {

@@ -16,8 +16,7 @@ class ChatKeySettingWidget;
 
 // The quick-chat dialog: the eight phrases of the current scheme, which OK stores, and the keys
 // that send them, which are stored at once. It has no frame; the mouse moves it by any place that
-// is no control. In no namespace: the style sheet and catalogues of translations know it by this
-// name.
+// is no control. In no namespace: style sheets and catalogues of translations know it by this name.
 class ChatKeySettingWidget : public QDialog {
   Q_OBJECT
 

@@ -166,19 +166,22 @@ void collect(const QTreeWidgetItem& item, QStringList& texts) {
   for (int i = 0; i < item.childCount(); ++i) collect(*item.child(i), texts);
 }
 
+void collect(const QWidget& widget, QStringList& texts) {
+  texts << widget.windowTitle() << widget.toolTip() << widget.accessibleName()
+        << widget.accessibleDescription();
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) texts += label->text();
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) texts += button->text();
+  if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) texts += group->title();
+  if (const auto* tree = qobject_cast<const QTreeWidget*>(&widget)) {
+    collect(*tree->invisibleRootItem(), texts);
+  }
+}
+
 QStringList textsOf(const QWidget& window) {
   QStringList texts;
-  for (const QWidget* const widget : window.findChildren<QWidget*>()
-                                         << const_cast<QWidget*>(&window)) {
-    texts << widget->windowTitle() << widget->toolTip() << widget->accessibleName()
-          << widget->accessibleDescription();
-    if (const auto* label = qobject_cast<const QLabel*>(widget)) texts += label->text();
-    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) texts += button->text();
-    if (const auto* group = qobject_cast<const QGroupBox*>(widget)) texts += group->title();
-    if (const auto* tree = qobject_cast<const QTreeWidget*>(widget)) {
-      collect(*tree->invisibleRootItem(), texts);
-    }
-  }
+  collect(window, texts);
+  const auto children = window.findChildren<QWidget*>();
+  for (const QWidget* const child : children) collect(*child, texts);
   return texts;
 }
 

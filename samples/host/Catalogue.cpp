@@ -1,0 +1,24 @@
+#include "Catalogue.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+Catalogue::Catalogue(const QString& folder, const QStringList& languages) {
+  for (const QString& language : languages + QStringList(QStringLiteral("en"))) {
+    // "zh-Hans-CN" is "zh_CN" in names of files; where there is no file of that name, the one of
+    // the language alone is taken.
+    const QString name = QStringLiteral("brennet_") + QLocale(language).name();
+    if (translator_.load(name, folder, QStringLiteral("_"))) {
+      QCoreApplication::installTranslator(&translator_);
+      return;
+    }
+  }
+}
+
+Catalogue::Catalogue()
+    : Catalogue(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"),
+                QLocale::system().uiLanguages()) {}
+
+Catalogue::~Catalogue() {
+  QCoreApplication::removeTranslator(&translator_);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTranslator>
+
+// The texts of the library's windows in the user's language, for as long as this object lives. The
+// library itself installs none. The application has to exist before this object, and after it.
+class Catalogue {
+ public:
+  // Takes the first of `languages` (such as "zh-Hans-CN" and "en-US", the preferred one first) that
+  // `folder` has a catalogue of, brennet_<language>.qm, or else the English one. Where there is
+  // none at all, the windows show the texts of their forms.
+  Catalogue(const QString& folder, const QStringList& languages);
+  // The system's languages, and the folder "translations" beside the program.
+  Catalogue();
+  ~Catalogue();
+  Catalogue(const Catalogue&) = delete;
+  Catalogue& operator=(const Catalogue&) = delete;
+
+  // The file that was taken; empty where there is none.
+  [[nodiscard]] QString file() const { return translator_.filePath(); }
+
+ private:
+  QTranslator translator_;
+};
