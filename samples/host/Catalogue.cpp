@@ -18,7 +18,3 @@ Catalogue::Catalogue(const QString& folder, const QStringList& languages) {
 Catalogue::Catalogue()
     : Catalogue(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"),
                 QLocale::system().uiLanguages()) {}
-
-Catalogue::~Catalogue() {
-  QCoreApplication::removeTranslator(&translator_);
-}

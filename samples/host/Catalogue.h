@@ -14,9 +14,6 @@ class Catalogue {
   Catalogue(const QString& folder, const QStringList& languages);
   // The system's languages, and the folder "translations" beside the program.
   Catalogue();
-  ~Catalogue();
-  Catalogue(const Catalogue&) = delete;
-  Catalogue& operator=(const Catalogue&) = delete;
 
   // The file that was taken; empty where there is none.
   [[nodiscard]] QString file() const { return translator_.filePath(); }

@@ -28,7 +28,7 @@ constexpr QSize kRing(340, 300);
 
 // How many characters can be read at once, at least.
 constexpr int kSlotCharacters = 12;
-constexpr int kTreeCharacters = 20;
+constexpr int kTreeCharacters = 24;
 constexpr int kKeyCharacters = 16;  // "CTRL + Alt + PRINT SCREEN"
 constexpr char16_t kWideCharacter = u'\u4E2D';
 

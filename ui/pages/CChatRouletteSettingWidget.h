@@ -29,17 +29,17 @@ class CChatRouletteSettingWidget : public QWidget {
   // it is.
   void load();
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  // Takes every drag, so that the mouse shows on the whole page that there is a place to drop.
+  void dragEnterEvent(QDragEnterEvent* event) override;
+
  public slots:
   // Stores the text of the field that sent the signal, cut to the length of a phrase.
   void OnChatPhraseChanged();
   // Puts the phrase into the slot that has the focus, if one has.
   void onChatPhraseSelected(QTreeWidgetItem* item, int col);
   void onToggled_ShowFMana(bool bChecked);
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-  // Takes every drag, so that the mouse shows on the whole page that there is a place to drop.
-  void dragEnterEvent(QDragEnterEvent* event) override;
 
  private:
   void makeSlots();

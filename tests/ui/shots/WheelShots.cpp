@@ -15,8 +15,8 @@ constexpr int kLetters = 12;  // pixels, as Windows has them
 // The page looks at the settings as long as it is shown.
 class Window : public QWidget {
  public:
-  Window(HotkeyConfig settings, int letters)
-      : settings_(std::move(settings)), font_(QApplication::font()) {
+  Window(const HotkeyConfig& settings, int letters)
+      : settings_(settings), font_(QApplication::font()) {
     QFont font = font_;
     font.setPixelSize(letters);
     QApplication::setFont(font);
