@@ -32,6 +32,9 @@ namespace brennet::platform {
 // then has changed nothing.
 [[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes);
 
+// Whether anything stands at `path`, a file or a folder.
+[[nodiscard]] bool pathExists(const Path& path);
+
 // Whether a folder stands at `path`.
 [[nodiscard]] bool folderExists(const Path& path);
 

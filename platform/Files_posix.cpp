@@ -235,6 +235,10 @@ std::error_code replaceFile(const Path& name, std::string_view bytes) {
   return writeInPlace(path, bytes, target.status.has_value());
 }
 
+bool pathExists(const Path& path) {
+  return access(path.c_str(), F_OK) == 0;
+}
+
 bool folderExists(const Path& path) {
   struct stat status {};
   return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);

@@ -321,6 +321,10 @@ std::error_code replaceFile(const Path& name, std::string_view bytes) {
   return writeInPlace(path, bytes, exists(path));
 }
 
+bool pathExists(const Path& path) {
+  return exists(path.native());
+}
+
 bool folderExists(const Path& path) {
   return PathIsDirectoryW(path.c_str()) != FALSE;
 }

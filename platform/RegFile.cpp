@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "platform/Utf16Bytes.h"
+
 namespace brennet::platform {
 namespace {
 
@@ -70,12 +72,7 @@ void appendBytes(const RegistryValue& value, std::u16string& out) {
 bool isPlainText(const RegistryValue& value, std::u16string& text) {
   const std::string& data = value.data;
   if (value.type != kRegistryText || data.size() % 2 != 0 || data.empty()) return false;
-  text.clear();
-  for (std::size_t i = 0; i < data.size(); i += 2) {
-    const auto low = static_cast<unsigned char>(data[i]);
-    const auto high = static_cast<unsigned char>(data[i + 1]);
-    text.push_back(static_cast<char16_t>(high << 8U | low));
-  }
+  text = utf16FromBytes(data);
   if (text.back() != u'\0') return false;
   text.pop_back();
   return std::all_of(text.begin(), text.end(), [](char16_t unit) { return unit >= u' '; });
@@ -91,16 +88,6 @@ void appendValue(const RegistryValue& value, std::u16string& out) {
   } else {
     appendBytes(value, out);
   }
-}
-
-std::string utf16Bytes(std::u16string_view text) {
-  std::string bytes;
-  bytes.reserve(2 * text.size());
-  for (const char16_t unit : text) {
-    bytes.push_back(static_cast<char>(unit & 0xFFU));
-    bytes.push_back(static_cast<char>(unit >> 8U));
-  }
-  return bytes;
 }
 
 }  // namespace
@@ -121,7 +108,9 @@ std::string RegFile::serialize() const {
       text.append(kLineEnd);
     }
   }
-  return utf16Bytes(text);
+  std::string bytes;
+  appendUtf16Bytes(text, bytes);
+  return bytes;
 }
 
 bool RegFile::hasKey(std::u16string_view path) const {

@@ -5,6 +5,7 @@
 
 #include "platform/CodePages.h"
 #include "platform/RegFile.h"
+#include "platform/Utf16Bytes.h"
 
 namespace brennet::platform {
 namespace {
@@ -87,25 +88,11 @@ std::optional<std::string> takeBytes(std::u16string_view& text) {
   return bytes;
 }
 
-void appendAsBytes(std::u16string_view text, std::string& bytes) {
-  for (const char16_t unit : text) {
-    bytes.push_back(static_cast<char>(unit & 0xFFU));
-    bytes.push_back(static_cast<char>(unit >> 8U));
-  }
-}
-
 std::u16string textOf(std::string_view bytes) {
+  constexpr std::string_view kMark = "\xFF\xFE";
+  if (bytes.starts_with(kMark)) return utf16FromBytes(bytes.substr(kMark.size()));
   std::u16string text;
-  if (!bytes.starts_with("\xFF\xFE")) {
-    decode(ansiCodePage(), bytes, text);
-    return text;
-  }
-  text.reserve(bytes.size() / 2);
-  for (std::size_t at = 2; at + 1 < bytes.size(); at += 2) {
-    const auto low = static_cast<unsigned char>(bytes[at]);
-    const auto high = static_cast<unsigned char>(bytes[at + 1]);
-    text.push_back(static_cast<char16_t>(high << 8U | low));
-  }
+  decode(ansiCodePage(), bytes, text);
   return text;
 }
 
@@ -180,7 +167,7 @@ class Reader {
     const std::optional<std::u16string> content = takeQuoted(text);
     if (!content || !isEnd(text)) return std::nullopt;
     RegistryValue value{kRegistryText, {}};
-    appendAsBytes(*content, value.data);
+    appendUtf16Bytes(*content, value.data);
     value.data.append(2, '\0');
     return value;
   }
@@ -201,18 +188,25 @@ class Reader {
     return value;
   }
 
-  // `text` and the lines behind it, as long as each ends in a backslash.
+  // `text` and the lines behind it, as long as each ends in a backslash and another one with bytes
+  // follows.
   std::u16string continued(std::u16string_view text) {
     std::u16string lines;
     for (;;) {
       dropBlanksAtEnd(text);
-      if (text.empty() || text.back() != u'\\' || rest_.empty()) return lines.append(text);
+      if (!text.ends_with(u'\\') || !bytesFollow()) return lines.append(text);
       text.remove_suffix(1);
       lines.append(text);
       text = nextLine();
-      // Of CR LF there is the LF still.
-      if (text.empty()) text = nextLine();
     }
+  }
+
+  // Whether the next line may go on with bytes. A line that begins anything else is left alone.
+  [[nodiscard]] bool bytesFollow() {
+    take(u"\n", rest_);  // of CR LF
+    std::u16string_view line = rest_;
+    dropBlanks(line);
+    return !line.empty() && digitOf(line.front()) >= 0;
   }
 
   // Texts given as bytes are in the ANSI code page in old files, and in the registry in UTF-16.
@@ -224,7 +218,7 @@ class Reader {
     std::u16string text;
     decode(ansiCodePage(), bytes, text);
     bytes.clear();
-    appendAsBytes(text, bytes);
+    appendUtf16Bytes(text, bytes);
     return bytes;
   }
 

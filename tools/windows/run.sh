@@ -57,6 +57,8 @@ run_in_root() {
       done
       read -r number <"$root/tmp/screen" || { cat "$root/tmp/screen.log" >&2 && exit 1; }
       screen=(DISPLAY=":$number")
+      # No window manager is there to wait for.
+      printf "%s\n" "" "[Software\\\\Wine\\\\X11 Driver]" "\"Managed\"=\"N\"" >>"$root$home/prefix/user.reg"
     fi
     status=0
     chroot "$root" env -u LANG -u LANGUAGE -u TMPDIR -u TMP -u TEMP --chdir="$PWD" \

@@ -38,6 +38,9 @@ class CBasicSetting7Widget : public QWidget {
   // Which setting the field of this name edits; writes a trace line.
   bool getEditControlTypeByParseName(const QString& name, brennet::EditControl& control) const;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  signals:
   void showHotKeySettingDlg();
   void showDota7SettingDlg();
@@ -69,9 +72,6 @@ class CBasicSetting7Widget : public QWidget {
   void onClickedHeroSKillAutocastSetAll();
   void onClickedHeroSkillAutocastClearAll();
   void onClickedItemAutocastButton();
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   struct Option;

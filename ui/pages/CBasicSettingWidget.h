@@ -26,6 +26,9 @@ class CBasicSettingWidget : public QWidget {
   // Which setting the field of this name edits; writes a trace line.
   bool getEditControlTypeByParseName(const QString& name, brennet::EditControl& control) const;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  public slots:
   void onToggled_DisableLWin(bool bChecked);
   void onToggled_LockMouse(bool bChecked);
@@ -34,9 +37,6 @@ class CBasicSettingWidget : public QWidget {
   void onToggled_ShowEnimiesBlood(bool bChecked);
   void onToggled_KeepNoStretch(bool bChecked);
   void onToggled_DelayOptimization(bool bChecked);
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void buildRows();

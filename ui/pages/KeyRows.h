@@ -15,9 +15,9 @@ namespace brennet {
 
 // The texts of a page that go with a key field.
 struct KeyRowTexts {
-  QString skill;       // "... %1": a hero skill, by its number
-  QString item;        // "... %1": an item, by the digit of its slot
-  QString quickCast;   // "... %1 ...": the quick-cast button of what %1 names; empty: no buttons
+  QString skill;      // "... %1": a hero skill, by its number
+  QString item;       // "... %1": an item, by the digit of its slot
+  QString quickCast;  // "... %1 ...": the quick-cast button of what %1 names; empty: no buttons
   QString castToolTip;
   QString remapSource, remapTarget;  // "... %1"
   QString groupSource, groupTarget;  // "... %1"

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include "platform/RegistryValue.h"
+
+namespace brennet::platform {
+
+// A key below the current user's root of the registry, open for reading and writing.
+//
+// On Windows this is the registry. Elsewhere it is the .reg file (RegFile.h) that the environment
+// variable BRENNET_REGISTRY names: it is read when a key is opened and replaced as a whole with
+// each write; without the variable there are no keys.
+class RegistryKey {
+ public:
+  // Opens the key, for example Software\Tollamere, with all rights. A key that is missing, or that
+  // the user may not change, stays closed; none is created.
+  explicit RegistryKey(std::u16string_view path);
+  ~RegistryKey();
+  RegistryKey(const RegistryKey&) = delete;
+  RegistryKey& operator=(const RegistryKey&) = delete;
+
+  [[nodiscard]] bool isOpen() const { return body_ != nullptr; }
+
+  // What stands under a name.
+  struct Reading {
+    bool known = false;                  // false: the key is closed, or the system refuses to tell
+    std::optional<RegistryValue> value;  // nothing: there is no such value
+  };
+  [[nodiscard]] Reading read(std::u16string_view name) const;
+
+  // Puts `value` under the name, whatever stands there. Returns whether it stands there now;
+  // where not, nothing has changed.
+  bool write(std::u16string_view name, const RegistryValue& value);
+
+  // Removes what stands under the name. Returns whether nothing stands there now.
+  bool remove(std::u16string_view name);
+
+ private:
+  struct Body;
+  std::unique_ptr<Body> body_;
+};
+
+}  // namespace brennet::platform

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/RegFile.h"
+#include "tests/support/TempFolder.h"
+
+namespace brennet::test {
+
+// A registry without DotA 7 settings for the time of a test: a file of its own, and on Windows the
+// user's own registry. There the constructor throws where the user has such settings; Wine gives
+// each program a new user's registry.
+class ScopedRegistry {
+ public:
+  ScopedRegistry();
+  ~ScopedRegistry();
+  ScopedRegistry(const ScopedRegistry&) = delete;
+  ScopedRegistry& operator=(const ScopedRegistry&) = delete;
+
+  // What stands at and below Software\Tollamere.
+  [[nodiscard]] platform::RegFile content() const;
+
+  // Creates keys, given below the user's root, and sets values past all that is tested.
+  void createKey(std::u16string_view path);
+  void set(std::u16string_view path, std::u16string_view name,
+           const platform::RegistryValue& value);
+
+  // Leaves of all rights to the key (elsewhere than on Windows: to all keys) that of reading.
+  void denyWriting(std::u16string_view path);
+
+ private:
+  TempFolder folder_;
+};
+
+// `path`, which is below the user's root, with that root before it.
+[[nodiscard]] inline std::u16string below(std::u16string_view path) {
+  return std::u16string(u"HKEY_CURRENT_USER\\").append(path);
+}
+
+}  // namespace brennet::test
