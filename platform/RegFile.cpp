@@ -13,9 +13,9 @@ constexpr std::u16string_view kHeader = u"Windows Registry Editor Version 5.00";
 constexpr std::u16string_view kLineEnd = u"\r\n";
 constexpr std::u16string_view kDigits = u"0123456789abcdef";
 
-constexpr std::array<std::u16string_view, 5> kRoots = {
-    u"hkey_classes_root", u"hkey_current_config", u"hkey_current_user", u"hkey_local_machine",
-    u"hkey_users"};
+constexpr std::array<std::u16string_view, 5> kRoots = {u"hkey_classes_root", u"hkey_current_config",
+                                                       u"hkey_current_user", u"hkey_local_machine",
+                                                       u"hkey_users"};
 
 std::u16string lowered(std::u16string_view text) {
   std::u16string result(text);
@@ -35,8 +35,8 @@ bool isRoot(std::u16string_view loweredPath) {
 
 bool isPath(std::u16string_view loweredPath) {
   if (!isRoot(loweredPath.substr(0, loweredPath.find(u'\\')))) return false;
-  return loweredPath.back() != u'\\' &&
-         loweredPath.find(u"\\\\") == std::u16string_view::npos && !hasLineBreak(loweredPath);
+  return loweredPath.back() != u'\\' && loweredPath.find(u"\\\\") == std::u16string_view::npos &&
+         !hasLineBreak(loweredPath);
 }
 
 void appendHex(std::uint32_t number, int digits, std::u16string& text) {

@@ -72,5 +72,14 @@ TEST(Folders, AreCreatedOneLevelAtATime) {
   EXPECT_FALSE(folderExists(folder / "f"));
 }
 
+TEST(PathExists, ForFilesAndFolders) {
+  const TempFolder folder;
+  EXPECT_FALSE(pathExists(folder / "f"));
+  EXPECT_FALSE(pathExists(Path()));
+  EXPECT_TRUE(pathExists(folder.path()));
+  writeBytes(folder / "f", "");
+  EXPECT_TRUE(pathExists(folder / "f"));
+}
+
 }  // namespace
 }  // namespace brennet::platform

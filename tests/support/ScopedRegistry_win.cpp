@@ -29,10 +29,10 @@ class OpenKey {
  public:
   ~OpenKey() { RegCloseKey(key_); }
   OpenKey(const std::wstring& path, REGSAM rights, bool create = false) {
-    const LSTATUS status =
-        create ? RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, rights, nullptr,
-                                 &key_, nullptr)
-               : RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, rights, &key_);
+    const LSTATUS status = create
+                               ? RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0,
+                                                 rights, nullptr, &key_, nullptr)
+                               : RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, rights, &key_);
     if (status != ERROR_FILE_NOT_FOUND) require(status, "a key cannot be opened");
   }
   OpenKey(const OpenKey&) = delete;
@@ -70,8 +70,8 @@ void addKey(const std::wstring& path, platform::RegFile& content) {
   std::vector<wchar_t> name(kLongestName);
   for (DWORD i = 0;; ++i) {
     DWORD length = kLongestName;
-    const LSTATUS status = RegEnumKeyExW(key.get(), i, name.data(), &length, nullptr, nullptr,
-                                         nullptr, nullptr);
+    const LSTATUS status =
+        RegEnumKeyExW(key.get(), i, name.data(), &length, nullptr, nullptr, nullptr, nullptr);
     if (status == ERROR_NO_MORE_ITEMS) return;
     require(status, "a key cannot be listed");
     addKey(path + L"\\" + std::wstring(name.data(), length), content);

@@ -35,7 +35,9 @@ class BasicPage : public testing::Test {
     }
     throw std::logic_error("the page has no Orrery window");
   }
-  QCheckBox& mana() { return *orrery().findChild<QCheckBox*>(QStringLiteral("chkShowFriendsMana")); }
+  QCheckBox& mana() {
+    return *orrery().findChild<QCheckBox*>(QStringLiteral("chkShowFriendsMana"));
+  }
 };
 
 }  // namespace brennet::test

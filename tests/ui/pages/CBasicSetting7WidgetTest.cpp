@@ -11,24 +11,33 @@ namespace brennet::test {
 namespace {
 
 TEST_F(BasicPage, HasItsMethodsInTheOrderThatClientsKnow) {
-  const QStringList expected = {
-      QStringLiteral("showHotKeySettingDlg"), QStringLiteral("showDota7SettingDlg"),
-      QStringLiteral("showTalkSettingDlg"), QStringLiteral("showOrrerySettingDlg"),
-      QStringLiteral("onToggled_DisableLWin"), QStringLiteral("onToggled_LockMouse"),
-      QStringLiteral("onToggled_ShowFriendBlood"), QStringLiteral("onToggled_ShowFirendMana"),
-      QStringLiteral("onToggled_ShowEnimiesBlood"), QStringLiteral("onToggled_KeepNoStretch"),
-      QStringLiteral("onToggled_DelayOptimization"), QStringLiteral("onToggled_GroupKey1"),
-      QStringLiteral("onToggled_GroupKey2"), QStringLiteral("onToggled_GroupKey3"),
-      QStringLiteral("onToggled_HideUI"), QStringLiteral("onToggled_checkBox_Skill_Hero"),
-      QStringLiteral("onToggled_checkBox_KeyModify_Hero"),
-      QStringLiteral("onToggled_checkBox_DisableLeftAlt"),
-      QStringLiteral("onToggled_checkBox_DisableLeftAltShowHP"),
-      QStringLiteral("onClickedHotKeySettingBtn"), QStringLiteral("onClickedDota7SettingBtn"),
-      QStringLiteral("onClickedTalkSettingBtn"), QStringLiteral("onClickedOrrerySettingBtn"),
-      QStringLiteral("onClickedHeroSkillAutocastButton"),
-      QStringLiteral("onClickedHeroSKillAutocastSetAll"),
-      QStringLiteral("onClickedHeroSkillAutocastClearAll"),
-      QStringLiteral("onClickedItemAutocastButton")};
+  const QStringList expected = {QStringLiteral("showHotKeySettingDlg"),
+                                QStringLiteral("showDota7SettingDlg"),
+                                QStringLiteral("showTalkSettingDlg"),
+                                QStringLiteral("showOrrerySettingDlg"),
+                                QStringLiteral("onToggled_DisableLWin"),
+                                QStringLiteral("onToggled_LockMouse"),
+                                QStringLiteral("onToggled_ShowFriendBlood"),
+                                QStringLiteral("onToggled_ShowFirendMana"),
+                                QStringLiteral("onToggled_ShowEnimiesBlood"),
+                                QStringLiteral("onToggled_KeepNoStretch"),
+                                QStringLiteral("onToggled_DelayOptimization"),
+                                QStringLiteral("onToggled_GroupKey1"),
+                                QStringLiteral("onToggled_GroupKey2"),
+                                QStringLiteral("onToggled_GroupKey3"),
+                                QStringLiteral("onToggled_HideUI"),
+                                QStringLiteral("onToggled_checkBox_Skill_Hero"),
+                                QStringLiteral("onToggled_checkBox_KeyModify_Hero"),
+                                QStringLiteral("onToggled_checkBox_DisableLeftAlt"),
+                                QStringLiteral("onToggled_checkBox_DisableLeftAltShowHP"),
+                                QStringLiteral("onClickedHotKeySettingBtn"),
+                                QStringLiteral("onClickedDota7SettingBtn"),
+                                QStringLiteral("onClickedTalkSettingBtn"),
+                                QStringLiteral("onClickedOrrerySettingBtn"),
+                                QStringLiteral("onClickedHeroSkillAutocastButton"),
+                                QStringLiteral("onClickedHeroSKillAutocastSetAll"),
+                                QStringLiteral("onClickedHeroSkillAutocastClearAll"),
+                                QStringLiteral("onClickedItemAutocastButton")};
   EXPECT_EQ(methodNames(CBasicSetting7Widget::staticMetaObject), expected);
 }
 
@@ -61,9 +70,9 @@ TEST_F(BasicPage, HasItsTexts) {
   for (const Text& row : kTexts) EXPECT_EQ(find<QAbstractButton>(row.name).text(), row.text);
   QStringList groups;
   for (const QGroupBox* const group : page.findChildren<QGroupBox*>()) groups += group->title();
-  const QStringList expected = {QStringLiteral(u"英雄技能"), QStringLiteral(u"小键盘物品栏"),
+  const QStringList expected = {QStringLiteral(u"英雄技能"),   QStringLiteral(u"小键盘物品栏"),
                                 QStringLiteral(u"自定义改键"), QStringLiteral(u"滚轮改键"),
-                                QStringLiteral(u"游戏设置"), QStringLiteral(u"小键盘组合快捷键")};
+                                QStringLiteral(u"游戏设置"),   QStringLiteral(u"小键盘组合快捷键")};
   for (const QString& title : expected) EXPECT_TRUE(groups.contains(title)) << qPrintable(title);
 }
 
@@ -122,20 +131,25 @@ TEST_F(BasicPage, CanBeUsedWithoutAMouse) {
   expectAccessible(orrery());
   const QStringList order = tabOrder(page);
   const auto at = [&order](const char* name) { return order.indexOf(QLatin1String(name)); };
-  const char* const kInOrder[] = {"edtSkill_9",        "btn_skillcast_9",     "edtSkill_10",
-                                  "edtSkill_12",       "edtSkill_8",          "edtSkill_1",
-                                  "chkSkillHero",      "btn_SetAll_AutoCast", "edtGoodsKey_7",
-                                  "edtGoodsKey_8",     "edtGoodsKey_4",       "edt_skillex_L_1",
-                                  "edt_skillex_R_1",   "edt_skillex_GROUP_2_L_1",
-                                  "chkKeyModifyHero",  "edtMouseWheelUpKey",  "chkLockMouse",
-                                  "edtWinLockMouse",   "chkHideUI",           "chkGroupKey1",
-                                  "chkGroupKey3",      "btnOrrerySetting",    "btnDota7Setting"};
+  const char* const kInOrder[] = {"edtSkill_9",       "btn_skillcast_9",
+                                  "edtSkill_10",      "edtSkill_12",
+                                  "edtSkill_8",       "edtSkill_1",
+                                  "chkSkillHero",     "btn_SetAll_AutoCast",
+                                  "edtGoodsKey_7",    "edtGoodsKey_8",
+                                  "edtGoodsKey_4",    "edt_skillex_L_1",
+                                  "edt_skillex_R_1",  "edt_skillex_GROUP_2_L_1",
+                                  "chkKeyModifyHero", "edtMouseWheelUpKey",
+                                  "chkLockMouse",     "edtWinLockMouse",
+                                  "chkHideUI",        "chkGroupKey1",
+                                  "chkGroupKey3",     "btnOrrerySetting",
+                                  "btnDota7Setting"};
   int last = -1;
   for (const char* const name : kInOrder) {
     EXPECT_GT(at(name), last) << name;
     last = at(name);
   }
-  EXPECT_EQ(order.size(), QSet<QString>(order.begin(), order.end()).size()) << "each is reached once";
+  EXPECT_EQ(order.size(), QSet<QString>(order.begin(), order.end()).size())
+      << "each is reached once";
 }
 
 }  // namespace

@@ -72,7 +72,8 @@ TEST_F(OlderBasicPage, ParsesNamesByItsOwnRule) {
   EXPECT_FALSE(page.getEditControlTypeByParseName(QStringLiteral("edtSkill_8"), control));
   EXPECT_EQ(control.nSkillIndex, 8);
   EXPECT_FALSE(page.getEditControlTypeByParseName(QStringLiteral("edtSkill_12"), control));
-  EXPECT_FALSE(page.getEditControlTypeByParseName(QStringLiteral("edt_skillex_GROUP_2_R_1"), control));
+  EXPECT_FALSE(
+      page.getEditControlTypeByParseName(QStringLiteral("edt_skillex_GROUP_2_R_1"), control));
 }
 
 TEST_F(OlderBasicPage, StoresEachSwitch) {

@@ -71,10 +71,10 @@ TEST(OrreryWindow, CanBeUsedWithoutAMouse) {
   COrrerySettingDlg dialog;
   dialog.show();
   expectAccessible(dialog);
-  const QStringList expected = {
-      QStringLiteral("btnClose"), QStringLiteral("edtOpenCloseLedger"),
-      QStringLiteral("edtShowHideLedgerData"), QStringLiteral("edtHotKeyLedgerSkill"),
-      QStringLiteral("chkShowFriendsMana")};
+  const QStringList expected = {QStringLiteral("btnClose"), QStringLiteral("edtOpenCloseLedger"),
+                                QStringLiteral("edtShowHideLedgerData"),
+                                QStringLiteral("edtHotKeyLedgerSkill"),
+                                QStringLiteral("chkShowFriendsMana")};
   EXPECT_EQ(tabOrder(dialog), expected);
 }
 

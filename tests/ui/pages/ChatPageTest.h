@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QTimer>
-#include <QTranslator>
 #include <QWidget>
 
 #include "tests/ui/UiTest.h"
@@ -74,19 +73,6 @@ class NoBoxes {
 
  private:
   QTimer timer_;
-};
-
-// Makes all texts half as long again while it lives.
-class LongerTexts : public QTranslator {
- public:
-  LongerTexts() { QCoreApplication::installTranslator(this); }
-  ~LongerTexts() override { QCoreApplication::removeTranslator(this); }
-  [[nodiscard]] bool isEmpty() const override { return false; }
-  [[nodiscard]] QString translate(const char* /*context*/, const char* text,
-                                  const char* /*comment*/, int /*number*/) const override {
-    const QString whole = QString::fromUtf8(text);
-    return whole + whole.left((whole.size() + 1) / 2);
-  }
 };
 
 }  // namespace brennet::test

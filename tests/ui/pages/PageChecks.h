@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QStringList>
+#include <QTranslator>
 #include <Qt>
 
 class QLineEdit;
@@ -21,9 +23,22 @@ void releaseKey(QLineEdit& field, Qt::Key key);
 // The object names of all widgets that Tab reaches in a window that is shown, from the first on.
 [[nodiscard]] QStringList tabOrder(QWidget& window);
 
-// Fails for each control without a name for assistive technology, and for each label with a mnemonic
-// partner missing: a label that stands left of a line edit in its row is its buddy.
+// Fails for each control without a name for assistive technology, and for each label with a
+// mnemonic partner missing: a label that stands left of a line edit in its row is its buddy.
 void expectAccessible(const QWidget& page);
+
+// Makes all texts half as long again while it lives.
+class LongerTexts : public QTranslator {
+ public:
+  LongerTexts() { QCoreApplication::installTranslator(this); }
+  ~LongerTexts() override { QCoreApplication::removeTranslator(this); }
+  [[nodiscard]] bool isEmpty() const override { return false; }
+  [[nodiscard]] QString translate(const char* /*context*/, const char* text,
+                                  const char* /*comment*/, int /*number*/) const override {
+    const QString whole = QString::fromUtf8(text);
+    return whole + whole.left((whole.size() + 1) / 2);
+  }
+};
 
 // Fails where the text of a label, check box or button does not fit in, and where siblings overlap.
 void expectNothingIsCut(QWidget& window);
