@@ -71,6 +71,7 @@ lint: ## check the format and run clang-tidy
 	@tools/setup.sh build test lint
 	@tools/format.sh --check
 	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
+	@cmake --build --preset native -j $(JOBS) --target brennet_ui_autogen
 	@tools/lint.sh native build/native
 
 lint-windows: windows ## run clang-tidy over what only the Windows build has

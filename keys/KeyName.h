@@ -12,7 +12,8 @@ struct KeyName {
   std::u16string_view name;
 };
 
-// Whether the rows, which have a code each, stand in ascending order of their codes, each code once.
+// Whether the rows, which have a code each, stand in ascending order of their codes, each code
+// once.
 template <class Rows>
 constexpr bool isSortedByCode(const Rows& rows) {
   const auto notAscending = [](const auto& a, const auto& b) { return a.code >= b.code; };

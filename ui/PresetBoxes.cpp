@@ -27,8 +27,8 @@ void PresetBoxes::toggled(int preset, bool isChecked) const {
     }
     return;
   }
-  const bool anyIsLeft =
-      std::any_of(boxes_.begin(), boxes_.end(), [](const QCheckBox* box) { return box->isChecked(); });
+  const bool anyIsLeft = std::any_of(boxes_.begin(), boxes_.end(),
+                                     [](const QCheckBox* box) { return box->isChecked(); });
   if (!anyIsLeft) config_->SetNumComboKeyIndex(HotkeyScheme::kItemKeysFromMap);
 }
 

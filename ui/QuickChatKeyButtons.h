@@ -14,7 +14,8 @@ class QuickChatKeyButtons {
   using Buttons = std::array<QRadioButton*, 2>;
 
   // The buttons, in the order of the key sets, and `config` outlive this object.
-  QuickChatKeyButtons(Buttons buttons, HotkeyConfig& config) : buttons_(buttons), config_(&config) {}
+  QuickChatKeyButtons(Buttons buttons, HotkeyConfig& config)
+      : buttons_(buttons), config_(&config) {}
 
   // Checks what the current scheme has chosen. Stores nothing.
   void refresh() const;

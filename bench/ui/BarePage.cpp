@@ -62,6 +62,7 @@ QWidget* PageRecipe::make(QWidget* parent) const {
 PageRecipe::Part PageRecipe::partOf(const QWidget& widget) {
   Part part;
   part.name = widget.objectName();
+  part.styleSheet = widget.styleSheet();
   part.isHidden = widget.isHidden() && !widget.isWindow();
   if (const auto* const label = qobject_cast<const QLabel*>(&widget)) {
     part.kind = Kind::Label;
@@ -144,6 +145,7 @@ QWidget* PageRecipe::newWidget(const Part& part, QWidget* parent) {
       break;
   }
   widget->setObjectName(part.name);
+  if (!part.styleSheet.isEmpty()) widget->setStyleSheet(part.styleSheet);
   if (part.arrangement != Arrangement::None) {
     QLayout* const layout = newLayout(part);
     widget->setLayout(layout);

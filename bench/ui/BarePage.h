@@ -9,8 +9,9 @@
 
 namespace brennet::bench {
 
-// What a page is made of, and nothing of what it does: the kinds of its widgets, their names and
-// texts, and how they are laid out. Bare pages are made from it, to be measured beside the page.
+// What a page is made of, and nothing of what it does: the kinds of its widgets, their names, texts
+// and style sheets, and how they are laid out. Bare pages are made from it, to be measured beside
+// the page.
 class PageRecipe {
  public:
   explicit PageRecipe(const QWidget& page);
@@ -36,6 +37,7 @@ class PageRecipe {
     Kind kind = Kind::Plain;
     QString name;
     QString text;
+    QString styleSheet;
     QStringList items;  // of trees and tables
     bool isHidden = false;
     bool isLayout = false;  // a layout in a layout, and no widget

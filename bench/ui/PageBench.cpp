@@ -81,6 +81,40 @@ void bareBasic(benchmark::State& state) {
     return made;
   });
 }
+
+// A window of its own, with the sheet; the Orrery window brings it along.
+template <class Make>
+void makeAndShowWindow(benchmark::State& state, Make make) {
+  for ([[maybe_unused]] auto _ : state) {
+    const std::unique_ptr<QWidget> window(make());
+    if (window->styleSheet().isEmpty()) {
+      loadStyleSheet(*window, QStringLiteral(":/skin/war3key.qss"));
+    }
+    showOnce(*window);
+  }
+}
+
+QWidget* newQuickChat() {
+  return new ChatKeySettingWidget(settings(), nullptr);
+}
+
+QWidget* newOrrery() {
+  return new COrrerySettingDlg;
+}
+
+template <QWidget* (*Make)()>
+void productWindow(benchmark::State& state) {
+  makeAndShowWindow(state, Make);
+}
+
+template <QWidget* (*Make)()>
+void bareWindow(benchmark::State& state) {
+  const std::unique_ptr<QWidget> window(Make());
+  window->setStyleSheet(QString());
+  const PageRecipe recipe(*window);
+  makeAndShowWindow(state, [&recipe] { return recipe.make(nullptr); });
+}
+
 BENCHMARK(product<CBasicSetting7Widget>)->Name("firstShow/brennet/basic");
 BENCHMARK(bareBasic)->Name("firstShow/bare/basic");
 BENCHMARK(product<CBasicSettingWidget>)->Name("firstShow/brennet/basicOlder");
@@ -89,6 +123,10 @@ BENCHMARK(product<CAdvancedSettingWidget>)->Name("firstShow/brennet/advanced");
 BENCHMARK(bare<CAdvancedSettingWidget>)->Name("firstShow/bare/advanced");
 BENCHMARK(product<CChatRouletteSettingWidget>)->Name("firstShow/brennet/chatWheel");
 BENCHMARK(bare<CChatRouletteSettingWidget>)->Name("firstShow/bare/chatWheel");
+BENCHMARK(productWindow<newQuickChat>)->Name("firstShow/brennet/quickChat");
+BENCHMARK(bareWindow<newQuickChat>)->Name("firstShow/bare/quickChat");
+BENCHMARK(productWindow<newOrrery>)->Name("firstShow/brennet/orrery");
+BENCHMARK(bareWindow<newOrrery>)->Name("firstShow/bare/orrery");
 
 }  // namespace
 }  // namespace brennet::bench

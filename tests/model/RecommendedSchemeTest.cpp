@@ -39,7 +39,8 @@ TEST(RecommendedScheme, HasTheItemsOnAltAndDigits) {
   HotkeyScheme recommended = scheme();
   recommend(recommended);
   for (std::size_t i = 0; i < kInventory.size(); ++i) {
-    const auto digit = static_cast<std::uint8_t>('1' + 2 * kInventory[i].row + kInventory[i].column);
+    const auto digit =
+        static_cast<std::uint8_t>('1' + 2 * kInventory[i].row + kInventory[i].column);
     EXPECT_EQ(recommended.ItemKey[i], KeyWord(digit, KeyWord::kAlt)) << i;
   }
   EXPECT_EQ(recommended.NumComboKeyIndex, HotkeyScheme::kItemKeysFromMap);

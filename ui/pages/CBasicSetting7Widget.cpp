@@ -7,9 +7,9 @@
 #include "model/RecommendedScheme.h"
 #include "ui/FeatureKeys.h"
 #include "ui/KeyMessages.h"
-#include "ui/pages/COrrerySettingDlg.h"
 #include "ui/TabOrder.h"
 #include "ui/Text.h"
+#include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/EditControlTrace.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_CHotkeySettingPage.h"
@@ -242,8 +242,8 @@ void CBasicSetting7Widget::useRecommended() {
 
 bool CBasicSetting7Widget::getEditControlTypeByParseName(const QString& name,
                                                          brennet::EditControl& control) const {
-  const bool known = brennet::getEditControlTypeByParseName(
-      brennet::viewOf(name), brennet::BasicPage::Current, control);
+  const bool known = brennet::getEditControlTypeByParseName(brennet::viewOf(name),
+                                                            brennet::BasicPage::Current, control);
   brennet::traceEditControl(name, known, control);
   return known;
 }

@@ -22,6 +22,9 @@ namespace {
 
 // Of the wheel's picture, which the style sheet puts that much above the middle; and of the ring of
 // slots, which leaves the hub free and the rim of the picture to be seen.
+// Pixels that the skin moves the phrases to the right, once the tree wears it.
+constexpr int kSkinIndent = 13;
+
 constexpr QSize kPicture(380, 380);
 constexpr int kRoomBelow = 80;
 constexpr QSize kRing(340, 300);
@@ -109,14 +112,19 @@ void CChatRouletteSettingWidget::makeSlots() {
 
 void CChatRouletteSettingWidget::fillTree() {
   for (const brennet::PhraseCategory& category : brennet::chatPhrases()) {
-    auto* const branch = new QTreeWidgetItem(ui_->ChatPhrases, {translated(category.key)});
-    for (const char* const key : category.phrases) new QTreeWidgetItem(branch, {translated(key)});
+    auto branch = std::make_unique<QTreeWidgetItem>(QStringList(translated(category.key)));
+    for (const char* const key : category.phrases) {
+      branch->addChild(new QTreeWidgetItem({translated(key)}));
+    }
+    ui_->ChatPhrases->addTopLevelItem(branch.release());
   }
   ui_->ChatPhrases->setMinimumWidth(widthOf(kTreeCharacters, *this));
   ui_->ChatPhrases->setItemDelegate(new brennet::PhraseDelegate(ui_->ChatPhrases));
-  // As wide as the widest phrase: there is a scroll bar where that is wider than the tree.
-  ui_->ChatPhrases->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   ui_->ChatPhrases->expandAll();
+  // As wide as the widest phrase: there is a scroll bar where that is wider than the tree. Once is
+  // enough, as the phrases stay; the header would measure them each time that anything changes.
+  ui_->ChatPhrases->resizeColumnToContents(0);
+  ui_->ChatPhrases->header()->setMinimumSectionSize(ui_->ChatPhrases->columnWidth(0) + kSkinIndent);
 }
 
 void CChatRouletteSettingWidget::connectAll() {

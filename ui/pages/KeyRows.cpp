@@ -99,10 +99,10 @@ void addRemapRows(QGridLayout& grid, const KeyRowTexts& texts) {
     const int number = i + 1;
     const int row = i / kInARow;
     const int column = kColumnsOfOne * (i % kInARow);
-    auto* const source = newKeyField(QStringLiteral("edt_skillex_L_%1").arg(number),
-                                     texts.remapSource.arg(number));
-    auto* const target = newKeyField(QStringLiteral("edt_skillex_R_%1").arg(number),
-                                     texts.remapTarget.arg(number));
+    auto* const source =
+        newKeyField(QStringLiteral("edt_skillex_L_%1").arg(number), texts.remapSource.arg(number));
+    auto* const target =
+        newKeyField(QStringLiteral("edt_skillex_R_%1").arg(number), texts.remapTarget.arg(number));
     grid.addWidget(newLabel(QString::number(number), source), row, column);
     grid.addWidget(source, row, column + 1);
     grid.addWidget(newLabel(arrow(), target), row, column + 2);

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace brennet {
+
+// The longest text of the DotA 7 registry values, in bytes of UTF-8.
+inline constexpr std::size_t kDota7TextBytes = 260;
+
+// What a change of one field of the DotA 7 pages writes to the registry.
+struct Dota7Change {
+  enum class Kind : std::uint8_t {
+    Numbers = 2,         // the numbers alone
+    NumbersAndText = 3,  // the text as well
+  };
+
+  std::u16string keyPath;    // below the user's root
+  std::u16string valueName;  // of the first number; empty where there is none, as with phrases
+  std::uint32_t value = 0;
+  std::u16string secondName;
+  std::uint32_t secondValue = 0;  // written only if it is not 0
+  Kind kind = Kind::Numbers;
+  std::u16string textName;
+  std::u16string text;
+  bool hasText = false;  // false: the text is written as one of length 0
+
+  friend bool operator==(const Dota7Change&, const Dota7Change&) = default;
+};
+
+// `text` as it stands in the registry: UTF-8 without a zero at the end, cut between characters to
+// kDota7TextBytes.
+[[nodiscard]] std::string dota7TextBytes(std::u16string_view text);
+
+}  // namespace brennet

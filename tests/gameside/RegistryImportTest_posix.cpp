@@ -1,0 +1,82 @@
+// The import where the registry is a file.
+
+#include "gameside/RegistryImport.h"
+#include "tests/gameside/Dota7Test.h"
+
+namespace brennet {
+namespace {
+
+using namespace std::string_literals;
+using platform::RegFile;
+using test::readBytes;
+using test::ScopedRegistry;
+using test::TempFolder;
+using test::utf8;
+using test::writeBytes;
+
+constexpr char kSample[] = BRENNET_TEST_DATA "/../../samples/data/Tollamere.reg";
+
+TEST(RegistryImportFromAFile, GivesTheRegistryTheSample) {
+  for (const std::string& name : {"plain"s, "two words"s, utf8(u8"\u9B54\u517D \u6539\u952E")}) {
+    const ScopedRegistry registry;
+    const TempFolder parent;
+    const std::filesystem::path folder = parent / name;
+    std::filesystem::create_directory(folder);
+    writeBytes(folder / "Tollamere.reg", readBytes(kSample));
+    EXPECT_TRUE(importDefaultRegistry((folder / "").u16string()));
+    RegFile expected;
+    EXPECT_TRUE(expected.merge(readBytes(kSample)));
+    EXPECT_EQ(registry.content(), expected);
+
+    Dota7KeyInfoManager manager;
+    manager.settings().load();
+    EXPECT_EQ(manager.settings().keyText(*findDota7KeyField(u"edtHACSkill_3")), u"ALT + Q");
+    EXPECT_EQ(manager.settings().phrase(*findDota7Phrase(u"edt_SQuickChatString7")),
+              u"\u8C22\u8C22");
+  }
+}
+
+TEST(RegistryImportFromAFile, LeavesTheRegistryAloneWhereTheFileIsDamaged) {
+  const ScopedRegistry registry;
+  const RegFile before = registry.content();
+  const TempFolder folder;
+  const std::string sample = readBytes(kSample);
+  for (const std::string& bytes : {""s, "REGEDIT"s, sample.substr(2), sample.substr(0, 60),
+                                   sample.substr(1), std::string(10 << 20, '\0')}) {
+    writeBytes(folder / "Tollamere.reg", bytes);
+    EXPECT_TRUE(importDefaultRegistry((folder / "").u16string()));
+    EXPECT_EQ(registry.content(), before);
+  }
+}
+
+TEST(RegistryImportFromAFile, TakesTheLinesBeforeTheEndOfAFileThatIsCutOff) {
+  const ScopedRegistry registry;
+  const TempFolder folder;
+  writeBytes(folder / "Tollamere.reg",
+             "REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\Tollamere\\CONTROL]\r\n"
+             "\"HHoldKeyCode\"=dword:00000051\r\n\"HStopKeyCode\"=hex(4):52,00,\\\r\n  0");
+  EXPECT_TRUE(importDefaultRegistry((folder / "").u16string()));
+  Dota7KeyInfoManager manager;
+  manager.settings().load();
+  EXPECT_EQ(manager.settings().key(*findDota7KeyField(u"edt_HHoldKey")), test::key('Q'));
+  EXPECT_EQ(manager.settings().key(*findDota7KeyField(u"edt_HStopKey")), Dota7Key());
+}
+
+TEST(RegistryImportFromAFile, CannotStartWhereTheFileCannotBeRead) {
+  const ScopedRegistry registry;
+  const TempFolder folder;
+  std::filesystem::create_directory(folder / "Tollamere.reg");
+  EXPECT_FALSE(importDefaultRegistry((folder / "").u16string()));
+}
+
+TEST(RegistryImportFromAFile, IsTriedAgainTheNextTime) {
+  const ScopedRegistry registry;
+  const TempFolder folder;
+  EXPECT_FALSE(importDefaultRegistry((folder / "").u16string()));
+  writeBytes(folder / "Tollamere.reg", readBytes(kSample));
+  EXPECT_TRUE(importDefaultRegistry((folder / "").u16string()));
+  EXPECT_TRUE(registry.content().hasKey(test::below(kDota7ControlPath)));
+}
+
+}  // namespace
+}  // namespace brennet
