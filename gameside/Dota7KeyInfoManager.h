@@ -62,9 +62,8 @@ class Dota7KeyInfoManager : public QObject {
   // changes can still be cancelled.
   void refresh();
 
- public slots:
   // Writes all recorded changes.
-  void writeRecords();
+  Q_SLOT void writeRecords();
 
  private:
   using Place = std::pair<std::u16string, std::u16string>;  // path of a key, name of a value

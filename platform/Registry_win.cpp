@@ -50,8 +50,10 @@ RegistryKey::Reading RegistryKey::read(std::u16string_view name) const {
 
 bool RegistryKey::write(std::u16string_view name, const RegistryValue& value) {
   if (!isOpen()) return false;
+  // The system adds a zero to a text that has none at its end, where one stands behind it.
+  const std::string data = value.data + "\xFF\xFF\xFF";
   return RegSetValueExW(body_->handle, wide(name).c_str(), 0, value.type,
-                        reinterpret_cast<const BYTE*>(value.data.data()),
+                        reinterpret_cast<const BYTE*>(data.data()),
                         static_cast<DWORD>(value.data.size())) == ERROR_SUCCESS;
 }
 

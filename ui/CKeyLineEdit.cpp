@@ -1,11 +1,18 @@
 #include "ui/CKeyLineEdit.h"
 
 #include <QFontMetrics>
+#include <QHelpEvent>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <QToolTip>
+
+namespace {
+
+constexpr int kAroundText = 6;  // as a line edit keeps free beside its text
+
+}  // namespace
 
 QSize CKeyLineEdit::sizeHint() const {
-  constexpr int kAroundText = 6;  // as a line edit keeps free beside its text
   ensurePolished();
   const QFontMetrics metrics(font());
   const QSize text(metrics.horizontalAdvance(QStringLiteral("CTRL + Alt + W")) + kAroundText,
@@ -15,4 +22,19 @@ QSize CKeyLineEdit::sizeHint() const {
   return style()
       ->sizeFromContents(QStyle::CT_LineEdit, &option, text, this)
       .expandedTo(QSize(0, QLineEdit::sizeHint().height()));
+}
+
+bool CKeyLineEdit::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && !showsWholeText()) {
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    return true;
+  }
+  return QLineEdit::event(event);
+}
+
+bool CKeyLineEdit::showsWholeText() const {
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  const QRect room = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+  return fontMetrics().horizontalAdvance(text()) + kAroundText <= room.width();
 }

@@ -2,7 +2,8 @@
 
 #include <QLineEdit>
 
-// A line edit for a key: as wide as the text of a key with two modifiers.
+// A line edit for a key: as wide as the text of a key with two modifiers. The few texts that are
+// wider show their end, where the key is, and the whole as tool tip.
 // In no namespace: forms know it by this name.
 class CKeyLineEdit : public QLineEdit {
   Q_OBJECT
@@ -12,4 +13,10 @@ class CKeyLineEdit : public QLineEdit {
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  [[nodiscard]] bool showsWholeText() const;
 };

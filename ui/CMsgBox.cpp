@@ -6,9 +6,12 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleOption>
+
+#include <memory>
 
 #include "ui/StyleSheet.h"
 #include "ui/WindowDrag.h"
@@ -60,6 +63,7 @@ QPushButton* makeCloseButton(QWidget* parent) {
   button->setObjectName(QStringLiteral("btnClose"));
   button->setFixedSize(kCloseButtonSize, kCloseButtonSize);
   button->setToolTip(translated("Close"));
+  button->setAccessibleName(button->toolTip());
   // The keyboard has Escape; Return belongs to the buttons below.
   button->setFocusPolicy(Qt::NoFocus);
   button->setAutoDefault(false);
@@ -81,12 +85,16 @@ CMsgBox::CMsgBox(Icon icon, const QString& title, const QString& text, StandardB
 CMsgBox::StandardButton CMsgBox::showMessage(QWidget* parent, Icon icon, const QString& title,
                                              const QString& text, StandardButtons buttons,
                                              StandardButton defaultButton) {
-  CMsgBox box(icon, title, text, NoButton, parent,
-              Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::FramelessWindowHint);
-  box.addButtons(buttons, defaultButton);
-  box.setButtonTexts();
-  if (box.exec() == -1) return Cancel;
-  return box.standardButton(box.clickedButton());
+  // While it runs, its parent may go and take it along.
+  const QPointer<CMsgBox> box =
+      new CMsgBox(icon, title, text, NoButton, parent,
+                  Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::FramelessWindowHint);
+  box->addButtons(buttons, defaultButton);
+  box->setButtonTexts();
+  const int result = box->exec();
+  if (box.isNull()) return NoButton;
+  const std::unique_ptr<CMsgBox> done(box.data());
+  return result == -1 ? Cancel : done->standardButton(done->clickedButton());
 }
 
 void CMsgBox::addButtons(StandardButtons buttons, StandardButton defaultButton) {

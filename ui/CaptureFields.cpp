@@ -23,12 +23,6 @@ KeyEvent toKeyEvent(const QKeyEvent& event) {
   };
 }
 
-// Of a long text the start is what tells keys apart.
-void show(QLineEdit& field, const QString& text) {
-  field.setText(text);
-  field.home(false);
-}
-
 }  // namespace
 
 CaptureFields::CaptureFields(CapturePage page, HotkeyConfig& config)
@@ -39,13 +33,15 @@ void CaptureFields::install(const QWidget& window, QObject& page) {
   for (QLineEdit* const field : window.findChildren<QLineEdit*>(names)) {
     field->setAttribute(Qt::WA_InputMethodEnabled, false);
     field->installEventFilter(&page);
+    if (page_.captures(*field)) field->setReadOnly(true);
     const auto setting = page_.settingOf(viewOf(field->objectName()));
     if (setting) fields_.push_back({field, *setting});
   }
 }
 
-void CaptureFields::refresh() const {
-  for (const Field& row : fields_) show(*row.field, keyText(keyOf(*config_, row.setting)));
+void CaptureFields::refresh() {
+  static_cast<void>(capture_.leave());
+  for (const Field& row : fields_) row.field->setText(keyText(keyOf(*config_, row.setting)));
 }
 
 std::optional<KeySetting> CaptureFields::settingOf(const QLineEdit& field) const {
@@ -80,7 +76,7 @@ void CaptureFields::handleKey(QLineEdit& field, const QKeyEvent& event) {
   if (capture.outcome == Capture::Outcome::Ignored) return;
   if (capture.outcome != Capture::Outcome::Shown) page_.trace(field);
   const bool isUsed = store(capture, settingOf(field), *config_);
-  show(field, isUsed ? QString() : toQString(capture.text.view()));
+  field.setText(isUsed ? QString() : toQString(capture.text.view()));
   if (isUsed) page_.tellUsed();
 }
 

@@ -36,11 +36,13 @@ class CaptureFields {
   CaptureFields(CapturePage page, HotkeyConfig& config);
 
   // Makes `page` the event filter of all line edits named "edt..." in `window`, and turns input
-  // methods off there: they would swallow keys. The fields outlive this object.
+  // methods off there: they would swallow keys. Nothing but keys gets into those that capture
+  // them. The fields outlive this object.
   void install(const QWidget& window, QObject& page);
 
-  // Shows the keys of the current scheme in all fields that have a setting.
-  void refresh() const;
+  // Shows the keys of the current scheme in all fields that have a setting. What was begun with a
+  // lone modifier is forgotten.
+  void refresh();
 
   // For the event filter of the page: whether the event is used up.
   bool filter(QObject* watched, QEvent* event);

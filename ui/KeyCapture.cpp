@@ -17,6 +17,7 @@ constexpr unsigned kLastVirtualKey = 0xFF;
 }  // namespace
 
 Capture KeyCapture::handle(const KeyEvent& event) {
+  if (event.isRepeat) return {};
   return event.isPress ? press(event) : leave();
 }
 
@@ -28,7 +29,7 @@ Capture KeyCapture::leave() {
 
 Capture KeyCapture::press(const KeyEvent& event) {
   const unsigned code = event.virtualKey;
-  if (event.isRepeat || code == kReturn || code == 0 || code > kLastVirtualKey) return {};
+  if (code == kReturn || code == 0 || code > kLastVirtualKey) return {};
 
   // Not every system counts a modifier as held while it is being pressed.
   const bool control = event.controlIsHeld || code == kControl;

@@ -9,13 +9,19 @@
 namespace brennet {
 
 void QuickChatKeyButtons::refresh() const {
-  check(static_cast<int>(config_->scheme().QuickChatIndex));
+  check(config_->scheme().QuickChatIndex == 0 ? 0 : 1);
 }
 
 void QuickChatKeyButtons::toggled(int set, bool isChecked) const {
-  if (!isChecked || config_->SetQuickChatIndex(static_cast<std::uint32_t>(set))) return;
-  check(1 - set);
-  tellKeySetIsUsed(button(set).window());
+  if (!isChecked) return;
+  // The choice may come from the buttons of another window.
+  const bool isChosen = config_->SetQuickChatIndex(static_cast<std::uint32_t>(set));
+  check(isChosen ? set : 1 - set);
+  if (isChosen) return;
+  // A window that is not shown asks through the one that it belongs to.
+  QWidget* const window = button(set).window();
+  const bool isAside = !window->isVisible() && window->parentWidget() != nullptr;
+  tellKeySetIsUsed(isAside ? window->parentWidget() : window);
 }
 
 QRadioButton& QuickChatKeyButtons::button(int set) const {

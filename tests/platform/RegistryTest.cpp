@@ -32,7 +32,8 @@ TEST(RegistryKey, GivesBackWhatWasWritten) {
   for (const RegistryValue& value :
        {dwordValue(0x51), RegistryValue{kRegistryBinary, ""}, RegistryValue{kRegistryBinary, "Q"},
         RegistryValue{kRegistryBinary, std::string(70000, '\xFE')},
-        RegistryValue{kRegistryDword, "\1\0"s}, RegistryValue{kRegistryText, "Q\0\0\0"s}}) {
+        RegistryValue{kRegistryDword, "\1\0"s}, RegistryValue{kRegistryText, "Q\0\0\0"s},
+        RegistryValue{kRegistryText, "no"}, RegistryValue{7, "odd"}}) {
     RegistryKey key(kKey);
     ASSERT_TRUE(key.isOpen());
     EXPECT_TRUE(key.write(u"N", value));

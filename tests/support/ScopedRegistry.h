@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ostream>
+#include <string>
 #include <string_view>
 
 #include "platform/RegFile.h"
@@ -17,7 +19,7 @@ class ScopedRegistry {
   ScopedRegistry(const ScopedRegistry&) = delete;
   ScopedRegistry& operator=(const ScopedRegistry&) = delete;
 
-  // What stands at and below Software\Tollamere.
+  // What stands at and below Software\Tollamere; elsewhere than on Windows, all that there is.
   [[nodiscard]] platform::RegFile content() const;
 
   // Creates keys, given below the user's root, and sets values past all that is tested.
@@ -38,3 +40,17 @@ class ScopedRegistry {
 }
 
 }  // namespace brennet::test
+
+namespace brennet::platform {
+
+// Shows a content in the messages of failed tests; what is not ASCII as question marks.
+inline void PrintTo(const RegFile& content, std::ostream* out) {
+  const std::string bytes = content.serialize();
+  *out << '\n';
+  for (std::size_t at = 2; at + 1 < bytes.size(); at += 2) {
+    const bool isAscii = bytes[at + 1] == 0 && static_cast<signed char>(bytes[at]) >= 0;
+    if (bytes[at] != '\r') *out << (isAscii ? bytes[at] : '?');
+  }
+}
+
+}  // namespace brennet::platform

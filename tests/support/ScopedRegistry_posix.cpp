@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -50,8 +51,9 @@ void ScopedRegistry::set(std::u16string_view path, std::u16string_view name,
   writeBytes(folder_ / kName, content.serialize());
 }
 
-// Permissions do not bind the superuser, who gives that up.
+// Permissions do not bind the superuser, who gives that up. The second time nothing is left to do.
 void ScopedRegistry::denyWriting(std::u16string_view) {
+  if (faccessat(AT_FDCWD, (folder_ / kName).c_str(), W_OK, AT_EACCESS) != 0) return;
   if (chmod((folder_ / kName).c_str(), 0444) != 0) throw std::runtime_error("no rights");
   if (getuid() == 0 && seteuid(kNobody) != 0) throw std::runtime_error("no other user");
 }

@@ -25,7 +25,7 @@ constexpr QMessageBox::StandardButtons kBoth = kOk | kCancel;
 QMessageBox::StandardButton ask(QMessageBox::StandardButtons buttons,
                                 QMessageBox::StandardButton defaultButton,
                                 std::function<void(QMessageBox&)> act) {
-  whenBoxIsShown(std::move(act));
+  const auto box = whenBoxIsShown(std::move(act));
   return CMsgBox::showMessage(nullptr, QMessageBox::Warning, QStringLiteral("title"),
                               QStringLiteral("text"), buttons, defaultButton);
 }

@@ -5,9 +5,14 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
 #include <QWidget>
+
+#include <memory>
 
 #include "ui/EditControl.h"
 
@@ -31,6 +36,8 @@ class Page : public QWidget {
   }
 
   QLineEdit& field(const char* name) { return *findChild<QLineEdit*>(QLatin1String(name)); }
+
+  void refresh() { fields_.refresh(); }
 
   HotkeyConfig config;
   int told = 0;
@@ -109,6 +116,32 @@ TEST(CaptureFields, LeaveTextFieldsAlone) {
     press(page.field(name), Qt::Key_Q);
     EXPECT_EQ(page.field(name).text(), QStringLiteral("x")) << name;
   }
+}
+
+TEST(CaptureFields, TakeNothingButKeys) {
+  Page page;
+  QLineEdit& field = page.field("edtSkill_1");
+  QMimeData text;
+  text.setText(QStringLiteral("dropped"));
+  QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&field, &drop);
+  field.paste();
+  EXPECT_EQ(field.text(), QString());
+  const std::unique_ptr<QMenu> menu(field.createStandardContextMenu());
+  for (const QAction* const action : menu->actions()) {
+    EXPECT_NE(action->objectName(), QStringLiteral("edit-paste"));
+  }
+  EXPECT_FALSE(page.field("edtText").isReadOnly());
+}
+
+TEST(CaptureFields, ForgetALoneModifierWhenTheyShowTheScheme) {
+  Page page;
+  page.config.editableScheme()->HeroSkillKey[0] = KeyWord('Q', 0);
+  QLineEdit& field = page.field("edtSkill_1");
+  press(field, Qt::Key_Control);
+  page.refresh();
+  release(field, Qt::Key_Control);
+  EXPECT_EQ(field.text(), QStringLiteral("Q"));
 }
 
 TEST(CaptureFields, TakeKeysBeforeInputMethodsAndShortcuts) {

@@ -33,6 +33,15 @@ KeyEvent release(unsigned key) {
   return {.isPress = false, .virtualKey = key};
 }
 
+TEST(KeyCapture, IgnoresTheReleasesOfAKeyThatRepeats) {
+  KeyCapture capture{CaptureStyle{}};
+  static_cast<void>(capture.handle({.isPress = true, .virtualKey = 0x11}));
+  EXPECT_EQ(capture.handle({.isPress = false, .isRepeat = true, .virtualKey = 'Q'}).outcome,
+            Capture::Outcome::Ignored);
+  EXPECT_EQ(capture.handle({.isPress = false, .virtualKey = 0x11}).outcome,
+            Capture::Outcome::Shown);
+}
+
 TEST(KeyCapture, TurnsAPressIntoAKeyAndItsText) {
   struct Row {
     KeyEvent event;

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QTimer>
 #include <QtGlobal>
 
 #include <algorithm>
@@ -36,20 +35,6 @@ void handleMessage(QtMsgType type, const QMessageLogContext& /*context*/, const 
   }
 }
 
-void actOn(const std::function<void(QMessageBox&)>& act) {
-  auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  if (box == nullptr) {
-    // Windows show their boxes when other events are handled.
-    whenBoxIsShown(act);
-    return;
-  }
-  act(*box);
-  if (QApplication::activeModalWidget() == box) {
-    ADD_FAILURE() << "the box is still open";
-    box->done(0);
-  }
-}
-
 }  // namespace
 
 CaughtMessages::CaughtMessages() {
@@ -64,8 +49,36 @@ QStringList CaughtMessages::texts() const {
   return *caught;
 }
 
-void whenBoxIsShown(std::function<void(QMessageBox&)> act) {
-  QTimer::singleShot(0, [act = std::move(act)] { actOn(act); });
+// Windows show their boxes when other events are handled: so it looks again and again.
+ExpectedBox::ExpectedBox(std::function<void(QMessageBox&)> act) : act_(std::move(act)) {
+  QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { look(); });
+  timer_.start(0);
+}
+
+ExpectedBox::~ExpectedBox() {
+  if (!isShown_) ADD_FAILURE() << "no box has come up";
+}
+
+void ExpectedBox::look() {
+  auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  if (box == nullptr) return;
+  isShown_ = true;
+  timer_.stop();
+  act_(*box);
+  if (QApplication::activeModalWidget() == box) {
+    ADD_FAILURE() << "the box is still open";
+    box->done(0);
+  }
+}
+
+NoBoxes::NoBoxes() {
+  QObject::connect(&timer_, &QTimer::timeout, &timer_, [] {
+    QWidget* const box = QApplication::activeModalWidget();
+    if (box == nullptr) return;
+    ADD_FAILURE() << "a box comes up";
+    box->close();
+  });
+  timer_.start(0);
 }
 
 void failOnWarnings() {

@@ -3,6 +3,7 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QMessageBox>
 
 #include "tests/ui/UiTest.h"
@@ -28,8 +29,25 @@ TEST(TheTestsOfWindows, CanAskForMessages) {
 }
 
 TEST(TheTestsOfWindows, FailWhenABoxIsLeftOpen) {
-  whenBoxIsShown([](QMessageBox&) {});
+  const auto box = whenBoxIsShown([](QMessageBox&) {});
   EXPECT_NONFATAL_FAILURE(QMessageBox().exec(), "the box is still open");
+}
+
+TEST(TheTestsOfWindows, FailWhenNoBoxComesAndWaitForItNoLonger) {
+  int acts = 0;
+  const auto wait = [&acts] {
+    const auto box = whenBoxIsShown([&acts](QMessageBox&) { ++acts; });
+    QCoreApplication::processEvents();
+  };
+  EXPECT_NONFATAL_FAILURE(wait(), "no box has come up");
+  const auto box = whenBoxIsShown([](QMessageBox& shown) { shown.accept(); });
+  QMessageBox().exec();
+  EXPECT_EQ(acts, 0) << "the box is that of another test";
+}
+
+TEST(TheTestsOfWindows, FailWhenABoxComesThatMayNot) {
+  const NoBoxes none;
+  EXPECT_NONFATAL_FAILURE(QMessageBox().exec(), "a box comes up");
 }
 
 }  // namespace

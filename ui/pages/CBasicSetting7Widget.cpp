@@ -1,22 +1,20 @@
 #include "ui/pages/CBasicSetting7Widget.h"
 
 #include <QCoreApplication>
+#include <QHideEvent>
 #include <QLineEdit>
 #include <QWindow>
 
 #include "model/RecommendedScheme.h"
-#include "ui/FeatureKeys.h"
-#include "ui/KeyMessages.h"
 #include "ui/TabOrder.h"
-#include "ui/Text.h"
+#include "ui/pages/BasicCapture.h"
 #include "ui/pages/COrrerySettingDlg.h"
-#include "ui/pages/EditControlTrace.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_CHotkeySettingPage.h"
 
 using brennet::HotkeyScheme;
 
-// A switch of the game. One that does nothing but to store needs no slot of its own.
+// A switch of the game. The ones that clients know have slots; a new one needs none.
 struct CBasicSetting7Widget::Option {
   const char* objectName;
   const char* text;
@@ -50,29 +48,6 @@ brennet::KeyRowTexts rowTexts() {
       .remapTarget = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "自定义改键 %1：发送的键")),
       .groupSource = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "组合改键：按下的键 %1")),
       .groupTarget = text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "组合改键：发送的键")),
-  };
-}
-
-std::optional<brennet::KeySetting> settingOf(std::u16string_view name) {
-  if (const auto feature = brennet::featureKeyOf(name)) return feature;
-  brennet::EditControl control;
-  const bool known =
-      brennet::getEditControlTypeByParseName(name, brennet::BasicPage::Current, control);
-  return known ? brennet::settingOf(control) : std::nullopt;
-}
-
-brennet::CapturePage capturePage(const CBasicSetting7Widget& page, QWidget* box) {
-  return {
-      .style = {.beforeName = u" "},
-      .settingOf = settingOf,
-      .trace =
-          [&page](const QLineEdit& field) {
-            const QString name = field.objectName();
-            if (brennet::featureKeyOf(brennet::viewOf(name))) return;
-            brennet::EditControl control;
-            page.getEditControlTypeByParseName(name, control);
-          },
-      .tellUsed = [box] { brennet::tellKeyIsUsed(box); },
   };
 }
 
@@ -110,7 +85,7 @@ CBasicSetting7Widget::CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidge
       config_(config),
       form_(formOn(*this)),
       orrery_(std::make_unique<COrrerySettingDlg>()),
-      fields_(capturePage(*this, this), config),
+      fields_(brennet::basicCapturePage(brennet::BasicPage::Current, *this), config),
       switches_(config),
       presets_({form_->chkGroupKey1, form_->chkGroupKey2, form_->chkGroupKey3}, config) {
   buildRows();
@@ -123,12 +98,15 @@ CBasicSetting7Widget::CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidge
   refresh();
 }
 
-CBasicSetting7Widget::~CBasicSetting7Widget() = default;
+// The Orrery window sends its events here to the end.
+CBasicSetting7Widget::~CBasicSetting7Widget() {
+  orrery_.reset();
+}
 
 void CBasicSetting7Widget::buildRows() {
   const brennet::KeyRowTexts texts = rowTexts();
-  brennet::addSkillRows(*form_->laySkills, brennet::kHeroSkills, texts);
-  brennet::addItemRows(*form_->layItems, texts);
+  skillMarks_ = brennet::addSkillRows(*form_->laySkills, brennet::kHeroSkills, texts);
+  itemMarks_ = brennet::addItemRows(*form_->layItems, texts);
   brennet::addRemapRows(*form_->layRemaps, texts);
   // Both rows edit the same combination keys; the one with three sources is for the player.
   brennet::addGroupRow(*form_->layGroupRemap, QStringLiteral("edt_skillex_GROUP"), 2, texts);
@@ -184,21 +162,11 @@ void CBasicSetting7Widget::connectButtons() {
   onClick(form_->btnTalkSetting, &Page::onClickedTalkSettingBtn);
   onClick(form_->btnDota7Setting, &Page::onClickedDota7SettingBtn);
   for (std::size_t i = 0; i < brennet::kHeroSkills; ++i) {
-    onClick(skillMark(i), &Page::onClickedHeroSkillAutocastButton);
+    onClick(skillMarks_[i], &Page::onClickedHeroSkillAutocastButton);
   }
   for (std::size_t i = 0; i < brennet::kItemSlots; ++i) {
-    onClick(itemMark(i), &Page::onClickedItemAutocastButton);
+    onClick(itemMarks_[i], &Page::onClickedItemAutocastButton);
   }
-}
-
-QPushButton* CBasicSetting7Widget::skillMark(std::size_t position) const {
-  return findChild<QPushButton*>(QStringLiteral("btn_skillcast_%1").arg(position + 1));
-}
-
-QPushButton* CBasicSetting7Widget::itemMark(std::size_t slot) const {
-  constexpr int kNumpad0 = 0x60;
-  const int digit = brennet::kItemSlotCodes[slot] - kNumpad0;
-  return findChild<QPushButton*>(QStringLiteral("btn_goods_cast_%1").arg(digit));
 }
 
 QCheckBox* CBasicSetting7Widget::orreryMana() const {
@@ -216,10 +184,10 @@ void CBasicSetting7Widget::refresh() {
 void CBasicSetting7Widget::refreshMarks() {
   const HotkeyScheme& scheme = config_.scheme();
   for (std::size_t i = 0; i < brennet::kHeroSkills; ++i) {
-    skillMark(i)->setChecked(scheme.HeroSkillAutocast[i].value_or(false));
+    skillMarks_[i]->setChecked(scheme.HeroSkillAutocast[i].value_or(false));
   }
   for (std::size_t i = 0; i < brennet::kItemSlots; ++i) {
-    itemMark(i)->setChecked(scheme.ItemAutocast[i].value_or(false));
+    itemMarks_[i]->setChecked(scheme.ItemAutocast[i].value_or(false));
   }
 }
 
@@ -242,14 +210,17 @@ void CBasicSetting7Widget::useRecommended() {
 
 bool CBasicSetting7Widget::getEditControlTypeByParseName(const QString& name,
                                                          brennet::EditControl& control) const {
-  const bool known = brennet::getEditControlTypeByParseName(brennet::viewOf(name),
-                                                            brennet::BasicPage::Current, control);
-  brennet::traceEditControl(name, known, control);
-  return known;
+  return brennet::tracedEditControl(name, brennet::BasicPage::Current, control);
 }
 
 bool CBasicSetting7Widget::eventFilter(QObject* watched, QEvent* event) {
   return fields_.filter(watched, event) || QWidget::eventFilter(watched, event);
+}
+
+// What the Orrery window edits belongs to the page: it goes with it, but not when it is iconified.
+void CBasicSetting7Widget::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  if (!event->spontaneous()) orrery_->hide();
 }
 
 void CBasicSetting7Widget::onToggled_DisableLWin(bool bChecked) {
@@ -344,7 +315,7 @@ void CBasicSetting7Widget::onClickedOrrerySettingBtn() {
 
 void CBasicSetting7Widget::onClickedHeroSkillAutocastButton() {
   for (int i = 0; i < brennet::kHeroSkills; ++i) {
-    config_.SetHeroSkillAutocast(i, skillMark(static_cast<std::size_t>(i))->isChecked());
+    config_.SetHeroSkillAutocast(i, skillMarks_[static_cast<std::size_t>(i)]->isChecked());
   }
 }
 
@@ -357,12 +328,12 @@ void CBasicSetting7Widget::onClickedHeroSkillAutocastClearAll() {
 }
 
 void CBasicSetting7Widget::setSkillMarks(bool on) {
-  for (std::size_t i = 0; i < brennet::kHeroSkills; ++i) skillMark(i)->setChecked(on);
+  for (std::size_t i = 0; i < brennet::kHeroSkills; ++i) skillMarks_[i]->setChecked(on);
   onClickedHeroSkillAutocastButton();
 }
 
 void CBasicSetting7Widget::onClickedItemAutocastButton() {
   for (std::size_t i = 0; i < brennet::kItemSlots; ++i) {
-    config_.SetItemAutocast(brennet::kItemSlotCodes[i], itemMark(i)->isChecked());
+    config_.SetItemAutocast(brennet::kItemSlotCodes[i], itemMarks_[i]->isChecked());
   }
 }

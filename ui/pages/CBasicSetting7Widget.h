@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <span>
+#include <vector>
 
 #include "ui/CaptureFields.h"
 #include "ui/EditControl.h"
@@ -32,7 +33,7 @@ class CBasicSetting7Widget : public QWidget {
   void refresh();
   // Takes away all that the page shows, and what else a reset takes, from the current scheme.
   void reset();
-  // Puts the recommended keys into the current scheme (RecommendedScheme.h).
+  // Resets the current scheme and puts the recommended keys into it (RecommendedScheme.h).
   void useRecommended();
 
   // Which setting the field of this name edits; writes a trace line.
@@ -40,6 +41,7 @@ class CBasicSetting7Widget : public QWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  signals:
   void showHotKeySettingDlg();
@@ -83,8 +85,6 @@ class CBasicSetting7Widget : public QWidget {
   void connectButtons();
   void refreshMarks();
   void setSkillMarks(bool on);
-  [[nodiscard]] QPushButton* skillMark(std::size_t position) const;
-  [[nodiscard]] QPushButton* itemMark(std::size_t slot) const;
   [[nodiscard]] QCheckBox* orreryMana() const;
 
   brennet::HotkeyConfig& config_;
@@ -93,4 +93,6 @@ class CBasicSetting7Widget : public QWidget {
   brennet::CaptureFields fields_;
   brennet::SwitchBoxes switches_;
   brennet::PresetBoxes presets_;
+  std::vector<QPushButton*> skillMarks_;
+  std::vector<QPushButton*> itemMarks_;
 };

@@ -3,10 +3,8 @@
 #include <QCoreApplication>
 #include <QLineEdit>
 
-#include "ui/KeyMessages.h"
 #include "ui/TabOrder.h"
-#include "ui/Text.h"
-#include "ui/pages/EditControlTrace.h"
+#include "ui/pages/BasicCapture.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_CBasicSettingWidget.h"
 
@@ -22,32 +20,12 @@ std::unique_ptr<Ui::CBasicSettingWidget> formOn(QWidget& page) {
   return form;
 }
 
-std::optional<brennet::KeySetting> settingOf(std::u16string_view name) {
-  brennet::EditControl control;
-  const bool known =
-      brennet::getEditControlTypeByParseName(name, brennet::BasicPage::Older, control);
-  return known ? brennet::settingOf(control) : std::nullopt;
-}
-
-brennet::CapturePage capturePage(const CBasicSettingWidget& page, QWidget* box) {
-  return {
-      .style = {.beforeName = u" "},
-      .settingOf = settingOf,
-      .trace =
-          [&page](const QLineEdit& field) {
-            brennet::EditControl control;
-            page.getEditControlTypeByParseName(field.objectName(), control);
-          },
-      .tellUsed = [box] { brennet::tellKeyIsUsed(box); },
-  };
-}
-
 }  // namespace
 
 CBasicSettingWidget::CBasicSettingWidget(brennet::HotkeyConfig& config, QWidget* dialog)
     : QWidget(dialog),
       form_(formOn(*this)),
-      fields_(capturePage(*this, this), config),
+      fields_(brennet::basicCapturePage(brennet::BasicPage::Older, *this), config),
       switches_(config) {
   buildRows();
   brennet::setTabOrderOfLayouts(*this);
@@ -95,10 +73,7 @@ void CBasicSettingWidget::connectSwitches() {
 
 bool CBasicSettingWidget::getEditControlTypeByParseName(const QString& name,
                                                         brennet::EditControl& control) const {
-  const bool known = brennet::getEditControlTypeByParseName(brennet::viewOf(name),
-                                                            brennet::BasicPage::Older, control);
-  brennet::traceEditControl(name, known, control);
-  return known;
+  return brennet::tracedEditControl(name, brennet::BasicPage::Older, control);
 }
 
 bool CBasicSettingWidget::eventFilter(QObject* watched, QEvent* event) {

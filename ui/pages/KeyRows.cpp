@@ -1,7 +1,6 @@
 #include "ui/pages/KeyRows.h"
 
 #include <QBoxLayout>
-#include <QFontMetrics>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,9 +15,9 @@ namespace {
 constexpr int kRemaps = 5;
 constexpr int kNumpad0 = 0x60;
 
-// Puts the quick-cast button of `what` into a cell, on pages that have such buttons.
-void addCastButton(QGridLayout& grid, int row, int column, const QString& objectName,
-                   const QString& what, const KeyRowTexts& texts) {
+// Puts the quick-cast button of `what` into a cell and into `buttons`, on pages that have them.
+void addCastButton(QGridLayout& grid, CardPosition cell, const QString& objectName,
+                   const QString& what, const KeyRowTexts& texts, CastButtons& buttons) {
   if (texts.quickCast.isEmpty()) return;
   auto* const button = new QPushButton;
   button->setObjectName(objectName);
@@ -26,7 +25,8 @@ void addCastButton(QGridLayout& grid, int row, int column, const QString& object
   button->setAutoDefault(false);
   button->setAccessibleName(texts.quickCast.arg(what));
   button->setToolTip(texts.castToolTip);
-  grid.addWidget(button, row, column);
+  grid.addWidget(button, cell.row, cell.column);
+  buttons.push_back(button);
 }
 
 QLabel* newLabel(const QString& text, QLineEdit* field) {
@@ -44,17 +44,6 @@ QString arrow() {
   return QStringLiteral(u"\u2192");
 }
 
-// The entry of `positions` at a place.
-template <std::size_t Count>
-int indexAt(const std::array<CardPosition, Count>& positions, int row, int column) {
-  int index = 0;
-  for (const CardPosition& position : positions) {
-    if (position.row == row && position.column == column) return index;
-    ++index;
-  }
-  return -1;
-}
-
 }  // namespace
 
 QLineEdit* newKeyField(const QString& objectName, const QString& accessibleName) {
@@ -64,22 +53,20 @@ QLineEdit* newKeyField(const QString& objectName, const QString& accessibleName)
   return field;
 }
 
-void addSkillRows(QGridLayout& grid, int count, const KeyRowTexts& texts) {
-  constexpr int kRows = 3;
-  constexpr int kColumns = 4;
-  for (int row = 0; row < kRows; ++row) {
-    for (int column = 0; column < kColumns; ++column) {
-      const int number = indexAt(kCommandCard, row, column) + 1;
-      if (number > count) continue;
-      const QString what = texts.skill.arg(number);
-      grid.addWidget(newKeyField(QStringLiteral("edtSkill_%1").arg(number), what), row, 2 * column);
-      addCastButton(grid, row, 2 * column + 1, QStringLiteral("btn_skillcast_%1").arg(number), what,
-                    texts);
-    }
+CastButtons addSkillRows(QGridLayout& grid, int count, const KeyRowTexts& texts) {
+  CastButtons buttons;
+  for (int number = 1; number <= count; ++number) {
+    const auto [row, column] = kCommandCard[static_cast<std::size_t>(number - 1)];
+    const QString what = texts.skill.arg(number);
+    grid.addWidget(newKeyField(QStringLiteral("edtSkill_%1").arg(number), what), row, 2 * column);
+    addCastButton(grid, {row, 2 * column + 1}, QStringLiteral("btn_skillcast_%1").arg(number), what,
+                  texts, buttons);
   }
+  return buttons;
 }
 
-void addItemRows(QGridLayout& grid, const KeyRowTexts& texts) {
+CastButtons addItemRows(QGridLayout& grid, const KeyRowTexts& texts) {
+  CastButtons buttons;
   for (std::size_t slot = 0; slot < kInventory.size(); ++slot) {
     const auto [row, column] = kInventory[slot];
     const QString digit = QString::number(kItemSlotCodes[slot] - kNumpad0);
@@ -87,9 +74,10 @@ void addItemRows(QGridLayout& grid, const KeyRowTexts& texts) {
     auto* const field = newKeyField(QStringLiteral("edtGoodsKey_") + digit, what);
     grid.addWidget(newLabel(digit, field), row, 3 * column);
     grid.addWidget(field, row, 3 * column + 1);
-    addCastButton(grid, row, 3 * column + 2, QStringLiteral("btn_goods_cast_") + digit, what,
-                  texts);
+    addCastButton(grid, {row, 3 * column + 2}, QStringLiteral("btn_goods_cast_") + digit, what,
+                  texts, buttons);
   }
+  return buttons;
 }
 
 void addRemapRows(QGridLayout& grid, const KeyRowTexts& texts) {

@@ -2,14 +2,15 @@
 
 #include <QString>
 
+#include <vector>
+
 class QGridLayout;
 class QBoxLayout;
 class QLineEdit;
 class QPushButton;
-class QWidget;
 
 // The rows of key fields that the basic pages are made of. All widgets become children of the
-// widget that the layout belongs to, and stand in the tab order as they are made.
+// widget that the layout belongs to.
 
 namespace brennet {
 
@@ -26,13 +27,16 @@ struct KeyRowTexts {
 // A field for a key, as wide as most keys need.
 [[nodiscard]] QLineEdit* newKeyField(const QString& objectName, const QString& accessibleName);
 
+// Quick-cast buttons, in the order of the skills or slots; empty on pages that have none.
+using CastButtons = std::vector<QPushButton*>;
+
 // The first `count` hero skills on the places that they have on the game's command card: fields
 // edtSkill_n and their quick-cast buttons btn_skillcast_n.
-void addSkillRows(QGridLayout& grid, int count, const KeyRowTexts& texts);
+CastButtons addSkillRows(QGridLayout& grid, int count, const KeyRowTexts& texts);
 
 // The six items on the places that they have in the inventory, each with the digit of its slot:
 // fields edtGoodsKey_d and their quick-cast buttons btn_goods_cast_d.
-void addItemRows(QGridLayout& grid, const KeyRowTexts& texts);
+CastButtons addItemRows(QGridLayout& grid, const KeyRowTexts& texts);
 
 // The five custom remaps, two in a row: fields edt_skillex_L_n and edt_skillex_R_n.
 void addRemapRows(QGridLayout& grid, const KeyRowTexts& texts);

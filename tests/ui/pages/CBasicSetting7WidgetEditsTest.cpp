@@ -59,7 +59,7 @@ TEST_F(BasicPage, StoresTheKeyOfEachField) {
 TEST_F(BasicPage, RefusesAKeyOfThePreset) {
   scheme.NumComboKeyIndex = 0;
   QString told;
-  whenBoxIsShown([&](QMessageBox& box) {
+  const auto warning = whenBoxIsShown([&](QMessageBox& box) {
     told = box.text();
     EXPECT_EQ(box.parentWidget(), &page);
     EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
@@ -271,7 +271,7 @@ TEST_F(BasicPage, LeavesSchemesThatItCannotEditAlone) {
   button("btn_SetAll_AutoCast").click();
   button("btn_goods_cast_7").click();
   pressKey(field("edtSkill_1"), Qt::Key_Delete);
-  whenBoxIsShown([](QMessageBox& box) { box.accept(); });
+  const auto warning = whenBoxIsShown([](QMessageBox& box) { box.accept(); });
   pressKey(field("edtSkill_1"), Qt::Key_Q);
   page.reset();
   page.useRecommended();

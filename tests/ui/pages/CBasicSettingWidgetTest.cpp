@@ -59,7 +59,7 @@ TEST_F(OlderBasicPage, CapturesKeys) {
   EXPECT_EQ(field("edtSkill_7").text(), QStringLiteral("Alt + Q"));
   pressKey(field("edtHotKeyLedgerSkill"), Qt::Key_W);
   EXPECT_EQ(scheme.SecretaryKey[2], KeyWord('W', 0));
-  whenBoxIsShown([](QMessageBox& box) { box.accept(); });
+  const auto warning = whenBoxIsShown([](QMessageBox& box) { box.accept(); });
   pressKey(field("edtGoodsKey_1"), Qt::Key_W);
   EXPECT_EQ(scheme.ItemKey[4], kNoKey);
   pressKey(field("edt_skillex_GROUP_L_2"), Qt::Key_E);

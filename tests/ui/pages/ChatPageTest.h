@@ -4,11 +4,11 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
-#include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
-#include <QTimer>
 #include <QWidget>
+
+#include <optional>
 
 #include "tests/ui/UiTest.h"
 
@@ -35,9 +35,8 @@ inline QString buddyOf(const QWidget& window, const QString& label) {
 // Does `act`, which has to bring one warning up: about `text`, modal to `parent`, with OK alone.
 template <class Act>
 void expectWarning(const QWidget& parent, const char* text, Act act) {
-  int boxes = 0;
-  whenBoxIsShown([&](QMessageBox& box) {
-    ++boxes;
+  std::optional<NoBoxes> noMore;
+  const auto expected = whenBoxIsShown([&](QMessageBox& box) {
     EXPECT_EQ(box.icon(), QMessageBox::Warning);
     EXPECT_EQ(box.windowTitle(), QStringLiteral("IDS_TITLE"));
     EXPECT_EQ(box.text(), QLatin1String(text));
@@ -45,34 +44,9 @@ void expectWarning(const QWidget& parent, const char* text, Act act) {
     EXPECT_EQ(box.parentWidget(), &parent);
     EXPECT_STREQ(box.metaObject()->className(), "CMsgBox");
     box.button(QMessageBox::Ok)->click();
+    noMore.emplace();
   });
-  QTimer another;
-  QObject::connect(&another, &QTimer::timeout, [&] {
-    QWidget* const box = QApplication::activeModalWidget();
-    if (box == nullptr || boxes == 0) return;
-    ADD_FAILURE() << "there is one more box";
-    box->close();
-  });
-  another.start(0);
   act();
-  EXPECT_EQ(boxes, 1);
 }
-
-// Fails where a box comes up in its life, instead of waiting for somebody to close it.
-class NoBoxes {
- public:
-  NoBoxes() {
-    QObject::connect(&timer_, &QTimer::timeout, [] {
-      QWidget* const box = QApplication::activeModalWidget();
-      if (box == nullptr) return;
-      ADD_FAILURE() << "a box comes up";
-      box->close();
-    });
-    timer_.start(0);
-  }
-
- private:
-  QTimer timer_;
-};
 
 }  // namespace brennet::test

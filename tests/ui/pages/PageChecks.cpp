@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMetaMethod>
 
@@ -36,18 +37,59 @@ QString spokenName(const QWidget& widget) {
   return button == nullptr ? QString() : button->text();
 }
 
+// Pictures have no room for their texts: labels below them show those.
+bool isPicture(const QWidget& widget) {
+  return qobject_cast<const QAbstractButton*>(&widget) != nullptr &&
+         widget.minimumSize() == widget.maximumSize();
+}
+
 // The width that a widget needs for its text; 0 for what has none, or wraps it.
 int neededWidth(const QWidget& widget) {
-  // Pictures have no room for their texts: labels below them show those.
-  if (widget.minimumWidth() == widget.maximumWidth()) return 0;
   const auto* const label = qobject_cast<const QLabel*>(&widget);
   const bool hasText = (label != nullptr && !label->wordWrap()) ||
                        qobject_cast<const QAbstractButton*>(&widget) != nullptr;
   return hasText ? widget.sizeHint().width() : 0;
 }
 
+// For a fault to say where it is.
+QString nameOf(const QWidget& widget) {
+  const QString name = widget.objectName();
+  return name.isEmpty() ? QLatin1String(widget.metaObject()->className()) + spokenName(widget)
+                        : name;
+}
+
 QRect placeIn(const QWidget& window, const QWidget& widget) {
   return {widget.mapTo(&window, QPoint()), widget.size()};
+}
+
+// Widgets that are shown within the same one, which gives each a place of its own. A view with
+// scroll bars lays its parts out by itself, and a window stands where it likes.
+QWidgetList placedIn(const QWidget& parent, const QWidget& window) {
+  QWidgetList placed;
+  if (qobject_cast<const QAbstractScrollArea*>(&parent) != nullptr) return placed;
+  for (QWidget* const child :
+       parent.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (child->isVisibleTo(&window) && !child->isWindow()) placed += child;
+  }
+  return placed;
+}
+
+// Where a widget shows something: one that only holds others does so where they are.
+QRect filledBy(const QWidget& widget) {
+  const bool isPlain = widget.metaObject() == &QWidget::staticMetaObject;
+  if (!isPlain || widget.layout() == nullptr) return widget.geometry();
+  return widget.layout()->contentsRect().translated(widget.pos());
+}
+
+void expectNoOverlap(const QWidget& parent, const QWidget& window) {
+  const QWidgetList placed = placedIn(parent, window);
+  for (int i = 0; i < placed.size(); ++i) {
+    for (int j = 0; j < i; ++j) {
+      EXPECT_FALSE(filledBy(*placed[i]).intersects(filledBy(*placed[j])))
+          << qPrintable(nameOf(*placed[i])) << " and " << qPrintable(nameOf(*placed[j]))
+          << " overlap";
+    }
+  }
 }
 
 }  // namespace
@@ -100,17 +142,19 @@ void expectAccessible(const QWidget& page) {
 }
 
 void expectNothingIsCut(QWidget& window) {
+  expectNoOverlap(window, window);
   const auto widgets = window.findChildren<QWidget*>();
   for (const QWidget* const widget : widgets) {
     if (!widget->isVisibleTo(&window)) continue;
+    expectNoOverlap(*widget, window);
     // A table gives its headers the room that they need.
     if (qobject_cast<const QAbstractScrollArea*>(widget->parentWidget()) != nullptr) continue;
-    EXPECT_LE(neededWidth(*widget), widget->width()) << qPrintable(widget->objectName());
-    EXPECT_GE(widget->height(), widget->minimumSizeHint().height())
-        << qPrintable(widget->objectName());
+    if (isPicture(*widget)) continue;
+    EXPECT_LE(neededWidth(*widget), widget->width()) << qPrintable(nameOf(*widget));
+    EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << qPrintable(nameOf(*widget));
     if (widget->parentWidget() == nullptr || widget->isWindow()) continue;
     EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()))
-        << qPrintable(widget->objectName()) << " stands out of its parent";
+        << qPrintable(nameOf(*widget)) << " stands out of its parent";
   }
 }
 

@@ -27,20 +27,26 @@ void releaseKey(QLineEdit& field, Qt::Key key);
 // mnemonic partner missing: a label that stands left of a line edit in its row is its buddy.
 void expectAccessible(const QWidget& page);
 
-// Makes all texts half as long again while it lives.
+// Makes all texts longer while it lives: to 150 or 200 percent of their length.
 class LongerTexts : public QTranslator {
  public:
-  LongerTexts() { QCoreApplication::installTranslator(this); }
+  explicit LongerTexts(int percent = 150) : percent_(percent) {
+    QCoreApplication::installTranslator(this);
+  }
   ~LongerTexts() override { QCoreApplication::removeTranslator(this); }
   [[nodiscard]] bool isEmpty() const override { return false; }
   [[nodiscard]] QString translate(const char* /*context*/, const char* text,
                                   const char* /*comment*/, int /*number*/) const override {
     const QString whole = QString::fromUtf8(text);
-    return whole + whole.left((whole.size() + 1) / 2);
+    return whole + whole.left((whole.size() * (percent_ - 100) + 99) / 100);
   }
+
+ private:
+  int percent_;
 };
 
-// Fails where the text of a label, check box or button does not fit in, and where siblings overlap.
+// Fails where the text of a label, check box or button does not fit in, where a widget stands out
+// of its parent, and where two in the same parent overlap.
 void expectNothingIsCut(QWidget& window);
 
 }  // namespace brennet::test

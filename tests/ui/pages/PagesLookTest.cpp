@@ -1,14 +1,18 @@
 // What holds for the look of every page: nothing is cut, whatever the size of letters and the
 // length of texts, and showing other settings costs no new look.
 
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLabel>
+#include <QTranslator>
 #include <QVBoxLayout>
 
 #include "model/HotkeyConfig.h"
 #include "model/RecommendedScheme.h"
 #include "tests/ui/pages/PageChecks.h"
+#include "ui/CMsgBox.h"
 #include "ui/StyleSheet.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
@@ -45,21 +49,33 @@ class PagesLook : public testing::Test {
  protected:
   ~PagesLook() override { QApplication::setFont(font_); }
 
-  // The page in a window in the skin, as large as it asks for.
-  void checkAll() {
-    for (const PageRow& row : kPages) {
-      SCOPED_TRACE(row.name);
-      QWidget window;
-      auto* const layout = new QVBoxLayout(&window);
-      QWidget* const page = row.make(config_, &window);
-      page->setWindowFlags(Qt::Widget);
-      layout->addWidget(page);
-      loadStyleSheet(window, QStringLiteral(":/skin/war3key.qss"));
-      window.resize(window.sizeHint());
+  // In a window in the skin, as large as it asks for and as small as it lets itself be made.
+  void checkPage(const PageRow& row) {
+    QWidget window;
+    auto* const layout = new QVBoxLayout(&window);
+    QWidget* const page = row.make(config_, &window);
+    page->setWindowFlags(Qt::Widget);
+    layout->addWidget(page);
+    loadStyleSheet(window, QStringLiteral(":/skin/war3key.qss"));
+    for (const bool isSmallest : {false, true}) {
+      SCOPED_TRACE(isSmallest ? "as small as it can be" : "as it comes");
+      window.resize(isSmallest ? window.minimumSizeHint() : window.sizeHint());
       window.show();
       QCoreApplication::processEvents();
       expectNothingIsCut(*page);
     }
+  }
+
+  // It has one size only, and wraps its text.
+  static void checkBox() {
+    SCOPED_TRACE("box");
+    const auto text = [](const char* id) { return QCoreApplication::translate("QObject", id); };
+    CMsgBox box(QMessageBox::Warning, text("IDS_TITLE"), text("IDS_GROUP_KEY_USED"),
+                QMessageBox::Ok | QMessageBox::Cancel);
+    box.setButtonTexts();
+    box.show();
+    QCoreApplication::processEvents();
+    expectNothingIsCut(box);
   }
 
   void checkAllSizes() {
@@ -68,7 +84,11 @@ class PagesLook : public testing::Test {
       QFont font = font_;
       font.setPointSizeF(9.0 * percent / 100);
       QApplication::setFont(font);
-      checkAll();
+      checkBox();
+      for (const PageRow& row : kPages) {
+        SCOPED_TRACE(row.name);
+        checkPage(row);
+      }
     }
   }
 
@@ -81,8 +101,41 @@ TEST_F(PagesLook, HasRoomForLettersOfAllSizes) {
 }
 
 TEST_F(PagesLook, HasRoomForTextsHalfAsLongAgain) {
-  const LongerTexts longer;
+  const LongerTexts longer(150);
   checkAllSizes();
+}
+
+TEST_F(PagesLook, HasRoomForTextsTwiceAsLong) {
+  const LongerTexts longer(200);
+  checkAllSizes();
+}
+
+TEST_F(PagesLook, HasRoomForBothLanguages) {
+  for (const char* const language : {"en", "zh_CN"}) {
+    SCOPED_TRACE(language);
+    QTranslator catalogue;  // it leaves the application with its life
+    ASSERT_TRUE(catalogue.load(QStringLiteral("brennet_%1.qm").arg(QLatin1String(language)),
+                               QStringLiteral(BRENNET_TRANSLATIONS)));
+    QCoreApplication::installTranslator(&catalogue);
+    checkAllSizes();
+  }
+}
+
+TEST(TheCheckForCutTexts, FindsThem) {
+  QWidget window;
+  QLabel text(QStringLiteral("a text"), &window);
+  QLabel other(QStringLiteral("another"), &window);
+  window.resize(300, 100);
+  text.setGeometry(0, 0, 100, 30);
+  other.setGeometry(101, 0, 100, 30);
+  window.show();
+  expectNothingIsCut(window);
+  other.move(99, 0);
+  EXPECT_NONFATAL_FAILURE(expectNothingIsCut(window), "overlap");
+  other.move(201, 0);
+  EXPECT_NONFATAL_FAILURE(expectNothingIsCut(window), "stands out of its parent");
+  other.setGeometry(101, 0, 5, 30);
+  EXPECT_NONFATAL_FAILURE(expectNothingIsCut(window), "QLabel");
 }
 
 // Counts what makes the style look at a widget anew.

@@ -187,7 +187,7 @@ QStringList textsOf(const QWidget& window) {
 
 void showMessages(QStringList& texts) {
   for (void (*const tell)(QWidget*) : {tellKeyIsUsed, tellKeySetIsUsed}) {
-    whenBoxIsShown([&](QMessageBox& box) {
+    const auto warning = whenBoxIsShown([&](QMessageBox& box) {
       texts << box.windowTitle() << box.text() << textsOf(box);
       box.done(0);
     });

@@ -1,0 +1,116 @@
+// Pages that come and go while something of theirs is open.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTimer>
+#include <QToolTip>
+
+#include "tests/ui/UiTest.h"
+#include "tests/ui/pages/BasicPageTest.h"
+#include "tests/ui/pages/PageChecks.h"
+#include "ui/CMsgBox.h"
+#include "ui/pages/CAdvancedSettingWidget.h"
+#include "ui/pages/ChatKeySettingWidget.h"
+
+namespace brennet::test {
+namespace {
+
+COrrerySettingDlg* orreryWindow() {
+  for (QWidget* const window : QApplication::topLevelWidgets()) {
+    if (auto* const dialog = qobject_cast<COrrerySettingDlg*>(window)) return dialog;
+  }
+  return nullptr;
+}
+
+TEST(ABox, MayGoWithItsParentWhileItIsOpen) {
+  auto parent = std::make_unique<QWidget>();
+  bool isShown = false;
+  QTimer::singleShot(0, [&] {
+    isShown = qobject_cast<CMsgBox*>(QApplication::activeModalWidget()) != nullptr;
+    parent.reset();
+  });
+  EXPECT_EQ(CMsgBox::showMessage(parent.get(), QMessageBox::Warning, QStringLiteral("title"),
+                                 QStringLiteral("text")),
+            QMessageBox::NoButton);
+  EXPECT_TRUE(isShown);
+}
+
+TEST(APage, MayGoWhileItTellsOfAUsedKey) {
+  HotkeyConfig config;
+  config.editableScheme()->HeroSkillKey[0] = KeyWord('Q', 0);
+  auto page = std::make_unique<CBasicSetting7Widget>(config, nullptr);
+  QTimer::singleShot(0, [&] { page.reset(); });
+  pressKey(*page->findChild<QLineEdit*>(QStringLiteral("edtSkill_2")), Qt::Key_Q);
+  EXPECT_EQ(page, nullptr);
+  EXPECT_EQ(config.scheme().HeroSkillKey[1], kNoKey);
+}
+
+TEST(AQuickChatWindow, MayGoWhileItsResetAsks) {
+  HotkeyConfig config;
+  config.editableScheme()->QuickChatIndex = 0;
+  config.editableScheme()->ShowFBlood = KeyWord(0x70, KeyWord::kAlt);  // Alt+F1
+  auto window = std::make_unique<ChatKeySettingWidget>(config, nullptr);
+  QTimer::singleShot(0, [&] { window.reset(); });
+  window->reset();
+  EXPECT_EQ(window, nullptr);
+  EXPECT_EQ(config.scheme().QuickChatIndex, 0U);
+}
+
+TEST(ABasicPage, TakesTheOrreryWindowAlongWhenItGoes) {
+  HotkeyConfig config;
+  auto page = std::make_unique<CBasicSetting7Widget>(config, nullptr);
+  page->onClickedOrrerySettingBtn();
+  orreryWindow()->findChild<QLineEdit*>(QStringLiteral("edtOpenCloseLedger"))->setFocus();
+  page.reset();
+  EXPECT_EQ(orreryWindow(), nullptr);
+}
+
+TEST(ABasicPage, HidesTheOrreryWindowWithItself) {
+  HotkeyConfig config;
+  QDialog dialog;
+  auto* const page = new CBasicSetting7Widget(config, &dialog);
+  dialog.show();
+  page->onClickedOrrerySettingBtn();
+  ASSERT_TRUE(orreryWindow()->isVisible());
+  dialog.accept();
+  EXPECT_FALSE(orreryWindow()->isVisible());
+}
+
+// The dialog connects the advanced page's buttons to the quick-chat window, which follows.
+TEST(KeySetsOfTwoWindows, StayTogether) {
+  HotkeyConfig config;
+  CAdvancedSettingWidget page(config, nullptr);
+  ChatKeySettingWidget window(config, nullptr);
+  auto* const digits = page.findChild<QRadioButton*>(QStringLiteral("optChatKey_1"));
+  QObject::connect(digits, &QRadioButton::toggled, &window,
+                   &ChatKeySettingWidget::onToggled_ChatKey_1);
+  digits->click();
+  EXPECT_EQ(config.scheme().QuickChatIndex, 0U);
+  EXPECT_TRUE(window.findChild<QRadioButton*>(QStringLiteral("optChatKey_1"))->isChecked());
+}
+
+TEST(KeyFieldsOfTheBasicPage, TellAKeyThatIsTooLongToShow) {
+  HotkeyConfig config;
+  HotkeyScheme& scheme = *config.editableScheme();
+  scheme.HeroSkillKey[0] = KeyWord(0x22, KeyWord::kCtrl | KeyWord::kAlt);  // Page Down
+  scheme.HeroSkillKey[1] = KeyWord('Q', 0);
+  CBasicSetting7Widget page(config, nullptr);
+  page.show();
+  const auto tip = [&page](const char* name) {
+    auto& field = *page.findChild<QLineEdit*>(QLatin1String(name));
+    QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), field.mapToGlobal(QPoint(2, 2)));
+    QToolTip::hideText();
+    QApplication::sendEvent(&field, &event);
+    return QToolTip::text();
+  };
+  EXPECT_EQ(tip("edtSkill_1"), QStringLiteral("CTRL + Alt + PAGEDOWN"));
+  EXPECT_EQ(tip("edtSkill_2"), QString());
+}
+
+}  // namespace
+}  // namespace brennet::test
