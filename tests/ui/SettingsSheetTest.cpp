@@ -2,14 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+
+#include <cmath>
+#include <vector>
 
 #include "ui/StyleSheet.h"
 
@@ -17,6 +22,16 @@ namespace brennet {
 namespace {
 
 constexpr QRgb kBelow = 0xFF1E242F;
+
+// As eyes see it, from 0 for black to 1 for white.
+double luminance(QRgb color) {
+  const auto linear = [](int part) {
+    const double value = part / 255.0;
+    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) +
+         0.0722 * linear(qBlue(color));
+}
 
 class TheSettingsSheet : public testing::Test {
  protected:
@@ -101,6 +116,60 @@ TEST_F(TheSettingsSheet, CutsTheStatesOfPicturesWithoutStretchingThem) {
     }
     delete button;
   }
+}
+
+TEST_F(TheSettingsSheet, ShowsWhichPictureHasTheFocus) {
+  QApplication::setActiveWindow(&window_);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+  std::vector<const char*> names = {"btnClose"};
+  for (const PictureButton& row : kButtons) names.push_back(row.name);
+  for (const char* const name : names) {
+    auto* const button = make<QPushButton>(name);
+    button->setText(QStringLiteral("text"));
+    button->setCheckable(true);
+    for (const bool isChecked : {false, true}) {
+      button->setChecked(isChecked);
+      button->clearFocus();
+      const QImage without = pictureOf(*button);
+      button->setFocus();
+      ASSERT_TRUE(button->hasFocus());
+      const QImage with = pictureOf(*button);
+      EXPECT_EQ(with.size(), without.size());
+      // The second state of a large one is that of the focus too.
+      const bool isLitAlready = isChecked && button->width() == 55 && button->height() == 55;
+      EXPECT_TRUE(isLitAlready || with != without) << name << (isChecked ? " checked" : "");
+    }
+    delete button;
+  }
+}
+
+// Under the border of the focus the picture stays what it was.
+TEST_F(TheSettingsSheet, KeepsTheStateOfASmallPictureWithTheFocus) {
+  QApplication::setActiveWindow(&window_);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+  const QRect inside(3, 3, 7, 7);
+  for (const char* const name : {"btn_skillcast_12", "btn_goods_cast_7"}) {
+    auto* const button = make<QPushButton>(name);
+    button->setCheckable(true);
+    button->setFocus();
+    EXPECT_EQ(pictureOf(*button).pixel(6, 0), 0xFFFFFFFF);
+    for (const bool isChecked : {false, true}) {
+      button->setChecked(isChecked);
+      EXPECT_TRUE(pictureOf(*button).copy(inside) ==
+                  state("auto", isChecked ? 13 : 0, 13).copy(inside))
+          << name << (isChecked ? " checked" : "");
+    }
+    delete button;
+  }
+}
+
+// A border that is to be seen differs from what is around it by a factor of three.
+TEST_F(TheSettingsSheet, DrawsBordersOfFieldsThatCanBeSeen) {
+  auto* const field = make<QLineEdit>("edtSkill_1");
+  field->resize(100, field->sizeHint().height());
+  const double border = luminance(pictureOf(*field).pixel(50, 0));
+  EXPECT_GE((border + 0.05) / (luminance(kBelow) + 0.05), 3.0);
+  EXPECT_GE((border + 0.05) / (luminance(pictureOf(*field).pixel(50, 3)) + 0.05), 3.0);
 }
 
 TEST_F(TheSettingsSheet, ColoursTexts) {

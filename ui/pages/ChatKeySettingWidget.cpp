@@ -1,7 +1,6 @@
 #include "ui/pages/ChatKeySettingWidget.h"
 
 #include <QMouseEvent>
-#include <QPointer>
 
 #include <string_view>
 
@@ -69,10 +68,7 @@ void ChatKeySettingWidget::load() {
 }
 
 void ChatKeySettingWidget::reset() {
-  // The button may bring a box up, and the window may be gone when that is closed.
-  const QPointer<ChatKeySettingWidget> self(this);
   ui_->optChatKey_2->setChecked(true);
-  if (self.isNull()) return;
   // The button says nothing if it was checked already, whatever the scheme has by now.
   config_->SetQuickChatIndex(kAltFunctionKeys);
   brennet::HotkeyScheme* const scheme = config_->editableScheme();

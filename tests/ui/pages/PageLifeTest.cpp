@@ -50,17 +50,6 @@ TEST(APage, MayGoWhileItTellsOfAUsedKey) {
   EXPECT_EQ(config.scheme().HeroSkillKey[1], kNoKey);
 }
 
-TEST(AQuickChatWindow, MayGoWhileItsResetAsks) {
-  HotkeyConfig config;
-  config.editableScheme()->QuickChatIndex = 0;
-  config.editableScheme()->ShowFBlood = KeyWord(0x70, KeyWord::kAlt);  // Alt+F1
-  auto window = std::make_unique<ChatKeySettingWidget>(config, nullptr);
-  QTimer::singleShot(0, [&] { window.reset(); });
-  window->reset();
-  EXPECT_EQ(window, nullptr);
-  EXPECT_EQ(config.scheme().QuickChatIndex, 0U);
-}
-
 TEST(ABasicPage, TakesTheOrreryWindowAlongWhenItGoes) {
   HotkeyConfig config;
   auto page = std::make_unique<CBasicSetting7Widget>(config, nullptr);
@@ -104,12 +93,11 @@ TEST(KeyFieldsOfTheBasicPage, TellAKeyThatIsTooLongToShow) {
   const auto tip = [&page](const char* name) {
     auto& field = *page.findChild<QLineEdit*>(QLatin1String(name));
     QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), field.mapToGlobal(QPoint(2, 2)));
-    QToolTip::hideText();
     QApplication::sendEvent(&field, &event);
     return QToolTip::text();
   };
-  EXPECT_EQ(tip("edtSkill_1"), QStringLiteral("CTRL + Alt + PAGEDOWN"));
   EXPECT_EQ(tip("edtSkill_2"), QString());
+  EXPECT_EQ(tip("edtSkill_1"), QStringLiteral("CTRL + Alt + PAGEDOWN"));
 }
 
 }  // namespace

@@ -75,7 +75,7 @@ Canvas pageTab() {
 
 Canvas castToggle() {
   return stacked({
-      toggle({rgb(0x232b3c), rgb(0x29334a), kFaint}, rgb(0x6a7a9c)),
+      toggle({rgb(0x2c3750), rgb(0x33415e), kButtonEdge}, rgb(0xa9b8d0)),
       toggle({rgb(0x53699a), rgb(0x384a6e), kHighlight}, kGold),
   });
 }
