@@ -5,22 +5,15 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/KeyCapture.h"
+#include "ui/KeyFieldFilter.h"
 #include "ui/KeySetting.h"
-
-class QEvent;
-class QKeyEvent;
-class QLineEdit;
-class QObject;
-class QWidget;
 
 namespace brennet {
 
-// What a page with key fields has of its own.
+// What a page with fields for keys of the scheme has of its own.
 struct CapturePage {
   CaptureStyle style;
-  // Whether a field captures keys; the others take text as usual.
-  std::function<bool(const QLineEdit&)> captures = [](const QLineEdit&) { return true; };
+  KeyFieldFilter::Captures captures = [](const QLineEdit&) { return true; };
   // The setting that a field of this object name edits, if any.
   std::function<std::optional<KeySetting>(std::u16string_view)> settingOf;
   // Hears which field a key was pressed in, before the key is stored.
@@ -29,15 +22,16 @@ struct CapturePage {
   std::function<void()> tellUsed;
 };
 
-// The key fields of a page: line edits that take the next key in the place of text, and store it.
+// The fields of a page for keys of the current scheme.
 class CaptureFields {
  public:
   // `config` outlives this object.
   CaptureFields(CapturePage page, HotkeyConfig& config);
+  CaptureFields(const CaptureFields&) = delete;
+  CaptureFields& operator=(const CaptureFields&) = delete;
+  ~CaptureFields() = default;
 
-  // Makes `page` the event filter of all line edits named "edt..." in `window`, and turns input
-  // methods off there: they would swallow keys. Nothing but keys gets into those that capture
-  // them. The fields outlive this object.
+  // See KeyFieldFilter. The fields outlive this object.
   void install(const QWidget& window, QObject& page);
 
   // Shows the keys of the current scheme in all fields that have a setting. What was begun with a
@@ -45,7 +39,7 @@ class CaptureFields {
   void refresh();
 
   // For the event filter of the page: whether the event is used up.
-  bool filter(QObject* watched, QEvent* event);
+  bool filter(QObject* watched, QEvent* event) { return filter_.filter(watched, event); }
 
  private:
   struct Field {
@@ -54,11 +48,11 @@ class CaptureFields {
   };
 
   [[nodiscard]] std::optional<KeySetting> settingOf(const QLineEdit& field) const;
-  void handleKey(QLineEdit& field, const QKeyEvent& event);
+  void take(QLineEdit& field, const Capture& capture);
 
   CapturePage page_;
   HotkeyConfig* config_;
-  KeyCapture capture_;
+  KeyFieldFilter filter_;
   std::vector<Field> fields_;
 };
 

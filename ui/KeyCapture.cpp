@@ -24,7 +24,7 @@ Capture KeyCapture::handle(const KeyEvent& event) {
 Capture KeyCapture::leave() {
   if (!modifierIsPending_) return {};
   modifierIsPending_ = false;
-  return {Outcome::Shown, {}, kNoKey};
+  return {style_.modifiersAreKeys ? Outcome::Cleared : Outcome::Shown, {}, kNoKey};
 }
 
 Capture KeyCapture::press(const KeyEvent& event) {
@@ -45,6 +45,10 @@ Capture KeyCapture::press(const KeyEvent& event) {
     capture.text += style_.alt;
   }
   modifierIsPending_ = code == kControl || code == kAlt;
+  if (modifierIsPending_ && style_.modifiersAreKeys) {
+    return {Outcome::Captured, KeyText(keyName(static_cast<int>(code))),
+            KeyWord(static_cast<std::uint8_t>(code), 0)};
+  }
   if (modifierIsPending_) {
     capture.outcome = Outcome::Shown;
     return capture;

@@ -21,6 +21,8 @@ struct CaptureStyle {
   std::u16string_view control = u"CTRL +";
   std::u16string_view alt = u"Alt +";
   std::u16string_view beforeName;  // between the modifiers and the name, also without modifiers
+  // A lone Ctrl or Alt is a key at once, and no key any more when it is released.
+  bool modifiersAreKeys = false;
 };
 
 // What a key event comes to for the field that has the focus.
@@ -40,7 +42,8 @@ struct Capture {
 // Turns key events into keys with their modifiers. One object serves all fields of a page.
 //
 // A lone Ctrl or Alt shows its prefix and waits for the next event: another key completes it, a
-// release or the loss of the focus empties the field. Shift is no modifier here, but a key like
+// release or the loss of the focus empties the field. (Where modifiers are keys, it is stored and
+// taken back instead.) Shift is no modifier here, but a key like
 // others. Return does nothing; Backspace and Delete clear.
 class KeyCapture {
  public:
