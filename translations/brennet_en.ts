@@ -5,7 +5,7 @@
     <name>CAdvancedSettingWidget</name>
     <message>
         <source>组合快捷键</source>
-        <translation>Key combinations</translation>
+        <translation>Keypad presets</translation>
     </message>
     <message>
         <source>小键盘 Num784512  =  组合键 Alt+QWERDF</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>窗口锁鼠标</source>
-        <translation>Lock cursor to window</translation>
+        <translation>Lock cursor in windowed mode</translation>
     </message>
     <message>
         <source>快捷喊话</source>
@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>显示己方血量</source>
-        <translation>Show ally health</translation>
+        <translation>Show ally health bars</translation>
     </message>
     <message>
         <source>显示己方蓝量(需DotAOrrery)</source>
@@ -120,7 +120,7 @@
     </message>
     <message>
         <source>显示敌方血量</source>
-        <translation>Show enemy health</translation>
+        <translation>Show enemy health bars</translation>
     </message>
     <message>
         <source>画面不拉伸（留黑边）</source>
@@ -227,7 +227,7 @@
     </message>
     <message>
         <source>assemble,remove fog</source>
-        <translation>Group up and clear the wards</translation>
+        <translation>Group up, deward</translation>
     </message>
     <message>
         <source>do not chase,push tower</source>
@@ -405,15 +405,15 @@
     </message>
     <message>
         <source>自定义改键</source>
-        <translation>Custom keys</translation>
+        <translation>Key remaps</translation>
     </message>
     <message>
         <source>自定义改键只对英雄有效</source>
-        <translation>Custom keys work for heroes only</translation>
+        <translation>Remaps work for heroes only</translation>
     </message>
     <message>
         <source>小键盘组合快捷键</source>
-        <translation>Keypad combinations</translation>
+        <translation>Keypad presets</translation>
     </message>
     <message>
         <source>Num784512  =  Alt+QWERDF</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>7.0专用改键</source>
-        <translation>Keys for 7.0</translation>
+        <translation>DotA 7.0 keys</translation>
     </message>
     <message>
         <source>英雄技能 %1</source>
@@ -477,11 +477,11 @@
     </message>
     <message>
         <source>自定义改键 %1：按下的键</source>
-        <translation>Custom key %1: key to press</translation>
+        <translation>Remap %1: key to press</translation>
     </message>
     <message>
         <source>自定义改键 %1：发送的键</source>
-        <translation>Custom key %1: key to send</translation>
+        <translation>Remap %1: key to send</translation>
     </message>
     <message>
         <source>组合改键：按下的键 %1</source>
@@ -497,11 +497,11 @@
     </message>
     <message>
         <source>显示己方血量</source>
-        <translation>Show ally health</translation>
+        <translation>Show ally health bars</translation>
     </message>
     <message>
         <source>显示敌方血量</source>
-        <translation>Show enemy health</translation>
+        <translation>Show enemy health bars</translation>
     </message>
     <message>
         <source>禁用左Win键</source>
@@ -614,7 +614,7 @@
     </message>
     <message>
         <source>快捷键</source>
-        <translation>Keys</translation>
+        <translation>Chat keys</translation>
     </message>
     <message>
         <source>ALT + 1～8</source>
@@ -631,6 +631,10 @@
     <message>
         <source>取消</source>
         <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>喊话 %1</source>
+        <translation>Message %1</translation>
     </message>
 </context>
 <context>

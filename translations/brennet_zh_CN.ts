@@ -299,7 +299,7 @@
     </message>
     <message>
         <source>phrase 11</source>
-        <translation>我带了回城卷轴</translation>
+        <translation>我有TP</translation>
     </message>
     <message>
         <source>phrase 12</source>
@@ -307,7 +307,7 @@
     </message>
     <message>
         <source>phrase 13</source>
-        <translation>请用信使帮我送装备</translation>
+        <translation>请用鸡帮我送装备</translation>
     </message>
     <message>
         <source>phrase 14</source>
@@ -359,7 +359,7 @@
     </message>
     <message>
         <source>emotions</source>
-        <translation>情绪</translation>
+        <translation>表情</translation>
     </message>
     <message>
         <source>轮盘短语 %1</source>
@@ -631,6 +631,10 @@
     <message>
         <source>取消</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>喊话 %1</source>
+        <translation>喊话 %1</translation>
     </message>
 </context>
 <context>

@@ -20,7 +20,8 @@ struct KeyEvent {
 struct CaptureStyle {
   std::u16string_view control = u"CTRL +";
   std::u16string_view alt = u"Alt +";
-  std::u16string_view beforeName;  // between the modifiers and the name, also without modifiers
+  std::u16string_view beforeName =
+      {};  // between the modifiers and the name, also without modifiers
   // A lone Ctrl or Alt is a key at once, and no key any more when it is released.
   bool modifiersAreKeys = false;
 };

@@ -1,14 +1,31 @@
-// Boxes whose style sheet is missing.
+// Windows whose style sheet is missing, or whose pictures are.
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
+#include <string>
 
+#include "model/HotkeyConfig.h"
 #include "tests/ui/UiTest.h"
+#include "tests/ui/pages/PageChecks.h"
 #include "ui/CMsgBox.h"
+#include "ui/StyleSheet.h"
+#include "ui/pages/CAdvancedSettingWidget.h"
+#include "ui/pages/CBasicSetting7Widget.h"
+#include "ui/pages/CBasicSettingWidget.h"
+#include "ui/pages/CChatRouletteSettingWidget.h"
+#include "ui/pages/COrrerySettingDlg.h"
+#include "ui/pages/ChatKeySettingWidget.h"
 
 namespace brennet::test {
 namespace {
@@ -33,6 +50,121 @@ TEST(ABoxWithoutItsSheet, TellsOfItInAPlainBoxAndStaysUsable) {
                                  QStringLiteral("text"), QMessageBox::Ok | QMessageBox::Cancel),
             QMessageBox::Cancel);
 }
+
+enum class Missing { Sheet, Pictures };
+
+class AWindowWithoutItsSkin : public testing::TestWithParam<Missing> {
+ protected:
+  // Qt tells of each picture that it misses, and the pages of their fields.
+  ~AWindowWithoutItsSkin() override {
+    for (const QString& text : messages_.texts()) {
+      const QLatin1String expected[] = {
+          QLatin1String("Could not create pixmap from :/skin/image/"),
+          QLatin1String("getEditControlTypeByParseName"),
+          QLatin1String("This plugin does not support "),
+      };
+      EXPECT_TRUE(std::any_of(std::begin(expected), std::end(expected), [&](QLatin1String start) {
+        return text.startsWith(start);
+      })) << qPrintable(text);
+    }
+    EXPECT_FALSE(QFile::exists(QStringLiteral(":/skin/image/auto.png")));
+  }
+  void open(QWidget& window) {
+    if (GetParam() == Missing::Pictures) {
+      ASSERT_TRUE(loadStyleSheet(window, QStringLiteral(BRENNET_SKIN_FOLDER "/war3key.qss")));
+    }
+    window.show();
+    QCoreApplication::processEvents();
+    window.grab();
+    for (QWidget* const widget : window.findChildren<QWidget*>()) {
+      const bool isControl = qobject_cast<QAbstractButton*>(widget) != nullptr ||
+                             qobject_cast<QLineEdit*>(widget) != nullptr;
+      if (!isControl || !widget->isVisibleTo(&window)) continue;
+      EXPECT_GE(widget->width(), 10) << qPrintable(widget->objectName());
+      EXPECT_GE(widget->height(), 10) << qPrintable(widget->objectName());
+    }
+  }
+  template <class Widget>
+  static Widget& find(const QWidget& window, const char* name) {
+    auto* const widget = window.findChild<Widget*>(QLatin1String(name));
+    if (widget == nullptr) qFatal("there is no %s", name);
+    return *widget;
+  }
+  static void press(const QWidget& window, const char* field, Qt::Key key) {
+    pressKey(find<QLineEdit>(window, field), key);
+  }
+  static void click(const QWidget& window, const char* button) {
+    auto& widget = find<QAbstractButton>(window, button);
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(5, widget.height() / 2));
+  }
+
+  HotkeyConfig config;
+  HotkeyScheme& scheme = *config.editableScheme();
+
+ private:
+  const CaughtMessages messages_;
+};
+
+TEST_P(AWindowWithoutItsSkin, IsUsableAsABasicPage) {
+  CBasicSetting7Widget page(config, nullptr);
+  open(page);
+  press(page, "edtSkill_12", Qt::Key_Q);
+  EXPECT_EQ(scheme.HeroSkillKey[11], KeyWord('Q', 0));
+  click(page, "btn_skillcast_1");
+  EXPECT_EQ(scheme.HeroSkillAutocast[0], true);
+  click(page, "chkDisableLWin");
+  EXPECT_EQ(scheme.DisableLWinFlag, 1);
+}
+
+TEST_P(AWindowWithoutItsSkin, IsUsableAsAnOlderBasicPage) {
+  CBasicSettingWidget page(config, nullptr);
+  open(page);
+  press(page, "edtGoodsKey_7", Qt::Key_Q);
+  EXPECT_EQ(scheme.ItemKey[0], KeyWord('Q', 0));
+  click(page, "chkKeepNoStretch");
+  EXPECT_EQ(scheme.ViewNoDragFlag, 1);
+}
+
+TEST_P(AWindowWithoutItsSkin, IsUsableAsAnAdvancedPage) {
+  CAdvancedSettingWidget page(config, nullptr);
+  open(page);
+  press(page, "edtShowFBlood", Qt::Key_Q);
+  EXPECT_EQ(scheme.ShowFBlood, KeyWord('Q', 0));
+  click(page, "optChatKey_2");
+  EXPECT_EQ(scheme.QuickChatIndex, 1U);
+}
+
+TEST_P(AWindowWithoutItsSkin, IsUsableAsAChatWheelPage) {
+  CChatRouletteSettingWidget page(config, nullptr);
+  open(page);
+  press(page, "edtChatWheelKey", Qt::Key_Q);
+  EXPECT_EQ(scheme.ChatWheelkey, KeyWord('Q', 0));
+}
+
+TEST_P(AWindowWithoutItsSkin, IsUsableAsAQuickChatWindow) {
+  ChatKeySettingWidget dialog(config, nullptr);
+  open(dialog);
+  find<QLineEdit>(dialog, "chatLineEdit_3").setText(QStringLiteral("glhf"));
+  click(dialog, "btnOK");
+  EXPECT_EQ(scheme.QuickChat[2], u"glhf");
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_P(AWindowWithoutItsSkin, IsUsableAsAnOrreryWindow) {
+  COrrerySettingDlg dialog;
+  EXPECT_TRUE(dialog.styleSheet().isEmpty());
+  open(dialog);
+  click(dialog, "chkShowFriendsMana");
+  EXPECT_TRUE(find<QAbstractButton>(dialog, "chkShowFriendsMana").isChecked());
+  click(dialog, "btnClose");
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, AWindowWithoutItsSkin,
+                         testing::Values(Missing::Sheet, Missing::Pictures), [](const auto& what) {
+                           return what.param == Missing::Sheet ? std::string("Sheet")
+                                                               : std::string("Pictures");
+                         });
 
 }  // namespace
 }  // namespace brennet::test

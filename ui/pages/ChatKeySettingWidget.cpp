@@ -1,7 +1,5 @@
 #include "ui/pages/ChatKeySettingWidget.h"
 
-#include <QMouseEvent>
-
 #include <string_view>
 
 #include "ui/KeyMessages.h"
@@ -38,6 +36,10 @@ ChatKeySettingWidget::ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidge
                 .settingOf = [](std::u16string_view) { return std::nullopt; },
                 .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
                config) {
+  // The labels have numbers only, which say little to who does not see them in a column.
+  for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
+    field(n).setAccessibleName(tr("喊话 %1").arg(n + 1));
+  }
   load();
   using This = ChatKeySettingWidget;
   connect(ui_->optChatKey_1, &QRadioButton::toggled, this, &This::onToggled_ChatKey_1);
@@ -105,16 +107,15 @@ bool ChatKeySettingWidget::eventFilter(QObject* watched, QEvent* event) {
 
 void ChatKeySettingWidget::mousePressEvent(QMouseEvent* event) {
   QDialog::mousePressEvent(event);
-  if (event->button() == Qt::LeftButton) isDragged_ = true;
-  dragOffset_ = event->globalPos() - pos();
+  mouseMove_.press(*this, *event);
 }
 
 void ChatKeySettingWidget::mouseReleaseEvent(QMouseEvent* event) {
   QDialog::mouseReleaseEvent(event);
-  isDragged_ = false;
+  mouseMove_.release();
 }
 
 void ChatKeySettingWidget::mouseMoveEvent(QMouseEvent* event) {
   QDialog::mouseMoveEvent(event);
-  if (isDragged_) move(event->globalPos() - dragOffset_);
+  mouseMove_.move(*this, *event);
 }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QDialog>
-#include <QPoint>
 
 #include <memory>
 
 #include "ui/CaptureFields.h"
+#include "ui/MouseMove.h"
 #include "ui/QuickChatKeyButtons.h"
 
 class QLineEdit;
@@ -54,6 +54,5 @@ class ChatKeySettingWidget : public QDialog {
   std::unique_ptr<Ui::ChatKeySettingWidget> ui_;
   brennet::QuickChatKeyButtons keyButtons_;
   brennet::CaptureFields capture_;
-  bool isDragged_ = false;
-  QPoint dragOffset_;  // from the corner of the window to where the mouse was pressed
+  brennet::MouseMove mouseMove_;
 };

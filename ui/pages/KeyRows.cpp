@@ -36,12 +36,42 @@ QLabel* newLabel(const QString& text, QLineEdit* field) {
   return label;
 }
 
+// Of remaps, two in a row: number, key, arrow, key; and a gap.
+constexpr int kInARow = 2;
+constexpr int kColumnsOfOne = 5;
+constexpr int kGapColumn = kColumnsOfOne - 1;
+
 // What stands between the keys that are pressed, and before the one that is sent.
 QString plus() {
   return QStringLiteral("+");
 }
 QString arrow() {
   return QStringLiteral(u"\u2192");
+}
+
+// The same columns in all grids of a page that are of one width: what is left goes to the keys.
+void setRemapColumns(QGridLayout& grid) {
+  QLabel widest(arrow());
+  for (int column = 0; column < kInARow * kColumnsOfOne - 1; ++column) {
+    const int inOne = column % kColumnsOfOne;
+    const bool isKey = inOne == 1 || inOne == 3;
+    grid.setColumnStretch(column, isKey ? 1 : 0);
+    if (!isKey) grid.setColumnMinimumWidth(column, widest.sizeHint().width());
+  }
+  grid.setColumnMinimumWidth(kGapColumn, 2 * grid.horizontalSpacing());
+}
+
+// The keys of a group remap, with what stands between them.
+QWidgetList newGroup(const QString& prefix, int sources, const KeyRowTexts& texts) {
+  QWidgetList widgets;
+  for (int number = 1; number <= sources; ++number) {
+    auto* const source = newKeyField(QStringLiteral("%1_L_%2").arg(prefix).arg(number),
+                                     texts.groupSource.arg(number));
+    if (number > 1) widgets += newLabel(plus(), source);
+    widgets += source;
+  }
+  auto* const target = newKeyField(prefix + QStringLiteral("_R_1"), texts.groupTarget);
+  return widgets << newLabel(arrow(), target) << target;
 }
 
 }  // namespace
@@ -81,8 +111,6 @@ CastButtons addItemRows(QGridLayout& grid, const KeyRowTexts& texts) {
 }
 
 void addRemapRows(QGridLayout& grid, const KeyRowTexts& texts) {
-  constexpr int kInARow = 2;
-  constexpr int kColumnsOfOne = 5;  // four widgets, and a gap
   for (int i = 0; i < kRemaps; ++i) {
     const int number = i + 1;
     const int row = i / kInARow;
@@ -96,19 +124,22 @@ void addRemapRows(QGridLayout& grid, const KeyRowTexts& texts) {
     grid.addWidget(newLabel(arrow(), target), row, column + 2);
     grid.addWidget(target, row, column + 3);
   }
-  grid.setColumnMinimumWidth(kColumnsOfOne - 1, 2 * grid.horizontalSpacing());
+  setRemapColumns(grid);
 }
 
 void addGroupRow(QBoxLayout& row, const QString& prefix, int sources, const KeyRowTexts& texts) {
-  for (int number = 1; number <= sources; ++number) {
-    auto* const source = newKeyField(QStringLiteral("%1_L_%2").arg(prefix).arg(number),
-                                     texts.groupSource.arg(number));
-    if (number > 1) row.addWidget(newLabel(plus(), source));
-    row.addWidget(source);
+  for (QWidget* const widget : newGroup(prefix, sources, texts)) row.addWidget(widget);
+}
+
+void addGroupRow(QGridLayout& grid, const QString& prefix, int sources, const KeyRowTexts& texts) {
+  int column = 1;  // there is no number before the first key
+  for (QWidget* const widget : newGroup(prefix, sources, texts)) {
+    if (column == kGapColumn) ++column;
+    grid.addWidget(widget, 0, column++);
   }
-  auto* const target = newKeyField(prefix + QStringLiteral("_R_1"), texts.groupTarget);
-  row.addWidget(newLabel(arrow(), target));
-  row.addWidget(target);
+  setRemapColumns(grid);
+  // A column with nothing in it has no space behind it.
+  grid.setColumnMinimumWidth(0, grid.columnMinimumWidth(0) + grid.horizontalSpacing());
 }
 
 }  // namespace brennet

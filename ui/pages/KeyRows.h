@@ -41,7 +41,9 @@ CastButtons addItemRows(QGridLayout& grid, const KeyRowTexts& texts);
 // The five custom remaps, two in a row: fields edt_skillex_L_n and edt_skillex_R_n.
 void addRemapRows(QGridLayout& grid, const KeyRowTexts& texts);
 
-// A group remap of `sources` keys: fields PREFIX_L_n and PREFIX_R_1.
+// A group remap of `sources` keys: fields PREFIX_L_n and PREFIX_R_1. In a grid of its own, three
+// keys stand in the columns of the remaps in another one of the same width.
 void addGroupRow(QBoxLayout& row, const QString& prefix, int sources, const KeyRowTexts& texts);
+void addGroupRow(QGridLayout& grid, const QString& prefix, int sources, const KeyRowTexts& texts);
 
 }  // namespace brennet

@@ -9,6 +9,7 @@
 #include "model/RecommendedScheme.h"
 #include "tests/ui/UiTest.h"
 #include "tests/ui/pages/BasicPageTest.h"
+#include "tests/ui/pages/ChatPageTest.h"
 #include "tests/ui/pages/PageChecks.h"
 
 namespace brennet::test {
@@ -43,16 +44,19 @@ TEST_F(BasicPage, StoresTheKeyOfEachField) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.field);
-    HotkeyScheme expected = scheme;
+    const HotkeyScheme expected = scheme;
     pressKey(field(row.field), Qt::Key_Q, Qt::ControlModifier | Qt::AltModifier);
     EXPECT_EQ(field(row.field).text(), QStringLiteral("CTRL +Alt + Q"));
     EXPECT_EQ(row.key, kCtrlAltQ);
+    row.key = kNoKey;
+    EXPECT_EQ(scheme, expected) << "nothing else has changed";
+    row.key = kCtrlAltQ;
     page.refresh();
     EXPECT_EQ(field(row.field).text(), QStringLiteral("CTRL + Alt + Q"));
     pressKey(field(row.field), Qt::Key_Delete);
     EXPECT_EQ(row.key, kNoKey);
     EXPECT_EQ(field(row.field).text(), QString());
-    EXPECT_EQ(scheme, expected) << "nothing else has changed";
+    EXPECT_EQ(scheme, expected);
   }
 }
 
@@ -264,18 +268,20 @@ TEST_F(BasicPage, ShowsTheRecommendedKeys) {
 }
 
 TEST_F(BasicPage, LeavesSchemesThatItCannotEditAlone) {
-  config.setIndex(7);
   const HotkeyScheme expected[] = {config.scheme(0), config.scheme(1), config.scheme(2)};
-  page.refresh();
-  for (QCheckBox* const each : page.findChildren<QCheckBox*>()) each->click();
-  button("btn_SetAll_AutoCast").click();
-  button("btn_goods_cast_7").click();
-  pressKey(field("edtSkill_1"), Qt::Key_Delete);
-  const auto warning = whenBoxIsShown([](QMessageBox& box) { box.accept(); });
-  pressKey(field("edtSkill_1"), Qt::Key_Q);
-  page.reset();
-  page.useRecommended();
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(config.scheme(i), expected[i]);
+  for (unsigned index = HotkeyConfig::kSchemes; index <= 10; ++index) {
+    SCOPED_TRACE(index);
+    ASSERT_TRUE(config.setIndex(index));
+    page.refresh();
+    for (QCheckBox* const each : page.findChildren<QCheckBox*>()) each->click();
+    button("btn_SetAll_AutoCast").click();
+    button("btn_goods_cast_7").click();
+    pressKey(field("edtSkill_1"), Qt::Key_Delete);
+    expectWarning(page, "IDS_KEY_USED", [&] { pressKey(field("edtSkill_1"), Qt::Key_Q); });
+    page.reset();
+    page.useRecommended();
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(config.scheme(i), expected[i]);
+  }
 }
 
 TEST_F(BasicPage, TracesWhichSettingAFieldEdits) {

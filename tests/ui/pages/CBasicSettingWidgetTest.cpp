@@ -106,9 +106,67 @@ TEST_F(OlderBasicPage, ShowsNoManaWithoutHealth) {
   EXPECT_EQ(scheme.ShowFManaFlag, 0);
 }
 
-TEST_F(OlderBasicPage, CanBeUsedWithoutAMouse) {
+TEST_F(OlderBasicPage, HasNamesForScreenReaders) {
   page.show();
   expectAccessible(page);
+}
+
+TEST_F(OlderBasicPage, IsReadInOrder) {
+  page.show();
+  // The rows of the command card, then the other groups.
+  QStringList expected;
+  for (const char* const name :
+       {"edtSkill_5", "edtSkill_6", "edtSkill_7", "edtSkill_1", "edtSkill_2", "edtSkill_3",
+        "edtSkill_4", "edtGoodsKey_7", "edtGoodsKey_8", "edtGoodsKey_4", "edtGoodsKey_5",
+        "edtGoodsKey_1", "edtGoodsKey_2"}) {
+    expected += QLatin1String(name);
+  }
+  for (int n = 1; n <= 5; ++n) {
+    expected += QStringLiteral("edt_skillex_L_%1").arg(n);
+    expected += QStringLiteral("edt_skillex_R_%1").arg(n);
+  }
+  for (const char* const name :
+       {"edt_skillex_GROUP_L_1", "edt_skillex_GROUP_L_2", "edt_skillex_GROUP_R_1",
+        "edtMouseWheelUpKey", "edtMouseWheelMiddleKey", "edtMouseWheelDownKey",
+        "edtHotKeyLedgerSkill", "chkDisableLWin", "chkLockMouse", "chkShowFriendBlood",
+        "chkShowFirendMana", "chkShowEnimiesBlood", "chkKeepNoStretch", "chkDelayOptimization"}) {
+    expected += QLatin1String(name);
+  }
+  EXPECT_EQ(tabOrder(page), expected);
+}
+
+TEST_F(OlderBasicPage, ShowsTheSchemeAsItComes) {
+  scheme.HeroSkillKey[6] = KeyWord('Q', KeyWord::kCtrl);
+  scheme.ComboKey.Key_D = KeyWord('P', 0);
+  scheme.SecretaryKey[2] = KeyWord('W', 0);
+  scheme.ShowFManaFlag = 1;  // without health
+  scheme.StartJSQFlag = 1;
+  const HotkeyScheme before = scheme;
+  const CBasicSettingWidget other(config, nullptr);
+  const auto text = [&other](const char* name) {
+    return other.findChild<QLineEdit*>(QLatin1String(name))->text();
+  };
+  EXPECT_EQ(text("edtSkill_7"), QStringLiteral("CTRL + Q"));
+  EXPECT_EQ(text("edt_skillex_GROUP_R_1"), QStringLiteral("P"));
+  EXPECT_EQ(text("edtHotKeyLedgerSkill"), QStringLiteral("W"));
+  EXPECT_EQ(text("edtSkill_1"), QString());
+  QStringList checked;
+  for (const QCheckBox* const each : other.findChildren<QCheckBox*>()) {
+    if (each->isChecked()) checked += each->objectName();
+  }
+  EXPECT_EQ(checked, QStringList({QStringLiteral("chkShowFirendMana"),
+                                  QStringLiteral("chkDelayOptimization")}));
+  EXPECT_EQ(scheme, before) << "showing it stores nothing";
+}
+
+TEST_F(OlderBasicPage, TracesWhichSettingAFieldEdits) {
+  const CaughtMessages messages;
+  pressKey(field("edtGoodsKey_4"), Qt::Key_Q);
+  EXPECT_EQ(messages.texts(), QStringList(QStringLiteral(
+                                  "getEditControlTypeByParseName\"edtGoodsKey_4\", result:true"
+                                  ", nSkillIndex:0, nGoodsIndex:4, nSkillExSrcIndex:0"
+                                  ", nSkillExDstIndex: \n0, nSkillGroupSrcIndex:0"
+                                  ", nSkillGroupDstIndex:0, nMouseWheelIndex:0, nLedgerIndex:0")));
 }
 
 }  // namespace

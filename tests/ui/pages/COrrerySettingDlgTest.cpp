@@ -67,10 +67,15 @@ TEST(OrreryWindow, WearsTheSkin) {
   EXPECT_EQ(picture.pixelColor(3, 3), QColor(0x1e, 0x24, 0x2f)) << "background";
 }
 
-TEST(OrreryWindow, CanBeUsedWithoutAMouse) {
+TEST(OrreryWindow, HasNamesForScreenReaders) {
   COrrerySettingDlg dialog;
   dialog.show();
   expectAccessible(dialog);
+}
+
+TEST(OrreryWindow, IsReadInOrder) {
+  COrrerySettingDlg dialog;
+  dialog.show();
   const QStringList expected = {QStringLiteral("btnClose"), QStringLiteral("edtOpenCloseLedger"),
                                 QStringLiteral("edtShowHideLedgerData"),
                                 QStringLiteral("edtHotKeyLedgerSkill"),

@@ -30,8 +30,17 @@ class WheelDrag : public WheelPage {
     QApplication::sendEvent(page().windowHandle(), &enter);
     return enter.isAccepted();
   }
+  // The same while it is dragged there from another place in the window.
+  bool movesOver(QWidget& target, const QMimeData& what) {
+    const bool isWelcome = enters(page(), what);
+    const QPoint place = target.mapTo(&page(), target.rect().center());
+    QDragMoveEvent move(place, Qt::MoveAction, &what, Qt::LeftButton, Qt::NoModifier);
+    move.setAccepted(isWelcome);  // as the platform has it: what was welcome stays so
+    QApplication::sendEvent(page().windowHandle(), &move);
+    return move.isAccepted();
+  }
   void drop(QWidget& target, const QMimeData& what) {
-    enters(target, what);
+    movesOver(target, what);
     const QPoint place = target.mapTo(&page(), target.rect().center());
     QDropEvent event(place, Qt::MoveAction, &what, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(page().windowHandle(), &event);
@@ -50,6 +59,10 @@ TEST_F(WheelDrag, IsWelcomeOnTheWholePage) {
     EXPECT_TRUE(enters(*slot(1).parentWidget(), *what));
     EXPECT_TRUE(enters(find<QWidget>(page(), QStringLiteral("ChatWheelkey")), *what));
     EXPECT_TRUE(enters(tree(), *what)) << "the page behind the tree takes it";
+    for (QWidget* const target : {static_cast<QWidget*>(&slot(1)), slot(1).parentWidget(),
+                                  static_cast<QWidget*>(&tree()), static_cast<QWidget*>(&page())}) {
+      EXPECT_TRUE(movesOver(*target, *what)) << qPrintable(target->objectName());
+    }
   }
   EXPECT_TRUE(enters(slot(1), *phrases));
 }

@@ -123,7 +123,8 @@ TEST_F(WheelPage, LeavesTheKeysOfSlotsAlone) {
 }
 
 TEST_F(WheelPage, StoresNothingForAnIndexWithoutAScheme) {
-  for (const std::uint32_t index : {3U, 10U}) {
+  for (std::uint32_t index = HotkeyConfig::kSchemes; index <= 10; ++index) {
+    SCOPED_TRACE(index);
     ASSERT_TRUE(config.setIndex(index));
     open();
     show();

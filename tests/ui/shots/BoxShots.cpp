@@ -1,5 +1,6 @@
 // The message box with each icon, with one button and with two.
 
+#include <QCoreApplication>
 #include <QPushButton>
 
 #include "tests/ui/shots/Shots.h"
@@ -18,12 +19,12 @@ constexpr Icon kIcons[] = {{"warning", QMessageBox::Warning},
                            {"plain", QMessageBox::NoIcon}};
 
 std::unique_ptr<QWidget> makeBox(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons) {
-  const QString text = buttons == QMessageBox::Ok
-                           ? QStringLiteral(u"The key is used already. 按键已被使用")
-                           : QStringLiteral(
-                                 "After resetting, your modification on basic and advanced "
-                                 "settings will lost.\nAre you sure to continue?");
-  auto box = std::make_unique<CMsgBox>(icon, QStringLiteral("reset settings"), text, buttons);
+  const auto text = [](const char* id) { return QCoreApplication::translate("QObject", id); };
+  // The second one has several lines.
+  const QString key = text("IDS_KEY_USED");
+  const QString keys = text("IDS_GROUP_KEY_USED");
+  auto box = std::make_unique<CMsgBox>(
+      icon, text("IDS_TITLE"), buttons == QMessageBox::Ok ? key : keys + u'\n' + key, buttons);
   box->setButtonTexts();
   box->setDefaultButton(QMessageBox::Ok);
   return box;

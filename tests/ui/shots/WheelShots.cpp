@@ -42,9 +42,13 @@ class Window : public QWidget {
 HotkeyConfig someSettings() {
   HotkeyConfig settings;
   HotkeyScheme& scheme = *settings.editableScheme();
-  constexpr std::u16string_view kSome[] = {u"gank", u"withdraw", u"稳住，我们能赢",
-                                           u"push line respectively,run in danger "};
-  for (std::size_t n = 0; n < std::size(kSome); ++n) scheme.ChatWheel[2 * n].emplace(kSome[n]);
+  const char* const some[] = {"gank", "withdraw", "steady",
+                              "push line respectively,run in danger "};
+  std::size_t n = 0;
+  for (const char* const key : some) {
+    const QString phrase = QCoreApplication::translate("CChatRouletteSettingWidget", key);
+    scheme.ChatWheel[2 * n++].emplace(phrase.toStdU16String());
+  }
   scheme.ChatWheelkey = KeyWord('Y', KeyWord::kCtrl | KeyWord::kAlt);
   return settings;
 }

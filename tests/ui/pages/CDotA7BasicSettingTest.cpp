@@ -1,0 +1,250 @@
+#include "ui/pages/CDotA7BasicSetting.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QSignalSpy>
+
+#include "tests/gameside/Dota7Test.h"
+#include "tests/ui/UiTest.h"
+#include "tests/ui/pages/PageChecks.h"
+
+namespace brennet::test {
+namespace {
+
+// The page on a registry with both keys and no values.
+class Dota7Page : public Dota7Test {
+ protected:
+  Dota7Page() { page = std::make_unique<CDotA7BasicSetting>(manager, nullptr); }
+
+  QLineEdit& fieldOf(std::u16string_view name) {
+    return *page->findChild<QLineEdit*>(QString::fromStdU16String(std::u16string(name)));
+  }
+  QAbstractButton& button(const char* name) {
+    return *page->findChild<QAbstractButton*>(QLatin1String(name));
+  }
+
+  // What the registry has; nothing: no such value.
+  std::optional<std::uint32_t> number(std::u16string_view name) {
+    const auto value = control(name);
+    return value ? platform::numberIn(*value) : std::nullopt;
+  }
+  std::optional<std::string> bytes(std::u16string_view name) {
+    const auto value = control(name);
+    return value ? std::optional(value->data) : std::nullopt;
+  }
+
+  std::unique_ptr<CDotA7BasicSetting> page;
+};
+
+TEST_F(Dota7Page, HasItsMethodsInTheOrderThatClientsKnow) {
+  const QStringList expected = {QStringLiteral("showDota7HotKeySettingDlg"),
+                                QStringLiteral("onClickedDota7HotKeySettingBtn"),
+                                QStringLiteral("onClickedSLegacyKeys"),
+                                QStringLiteral("onClickedSCtrlLearnAbility"),
+                                QStringLiteral("onClickedLegacyOnlyQuickCast"),
+                                QStringLiteral("onClickedSDoubleClickHero"),
+                                QStringLiteral("onClickedNormal"),
+                                QStringLiteral("onClickedQuickUse")};
+  EXPECT_EQ(methodNames(CDotA7BasicSetting::staticMetaObject), expected);
+  EXPECT_EQ(page->windowTitle(), QStringLiteral("Form"));
+}
+
+TEST_F(Dota7Page, HasItsTexts) {
+  QStringList groups;
+  for (const QGroupBox* const group : page->findChildren<QGroupBox*>()) groups += group->title();
+  groups.sort();
+  QStringList expected = {QStringLiteral(u"英雄技能"), QStringLiteral(u"单位动作"),
+                          QStringLiteral(u"小键盘物品栏"), QStringLiteral(u"基本设置")};
+  expected.sort();
+  EXPECT_EQ(groups, expected);
+  struct Text {
+    const char* name;
+    const char16_t* text;
+  };
+  const Text kTexts[] = {{"chk_Normal", u"一般"},
+                         {"chk_QuickUse", u"快捷施法"},
+                         {"chk_SLegacyKeys", u"使用默认技能按键"},
+                         {"chk_SCtrlLearnAbility", u"按CTRL+技能键学技能"},
+                         {"chk_LegacyOnlyQuickCast", u"在鼠标当前位置快速施法"},
+                         {"chk_SDoubleClickHero", u"双击自动施法"},
+                         {"chatHotkeyBtn", u"快捷喊话设置"}};
+  for (const Text& row : kTexts) EXPECT_EQ(button(row.name).text(), QString::fromUtf16(row.text));
+}
+
+TEST_F(Dota7Page, NamesEachField) {
+  struct Text {
+    std::u16string_view field;
+    const char16_t* label;
+  };
+  const Text kTexts[] = {{u"edt_HMoveKeyC", u"移动"},
+                         {u"edt_HHoldKey", u"保持原地"},
+                         {u"edt_HSelectHero5Key", u"选择英雄5"},
+                         {u"edt_HGlyphButtonKey", u"激活防御符文"},
+                         {u"edt_ItemKeyC5", u"6-"},
+                         {u"edt_ItemKeyHTeleportKeyC", u"回程-"}};
+  for (const Text& row : kTexts) {
+    const auto labels = page->findChildren<QLabel*>();
+    const auto label = std::find_if(labels.begin(), labels.end(), [&](const QLabel* each) {
+      return each->buddy() == &fieldOf(row.field);
+    });
+    ASSERT_NE(label, labels.end());
+    EXPECT_EQ((*label)->text(), QString::fromUtf16(row.label));
+  }
+}
+
+// Every field of the control key, in both cast modes: the pair of values that it edits, and no
+// other.
+TEST_F(Dota7Page, WritesTheValuesOfEachFieldInBothModes) {
+  for (const Dota7Cast cast : {Dota7Cast::Normal, Dota7Cast::Quick}) {
+    button(cast == Dota7Cast::Normal ? "chk_Normal" : "chk_QuickUse").setChecked(false);
+    button(cast == Dota7Cast::Normal ? "chk_Normal" : "chk_QuickUse").click();
+    for (const Dota7KeyField& row : dota7KeyFields()) {
+      if (row.keyPath != kDota7ControlPath) continue;
+      SCOPED_TRACE(qPrintable(QString::fromStdU16String(std::u16string(row.objectName))));
+      pressKey(fieldOf(row.objectName), Qt::Key_Q, Qt::AltModifier);
+      EXPECT_EQ(fieldOf(row.objectName).text(), QStringLiteral("ALT + Q"));
+      const Dota7ValuePair& values = row.values(cast);
+      EXPECT_EQ(number(values.code), 0x51U);
+      EXPECT_EQ(bytes(values.text), "ALT + Q");
+      pressKey(fieldOf(row.objectName), Qt::Key_Delete);
+      EXPECT_EQ(fieldOf(row.objectName).text(), QString());
+      EXPECT_EQ(number(values.code), 0U);
+      EXPECT_EQ(bytes(values.text), "");
+    }
+  }
+}
+
+TEST_F(Dota7Page, KeepsTheModesApart) {
+  pressKey(fieldOf(u"edt_HMoveKeyC"), Qt::Key_M);
+  button("chk_QuickUse").click();
+  EXPECT_FALSE(button("chk_Normal").isChecked());
+  EXPECT_EQ(fieldOf(u"edt_HMoveKeyC").text(), QString()) << "the other pair";
+  pressKey(fieldOf(u"edt_HMoveKeyC"), Qt::Key_N);
+  EXPECT_EQ(number(u"HMoveKeyCodeQC"), 0x4EU);
+  EXPECT_EQ(number(u"HMoveKeyCodeC"), 0x4DU);
+  button("chk_Normal").click();
+  EXPECT_EQ(fieldOf(u"edt_HMoveKeyC").text(), QStringLiteral("M"));
+}
+
+TEST_F(Dota7Page, AlwaysHasOneMode) {
+  EXPECT_TRUE(button("chk_Normal").isChecked());
+  button("chk_Normal").click();
+  EXPECT_FALSE(button("chk_Normal").isChecked());
+  EXPECT_TRUE(button("chk_QuickUse").isChecked());
+  EXPECT_EQ(manager.settings().cast(), Dota7Cast::Quick);
+  button("chk_QuickUse").click();
+  EXPECT_TRUE(button("chk_Normal").isChecked());
+  EXPECT_FALSE(button("chk_QuickUse").isChecked());
+  EXPECT_EQ(manager.settings().cast(), Dota7Cast::Normal);
+}
+
+TEST_F(Dota7Page, ShowsKeysAsTheyArePressed) {
+  QLineEdit& move = fieldOf(u"edt_HMoveKeyC");
+  pressKey(move, Qt::Key_Q);
+  EXPECT_EQ(move.text(), QStringLiteral(" Q"));
+  pressKey(move, Qt::Key_W, Qt::ControlModifier);
+  EXPECT_EQ(move.text(), QStringLiteral("CTRL + W"));
+  pressKey(move, Qt::Key_E, Qt::ControlModifier | Qt::AltModifier);
+  EXPECT_EQ(move.text(), QStringLiteral("CTRL +ALT + E"));
+  EXPECT_EQ(bytes(u"HMoveKeyC"), "ALT + E") << "Alt wins";
+  pressKey(move, Qt::Key_Return);
+  EXPECT_EQ(move.text(), QStringLiteral("CTRL +ALT + E")) << "Return does nothing";
+}
+
+TEST_F(Dota7Page, StoresALoneModifierUntilItIsReleased) {
+  QLineEdit& move = fieldOf(u"edt_HMoveKeyC");
+  pressKey(move, Qt::Key_Alt, Qt::AltModifier);
+  EXPECT_EQ(move.text(), QStringLiteral("ALT"));
+  EXPECT_EQ(number(u"HMoveKeyCodeC"), 0x12U);
+  releaseKey(move, Qt::Key_Alt);
+  EXPECT_EQ(move.text(), QString());
+  EXPECT_EQ(number(u"HMoveKeyCodeC"), 0U);
+}
+
+TEST_F(Dota7Page, RefusesAKeyThatAnotherFieldHas) {
+  pressKey(fieldOf(u"edt_HStopKey"), Qt::Key_S);
+  pressKey(fieldOf(u"edt_HHoldKey"), Qt::Key_H);
+  QString told;
+  const auto guard = whenBoxIsShown([&](QMessageBox& box) {
+    told = box.text();
+    EXPECT_EQ(box.icon(), QMessageBox::Warning);
+    EXPECT_EQ(box.windowTitle(), QStringLiteral("IDS_TITLE"));
+    EXPECT_EQ(box.parentWidget(), page.get());
+    box.accept();
+  });
+  pressKey(fieldOf(u"edt_HHoldKey"), Qt::Key_S);
+  EXPECT_EQ(told, QStringLiteral("IDS_KEY_USED"));
+  EXPECT_EQ(fieldOf(u"edt_HHoldKey").text(), QString());
+  EXPECT_EQ(number(u"HHoldKeyCode"), 0U);
+  EXPECT_EQ(number(u"HStopKeyCode"), 0x53U);
+}
+
+TEST_F(Dota7Page, StoresItsOptions) {
+  struct Row {
+    const char* box;
+    std::u16string_view value;
+  };
+  const Row kRows[] = {{"chk_SLegacyKeys", u"SLegacyKeys"},
+                       {"chk_SCtrlLearnAbility", u"SCtrlLearnAbility"},
+                       {"chk_LegacyOnlyQuickCast", u"LegacyOnlyQuickCast"},
+                       {"chk_SDoubleClickHero", u"SDoubleClickHero"}};
+  for (const Row& row : kRows) {
+    EXPECT_FALSE(button(row.box).isChecked());
+    button(row.box).click();
+    EXPECT_EQ(number(row.value), 1U) << row.box;
+    page->load();
+    EXPECT_TRUE(button(row.box).isChecked()) << row.box;
+    button(row.box).click();
+    EXPECT_EQ(number(row.value), 0U) << row.box;
+  }
+}
+
+TEST_F(Dota7Page, ShowsWhatTheRegistryHolds) {
+  registry.set(kDota7ControlPath, u"HScoreboardKeyCode", platform::dwordValue(0x09));
+  page->load();
+  EXPECT_EQ(fieldOf(u"edt_HScoreboardKey").text(), QStringLiteral("Tab"));
+}
+
+TEST_F(Dota7Page, GivesAllBackWhenItIsCancelled) {
+  registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
+  page->load();
+  const platform::RegFile before = registry.content();
+  pressKey(fieldOf(u"edt_HStopKey"), Qt::Key_X);
+  pressKey(fieldOf(u"edt_HHoldKey"), Qt::Key_Y);
+  button("chk_SLegacyKeys").click();
+  manager.cancelChanges();
+  page->load();
+  EXPECT_EQ(registry.content(), before);
+  EXPECT_EQ(fieldOf(u"edt_HStopKey").text(), QStringLiteral("S"));
+  EXPECT_EQ(fieldOf(u"edt_HHoldKey").text(), QString());
+}
+
+TEST_F(Dota7Page, ResetsAllToNothing) {
+  pressKey(fieldOf(u"edt_HStopKey"), Qt::Key_X);
+  button("chk_SLegacyKeys").click();
+  button("chk_QuickUse").click();
+  page->reset();
+  EXPECT_EQ(fieldOf(u"edt_HStopKey").text(), QString());
+  EXPECT_EQ(number(u"HStopKeyCode"), 0U);
+  EXPECT_EQ(number(u"SLegacyKeys"), 0U);
+  EXPECT_TRUE(button("chk_Normal").isChecked());
+}
+
+TEST_F(Dota7Page, AsksForTheChatWindow) {
+  const QSignalSpy spy(page.get(), &CDotA7BasicSetting::showDota7HotKeySettingDlg);
+  button("chatHotkeyBtn").click();
+  EXPECT_EQ(spy.count(), 1);
+}
+
+TEST_F(Dota7Page, HasNamesForScreenReaders) {
+  page->show();
+  expectAccessible(*page);
+}
+
+}  // namespace
+}  // namespace brennet::test

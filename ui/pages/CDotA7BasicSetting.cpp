@@ -1,0 +1,211 @@
+#include "ui/pages/CDotA7BasicSetting.h"
+
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <span>
+
+#include "gameside/Dota7KeyInfoManager.h"
+#include "ui/KeyMessages.h"
+#include "ui/TabOrder.h"
+#include "ui/Text.h"
+#include "ui/pages/KeyRows.h"
+#include "ui_CDotA7BasicSetting.h"
+
+using brennet::Dota7Cast;
+
+namespace {
+
+// A field with the label before it.
+struct Row {
+  const char* label;
+  const char* field;
+};
+
+// In columns, top to bottom.
+constexpr Row kUnitRows[] = {
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "移动"), "edt_HMoveKeyC"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "保持原地"), "edt_HHoldKey"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "停止"), "edt_HStopKey"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "巡逻"), "edt_HPatrolKeyC"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "攻击"), "edt_HAttackKeyC"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "技能学习"), "edt_HMenuAbilityLearnKey"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "天赋学习"), "edt_HMenuTalentLearnKey"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择主英雄"), "edt_HSelectMainHeroKey"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄2"), "edt_HSelectHero2Key"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄3"), "edt_HSelectHero3Key"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄4"), "edt_HSelectHero4Key"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄5"), "edt_HSelectHero5Key"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择信使"), "edt_HSelectCourierKey"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择所有单位"), "edt_HSelectAllUnitsKey"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择其他单位"), "edt_HSelectAllOtherUnitsKey"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择能量圈"), "edt_HSelectCircleOfPowerKey"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "计分板"), "edt_HScoreboardKey"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "激活防御符文"), "edt_HGlyphButtonKey"},
+};
+constexpr int kUnitColumns = 3;
+
+// Two in a row, as the inventory has them.
+constexpr Row kItemRows[] = {
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "1-"), "edt_ItemKeyC0"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "2-"), "edt_ItemKeyC1"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "3-"), "edt_ItemKeyC2"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "4-"), "edt_ItemKeyC3"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "5-"), "edt_ItemKeyC4"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "6-"), "edt_ItemKeyC5"},
+    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "回程-"), "edt_ItemKeyHTeleportKeyC"},
+};
+constexpr int kItemColumns = 2;
+
+constexpr const char* kNormalSkills[] = {"edtOrderSkill_2",  "edtOrderSkill_5", "edtOrderSkill_8",
+                                         "edtOrderSkill_11", "edtOrderSkill_4", "edtOrderSkill_7"};
+constexpr const char* kQuickSkills[] = {"edtHACSkill_3",  "edtHACSkill_6", "edtHACSkill_9",
+                                        "edtHACSkill_12", "edtHACSkill_5", "edtHACSkill_8"};
+
+std::unique_ptr<Ui::CDotA7BasicSetting> formOn(QWidget& page) {
+  auto form = std::make_unique<Ui::CDotA7BasicSetting>();
+  form->setupUi(&page);
+  return form;
+}
+
+QString text(const char* source) {
+  return QCoreApplication::translate("CDotA7BasicSetting", source);
+}
+
+void addRow(QGridLayout& grid, int row, int column, const Row& data) {
+  const QString what = text(data.label);
+  QLineEdit* const field = brennet::newKeyField(QLatin1String(data.field), what);
+  auto* const label = new QLabel(what);
+  label->setBuddy(field);
+  grid.addWidget(label, row, 2 * column);
+  grid.addWidget(field, row, 2 * column + 1);
+}
+
+// Six abilities behind the button of their cast mode.
+void addSkills(QGridLayout& grid, int row, std::span<const char* const> fields,
+               const QString& what) {
+  int column = 1;
+  for (const char* const name : fields) {
+    grid.addWidget(brennet::newKeyField(QLatin1String(name), what.arg(column)), row, column);
+    ++column;
+  }
+}
+
+}  // namespace
+
+CDotA7BasicSetting::CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QWidget* parent)
+    : QWidget(parent),
+      manager_(&manager),
+      form_(formOn(*this)),
+      fields_(manager, [this] { brennet::tellKeyIsUsed(this); }) {
+  buildRows();
+  connectButtons();
+  fields_.install(*this, *this);
+  load();
+}
+
+CDotA7BasicSetting::~CDotA7BasicSetting() = default;
+
+void CDotA7BasicSetting::buildRows() {
+  constexpr int kUnitLines = (std::size(kUnitRows) + kUnitColumns - 1) / kUnitColumns;
+  int number = 0;
+  for (const Row& row : kUnitRows) {
+    addRow(*form_->layUnits, number % kUnitLines, number / kUnitLines, row);
+    ++number;
+  }
+  number = 0;
+  for (const Row& row : kItemRows) {
+    addRow(*form_->layItems, number / kItemColumns, number % kItemColumns, row);
+    ++number;
+  }
+  addSkills(*form_->laySkills, 0, kNormalSkills,
+            text(QT_TRANSLATE_NOOP("CDotA7BasicSetting", "英雄技能 %1（一般）")));
+  addSkills(*form_->laySkills, 1, kQuickSkills,
+            text(QT_TRANSLATE_NOOP("CDotA7BasicSetting", "英雄技能 %1（快捷施法）")));
+  brennet::setTabOrderOfLayouts(*this);
+}
+
+void CDotA7BasicSetting::connectButtons() {
+  using Page = CDotA7BasicSetting;
+  const auto onClick = [this](QAbstractButton* button, void (Page::*slot)()) {
+    connect(button, &QAbstractButton::clicked, this, slot);
+  };
+  onClick(form_->chatHotkeyBtn, &Page::onClickedDota7HotKeySettingBtn);
+  onClick(form_->chk_SLegacyKeys, &Page::onClickedSLegacyKeys);
+  onClick(form_->chk_SCtrlLearnAbility, &Page::onClickedSCtrlLearnAbility);
+  onClick(form_->chk_LegacyOnlyQuickCast, &Page::onClickedLegacyOnlyQuickCast);
+  onClick(form_->chk_SDoubleClickHero, &Page::onClickedSDoubleClickHero);
+  onClick(form_->chk_Normal, &Page::onClickedNormal);
+  onClick(form_->chk_QuickUse, &Page::onClickedQuickUse);
+}
+
+void CDotA7BasicSetting::load() {
+  manager_->settings().load();
+  refresh();
+}
+
+void CDotA7BasicSetting::reset() {
+  manager_->settings().reset();
+  refresh();
+}
+
+void CDotA7BasicSetting::refresh() {
+  const brennet::Dota7Settings& settings = manager_->settings();
+  for (const brennet::Dota7Switch& row : brennet::dota7Switches()) {
+    auto* const box = findChild<QAbstractButton*>(brennet::toQString(row.objectName));
+    box->setChecked(settings.isOn(row));
+  }
+  const bool isQuick = settings.cast() == Dota7Cast::Quick;
+  form_->chk_Normal->setChecked(!isQuick);
+  form_->chk_QuickUse->setChecked(isQuick);
+  fields_.refresh();
+}
+
+// From now on the fields with two pairs of values show and edit those of this mode.
+void CDotA7BasicSetting::setCast(Dota7Cast cast) {
+  manager_->settings().setCast(cast);
+  fields_.refresh();
+}
+
+void CDotA7BasicSetting::store(const QAbstractButton& box) {
+  const auto* const row = brennet::findDota7Switch(brennet::viewOf(box.objectName()));
+  manager_->settings().setOn(*row, box.isChecked());
+}
+
+bool CDotA7BasicSetting::eventFilter(QObject* watched, QEvent* event) {
+  return fields_.filter(watched, event) || QWidget::eventFilter(watched, event);
+}
+
+void CDotA7BasicSetting::onClickedDota7HotKeySettingBtn() {
+  emit showDota7HotKeySettingDlg();
+}
+
+void CDotA7BasicSetting::onClickedSLegacyKeys() {
+  store(*form_->chk_SLegacyKeys);
+}
+
+void CDotA7BasicSetting::onClickedSCtrlLearnAbility() {
+  store(*form_->chk_SCtrlLearnAbility);
+}
+
+void CDotA7BasicSetting::onClickedLegacyOnlyQuickCast() {
+  store(*form_->chk_LegacyOnlyQuickCast);
+}
+
+void CDotA7BasicSetting::onClickedSDoubleClickHero() {
+  store(*form_->chk_SDoubleClickHero);
+}
+
+// Who switches one mode off has the other one: one of the two is always in force.
+void CDotA7BasicSetting::onClickedNormal() {
+  const bool isNormal = form_->chk_Normal->isChecked();
+  form_->chk_QuickUse->setChecked(!isNormal);
+  setCast(isNormal ? Dota7Cast::Normal : Dota7Cast::Quick);
+}
+
+void CDotA7BasicSetting::onClickedQuickUse() {
+  const bool isQuick = form_->chk_QuickUse->isChecked();
+  form_->chk_Normal->setChecked(!isQuick);
+  setCast(isQuick ? Dota7Cast::Quick : Dota7Cast::Normal);
+}

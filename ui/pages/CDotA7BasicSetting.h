@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+#include "gameside/Dota7Values.h"
+#include "ui/Dota7KeyFields.h"
+
+namespace Ui {
+class CDotA7BasicSetting;
+}
+class QAbstractButton;
+
+// The page of the DotA 7 mode: keys and options that the map reads from the registry. Each change
+// is there at once. In no namespace: catalogues of translations know it by this name.
+class CDotA7BasicSetting : public QWidget {
+  Q_OBJECT
+
+ public:
+  // `manager` outlives the page. Reads the registry.
+  CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QWidget* parent);
+  ~CDotA7BasicSetting() override;
+
+  // Reads the registry again and shows what it holds.
+  void load();
+  // Gives all keys and options their defaults: no key, off, normal cast.
+  void reset();
+
+ signals:
+  void showDota7HotKeySettingDlg();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ public slots:
+  void onClickedDota7HotKeySettingBtn();
+  void onClickedSLegacyKeys();
+  void onClickedSCtrlLearnAbility();
+  void onClickedLegacyOnlyQuickCast();
+  void onClickedSDoubleClickHero();
+  void onClickedNormal();
+  void onClickedQuickUse();
+
+ private:
+  void buildRows();
+  void connectButtons();
+  void setCast(brennet::Dota7Cast cast);
+  void refresh();
+  void store(const QAbstractButton& box);
+
+  brennet::Dota7KeyInfoManager* manager_;
+  std::unique_ptr<Ui::CDotA7BasicSetting> form_;
+  brennet::Dota7KeyFields fields_;
+};

@@ -1,0 +1,126 @@
+#include "ui/pages/Dota7ChatKeySettingWidget.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+#include "gameside/Dota7KeyInfoManager.h"
+#include "ui/KeyMessages.h"
+#include "ui/TabOrder.h"
+#include "ui/Text.h"
+#include "ui/pages/KeyRows.h"
+#include "ui_Dota7ChatKeySettingWidget.h"
+
+namespace {
+
+constexpr int kRows = 15;
+// Wide enough to read a phrase of some length; longer ones are scrolled.
+constexpr int kShownCharacters = 20;
+constexpr char16_t kWideCharacter = u'\u4E2D';
+
+std::unique_ptr<Ui::Dota7ChatKeySettingWidget> formOn(QDialog& dialog) {
+  auto form = std::make_unique<Ui::Dota7ChatKeySettingWidget>();
+  form->setupUi(&dialog);
+  return form;
+}
+
+QLabel* newLabel(const QString& objectName, int number, QLineEdit* field) {
+  auto* const label = new QLabel(QString::number(number));
+  label->setObjectName(objectName);
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  label->setBuddy(field);
+  return label;
+}
+
+QLineEdit* newPhraseField(const QString& objectName, const QString& accessibleName) {
+  auto* const field = new QLineEdit;
+  field->setObjectName(objectName);
+  field->setAccessibleName(accessibleName);
+  const QString shown(kShownCharacters, QChar(kWideCharacter));
+  field->setMinimumWidth(field->fontMetrics().horizontalAdvance(shown));
+  return field;
+}
+
+}  // namespace
+
+Dota7ChatKeySettingWidget::Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManager& manager,
+                                                     QWidget* parent)
+    : QDialog(parent),
+      manager_(&manager),
+      form_(formOn(*this)),
+      keys_(manager, [this] { brennet::tellKeyIsUsed(this); }) {
+  buildRows();
+  connect(form_->btnCancel, &QPushButton::clicked, this,
+          &Dota7ChatKeySettingWidget::onClickedCancelBtn);
+  connect(form_->btnOK, &QPushButton::clicked, this, &Dota7ChatKeySettingWidget::onClickedOkBtn);
+  setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
+  keys_.install(*this, *this);
+  load();
+}
+
+Dota7ChatKeySettingWidget::~Dota7ChatKeySettingWidget() = default;
+
+void Dota7ChatKeySettingWidget::buildRows() {
+  for (int row = 0; row < kRows; ++row) {
+    const int number = row + 1;
+    auto* const phrase = newPhraseField(QStringLiteral("edt_SQuickChatString%1").arg(row),
+                                        tr("快捷喊话 %1").arg(number));
+    auto* const key = brennet::newKeyField(QStringLiteral("edt_HQuickChatHot%1Key").arg(row),
+                                           tr("快捷喊话 %1 的按键").arg(number));
+    auto& quick = *form_->layQuickChat;
+    quick.addWidget(newLabel(QStringLiteral("label_QuickChat%1").arg(row), number, phrase), row, 0);
+    quick.addWidget(phrase, row, 1);
+    quick.addWidget(key, row, 2);
+
+    auto* const start = newPhraseField(QStringLiteral("edt_SOnStartString%1").arg(row),
+                                       tr("开局喊话 %1").arg(number));
+    auto& atStart = *form_->layOnStart;
+    atStart.addWidget(newLabel(QStringLiteral("label_SOnStartString%1").arg(row), number, start),
+                      row, 0);
+    atStart.addWidget(start, row, 1);
+  }
+  brennet::setTabOrderOfLayouts(*this);
+}
+
+void Dota7ChatKeySettingWidget::load() {
+  manager_->settings().loadPhrases();
+  for (const brennet::Dota7Phrase& row : brennet::dota7Phrases()) {
+    findChild<QLineEdit*>(brennet::toQString(row.objectName))
+        ->setText(brennet::toQString(manager_->settings().phrase(row)));
+  }
+  keys_.refresh();
+}
+
+void Dota7ChatKeySettingWidget::savePhrases() {
+  for (const brennet::Dota7Phrase& row : brennet::dota7Phrases()) {
+    const auto* const field = findChild<QLineEdit*>(brennet::toQString(row.objectName));
+    const QString text = field->text();
+    manager_->settings().setPhrase(row, brennet::viewOf(text));
+  }
+}
+
+void Dota7ChatKeySettingWidget::onClickedOkBtn() {
+  accept();
+}
+
+void Dota7ChatKeySettingWidget::onClickedCancelBtn() {
+  reject();
+}
+
+bool Dota7ChatKeySettingWidget::eventFilter(QObject* watched, QEvent* event) {
+  return keys_.filter(watched, event) || QDialog::eventFilter(watched, event);
+}
+
+void Dota7ChatKeySettingWidget::mousePressEvent(QMouseEvent* event) {
+  QDialog::mousePressEvent(event);
+  mouseMove_.press(*this, *event);
+}
+
+void Dota7ChatKeySettingWidget::mouseReleaseEvent(QMouseEvent* event) {
+  QDialog::mouseReleaseEvent(event);
+  mouseMove_.release();
+}
+
+void Dota7ChatKeySettingWidget::mouseMoveEvent(QMouseEvent* event) {
+  QDialog::mouseMoveEvent(event);
+  mouseMove_.move(*this, *event);
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+#include "ui/Dota7KeyFields.h"
+#include "ui/MouseMove.h"
+
+namespace Ui {
+class Dota7ChatKeySettingWidget;
+}
+
+// The chat dialog of the DotA 7 mode: phrases that keys send, and phrases that are said when a game
+// starts. Phrases are stored when the owner asks for it, keys at once. It has no frame; the mouse
+// moves it by any place that is no control. In no namespace: style sheets and catalogues of
+// translations know it by this name.
+class Dota7ChatKeySettingWidget : public QDialog {
+  Q_OBJECT
+
+ public:
+  // `manager` outlives the dialog. Reads the registry.
+  Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManager& manager, QWidget* parent);
+  ~Dota7ChatKeySettingWidget() override;
+
+  // Reads the phrases and their keys from the registry again and shows them.
+  void load();
+  // Writes the phrases as the fields have them.
+  void savePhrases();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ public slots:
+  void onClickedOkBtn();
+  void onClickedCancelBtn();
+
+ private:
+  void buildRows();
+
+  brennet::Dota7KeyInfoManager* manager_;
+  std::unique_ptr<Ui::Dota7ChatKeySettingWidget> form_;
+  brennet::Dota7KeyFields keys_;
+  brennet::MouseMove mouseMove_;
+};
