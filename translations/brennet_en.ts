@@ -378,6 +378,169 @@
     </message>
 </context>
 <context>
+    <name>CDotA7BasicSetting</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>英雄技能</source>
+        <translation>Hero abilities</translation>
+    </message>
+    <message>
+        <source>英雄技能快速施法</source>
+        <translation>Keys of the hero abilities</translation>
+    </message>
+    <message>
+        <source>一般</source>
+        <translation>Normal cast</translation>
+    </message>
+    <message>
+        <source>快捷施法</source>
+        <translation>Quick cast</translation>
+    </message>
+    <message>
+        <source>单位动作</source>
+        <translation>Unit actions</translation>
+    </message>
+    <message>
+        <source>小键盘物品栏</source>
+        <translation>Inventory (keypad)</translation>
+    </message>
+    <message>
+        <source>基本设置</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>使用默认技能按键</source>
+        <translation>Use the default ability keys</translation>
+    </message>
+    <message>
+        <source>按CTRL+技能键学技能</source>
+        <translation>Ctrl + ability key learns the ability</translation>
+    </message>
+    <message>
+        <source>在鼠标当前位置快速施法</source>
+        <translation>Quick cast at the mouse position</translation>
+    </message>
+    <message>
+        <source>双击自动施法</source>
+        <translation>Double click casts automatically</translation>
+    </message>
+    <message>
+        <source>快捷喊话设置</source>
+        <translation>Chat settings</translation>
+    </message>
+    <message>
+        <source>移动</source>
+        <translation>Move</translation>
+    </message>
+    <message>
+        <source>保持原地</source>
+        <translation>Hold position</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>巡逻</source>
+        <translation>Patrol</translation>
+    </message>
+    <message>
+        <source>攻击</source>
+        <translation>Attack</translation>
+    </message>
+    <message>
+        <source>技能学习</source>
+        <translation>Learn ability</translation>
+    </message>
+    <message>
+        <source>天赋学习</source>
+        <translation>Learn talent</translation>
+    </message>
+    <message>
+        <source>选择主英雄</source>
+        <translation>Select main hero</translation>
+    </message>
+    <message>
+        <source>选择英雄2</source>
+        <translation>Select hero 2</translation>
+    </message>
+    <message>
+        <source>选择英雄3</source>
+        <translation>Select hero 3</translation>
+    </message>
+    <message>
+        <source>选择英雄4</source>
+        <translation>Select hero 4</translation>
+    </message>
+    <message>
+        <source>选择英雄5</source>
+        <translation>Select hero 5</translation>
+    </message>
+    <message>
+        <source>选择信使</source>
+        <translation>Select courier</translation>
+    </message>
+    <message>
+        <source>选择所有单位</source>
+        <translation>Select all units</translation>
+    </message>
+    <message>
+        <source>选择其他单位</source>
+        <translation>Select other units</translation>
+    </message>
+    <message>
+        <source>选择能量圈</source>
+        <translation>Select circle of power</translation>
+    </message>
+    <message>
+        <source>计分板</source>
+        <translation>Scoreboard</translation>
+    </message>
+    <message>
+        <source>激活防御符文</source>
+        <translation>Activate glyph</translation>
+    </message>
+    <message>
+        <source>1-</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2-</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3-</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>4-</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>5-</source>
+        <translation>5</translation>
+    </message>
+    <message>
+        <source>6-</source>
+        <translation>6</translation>
+    </message>
+    <message>
+        <source>回程-</source>
+        <translation>Town portal</translation>
+    </message>
+    <message>
+        <source>英雄技能 %1（一般）</source>
+        <translation>Hero ability %1 (normal cast)</translation>
+    </message>
+    <message>
+        <source>英雄技能 %1（快捷施法）</source>
+        <translation>Hero ability %1 (quick cast)</translation>
+    </message>
+</context>
+<context>
     <name>CHotkeySettingPage</name>
     <message>
         <source>英雄技能</source>
@@ -635,6 +798,41 @@
     <message>
         <source>喊话 %1</source>
         <translation>Message %1</translation>
+    </message>
+</context>
+<context>
+    <name>Dota7ChatKeySettingWidget</name>
+    <message>
+        <source>CAdvancedSettingWidget</source>
+        <translation>DotA 7.0 chat</translation>
+    </message>
+    <message>
+        <source>平台改键设置</source>
+        <translation>Quick chat</translation>
+    </message>
+    <message>
+        <source>开局自动喊话</source>
+        <translation>Said when a game starts</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>快捷喊话 %1</source>
+        <translation>Quick chat %1</translation>
+    </message>
+    <message>
+        <source>快捷喊话 %1 的按键</source>
+        <translation>Key of quick chat %1</translation>
+    </message>
+    <message>
+        <source>开局喊话 %1</source>
+        <translation>Message %1 at the start</translation>
     </message>
 </context>
 <context>

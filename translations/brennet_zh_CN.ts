@@ -378,6 +378,169 @@
     </message>
 </context>
 <context>
+    <name>CDotA7BasicSetting</name>
+    <message>
+        <source>Form</source>
+        <translation>DotA7.0改键设置</translation>
+    </message>
+    <message>
+        <source>英雄技能</source>
+        <translation>英雄技能</translation>
+    </message>
+    <message>
+        <source>英雄技能快速施法</source>
+        <translation>英雄技能快速施法</translation>
+    </message>
+    <message>
+        <source>一般</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>快捷施法</source>
+        <translation>快捷施法</translation>
+    </message>
+    <message>
+        <source>单位动作</source>
+        <translation>单位动作</translation>
+    </message>
+    <message>
+        <source>小键盘物品栏</source>
+        <translation>小键盘物品栏</translation>
+    </message>
+    <message>
+        <source>基本设置</source>
+        <translation>基本设置</translation>
+    </message>
+    <message>
+        <source>使用默认技能按键</source>
+        <translation>使用默认技能按键</translation>
+    </message>
+    <message>
+        <source>按CTRL+技能键学技能</source>
+        <translation>按CTRL+技能键学技能</translation>
+    </message>
+    <message>
+        <source>在鼠标当前位置快速施法</source>
+        <translation>在鼠标当前位置快速施法</translation>
+    </message>
+    <message>
+        <source>双击自动施法</source>
+        <translation>双击自动施法</translation>
+    </message>
+    <message>
+        <source>快捷喊话设置</source>
+        <translation>快捷喊话设置</translation>
+    </message>
+    <message>
+        <source>移动</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>保持原地</source>
+        <translation>保持原地</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>巡逻</source>
+        <translation>巡逻</translation>
+    </message>
+    <message>
+        <source>攻击</source>
+        <translation>攻击</translation>
+    </message>
+    <message>
+        <source>技能学习</source>
+        <translation>技能学习</translation>
+    </message>
+    <message>
+        <source>天赋学习</source>
+        <translation>天赋学习</translation>
+    </message>
+    <message>
+        <source>选择主英雄</source>
+        <translation>选择主英雄</translation>
+    </message>
+    <message>
+        <source>选择英雄2</source>
+        <translation>选择英雄2</translation>
+    </message>
+    <message>
+        <source>选择英雄3</source>
+        <translation>选择英雄3</translation>
+    </message>
+    <message>
+        <source>选择英雄4</source>
+        <translation>选择英雄4</translation>
+    </message>
+    <message>
+        <source>选择英雄5</source>
+        <translation>选择英雄5</translation>
+    </message>
+    <message>
+        <source>选择信使</source>
+        <translation>选择信使</translation>
+    </message>
+    <message>
+        <source>选择所有单位</source>
+        <translation>选择所有单位</translation>
+    </message>
+    <message>
+        <source>选择其他单位</source>
+        <translation>选择其他单位</translation>
+    </message>
+    <message>
+        <source>选择能量圈</source>
+        <translation>选择能量圈</translation>
+    </message>
+    <message>
+        <source>计分板</source>
+        <translation>计分板</translation>
+    </message>
+    <message>
+        <source>激活防御符文</source>
+        <translation>激活防御符文</translation>
+    </message>
+    <message>
+        <source>1-</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>2-</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>3-</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>4-</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>5-</source>
+        <translation>5</translation>
+    </message>
+    <message>
+        <source>6-</source>
+        <translation>6</translation>
+    </message>
+    <message>
+        <source>回程-</source>
+        <translation>回程</translation>
+    </message>
+    <message>
+        <source>英雄技能 %1（一般）</source>
+        <translation>英雄技能 %1（一般）</translation>
+    </message>
+    <message>
+        <source>英雄技能 %1（快捷施法）</source>
+        <translation>英雄技能 %1（快捷施法）</translation>
+    </message>
+</context>
+<context>
     <name>CHotkeySettingPage</name>
     <message>
         <source>英雄技能</source>
@@ -635,6 +798,41 @@
     <message>
         <source>喊话 %1</source>
         <translation>喊话 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Dota7ChatKeySettingWidget</name>
+    <message>
+        <source>CAdvancedSettingWidget</source>
+        <translation>DotA7.0喊话设置</translation>
+    </message>
+    <message>
+        <source>平台改键设置</source>
+        <translation>快捷喊话</translation>
+    </message>
+    <message>
+        <source>开局自动喊话</source>
+        <translation>开局自动喊话</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>快捷喊话 %1</source>
+        <translation>快捷喊话 %1</translation>
+    </message>
+    <message>
+        <source>快捷喊话 %1 的按键</source>
+        <translation>快捷喊话 %1 的按键</translation>
+    </message>
+    <message>
+        <source>开局喊话 %1</source>
+        <translation>开局喊话 %1</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 #include "platform/Utf16Bytes.h"
@@ -29,6 +30,12 @@ RegFile fileWith(const std::string& lines) {
   RegFile file;
   EXPECT_TRUE(file.merge(asUtf16(kUnicodeHead + lines)));
   return file;
+}
+
+std::optional<RegistryValue> valueIn(const RegFile& file, std::u16string_view key,
+                                     std::u16string_view name) {
+  const RegistryValue* const value = file.find(key, name);
+  return value != nullptr ? std::optional(*value) : std::nullopt;
 }
 
 std::string textData(std::u16string_view text) {
@@ -105,7 +112,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, PassedOver,
                                          "\"N\"=qword:1", "=dword:1", "\\", "]"));
 
 TEST(RegFileText, NamesTheDefaultValueWithAnAt) {
-  EXPECT_EQ(*fileWith("@=dword:1").find(kKey, u""), dwordValue(1));
+  EXPECT_EQ(valueIn(fileWith("@=dword:1"), kKey, u""), dwordValue(1));
 }
 
 TEST(RegFileText, RemovesValuesAndKeys) {
@@ -133,7 +140,7 @@ TEST(RegFileText, DoesNotTakeAKeyForMoreBytes) {
   const RegFile file =
       fileWith("\"N\"=hex:1,\\\r\n[HKEY_CURRENT_USER\\Other]\r\n\"N\"=dword:1\r\n");
   EXPECT_EQ(file.find(kKey, u"N"), nullptr);
-  EXPECT_EQ(*file.find(u"HKEY_CURRENT_USER\\Other", u"N"), dwordValue(1));
+  EXPECT_EQ(valueIn(file, u"HKEY_CURRENT_USER\\Other", u"N"), dwordValue(1));
 }
 
 TEST(RegFileText, IsReadInTheAnsiCodePage) {
@@ -145,7 +152,7 @@ TEST(RegFileText, IsReadInTheAnsiCodePage) {
   EXPECT_EQ(value->data, textData(u"\u8C22"));
   // Texts in files of the later version are UTF-16 even where the file is not.
   ASSERT_TRUE(file.merge(kUnicodeHead + "\"U\"=hex(1):22,8c,00,00\r\n"s));
-  EXPECT_EQ(file.find(kKey, u"U")->data, textData(u"\u8C22"));
+  EXPECT_EQ(valueIn(file, kKey, u"U"), (RegistryValue{kRegistryText, textData(u"\u8C22")}));
 }
 
 TEST(RegFileText, IsNoneWithoutItsFirstLine) {
@@ -168,7 +175,8 @@ TEST(RegFileText, MayBeTenMegabytesLong) {
   lines += "\"Bytes\"=hex:00";
   while (lines.size() < 10U << 20U) lines += ",\\\r\n  00,01,02,03,04,05,06,07,08,09";
   const RegFile file = fileWith(lines + "\r\n\"Last\"=dword:1\r\n");
-  EXPECT_EQ(*file.find(kKey, u"Last"), dwordValue(1));
+  EXPECT_EQ(valueIn(file, kKey, u"Last"), dwordValue(1));
+  ASSERT_NE(file.find(kKey, u"Bytes"), nullptr);
   EXPECT_GT(file.find(kKey, u"Bytes")->data.size(), 1U << 20U);
 }
 
@@ -201,6 +209,17 @@ TEST(RegFileContent, RefusesWhatALineCannotHold) {
   file.createKey(u"");
   file.remove(kKey, u"N");
   EXPECT_EQ(file, before);
+}
+
+TEST(RegFileContent, TakesAsciiLettersInEitherCase) {
+  RegFile file;
+  file.createKey(u"HKEY_CURRENT_USER\\A-Z");
+  EXPECT_TRUE(file.set(u"HKEY_Current_User\\a-z", u"AZ", dwordValue(1)));
+  EXPECT_TRUE(file.set(u"HKEY_CURRENT_USER\\A-z", u"az", dwordValue(2)));
+  EXPECT_TRUE(file.set(u"HKEY_CURRENT_USER\\A-Z", u"[", dwordValue(3)));
+  EXPECT_TRUE(file.set(u"HKEY_CURRENT_USER\\A-Z", u"{", dwordValue(4)));
+  EXPECT_EQ(valueIn(file, u"hkey_current_user\\a-Z", u"Az"), dwordValue(2));
+  EXPECT_EQ(valueIn(file, u"HKEY_CURRENT_USER\\A-Z", u"["), dwordValue(3));
 }
 
 TEST(RegFileContent, HasTheKeysAboveAKey) {

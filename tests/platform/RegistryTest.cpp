@@ -39,7 +39,10 @@ TEST(RegistryKey, GivesBackWhatWasWritten) {
     EXPECT_TRUE(key.write(u"N", value));
     EXPECT_EQ(key.read(u"N").value, value);
     EXPECT_EQ(RegistryKey(kKey).read(u"n").value, value);
-    EXPECT_EQ(*registry.content().find(below(kKey), u"N"), value);
+    const RegFile content = registry.content();
+    const RegistryValue* const stored = content.find(below(kKey), u"N");
+    ASSERT_NE(stored, nullptr);
+    EXPECT_EQ(*stored, value);
   }
 }
 

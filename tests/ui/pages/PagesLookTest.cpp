@@ -9,6 +9,7 @@
 #include <QTranslator>
 #include <QVBoxLayout>
 
+#include "gameside/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "model/RecommendedScheme.h"
 #include "tests/ui/pages/PageChecks.h"
@@ -18,8 +19,10 @@
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CBasicSettingWidget.h"
 #include "ui/pages/CChatRouletteSettingWidget.h"
+#include "ui/pages/CDotA7BasicSetting.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
+#include "ui/pages/Dota7ChatKeySettingWidget.h"
 
 namespace brennet::test {
 namespace {
@@ -35,14 +38,26 @@ QWidget* make<COrrerySettingDlg>(HotkeyConfig& /*config*/, QWidget* parent) {
   return new COrrerySettingDlg(parent);
 }
 
+// What they show is the registry's, which has nothing for them.
+template <class Window>
+QWidget* makeDota7(HotkeyConfig& /*config*/, QWidget* parent) {
+  static Dota7KeyInfoManager manager;
+  return new Window(manager, parent);
+}
+
 struct PageRow {
   const char* name;
   Make make;
 };
 const PageRow kPages[] = {
-    {"basic", make<CBasicSetting7Widget>},      {"older basic", make<CBasicSettingWidget>},
-    {"advanced", make<CAdvancedSettingWidget>}, {"chat wheel", make<CChatRouletteSettingWidget>},
-    {"quick chat", make<ChatKeySettingWidget>}, {"Orrery", make<COrrerySettingDlg>},
+    {"basic", make<CBasicSetting7Widget>},
+    {"older basic", make<CBasicSettingWidget>},
+    {"advanced", make<CAdvancedSettingWidget>},
+    {"chat wheel", make<CChatRouletteSettingWidget>},
+    {"quick chat", make<ChatKeySettingWidget>},
+    {"Orrery", make<COrrerySettingDlg>},
+    {"DotA 7", makeDota7<CDotA7BasicSetting>},
+    {"DotA 7 chat", makeDota7<Dota7ChatKeySettingWidget>},
 };
 
 class PagesLook : public testing::Test {

@@ -16,6 +16,7 @@
 #include <memory>
 #include <vector>
 
+#include "gameside/Dota7KeyInfoManager.h"
 #include "model/HotkeyScheme.h"
 #include "tests/ui/UiTest.h"
 #include "ui/CCustomMsgTableModel.h"
@@ -26,8 +27,10 @@
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CBasicSettingWidget.h"
 #include "ui/pages/CChatRouletteSettingWidget.h"
+#include "ui/pages/CDotA7BasicSetting.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
+#include "ui/pages/Dota7ChatKeySettingWidget.h"
 
 namespace brennet::test {
 namespace {
@@ -151,6 +154,9 @@ std::vector<std::unique_ptr<QWidget>> makeWindows(HotkeyConfig& config) {
   windows.push_back(std::make_unique<CChatRouletteSettingWidget>(config, nullptr));
   windows.push_back(std::make_unique<COrrerySettingDlg>());
   windows.push_back(std::make_unique<ChatKeySettingWidget>(config, nullptr));
+  static Dota7KeyInfoManager manager;
+  windows.push_back(std::make_unique<CDotA7BasicSetting>(manager, nullptr));
+  windows.push_back(std::make_unique<Dota7ChatKeySettingWidget>(manager, nullptr));
   QMessageBox::StandardButtons all;
   for (int bit = QMessageBox::FirstButton; bit <= QMessageBox::LastButton; bit *= 2) {
     all |= static_cast<QMessageBox::StandardButton>(bit);
