@@ -381,7 +381,7 @@
     <name>CDotA7BasicSetting</name>
     <message>
         <source>Form</source>
-        <translation>Form</translation>
+        <translation>DotA 7.0 keys</translation>
     </message>
     <message>
         <source>英雄技能</source>
