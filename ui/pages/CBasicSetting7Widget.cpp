@@ -208,6 +208,11 @@ void CBasicSetting7Widget::useRecommended() {
   refresh();
 }
 
+void CBasicSetting7Widget::setDota7Offered(bool offered) {
+  form_->btnDota7Setting->setVisible(offered);
+  form_->lblDota7Setting->setVisible(offered);
+}
+
 bool CBasicSetting7Widget::getEditControlTypeByParseName(const QString& name,
                                                          brennet::EditControl& control) const {
   return brennet::tracedEditControl(name, brennet::BasicPage::Current, control);

@@ -36,6 +36,9 @@ class CBasicSetting7Widget : public QWidget {
   // Resets the current scheme and puts the recommended keys into it (RecommendedScheme.h).
   void useRecommended();
 
+  // Whether the page shows the way into the DotA 7 mode.
+  void setDota7Offered(bool offered);
+
   // Which setting the field of this name edits; writes a trace line.
   bool getEditControlTypeByParseName(const QString& name, brennet::EditControl& control) const;
 

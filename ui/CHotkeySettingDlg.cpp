@@ -1,0 +1,292 @@
+#include "ui/CHotkeySettingDlg.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStackedLayout>
+
+#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/RegistryImport.h"
+#include "model/HotkeyConfig.h"
+#include "ui/CMsgBox.h"
+#include "ui/StyleSheet.h"
+#include "ui/VirtualKey.h"
+#include "ui/WindowDrag.h"
+#include "ui/pages/CAdvancedSettingWidget.h"
+#include "ui/pages/CBasicSetting7Widget.h"
+#include "ui/pages/CBasicSettingWidget.h"
+#include "ui/pages/CChatRouletteSettingWidget.h"
+#include "ui/pages/CDotA7BasicSetting.h"
+#include "ui/pages/ChatKeySettingWidget.h"
+#include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui_CHotkeySettingDlg.h"
+
+namespace {
+
+constexpr unsigned kReturn = 0x0D;
+constexpr unsigned kEscape = 0x1B;
+
+// The pages of the stack.
+constexpr int kBasicPage = 0;
+constexpr int kDota7Page = 1;
+
+}  // namespace
+
+CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
+                                     brennet::Dota7KeyInfoManager& manager)
+    : QDialog(nullptr, Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
+                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
+      config_(&config),
+      manager_(&manager),
+      form_(std::make_unique<Ui::CHotkeySettingDlg>()) {
+  setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
+  setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
+  form_->setupUi(this);
+  createPages();
+  fillForm();
+  connectForm();
+  connectPages();
+  setMode(Mode::Platform);
+  // A key field would take the first key, whatever it is meant for.
+  form_->titleWidget->setFocus();
+}
+
+CHotkeySettingDlg::~CHotkeySettingDlg() = default;
+
+void CHotkeySettingDlg::createPages() {
+  advanced_ = new CAdvancedSettingWidget(*config_, this);
+  olderBasic_ = new CBasicSettingWidget(*config_, this);
+  basic_ = new CBasicSetting7Widget(*config_, this);
+  chatWheel_ = new CChatRouletteSettingWidget(*config_, this);
+  dota7_ = new CDotA7BasicSetting(*manager_, this);
+  quickChat_ = new ChatKeySettingWidget(*config_, this);
+  dota7Chat_ = new Dota7ChatKeySettingWidget(*manager_, this);
+
+  stack_ = new QStackedLayout(form_->pageArea);
+  stack_->addWidget(basic_);
+  stack_->addWidget(dota7_);
+  advanced_->hide();
+  olderBasic_->hide();
+  chatWheel_->hide();
+}
+
+void CHotkeySettingDlg::fillForm() {
+  form_->cmbHotkeySetting->addItems(
+      {tr("setting group 1"), tr("setting group 2"), tr("setting group 3")});
+  const auto index = static_cast<int>(config_->index());
+  if (index < form_->cmbHotkeySetting->count()) form_->cmbHotkeySetting->setCurrentIndex(index);
+  form_->chkUseHotkeySettings->setChecked(config_->enable());
+  for (QLabel* const link : {form_->lblResetToDefaultSetting, form_->lblUseRecommendedSetting}) {
+    link->installEventFilter(this);
+  }
+  form_->btnSwitchPlat->hide();
+  form_->btnSwitchDota7->hide();
+  form_->lblUseRecommendedSetting->hide();
+}
+
+void CHotkeySettingDlg::connectForm() {
+  using Dialog = CHotkeySettingDlg;
+  connect(form_->btnOK, &QPushButton::clicked, this, &Dialog::onClickedOkBtn);
+  connect(form_->btnCancel, &QPushButton::clicked, this, &Dialog::onClickedCancelBtn);
+  connect(form_->btnClose, &QPushButton::clicked, this, &Dialog::onClickedCancelBtn);
+  connect(form_->chkUseHotkeySettings, &QCheckBox::toggled, this,
+          &Dialog::onToggled_UseHotkeySettings);
+  connect(this, &Dialog::resetSetting, this, &Dialog::onResetSetting);
+  connect(this, &Dialog::useRecommendedSetting, this, &Dialog::onUseRecommendedSetting);
+  connect(form_->cmbHotkeySetting, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          &Dialog::onCurrentIndexChanged_HotkeySetting);
+  connect(form_->btnSwitchDota7, &QPushButton::clicked, this, &Dialog::onSwitchDota7KeySettingDlg);
+  connect(form_->btnSwitchPlat, &QPushButton::clicked, this, &Dialog::onSwitchPlatKeySettingDlg);
+}
+
+void CHotkeySettingDlg::connectPages() {
+  using Dialog = CHotkeySettingDlg;
+  using Slot = void (ChatKeySettingWidget::*)(bool);
+  // The quick-chat window follows the advanced page. Where that has taken a refused choice back
+  // already, there is nothing to follow, and nothing to tell once more.
+  const auto follow = [this](const char* name, Slot slot) {
+    auto* const button = advanced_->findChild<QAbstractButton*>(QLatin1String(name));
+    connect(button, &QAbstractButton::toggled, quickChat_, [this, button, slot](bool isChecked) {
+      if (isChecked == button->isChecked()) (quickChat_->*slot)(isChecked);
+    });
+  };
+  follow("optChatKey_1", &ChatKeySettingWidget::onToggled_ChatKey_1);
+  follow("optChatKey_2", &ChatKeySettingWidget::onToggled_ChatKey_2);
+  connect(basic_, &CBasicSetting7Widget::showHotKeySettingDlg, this,
+          &Dialog::onShowHotKeySettingDlg);
+  connect(basic_, &CBasicSetting7Widget::showDota7SettingDlg, this,
+          &Dialog::onSwitchDota7KeySettingDlg);
+  connect(dota7_, &CDotA7BasicSetting::showDota7HotKeySettingDlg, this,
+          &Dialog::onShowDota7HotKeySettingDlg);
+}
+
+void CHotkeySettingDlg::setDataFolder(std::u16string_view folder) {
+  const bool canHaveDota7 = brennet::importDefaultRegistry(folder);
+  basic_->setDota7Offered(canHaveDota7);
+}
+
+void CHotkeySettingDlg::setMode(Mode mode) {
+  mode_ = mode;
+  const bool isPlatform = mode == Mode::Platform;
+  stack_->setCurrentIndex(isPlatform ? kBasicPage : kDota7Page);
+  form_->btnSwitchPlat->setVisible(!isPlatform);
+  form_->btnSwitchDota7->hide();
+  form_->lblSetting->setVisible(isPlatform);
+  form_->cmbHotkeySetting->setVisible(isPlatform);
+  form_->chkUseHotkeySettings->setVisible(isPlatform);
+}
+
+// No connection leads to the next four; clients know them.
+void CHotkeySettingDlg::onSwitchSettingUI() {}
+
+void CHotkeySettingDlg::onSwitchBasicSettingUI() {
+  stack_->setCurrentIndex(kBasicPage);
+}
+
+void CHotkeySettingDlg::onSwitchAdvancedSettingUI() {
+  stack_->setCurrentIndex(kDota7Page);
+}
+
+void CHotkeySettingDlg::onSwitchChatWheelSettingUI() {
+  constexpr int kNoPage = 2;  // the stack has none behind the DotA 7 page
+  stack_->setCurrentIndex(kNoPage);
+  chatWheel_->setFocus();
+  if (auto* const first = chatWheel_->findChild<QWidget*>()) first->setFocus();
+}
+
+void CHotkeySettingDlg::onClickedOkBtn() {
+  manager_->acceptChanges();
+  accept();
+}
+
+void CHotkeySettingDlg::onClickedCancelBtn() {
+  reject();
+}
+
+void CHotkeySettingDlg::reject() {
+  manager_->cancelChanges();
+  QDialog::reject();
+}
+
+void CHotkeySettingDlg::onToggled_UseHotkeySettings(bool bChecked) {
+  config_->setEnable(bChecked);
+}
+
+bool CHotkeySettingDlg::isConfirmed(int icon, const QString& title, const QString& question) {
+  return CMsgBox::showMessage(this, static_cast<QMessageBox::Icon>(icon), title, question,
+                              QMessageBox::Ok | QMessageBox::Cancel,
+                              QMessageBox::Ok) == QMessageBox::Ok;
+}
+
+void CHotkeySettingDlg::onResetSetting() {
+  const QString question =
+      tr("After resetting, your modification on basic and advanced settings will lost.\nAre you "
+         "sure to continue?");
+  if (!isConfirmed(QMessageBox::Warning, tr("reset settings"), question)) return;
+  if (mode_ == Mode::Platform) {
+    basic_->reset();
+    resetChat();
+  } else {
+    dota7_->reset();
+    refreshDota7();
+  }
+}
+
+void CHotkeySettingDlg::onUseRecommendedSetting() {
+  if (!isConfirmed(QMessageBox::Question, tr("use system recommended settings"),
+                   tr("Are you sure to use system recommended settings?"))) {
+    return;
+  }
+  if (mode_ != Mode::Platform) return;
+  basic_->useRecommended();
+  resetChat();
+}
+
+// The other pages show the same scheme, also while they are hidden.
+void CHotkeySettingDlg::resetChat() {
+  quickChat_->reset();
+  advanced_->refresh();
+  chatWheel_->load();
+}
+
+void CHotkeySettingDlg::onCurrentIndexChanged_HotkeySetting(int index) {
+  if (index < 0 || index >= brennet::HotkeyConfig::kSchemes) return;
+  config_->setIndex(static_cast<std::uint32_t>(index));
+  basic_->refresh();
+  quickChat_->load();
+  advanced_->refresh();
+  chatWheel_->load();
+  refreshDota7();
+}
+
+// What was recorded is in the registry already; Cancel can still take it back.
+void CHotkeySettingDlg::refreshDota7() {
+  manager_->refresh();
+  dota7_->load();
+}
+
+void CHotkeySettingDlg::onShowHotKeySettingDlg() {
+  quickChat_->raise();
+  quickChat_->exec();
+}
+
+void CHotkeySettingDlg::onSwitchPlatKeySettingDlg() {
+  setMode(Mode::Platform);
+}
+
+void CHotkeySettingDlg::onSwitchDota7KeySettingDlg() {
+  refreshDota7();
+  setMode(Mode::Dota7);
+}
+
+void CHotkeySettingDlg::onShowDota7HotKeySettingDlg() {
+  dota7Chat_->load();
+  dota7Chat_->raise();
+  if (dota7Chat_->exec() == QDialog::Accepted) {
+    dota7Chat_->savePhrases();
+  } else {
+    dota7Chat_->load();
+  }
+}
+
+bool CHotkeySettingDlg::eventFilter(QObject* watched, QEvent* event) {
+  const auto* const link = qobject_cast<const QLabel*>(watched);
+  bool isClicked = false;
+  if (link != nullptr && event->type() == QEvent::MouseButtonRelease) {
+    isClicked = link->rect().contains(static_cast<QMouseEvent*>(event)->pos());
+  } else if (link != nullptr && event->type() == QEvent::KeyRelease) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    isClicked = key == Qt::Key_Space || key == Qt::Key_Enter;
+  }
+  if (isClicked && link == form_->lblResetToDefaultSetting) emit resetSetting();
+  if (isClicked && link == form_->lblUseRecommendedSetting) emit useRecommendedSetting();
+  return QDialog::eventFilter(watched, event);
+}
+
+// Neither Escape nor Return ends the dialog: both are keys that players try in the fields.
+void CHotkeySettingDlg::keyPressEvent(QKeyEvent* event) {
+  const unsigned key = brennet::virtualKeyOf(*event);
+  if (event->matches(QKeySequence::Close) || key == kEscape || key == kReturn) return;
+  QDialog::keyPressEvent(event);
+}
+
+brennet::DraggableWindow CHotkeySettingDlg::dragged() const {
+  return {.window = *this, .titleStrip = form_->titleWidget, .form = form_->formWidget};
+}
+
+void CHotkeySettingDlg::mousePressEvent(QMouseEvent* event) {
+  if (!brennet::startDrag(dragged(), *event)) QDialog::mousePressEvent(event);
+}
+
+bool CHotkeySettingDlg::nativeEvent(const QByteArray& eventType, void* message, long* result) {
+  return brennet::answerHitTest(dragged(), eventType, message, result) ||
+         QDialog::nativeEvent(eventType, message, result);
+}
+
+void CHotkeySettingDlg::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (!isFirstShow_) return;
+  isFirstShow_ = false;
+  if (brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"))) return;
+  CMsgBox::showMessage(this, QMessageBox::Critical, QStringLiteral("error"),
+                       QStringLiteral("failed to read qss file"));
+}

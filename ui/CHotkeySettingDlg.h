@@ -1,0 +1,100 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+#include <string_view>
+
+namespace Ui {
+class CHotkeySettingDlg;
+}
+namespace brennet {
+class Dota7KeyInfoManager;
+struct DraggableWindow;
+class HotkeyConfig;
+}  // namespace brennet
+class CAdvancedSettingWidget;
+class CBasicSetting7Widget;
+class CBasicSettingWidget;
+class CChatRouletteSettingWidget;
+class CDotA7BasicSetting;
+class ChatKeySettingWidget;
+class Dota7ChatKeySettingWidget;
+class QLabel;
+class QStackedLayout;
+
+// The settings dialog. Its pages write each change into the configuration, or into the registry, at
+// once; OK keeps what is in the registry and Cancel takes it back. What becomes of the configuration
+// is for the caller to decide. In no namespace: style sheets and catalogues know it by this name.
+class CHotkeySettingDlg : public QDialog {
+  Q_OBJECT
+
+ public:
+  // Both outlive the dialog.
+  CHotkeySettingDlg(brennet::HotkeyConfig& config, brennet::Dota7KeyInfoManager& manager);
+  ~CHotkeySettingDlg() override;
+
+  // Where the host keeps Tollamere.reg, the DotA 7 keys of a new player; ends in a path separator.
+  // They are imported if the registry has none. If that cannot be, the way into the DotA 7 mode is
+  // closed.
+  void setDataFolder(std::u16string_view folder);
+
+ signals:
+  void resetSetting();
+  void useRecommendedSetting();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  bool nativeEvent(const QByteArray& eventType, void* message, long* result) override;
+  void showEvent(QShowEvent* event) override;
+
+ public slots:
+  void onSwitchSettingUI();
+  void onSwitchBasicSettingUI();
+  void onSwitchAdvancedSettingUI();
+  void onSwitchChatWheelSettingUI();
+  void onClickedOkBtn();
+  void onClickedCancelBtn();
+  void onToggled_UseHotkeySettings(bool bChecked);
+  void onResetSetting();
+  void onUseRecommendedSetting();
+  void onCurrentIndexChanged_HotkeySetting(int index);
+  void onShowHotKeySettingDlg();
+  void onSwitchPlatKeySettingDlg();
+  void onSwitchDota7KeySettingDlg();
+  void onShowDota7HotKeySettingDlg();
+
+ public:
+  // However the dialog is dismissed, the registry gets back what it had.
+  void reject() override;
+
+ private:
+  enum class Mode { Platform = 1, Dota7 = 2 };
+
+  void createPages();
+  void fillForm();
+  void connectForm();
+  void connectPages();
+  void setMode(Mode mode);
+  void refreshDota7();
+  void resetChat();
+  [[nodiscard]] bool isConfirmed(int icon, const QString& title, const QString& question);
+  [[nodiscard]] brennet::DraggableWindow dragged() const;
+
+  brennet::HotkeyConfig* config_;
+  brennet::Dota7KeyInfoManager* manager_;
+  std::unique_ptr<Ui::CHotkeySettingDlg> form_;
+  QStackedLayout* stack_ = nullptr;
+  // Children of this widget.
+  CAdvancedSettingWidget* advanced_ = nullptr;
+  CBasicSettingWidget* olderBasic_ = nullptr;
+  CBasicSetting7Widget* basic_ = nullptr;
+  CChatRouletteSettingWidget* chatWheel_ = nullptr;
+  CDotA7BasicSetting* dota7_ = nullptr;
+  ChatKeySettingWidget* quickChat_ = nullptr;
+  Dota7ChatKeySettingWidget* dota7Chat_ = nullptr;
+  Mode mode_ = Mode::Platform;
+  bool isFirstShow_ = true;
+};
