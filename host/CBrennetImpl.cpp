@@ -1,16 +1,21 @@
 #include "host/CBrennetImpl.h"
 
+#include <QApplication>
+
 #include <algorithm>
 #include <cstring>
 #include <exception>
 #include <utility>
 
+#include "gameside/Dota7KeyInfoManager.h"
 #include "host/ProcessConfigs.h"
 #include "host/WideText.h"
 #include "model/BlockFiller.h"
 #include "model/BlockMerger.h"
 #include "model/KeyConflicts.h"
 #include "platform/MemoryProbe.h"
+#include "ui/CHotkeySettingDlg.h"
+#include "ui/ModalRun.h"
 
 namespace brennet {
 namespace {
@@ -80,10 +85,19 @@ void CBrennetImpl::SetDataFolder(const wchar_t* folder) noexcept {
   }
 }
 
-// This build has no windows, so the player never confirms anything.
-bool CBrennetImpl::ShowSettingsDialog(bool* saved, std::uint32_t) noexcept {
-  if (saved != nullptr) *saved = false;
-  return false;
+bool CBrennetImpl::ShowSettingsDialog(bool* saved, std::uint32_t saveTime) noexcept {
+  if (saved == nullptr) return false;
+  *saved = false;
+  // Without the host's application object there are no windows.
+  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) return false;
+  return orElse(false, [&] {
+    workingCopy().ResetAndCopyFrom(*config_);
+    CHotkeySettingDlg dialog(workingCopy(), Dota7KeyInfoManager::instance());
+    dialog.setDataFolder(dataFolder_);
+    if (runModal(dialog) != QDialog::Accepted) return false;
+    *saved = orElse(false, [&] { return saveWorkingCopy(saveTime); });
+    return true;
+  });
 }
 
 bool CBrennetImpl::FillHotkeyBlock(HotkeyBlock* block) noexcept {

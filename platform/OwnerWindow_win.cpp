@@ -1,0 +1,87 @@
+#include "platform/OwnerWindow.h"
+
+#include <windows.h>
+
+#include <string_view>
+
+namespace brennet::platform {
+namespace {
+
+std::uintptr_t toNumber(HWND window) {
+  return reinterpret_cast<std::uintptr_t>(window);
+}
+HWND toHandle(std::uintptr_t number) {
+  return reinterpret_cast<HWND>(number);
+}
+
+bool isOfThisThread(HWND window) {
+  return GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
+}
+
+// Not every window of the thread is one that the player works in.
+bool isOwner(HWND window) {
+  if (IsWindowVisible(window) == FALSE || !isOfThisThread(window)) return false;
+  constexpr int kNameUnits = 32;
+  wchar_t name[kNameUnits] = {};
+  GetClassNameW(window, name, kNameUnits);
+  if (std::wstring_view(name) == L"tooltips_class32") return false;
+  return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) == 0;
+}
+
+BOOL CALLBACK stopAtOwner(HWND window, LPARAM found) {
+  if (!isOwner(window)) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
+HWND findOwner() {
+  HWND found = GetActiveWindow();
+  if (found != nullptr && isOfThisThread(found)) return found;
+  found = nullptr;
+  EnumWindows(stopAtOwner, reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+HWND withoutChildren(HWND window) {
+  while (window != nullptr && (GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0) {
+    window = GetParent(window);
+  }
+  return window;
+}
+
+HWND rootOf(HWND window) {
+  HWND root = window;
+  for (HWND parent = root; parent != nullptr; parent = GetParent(parent)) root = parent;
+  return root;
+}
+
+}  // namespace
+
+OwnerWindows disableOwnerWindows() {
+  OwnerWindows windows;
+  HWND const owner = withoutChildren(findOwner());
+  HWND const root = rootOf(owner);
+  HWND const popup = owner == nullptr ? nullptr : GetLastActivePopup(owner);
+  if (root != nullptr && IsWindowEnabled(root) != FALSE && root != popup) {
+    windows.root = toNumber(root);
+    if (GetCapture() == root) ReleaseCapture();
+    EnableWindow(root, FALSE);
+  }
+  windows.popup = toNumber(popup);
+  if (popup != nullptr && popup != GetDesktopWindow() && IsWindowEnabled(popup) != FALSE) {
+    EnableWindow(popup, FALSE);
+    windows.isPopupDisabled = true;
+  }
+  return windows;
+}
+
+void enableOwnerWindows(const OwnerWindows& windows) {
+  if (windows.root != 0) {
+    EnableWindow(toHandle(windows.root), TRUE);
+    SetActiveWindow(toHandle(windows.root));
+  }
+  if (windows.isPopupDisabled) EnableWindow(toHandle(windows.popup), TRUE);
+  if (windows.popup != 0) SetActiveWindow(toHandle(windows.popup));
+}
+
+}  // namespace brennet::platform
