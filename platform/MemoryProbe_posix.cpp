@@ -25,8 +25,12 @@ class ProbePipe {
   [[nodiscard]] bool isOpen() const { return open_; }
 
   bool roundTrip(void* byte) {
-    return retried([&] { return write(ends_[1], byte, 1); }) &&
-           retried([&] { return read(ends_[0], byte, 1); });
+    if (!retried([&] { return write(ends_[1], byte, 1); })) return false;
+    if (retried([&] { return read(ends_[0], byte, 1); })) return true;
+    // A byte that could not be put back is still in the pipe, and would be the next one's.
+    char rest = 0;
+    retried([&] { return read(ends_[0], &rest, 1); });
+    return false;
   }
 
  private:

@@ -41,6 +41,17 @@ TEST(IsWritable, RefusesARangeThatRunsIntoForbiddenMemory) {
   }
 }
 
+TEST(IsWritable, LeavesMemoryAloneAfterARefusal) {
+  const GuardedPages pages(1, Access::Read);
+  char bytes[] = "ab";
+  for (int round = 0; round < 3; ++round) {
+    EXPECT_FALSE(isWritable(pages.boundary(), 1));
+    EXPECT_TRUE(isWritable(bytes, 1));
+    EXPECT_TRUE(isWritable(bytes + 1, 1));
+  }
+  EXPECT_STREQ(bytes, "ab");
+}
+
 TEST(IsWritable, LeavesAPageAloneThatSignalsTheFirstTouch) {
   const GuardedPages pages(1, Access::Signal);
   for (int round = 0; round < 2; ++round) {

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -57,7 +58,8 @@ class AWindowWithoutItsSkin : public testing::TestWithParam<Missing> {
  protected:
   // Qt tells of each picture that it misses, and the pages of their fields.
   ~AWindowWithoutItsSkin() override {
-    for (const QString& text : messages_.texts()) {
+    for (const QString& message : messages_.texts()) {
+      const QString text = QDir::fromNativeSeparators(message);
       const QLatin1String expected[] = {
           QLatin1String("Could not create pixmap from :/skin/image/"),
           QLatin1String("getEditControlTypeByParseName"),
