@@ -48,19 +48,19 @@ void Dota7KeyInfoManager::acceptChanges() {
 }
 
 void Dota7KeyInfoManager::cancelChanges() {
-  for (const auto& [place, value] : before_) {
+  records_.clear();
+  // What cannot be given back now is kept for the next time.
+  std::erase_if(before_, [](const auto& entry) {
+    const auto& [place, value] = entry;
     RegistryKey key(place.first);
-    if (value) {
-      key.write(place.second, *value);
-    } else {
-      key.remove(place.second);
-    }
-  }
-  before_.clear();
-  refresh();
+    return value ? key.write(place.second, *value) : key.remove(place.second);
+  });
+  settings_.load();
 }
 
 void Dota7KeyInfoManager::refresh() {
+  // The import of the first keys may have ended only after they were made.
+  writeRecords();
   records_.clear();
   settings_.load();
 }

@@ -58,8 +58,8 @@ class Dota7KeyInfoManager : public QObject {
   // there before, or its absence, and reads the settings again.
   void cancelChanges();
 
-  // Forgets the recorded changes, which are written already, and reads the settings again. The
-  // changes can still be cancelled.
+  // Writes the recorded changes once more, where that was not possible when they were made; forgets
+  // them and reads the settings again. The changes can still be cancelled.
   void refresh();
 
   // Writes all recorded changes.

@@ -35,6 +35,13 @@ std::optional<std::string> textIn(const std::optional<platform::RegistryValue>& 
   return value->data;
 }
 
+// Whether there is a value of that name, and one that is not `usual`.
+bool holdsOther(const platform::RegistryKey& source, std::u16string_view name,
+                const platform::RegistryValue& usual) {
+  const platform::RegistryKey::Reading reading = source.read(name);
+  return reading.value && *reading.value != usual;
+}
+
 struct PhraseReading {
   std::u16string text;
   bool isWhole;  // writing the text again would give the same value
@@ -194,16 +201,27 @@ void Dota7Settings::setPhrase(const Dota7Phrase& row, std::u16string_view text) 
 }
 
 void Dota7Settings::reset() {
+  const platform::RegistryKey control(kDota7ControlPath);
+  const platform::RegistryKey phrases(kDota7PhrasesPath);
+  const platform::RegistryValue nothing{platform::kRegistryBinary, {}};
+  const platform::RegistryValue zero = platform::dwordValue(0);
   for (const Dota7KeyField& field : dota7KeyFields()) {
+    const auto& source = field.keyPath == kDota7ControlPath ? control : phrases;
     for (const Dota7Cast cast : kCasts) {
-      if (keyPlace(field, cast) != Dota7Key()) change(field, cast, {});
+      const Dota7ValuePair& values = field.values(cast);
+      const bool isSet = keyPlace(field, cast) != Dota7Key() ||
+                         holdsOther(source, values.text, nothing) ||
+                         holdsOther(source, values.code, zero);
+      if (isSet) change(field, cast, {});
     }
   }
   for (const Dota7Switch& row : dota7Switches()) {
-    if (isOn(row)) setOn(row, false);
+    if (isOn(row) || holdsOther(control, row.valueName, zero)) setOn(row, false);
   }
   for (const Dota7Phrase& row : dota7Phrases()) {
-    if (!phrase(row).empty()) setPhrase(row, {});
+    if (phrase(row).empty() && !holdsOther(phrases, row.valueName, nothing)) continue;
+    unreadable_[indexOf(row, dota7Phrases())] = false;
+    setPhrase(row, {});
   }
   cast_ = Dota7Cast::Normal;
 }

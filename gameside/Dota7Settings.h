@@ -64,8 +64,8 @@ class Dota7Settings {
   // of a value that could not be read as one is not written unless it has changed.
   void setPhrase(const Dota7Phrase& row, std::u16string_view text);
 
-  // Gives every value its default, in both cast modes, and sets the normal one. Values that read as
-  // their defaults are not written.
+  // Gives every value its default, in both cast modes, and sets the normal one, also where the
+  // registry holds what could not be read. Values that are not there are not made.
   void reset();
 
  private:

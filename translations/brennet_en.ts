@@ -541,6 +541,88 @@
     </message>
 </context>
 <context>
+    <name>CHotkeySettingDlg</name>
+    <message>
+        <source>魔兽改键设置</source>
+        <translation>Warcraft III hotkeys</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>平台改键设置</source>
+        <translation>Hotkeys</translation>
+    </message>
+    <message>
+        <source>启用改键</source>
+        <translation>Use hotkeys</translation>
+    </message>
+    <message>
+        <source>选择方案：</source>
+        <translation>Setting group:</translation>
+    </message>
+    <message>
+        <source>选择方案</source>
+        <translation>Setting group</translation>
+    </message>
+    <message>
+        <source>切换至普通改键</source>
+        <translation>Platform hotkeys</translation>
+    </message>
+    <message>
+        <source>切换至DotA7.0专用改键</source>
+        <translation>DotA 7.0 keys</translation>
+    </message>
+    <message>
+        <source>清空设置</source>
+        <translation>Clear settings</translation>
+    </message>
+    <message>
+        <source>推荐方案</source>
+        <translation>Recommended keys</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>setting group 1</source>
+        <translation>Group 1</translation>
+    </message>
+    <message>
+        <source>setting group 2</source>
+        <translation>Group 2</translation>
+    </message>
+    <message>
+        <source>setting group 3</source>
+        <translation>Group 3</translation>
+    </message>
+    <message>
+        <source>After resetting, your modification on basic and advanced settings will lost.
+Are you sure to continue?</source>
+        <translation>All keys, switches and phrases of this setting group will be cleared.
+Do you want to go on?</translation>
+    </message>
+    <message>
+        <source>reset settings</source>
+        <translation>Reset settings</translation>
+    </message>
+    <message>
+        <source>use system recommended settings</source>
+        <translation>Recommended keys</translation>
+    </message>
+    <message>
+        <source>Are you sure to use system recommended settings?</source>
+        <translation>Your keys will be replaced by the recommended ones.
+Do you want to go on?</translation>
+    </message>
+</context>
+<context>
     <name>CHotkeySettingPage</name>
     <message>
         <source>英雄技能</source>

@@ -541,6 +541,87 @@
     </message>
 </context>
 <context>
+    <name>CHotkeySettingDlg</name>
+    <message>
+        <source>魔兽改键设置</source>
+        <translation>魔兽改键设置</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>平台改键设置</source>
+        <translation>平台改键设置</translation>
+    </message>
+    <message>
+        <source>启用改键</source>
+        <translation>启用改键</translation>
+    </message>
+    <message>
+        <source>选择方案：</source>
+        <translation>选择方案：</translation>
+    </message>
+    <message>
+        <source>选择方案</source>
+        <translation>选择方案</translation>
+    </message>
+    <message>
+        <source>切换至普通改键</source>
+        <translation>切换至普通改键</translation>
+    </message>
+    <message>
+        <source>切换至DotA7.0专用改键</source>
+        <translation>切换至DotA7.0专用改键</translation>
+    </message>
+    <message>
+        <source>清空设置</source>
+        <translation>清空设置</translation>
+    </message>
+    <message>
+        <source>推荐方案</source>
+        <translation>推荐方案</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>setting group 1</source>
+        <translation>方案一</translation>
+    </message>
+    <message>
+        <source>setting group 2</source>
+        <translation>方案二</translation>
+    </message>
+    <message>
+        <source>setting group 3</source>
+        <translation>方案三</translation>
+    </message>
+    <message>
+        <source>After resetting, your modification on basic and advanced settings will lost.
+Are you sure to continue?</source>
+        <translation>清空后，您在基础设置和高级设置中的修改将会丢失。
+确定要继续吗？</translation>
+    </message>
+    <message>
+        <source>reset settings</source>
+        <translation>清空设置</translation>
+    </message>
+    <message>
+        <source>use system recommended settings</source>
+        <translation>使用推荐方案</translation>
+    </message>
+    <message>
+        <source>Are you sure to use system recommended settings?</source>
+        <translation>确定要使用系统推荐的设置吗？</translation>
+    </message>
+</context>
+<context>
     <name>CHotkeySettingPage</name>
     <message>
         <source>英雄技能</source>
@@ -808,7 +889,7 @@
     </message>
     <message>
         <source>平台改键设置</source>
-        <translation>快捷喊话</translation>
+        <translation>平台改键设置</translation>
     </message>
     <message>
         <source>开局自动喊话</source>

@@ -153,7 +153,13 @@ void CHotkeySettingDlg::onSwitchChatWheelSettingUI() {
   if (auto* const first = chatWheel_->findChild<QWidget*>()) first->setFocus();
 }
 
+// A key field that has the focus ends what was begun in it before the changes are counted.
+void CHotkeySettingDlg::leaveField() {
+  if (QWidget* const field = focusWidget()) field->clearFocus();
+}
+
 void CHotkeySettingDlg::onClickedOkBtn() {
+  leaveField();
   manager_->acceptChanges();
   accept();
 }
@@ -163,6 +169,7 @@ void CHotkeySettingDlg::onClickedCancelBtn() {
 }
 
 void CHotkeySettingDlg::reject() {
+  leaveField();
   manager_->cancelChanges();
   QDialog::reject();
 }
@@ -286,7 +293,18 @@ void CHotkeySettingDlg::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (!isFirstShow_) return;
   isFirstShow_ = false;
-  if (brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"))) return;
+  if (brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"))) {
+    fitToSkin();
+    return;
+  }
   CMsgBox::showMessage(this, QMessageBox::Critical, QStringLiteral("error"),
                        QStringLiteral("failed to read qss file"));
+}
+
+// The page that is not shown would keep the size that it has without the skin, and with it the
+// dialog, which is as large as the larger one.
+void CHotkeySettingDlg::fitToSkin() {
+  for (QWidget* const widget : findChildren<QWidget*>()) widget->ensurePolished();
+  for (QLayout* const inner : findChildren<QLayout*>()) inner->invalidate();
+  layout()->activate();
 }

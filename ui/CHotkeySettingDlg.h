@@ -24,8 +24,9 @@ class QLabel;
 class QStackedLayout;
 
 // The settings dialog. Its pages write each change into the configuration, or into the registry, at
-// once; OK keeps what is in the registry and Cancel takes it back. What becomes of the configuration
-// is for the caller to decide. In no namespace: style sheets and catalogues know it by this name.
+// once; OK keeps what is in the registry and Cancel takes it back. What becomes of the
+// configuration is for the caller to decide. In no namespace: style sheets and catalogues know it
+// by this name.
 class CHotkeySettingDlg : public QDialog {
   Q_OBJECT
 
@@ -79,6 +80,8 @@ class CHotkeySettingDlg : public QDialog {
   void connectPages();
   void setMode(Mode mode);
   void refreshDota7();
+  void leaveField();
+  void fitToSkin();
   void resetChat();
   [[nodiscard]] bool isConfirmed(int icon, const QString& title, const QString& question);
   [[nodiscard]] brennet::DraggableWindow dragged() const;

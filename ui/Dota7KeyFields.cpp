@@ -43,7 +43,7 @@ void Dota7KeyFields::install(const QWidget& window, QObject& page) {
 }
 
 void Dota7KeyFields::refresh() {
-  filter_.forget();
+  // A lone modifier that is still down is in the store, and goes when it is released.
   for (const Field& field : fields_) {
     field.field->setText(toQString(manager_->settings().keyText(*field.row)));
   }

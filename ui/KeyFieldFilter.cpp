@@ -29,9 +29,9 @@ std::vector<QLineEdit*> KeyFieldFilter::install(const QWidget& window, QObject& 
   std::vector<QLineEdit*> capturing;
   const QRegularExpression names(QStringLiteral("^edt"));
   for (QLineEdit* const field : window.findChildren<QLineEdit*>(names)) {
-    field->setAttribute(Qt::WA_InputMethodEnabled, false);
     field->installEventFilter(&page);
     if (!captures_(*field)) continue;
+    field->setAttribute(Qt::WA_InputMethodEnabled, false);
     field->setReadOnly(true);
     capturing.push_back(field);
   }

@@ -23,9 +23,9 @@ class KeyFieldFilter {
 
   KeyFieldFilter(CaptureStyle style, Captures captures, OnCapture onCapture);
 
-  // Makes `page` the event filter of all line edits named "edt..." in `window`, and turns input
-  // methods off there: they would swallow keys. Nothing but keys gets into those that capture
-  // them. Returns those.
+  // Makes `page` the event filter of all line edits named "edt..." in `window`. Nothing but keys
+  // gets into those that capture them; input methods, which would swallow keys, are off there.
+  // Returns those.
   std::vector<QLineEdit*> install(const QWidget& window, QObject& page) const;
 
   // For the event filter of the page: whether the event is used up.

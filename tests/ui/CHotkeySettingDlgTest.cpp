@@ -193,6 +193,18 @@ TEST_F(SettingsDialog, TakesTheRegistryBackWhenItIsCancelled) {
   EXPECT_EQ(dialog->result(), QDialog::Rejected);
 }
 
+TEST_F(SettingsDialog, TakesTheRegistryBackWithAModifierStillDown) {
+  registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
+  dialog->show();
+  dialog->onSwitchDota7KeySettingDlg();
+  const platform::RegFile before = registry.content();
+  auto& stop = *page<CDotA7BasicSetting>().findChild<QLineEdit*>(QStringLiteral("edt_HStopKey"));
+  stop.setFocus();
+  pressKey(stop, Qt::Key_Control, Qt::ControlModifier);
+  dialog->close();
+  EXPECT_EQ(registry.content(), before);
+}
+
 TEST_F(SettingsDialog, KeepsTheRegistryWhenItIsAccepted) {
   dialog->onSwitchDota7KeySettingDlg();
   pressKey(*page<CDotA7BasicSetting>().findChild<QLineEdit*>(QStringLiteral("edt_HStopKey")),
@@ -205,14 +217,14 @@ TEST_F(SettingsDialog, KeepsTheRegistryWhenItIsAccepted) {
 
 TEST_F(SettingsDialog, IsNotEndedByKeys) {
   dialog->show();
-  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) QTest::keyClick(dialog.get(), key);
-  QTest::keyClick(dialog.get(), Qt::Key_F4, Qt::AltModifier);
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) pressKey(*dialog, key);
+  pressKey(*dialog, Qt::Key_F4, Qt::AltModifier);
   EXPECT_TRUE(dialog->isVisible());
+  // No key field has the focus at first.
+  ASSERT_NE(dialog->focusWidget(), nullptr);
   const HotkeyScheme before = config.scheme();
-  QTest::keyClick(
-      QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : dialog.get(),
-      Qt::Key_Escape);
-  EXPECT_EQ(config.scheme(), before) << "no key field has the focus at first";
+  pressKey(*dialog->focusWidget(), Qt::Key_Escape);
+  EXPECT_EQ(config.scheme(), before);
 }
 
 TEST_F(SettingsDialog, AnswersItsLinksToTheKeyboardAndInsideOnly) {

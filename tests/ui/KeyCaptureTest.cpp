@@ -33,6 +33,37 @@ KeyEvent release(unsigned key) {
   return {.isPress = false, .virtualKey = key};
 }
 
+TEST(KeyCapture, TakesALoneModifierForAKeyUntilItIsReleased) {
+  constexpr unsigned kCtrl = 0x11;
+  KeyCapture capture{CaptureStyle{.modifiersAreKeys = true}};
+  const Capture ctrl = capture.handle({.isPress = true, .virtualKey = kCtrl});
+  EXPECT_EQ(ctrl.outcome, Capture::Outcome::Captured);
+  EXPECT_EQ(ctrl.key, KeyWord(kCtrl, 0));
+  EXPECT_EQ(ctrl.text.view(), u"CTRL");
+  const Capture alt = capture.handle({.isPress = true, .virtualKey = kAlt, .controlIsHeld = true});
+  EXPECT_EQ(alt.key, KeyWord(kAlt, 0)) << "the one that was pressed last";
+  EXPECT_EQ(capture.handle({.isPress = false, .virtualKey = kAlt}).outcome,
+            Capture::Outcome::Cleared);
+  EXPECT_EQ(capture.handle({.isPress = false, .virtualKey = kCtrl}).outcome,
+            Capture::Outcome::Ignored);
+
+  static_cast<void>(capture.handle({.isPress = true, .virtualKey = kCtrl}));
+  const Capture q = capture.handle({.isPress = true, .virtualKey = 'Q', .controlIsHeld = true});
+  EXPECT_EQ(q.key, KeyWord('Q', KeyWord::kCtrl));
+  EXPECT_EQ(capture.handle({.isPress = false, .virtualKey = 'Q'}).outcome,
+            Capture::Outcome::Ignored)
+      << "a whole key stays";
+
+  static_cast<void>(capture.handle({.isPress = true, .virtualKey = kAlt}));
+  EXPECT_EQ(capture.handle({.isPress = true, .virtualKey = 0x0D, .altIsHeld = true}).outcome,
+            Capture::Outcome::Ignored);
+  EXPECT_EQ(capture.leave().outcome, Capture::Outcome::Cleared) << "Return completes nothing";
+  static_cast<void>(capture.handle({.isPress = true, .virtualKey = kAlt}));
+  EXPECT_EQ(capture.handle({.isPress = true, .virtualKey = 8, .altIsHeld = true}).outcome,
+            Capture::Outcome::Cleared);
+  EXPECT_EQ(capture.leave().outcome, Capture::Outcome::Ignored);
+}
+
 TEST(KeyCapture, IgnoresTheReleasesOfAKeyThatRepeats) {
   KeyCapture capture{CaptureStyle{}};
   static_cast<void>(capture.handle({.isPress = true, .virtualKey = 0x11}));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -83,8 +84,27 @@ TEST_F(Dota7Page, NamesEachField) {
   };
   const Text kTexts[] = {{u"edt_HMoveKeyC", u"移动"},
                          {u"edt_HHoldKey", u"保持原地"},
+                         {u"edt_HStopKey", u"停止"},
+                         {u"edt_HPatrolKeyC", u"巡逻"},
+                         {u"edt_HAttackKeyC", u"攻击"},
+                         {u"edt_HMenuAbilityLearnKey", u"技能学习"},
+                         {u"edt_HMenuTalentLearnKey", u"天赋学习"},
+                         {u"edt_HSelectMainHeroKey", u"选择主英雄"},
+                         {u"edt_HSelectHero2Key", u"选择英雄2"},
+                         {u"edt_HSelectHero3Key", u"选择英雄3"},
+                         {u"edt_HSelectHero4Key", u"选择英雄4"},
                          {u"edt_HSelectHero5Key", u"选择英雄5"},
+                         {u"edt_HSelectCourierKey", u"选择信使"},
+                         {u"edt_HSelectAllUnitsKey", u"选择所有单位"},
+                         {u"edt_HSelectAllOtherUnitsKey", u"选择其他单位"},
+                         {u"edt_HSelectCircleOfPowerKey", u"选择能量圈"},
+                         {u"edt_HScoreboardKey", u"计分板"},
                          {u"edt_HGlyphButtonKey", u"激活防御符文"},
+                         {u"edt_ItemKeyC0", u"1-"},
+                         {u"edt_ItemKeyC1", u"2-"},
+                         {u"edt_ItemKeyC2", u"3-"},
+                         {u"edt_ItemKeyC3", u"4-"},
+                         {u"edt_ItemKeyC4", u"5-"},
                          {u"edt_ItemKeyC5", u"6-"},
                          {u"edt_ItemKeyHTeleportKeyC", u"回程-"}};
   for (const Text& row : kTexts) {
@@ -239,6 +259,50 @@ TEST_F(Dota7Page, AsksForTheChatWindow) {
   const QSignalSpy spy(page.get(), &CDotA7BasicSetting::showDota7HotKeySettingDlg);
   button("chatHotkeyBtn").click();
   EXPECT_EQ(spy.count(), 1);
+}
+
+TEST_F(Dota7Page, HasTheAbilitiesInTheOrderOfTheGame) {
+  page->resize(page->sizeHint());
+  page->show();
+  const char16_t* const rows[][6] = {{u"edtOrderSkill_2", u"edtOrderSkill_5", u"edtOrderSkill_8",
+                                      u"edtOrderSkill_11", u"edtOrderSkill_4", u"edtOrderSkill_7"},
+                                     {u"edtHACSkill_3", u"edtHACSkill_6", u"edtHACSkill_9",
+                                      u"edtHACSkill_12", u"edtHACSkill_5", u"edtHACSkill_8"}};
+  for (const auto& row : rows) {
+    for (int column = 1; column < 6; ++column) {
+      EXPECT_GT(fieldOf(row[column]).x(), fieldOf(row[column - 1]).x());
+      EXPECT_EQ(fieldOf(row[column]).y(), fieldOf(row[0]).y());
+    }
+  }
+  EXPECT_GT(fieldOf(u"edtHACSkill_3").y(), fieldOf(u"edtOrderSkill_2").y());
+}
+
+TEST_F(Dota7Page, IsReadInOrder) {
+  page->show();
+  const QStringList order = tabOrder(*page);
+  int last = -1;
+  for (const char* const name : {"chk_Normal", "edtOrderSkill_2", "chk_QuickUse", "edtHACSkill_8",
+                                 "edt_HMoveKeyC", "edt_HGlyphButtonKey", "edt_ItemKeyC0",
+                                 "edt_ItemKeyC1", "chk_SLegacyKeys", "chatHotkeyBtn"}) {
+    const int at = order.indexOf(QLatin1String(name));
+    EXPECT_GT(at, last) << name;
+    last = at;
+  }
+}
+
+TEST(Dota7PageWithoutRegistry, StaysQuiet) {
+  ScopedRegistry registry;
+  Dota7KeyInfoManager manager;
+  CDotA7BasicSetting page(manager, nullptr);
+  const NoBoxes noBoxes;
+  const platform::RegFile before = registry.content();
+  auto& stop = *page.findChild<QLineEdit*>(QStringLiteral("edt_HStopKey"));
+  pressKey(stop, Qt::Key_S);
+  EXPECT_EQ(stop.text(), QStringLiteral(" S"));
+  page.findChild<QAbstractButton*>(QStringLiteral("chk_SLegacyKeys"))->click();
+  page.reset();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(registry.content(), before) << "no key is made";
 }
 
 TEST_F(Dota7Page, HasNamesForScreenReaders) {

@@ -59,6 +59,8 @@ TEST_F(Dota7ChatDialog, HasItsWidgets) {
 TEST_F(Dota7ChatDialog, TakesTextInPhrasesAndKeysInKeyFields) {
   EXPECT_FALSE(phrase(0).isReadOnly());
   EXPECT_FALSE(atStart(14).isReadOnly());
+  EXPECT_TRUE(phrase(0).testAttribute(Qt::WA_InputMethodEnabled)) << "phrases are Chinese";
+  EXPECT_FALSE(keyField(0).testAttribute(Qt::WA_InputMethodEnabled));
   pressKey(keyField(14), Qt::Key_F5, Qt::ControlModifier);
   EXPECT_EQ(keyField(14).text(), QStringLiteral("CTRL + F5"));
   EXPECT_EQ(phrases(u"HQuickChatHot14KeyCode"), platform::dwordValue(0x74));

@@ -18,7 +18,7 @@
 namespace brennet::test {
 namespace {
 
-void send(QLineEdit& field, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+void send(QWidget& field, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QKeyEvent event(type, key, modifiers, 0, virtualKeyOfQtKey(key, false), 0);
   QApplication::sendEvent(&field, &event);
 }
@@ -102,11 +102,11 @@ QStringList methodNames(const QMetaObject& type) {
   return names;
 }
 
-void pressKey(QLineEdit& field, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+void pressKey(QWidget& field, Qt::Key key, Qt::KeyboardModifiers modifiers) {
   send(field, QEvent::KeyPress, key, modifiers);
 }
 
-void releaseKey(QLineEdit& field, Qt::Key key) {
+void releaseKey(QWidget& field, Qt::Key key) {
   send(field, QEvent::KeyRelease, key, Qt::NoModifier);
 }
 

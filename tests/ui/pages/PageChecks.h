@@ -5,7 +5,6 @@
 #include <QTranslator>
 #include <Qt>
 
-class QLineEdit;
 class QWidget;
 struct QMetaObject;
 
@@ -17,8 +16,8 @@ namespace brennet::test {
 [[nodiscard]] QStringList methodNames(const QMetaObject& type);
 
 // A key with the code that Windows sends for it.
-void pressKey(QLineEdit& field, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-void releaseKey(QLineEdit& field, Qt::Key key);
+void pressKey(QWidget& field, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void releaseKey(QWidget& field, Qt::Key key);
 
 // The object names of all widgets that Tab reaches in a window that is shown, from the first on.
 [[nodiscard]] QStringList tabOrder(QWidget& window);

@@ -20,6 +20,7 @@
 #include "model/HotkeyScheme.h"
 #include "tests/ui/UiTest.h"
 #include "ui/CCustomMsgTableModel.h"
+#include "ui/CHotkeySettingDlg.h"
 #include "ui/CMsgBox.h"
 #include "ui/ChatPhrases.h"
 #include "ui/KeyMessages.h"
@@ -157,6 +158,7 @@ std::vector<std::unique_ptr<QWidget>> makeWindows(HotkeyConfig& config) {
   static Dota7KeyInfoManager manager;
   windows.push_back(std::make_unique<CDotA7BasicSetting>(manager, nullptr));
   windows.push_back(std::make_unique<Dota7ChatKeySettingWidget>(manager, nullptr));
+  windows.push_back(std::make_unique<CHotkeySettingDlg>(config, manager));
   QMessageBox::StandardButtons all;
   for (int bit = QMessageBox::FirstButton; bit <= QMessageBox::LastButton; bit *= 2) {
     all |= static_cast<QMessageBox::StandardButton>(bit);

@@ -20,6 +20,7 @@ struct Shot {
 [[nodiscard]] QList<Shot> boxShots();
 [[nodiscard]] QList<Shot> chatShots();
 [[nodiscard]] QList<Shot> controlShots();
+[[nodiscard]] QList<Shot> dialogShots();
 [[nodiscard]] QList<Shot> dota7Shots();
 [[nodiscard]] QList<Shot> wheelShots();
 

@@ -65,7 +65,8 @@ int main(int argc, char** argv) {
   const QDir folder(QString::fromLocal8Bit(argv[1]));
   const QList<Shot> shots = brennet::shots::basicShots() + brennet::shots::boxShots() +
                             brennet::shots::chatShots() + brennet::shots::controlShots() +
-                            brennet::shots::dota7Shots() + brennet::shots::wheelShots();
+                            brennet::shots::dialogShots() + brennet::shots::dota7Shots() +
+                            brennet::shots::wheelShots();
   for (const char* const language : {"zh_CN", "en"}) {
     if (!takeAll(shots, folder, QLatin1String(language))) return 1;
   }
