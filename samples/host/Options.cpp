@@ -35,8 +35,11 @@ void declareOptions(QCommandLineParser& parser) {
       flag("block", "Print every field of the block for the game."),
       valued("save-block", "FILE", "Write the block to FILE."),
       valued("apply-block", "FILE", "Hand the block in FILE back to the library."),
+      flag("dialog", "Open the settings dialog."),
+      valued("pictures", "DIR", "Open the dialog unseen and put pictures of it into DIR."),
       valued("enable", "on|off", "Switch the feature on or off."),
-      valued("save-time", "N", "The save time for --enable and --apply-block; default: now."),
+      valued("save-time", "N",
+             "The save time for --enable, --apply-block and --dialog; default: now."),
       flag("json", "Print JSON."),
   });
 }
@@ -65,6 +68,8 @@ std::optional<Options> parseOptions(const QStringList& arguments) {
   options.saveBlock = parser.value(QStringLiteral("save-block"));
   options.applyBlock = parser.value(QStringLiteral("apply-block"));
   options.block = parser.isSet(QStringLiteral("block"));
+  options.pictures = parser.value(QStringLiteral("pictures"));
+  options.dialog = parser.isSet(QStringLiteral("dialog"));
   options.json = parser.isSet(QStringLiteral("json"));
   if (!options.profile.isEmpty() && hasFixedProfile()) {
     return refuse(QStringLiteral("--profile cannot be given under Windows"));

@@ -12,9 +12,11 @@ struct Options {
   QString profile;  // empty: a scratch folder, so that no real preference file is touched
   QString saveBlock;
   QString applyBlock;
+  QString pictures;
   std::optional<bool> enable;
   std::uint32_t saveTime = 0;
   bool block = false;
+  bool dialog = false;
   bool json = false;
 };
 

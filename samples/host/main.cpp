@@ -2,13 +2,16 @@
 //
 // Exit status: 0, 1 when the library said no (standard error says to what), 2 for bad usage.
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 
 #include "Catalogue.h"
+#include "Dialog.h"
 #include "Library.h"
 #include "Options.h"
 #include "Report.h"
@@ -64,6 +67,33 @@ void change(brennet::IBrennet& brennet, const Options& options, QByteArray& retu
   }
 }
 
+void showWindows(brennet::IBrennet& brennet, const Options& options, Report& report) {
+  if (options.dialog) {
+    std::fprintf(stderr, "%s\n", qPrintable(openDialog(brennet, options.saveTime)));
+  }
+  if (options.pictures.isEmpty()) return;
+  const QStringList files = takePictures(brennet, options.pictures);
+  for (const QString& file : files) std::fprintf(stderr, "A picture: %s\n", qPrintable(file));
+  if (files.isEmpty()) report.refusals += QStringLiteral("no picture of the dialog was made");
+}
+
+// Windows take another kind of application than the rest does, and pictures no screen.
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
+  const auto has = [&](const char* option) {
+    const std::size_t length = std::strlen(option);
+    return std::any_of(argv + 1, argv + argc, [&](const char* argument) {
+      return std::strncmp(argument, option, length) == 0;
+    });
+  };
+  if (has("--pictures")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!has("--pictures") && !has("--dialog")) {
+    return std::make_unique<QCoreApplication>(argc, argv);
+  }
+  QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+  QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  return std::make_unique<QApplication>(argc, argv);
+}
+
 int run(const Options& options) {
   // The library finds the user's profile through the environment, so this comes first.
   const QTemporaryDir scratch;
@@ -82,6 +112,7 @@ int run(const Options& options) {
   Report report;
   load(brennet, options, report);
   change(brennet, options, returned, report);
+  showWindows(brennet, options, report);
   fillReport(brennet, report);
 
   if (!options.saveBlock.isEmpty() && !writeBlock(options.saveBlock, report.block)) {
@@ -100,7 +131,7 @@ int run(const Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
+  const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
   const Catalogue catalogue;
   const std::optional<Options> options = parseOptions(QCoreApplication::arguments());
   return options ? run(*options) : kBadUsage;

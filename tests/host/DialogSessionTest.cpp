@@ -66,7 +66,8 @@ TEST_F(DialogSession, SavesWhatThePlayerConfirms) {
   EXPECT_TRUE(open("btnOK", changeMuch));
   EXPECT_TRUE(saved_);
   const HotkeyBlock block = filled();
-  EXPECT_EQ(block.heroSkillKeys0to5[2], 'E' << 8 | KeyWord::kCtrl | 8) << "with its quick-cast mark";
+  EXPECT_EQ(block.heroSkillKeys0to5[2], 'E' << 8 | KeyWord::kCtrl | 8)
+      << "with its quick-cast mark";
   EXPECT_EQ(block.itemKeys[0], 'Q' << 8 | KeyWord::kAlt) << "the preset";
   const std::string file = readBytes(settings_);
   EXPECT_NE(file.find("<Key id=\"2\" autocast=\"1\">17666</Key>"), std::string::npos) << file;

@@ -115,4 +115,14 @@ says 'Feature          off'
 follows 'customkeys=0'
 run 0 --settings "$folder/KeyInfo.xml" --enable on
 
+# The settings dialog, unseen: a picture is made of it, and nothing is changed.
+mkdir "$folder/pictures"
+cp "$folder/KeyInfo.xml" "$folder/before.xml"
+run 0 --settings "$folder/KeyInfo.xml" --pictures "$folder/pictures"
+complains 'A picture: '
+[[ $(head -c 4 "$folder/pictures/settings.png" | tail -c 3) == PNG ]] || fail 'it is no picture'
+cmp -s "$folder/before.xml" "$folder/KeyInfo.xml" || fail 'the settings changed'
+run 1 --settings "$folder/KeyInfo.xml" --pictures "$folder/missing/folder"
+complains 'no picture of the dialog was made'
+
 exit $((failures > 0))
