@@ -9,6 +9,7 @@
 #include "ui/FeatureKeys.h"
 #include "ui/KeyMessages.h"
 #include "ui/Text.h"
+#include "ui/pages/Form.h"
 #include "ui_CAdvancedSettingWidget.h"
 
 namespace {
@@ -28,8 +29,7 @@ int keyFieldWidth(const QFontMetrics& metrics) {
 }
 
 std::unique_ptr<Ui::CAdvancedSettingWidget> makeForm(QWidget& page) {
-  auto form = std::make_unique<Ui::CAdvancedSettingWidget>();
-  form->setupUi(&page);
+  auto form = brennet::formOn<Ui::CAdvancedSettingWidget>(page);
   const int width = keyFieldWidth(page.fontMetrics());
   for (const int column : kKeyColumns) form->hotkeyLayout->setColumnMinimumWidth(column, width);
   return form;

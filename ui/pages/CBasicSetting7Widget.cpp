@@ -9,6 +9,7 @@
 #include "ui/TabOrder.h"
 #include "ui/pages/BasicCapture.h"
 #include "ui/pages/COrrerySettingDlg.h"
+#include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_CHotkeySettingPage.h"
 
@@ -26,12 +27,6 @@ struct CBasicSetting7Widget::Option {
 namespace {
 
 constexpr int kOptionRows = 3;
-
-std::unique_ptr<Ui::CHotkeySettingPage> formOn(QWidget& page) {
-  auto form = std::make_unique<Ui::CHotkeySettingPage>();
-  form->setupUi(&page);
-  return form;
-}
 
 // All texts of the page belong to its form.
 QString text(const char* source) {
@@ -83,7 +78,7 @@ std::span<const CBasicSetting7Widget::Option> CBasicSetting7Widget::options() {
 CBasicSetting7Widget::CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidget* dialog)
     : QWidget(dialog),
       config_(config),
-      form_(formOn(*this)),
+      form_(brennet::formOn<Ui::CHotkeySettingPage>(*this)),
       orrery_(std::make_unique<COrrerySettingDlg>()),
       fields_(brennet::basicCapturePage(brennet::BasicPage::Current, *this), config),
       switches_(config),

@@ -5,6 +5,7 @@
 
 #include "ui/TabOrder.h"
 #include "ui/pages/BasicCapture.h"
+#include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_CBasicSettingWidget.h"
 
@@ -14,17 +15,11 @@ namespace {
 
 constexpr int kSkills = 7;
 
-std::unique_ptr<Ui::CBasicSettingWidget> formOn(QWidget& page) {
-  auto form = std::make_unique<Ui::CBasicSettingWidget>();
-  form->setupUi(&page);
-  return form;
-}
-
 }  // namespace
 
 CBasicSettingWidget::CBasicSettingWidget(brennet::HotkeyConfig& config, QWidget* dialog)
     : QWidget(dialog),
-      form_(formOn(*this)),
+      form_(brennet::formOn<Ui::CBasicSettingWidget>(*this)),
       fields_(brennet::basicCapturePage(brennet::BasicPage::Older, *this), config),
       switches_(config) {
   buildRows();

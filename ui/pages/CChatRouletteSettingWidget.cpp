@@ -16,6 +16,7 @@
 #include "ui/RingLayout.h"
 #include "ui/Text.h"
 #include "ui/TypedPhrase.h"
+#include "ui/pages/Form.h"
 #include "ui_CChatRouletteSettingWidget.h"
 
 namespace {
@@ -37,12 +38,6 @@ constexpr char16_t kWideCharacter = u'\u4E2D';
 
 int widthOf(int characters, const QWidget& page) {
   return page.fontMetrics().horizontalAdvance(QString(characters, QChar(kWideCharacter)));
-}
-
-std::unique_ptr<Ui::CChatRouletteSettingWidget> makeForm(QWidget& page) {
-  auto form = std::make_unique<Ui::CChatRouletteSettingWidget>();
-  form->setupUi(&page);
-  return form;
 }
 
 // The number that the name of a slot ends in, 1 to 8; 0 for other names.
@@ -71,7 +66,7 @@ CChatRouletteSettingWidget::CChatRouletteSettingWidget(brennet::HotkeyConfig& co
                                                        QWidget* parent)
     : QWidget(parent),
       config_(&config),
-      ui_(makeForm(*this)),
+      ui_(brennet::formOn<Ui::CChatRouletteSettingWidget>(*this)),
       capture_(
           {.style = {},
            .captures = [this](const QLineEdit& field) { return &field == ui_->edtChatWheelKey; },

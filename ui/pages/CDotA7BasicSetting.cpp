@@ -10,6 +10,7 @@
 #include "ui/KeyMessages.h"
 #include "ui/TabOrder.h"
 #include "ui/Text.h"
+#include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_CDotA7BasicSetting.h"
 
@@ -63,12 +64,6 @@ constexpr const char* kNormalSkills[] = {"edtOrderSkill_2",  "edtOrderSkill_5", 
 constexpr const char* kQuickSkills[] = {"edtHACSkill_3",  "edtHACSkill_6", "edtHACSkill_9",
                                         "edtHACSkill_12", "edtHACSkill_5", "edtHACSkill_8"};
 
-std::unique_ptr<Ui::CDotA7BasicSetting> formOn(QWidget& page) {
-  auto form = std::make_unique<Ui::CDotA7BasicSetting>();
-  form->setupUi(&page);
-  return form;
-}
-
 QString text(const char* source) {
   return QCoreApplication::translate("CDotA7BasicSetting", source);
 }
@@ -97,7 +92,7 @@ void addSkills(QGridLayout& grid, int row, std::span<const char* const> fields,
 CDotA7BasicSetting::CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QWidget* parent)
     : QWidget(parent),
       manager_(&manager),
-      form_(formOn(*this)),
+      form_(brennet::formOn<Ui::CDotA7BasicSetting>(*this)),
       fields_(manager, [this] { brennet::tellKeyIsUsed(this); }) {
   buildRows();
   connectButtons();

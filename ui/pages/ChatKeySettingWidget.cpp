@@ -5,6 +5,7 @@
 #include "ui/KeyMessages.h"
 #include "ui/Text.h"
 #include "ui/TypedPhrase.h"
+#include "ui/pages/Form.h"
 #include "ui_ChatKeySettingWidget.h"
 
 namespace {
@@ -16,8 +17,7 @@ constexpr int kFieldColumn = 1;
 constexpr char16_t kWideCharacter = u'\u4E2D';
 
 std::unique_ptr<Ui::ChatKeySettingWidget> makeForm(QDialog& dialog) {
-  auto form = std::make_unique<Ui::ChatKeySettingWidget>();
-  form->setupUi(&dialog);
+  auto form = brennet::formOn<Ui::ChatKeySettingWidget>(dialog);
   // The longest phrase can be read whole, in any font; two characters more are for the frame.
   const QString longest(static_cast<int>(brennet::kPhraseUnits) + 2, QChar(kWideCharacter));
   form->phraseLayout->setColumnMinimumWidth(kFieldColumn,

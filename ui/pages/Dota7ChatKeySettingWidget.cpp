@@ -7,6 +7,7 @@
 #include "ui/KeyMessages.h"
 #include "ui/TabOrder.h"
 #include "ui/Text.h"
+#include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
 #include "ui_Dota7ChatKeySettingWidget.h"
 
@@ -16,12 +17,6 @@ constexpr int kRows = 15;
 // Wide enough to read a phrase of some length; longer ones are scrolled.
 constexpr int kShownCharacters = 20;
 constexpr char16_t kWideCharacter = u'\u4E2D';
-
-std::unique_ptr<Ui::Dota7ChatKeySettingWidget> formOn(QDialog& dialog) {
-  auto form = std::make_unique<Ui::Dota7ChatKeySettingWidget>();
-  form->setupUi(&dialog);
-  return form;
-}
 
 QLabel* newLabel(const QString& objectName, int number, QLineEdit* field) {
   auto* const label = new QLabel(QString::number(number));
@@ -46,7 +41,7 @@ Dota7ChatKeySettingWidget::Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManage
                                                      QWidget* parent)
     : QDialog(parent),
       manager_(&manager),
-      form_(formOn(*this)),
+      form_(brennet::formOn<Ui::Dota7ChatKeySettingWidget>(*this)),
       keys_(manager, [this] { brennet::tellKeyIsUsed(this); }) {
   buildRows();
   connect(form_->btnCancel, &QPushButton::clicked, this,

@@ -1,10 +1,7 @@
 // The basic pages and the Orrery window, with keys of all lengths.
 
-#include <QVBoxLayout>
-
 #include "model/RecommendedScheme.h"
 #include "tests/ui/shots/Shots.h"
-#include "ui/StyleSheet.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CBasicSettingWidget.h"
 #include "ui/pages/COrrerySettingDlg.h"
@@ -34,19 +31,9 @@ HotkeyConfig& settings() {
   return config;
 }
 
-// On the background of the settings window.
 template <typename Page>
 std::unique_ptr<QWidget> makePage() {
-  auto window = std::make_unique<QWidget>();
-  QPalette palette;
-  palette.setColor(QPalette::Window, QColor(0x1e, 0x24, 0x2f));
-  window->setPalette(palette);
-  auto* const layout = new QVBoxLayout(window.get());
-  layout->addWidget(new Page(settings(), window.get()));
-  loadStyleSheet(*window, QStringLiteral(":/skin/war3key.qss"));
-  // Windows are not made as large by themselves on the small screen that they are drawn for.
-  window->resize(window->sizeHint());
-  return window;
+  return inDialog([](QWidget* parent) { return new Page(settings(), parent); });
 }
 
 }  // namespace

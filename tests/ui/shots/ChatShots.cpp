@@ -1,7 +1,5 @@
 // The quick-chat dialog and the advanced page, with keys and phrases of all lengths.
 
-#include <QVBoxLayout>
-
 #include "tests/ui/shots/Shots.h"
 #include "ui/StyleSheet.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
@@ -35,18 +33,8 @@ std::unique_ptr<QWidget> makeDialog() {
   return dialog;
 }
 
-// On the background of the settings window.
 std::unique_ptr<QWidget> makePage() {
-  auto window = std::make_unique<QWidget>();
-  QPalette palette;
-  palette.setColor(QPalette::Window, QColor(0x1e, 0x24, 0x2f));
-  window->setPalette(palette);
-  auto* const layout = new QVBoxLayout(window.get());
-  layout->addWidget(new CAdvancedSettingWidget(settings(), window.get()));
-  loadStyleSheet(*window, QStringLiteral(":/skin/war3key.qss"));
-  // Windows are not made as large by themselves on the small screen that they are drawn for.
-  window->resize(window->sizeHint());
-  return window;
+  return inDialog([](QWidget* parent) { return new CAdvancedSettingWidget(settings(), parent); });
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 // keys and phrases are put into the fields.
 
 #include <QLineEdit>
-#include <QVBoxLayout>
 
 #include "gameside/Dota7KeyInfoManager.h"
 #include "tests/ui/shots/Shots.h"
@@ -39,15 +38,7 @@ void fill(QWidget& window) {
 }
 
 std::unique_ptr<QWidget> makePage() {
-  auto window = std::make_unique<QWidget>();
-  QPalette palette;
-  palette.setColor(QPalette::Window, QColor(0x1e, 0x24, 0x2f));
-  window->setPalette(palette);
-  auto* const layout = new QVBoxLayout(window.get());
-  layout->addWidget(new CDotA7BasicSetting(manager(), window.get()));
-  loadStyleSheet(*window, QStringLiteral(":/skin/war3key.qss"));
-  // Windows are not made as large by themselves on the small screen that they are drawn for.
-  window->resize(window->sizeHint());
+  auto window = inDialog([](QWidget* parent) { return new CDotA7BasicSetting(manager(), parent); });
   fill(*window);
   return window;
 }

@@ -15,6 +15,9 @@ struct Shot {
   std::function<std::unique_ptr<QWidget>()> make;
 };
 
+// A page on the background of the settings dialog, in the skin.
+[[nodiscard]] std::unique_ptr<QWidget> inDialog(const std::function<QWidget*(QWidget*)>& makePage);
+
 // One function for each kind of window; main.cpp calls all of them.
 [[nodiscard]] QList<Shot> basicShots();
 [[nodiscard]] QList<Shot> boxShots();
