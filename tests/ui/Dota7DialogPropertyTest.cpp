@@ -1,0 +1,147 @@
+// A player who does anything in the DotA 7 windows, in any order: after Cancel the registry is as
+// it was, and after OK it holds what the windows showed.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTimer>
+
+#include <random>
+
+#include "model/HotkeyConfig.h"
+#include "tests/gameside/Dota7Test.h"
+#include "tests/ui/pages/PageChecks.h"
+#include "ui/CHotkeySettingDlg.h"
+#include "ui/pages/CDotA7BasicSetting.h"
+#include "ui/pages/Dota7ChatKeySettingWidget.h"
+
+namespace brennet::test {
+namespace {
+
+class AnyPlayer : public Dota7Test {
+ protected:
+  static constexpr unsigned kPlayers = 8;
+  static constexpr int kSteps = 40;
+
+  AnyPlayer() {
+    // Used keys are told of all the time.
+    QObject::connect(&closer_, &QTimer::timeout, [] {
+      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box != nullptr) box->accept();
+    });
+    closer_.start(0);
+    registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
+    registry.set(kDota7ControlPath, u"HMoveKeyCodeQC", platform::dwordValue('M'));
+    registry.set(kDota7ControlPath, u"HHoldKey", bytesValue("odd \xFF"));
+    registry.set(kDota7PhrasesPath, u"SOnStartString3", bytesValue(std::string(300, 'x')));
+  }
+
+  int number(int below) { return std::uniform_int_distribution<int>(0, below - 1)(random_); }
+
+  template <class Widget>
+  Widget& anyOf(const QWidget& window) {
+    const auto all = window.findChildren<Widget*>(QRegularExpression(QStringLiteral("^(edt|chk)")));
+    return *all[number(all.size())];
+  }
+
+  void pressSomething(QWidget& field) {
+    const Qt::Key keys[] = {Qt::Key_Q,       Qt::Key_S,   Qt::Key_M,
+                            Qt::Key_Control, Qt::Key_Alt, Qt::Key_Backspace,
+                            Qt::Key_Return,  Qt::Key_F5,  Qt::Key_Delete};
+    const Qt::KeyboardModifiers modifiers[] = {Qt::NoModifier, Qt::ControlModifier, Qt::AltModifier,
+                                               Qt::ControlModifier | Qt::AltModifier};
+    field.setFocus();
+    pressKey(field, keys[number(std::size(keys))], modifiers[number(std::size(modifiers))]);
+    if (number(2) == 0) releaseKey(field, Qt::Key_Control);
+  }
+
+  void doSomething(CHotkeySettingDlg& dialog) {
+    auto& page = *dialog.findChild<CDotA7BasicSetting*>();
+    auto& chat = *dialog.findChild<Dota7ChatKeySettingWidget*>();
+    switch (number(8)) {
+      case 0:
+        return dialog.onSwitchPlatKeySettingDlg();
+      case 1:
+        return dialog.onSwitchDota7KeySettingDlg();
+      case 2:
+        return dialog.onCurrentIndexChanged_HotkeySetting(number(3));
+      case 3:
+        return anyOf<QAbstractButton>(page).click();
+      case 4:
+        return chatFor(chat, number(2));
+      case 5:
+        return pressSomething(anyOf<QLineEdit>(chat));
+      default:
+        return pressSomething(anyOf<QLineEdit>(page));
+    }
+  }
+
+  // Types a phrase and ends the chat window, as the dialog runs it.
+  void chatFor(Dota7ChatKeySettingWidget& chat, int result) {
+    auto& phrase =
+        *chat.findChild<QLineEdit*>(QStringLiteral("edt_SOnStartString%1").arg(number(15)));
+    phrase.setText(QString(number(100), QChar(u'\u8C22')));
+    if (result == QDialog::Accepted) {
+      chat.savePhrases();
+    } else {
+      chat.load();
+    }
+  }
+
+  // What the windows show, in both cast modes.
+  std::vector<std::u16string> shown() {
+    std::vector<std::u16string> texts;
+    for (const Dota7Cast cast : {Dota7Cast::Quick, Dota7Cast::Normal}) {
+      settings.setCast(cast);
+      for (const Dota7KeyField& row : dota7KeyFields()) texts.push_back(settings.keyText(row));
+    }
+    for (const Dota7Phrase& row : dota7Phrases()) texts.push_back(settings.phrase(row));
+    for (const Dota7Switch& row : dota7Switches())
+      texts.emplace_back(settings.isOn(row) ? u"1" : u"0");
+    return texts;
+  }
+
+  HotkeyConfig config;
+  std::mt19937 random_;
+
+ private:
+  QTimer closer_;
+};
+
+TEST_F(AnyPlayer, GetsAllBackByCancel) {
+  for (unsigned seed = 0; seed < kPlayers; ++seed) {
+    SCOPED_TRACE(seed);
+    random_.seed(seed);
+    const platform::RegFile before = registry.content();
+    CHotkeySettingDlg dialog(config, manager);
+    dialog.show();
+    for (int step = 0; step < kSteps; ++step) doSomething(dialog);
+    dialog.close();
+    ASSERT_EQ(registry.content(), before);
+  }
+}
+
+TEST_F(AnyPlayer, KeepsWhatWasShownByOk) {
+  for (unsigned seed = 0; seed < kPlayers; ++seed) {
+    SCOPED_TRACE(seed);
+    random_.seed(seed);
+    CHotkeySettingDlg dialog(config, manager);
+    dialog.show();
+    for (int step = 0; step < kSteps; ++step) doSomething(dialog);
+    // A modifier that is still down goes with the focus.
+    if (QWidget* const field = dialog.focusWidget()) field->clearFocus();
+    const std::vector<std::u16string> texts = shown();
+    dialog.onClickedOkBtn();
+    manager.cancelChanges();
+    EXPECT_EQ(shown(), texts);
+  }
+}
+
+}  // namespace
+}  // namespace brennet::test
