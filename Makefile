@@ -5,7 +5,7 @@ FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run test asan windows test-windows sdk bench bench-build fuzz translations format lint lint-windows clean
+.PHONY: help run test asan windows test-windows sdk bench bench-build fuzz shots translations format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -62,6 +62,13 @@ fuzz: ## run each fuzz target for FUZZ_SECONDS (60)
 translations: ## bring the catalogues up to date with the texts of the windows
 	@tools/setup.sh build
 	@tools/translations.sh
+
+shots: ## take pictures of all windows in both languages, build/shots/
+	@tools/setup.sh build test
+	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
+	@cmake --build --preset native -j $(JOBS) --target brennet-shots
+	@build/native/bin/brennet-shots build/shots 2>/dev/null
+	@echo "The pictures are in build/shots/"
 
 format: ## put all C++ sources into the house's format
 	@tools/setup.sh lint

@@ -199,7 +199,9 @@ TEST_F(SettingsDialog, TakesTheRegistryBackWithAModifierStillDown) {
   dialog->onSwitchDota7KeySettingDlg();
   const platform::RegFile before = registry.content();
   auto& stop = *page<CDotA7BasicSetting>().findChild<QLineEdit*>(QStringLiteral("edt_HStopKey"));
+  QApplication::setActiveWindow(dialog.get());
   stop.setFocus();
+  ASSERT_TRUE(stop.hasFocus());
   pressKey(stop, Qt::Key_Control, Qt::ControlModifier);
   dialog->close();
   EXPECT_EQ(registry.content(), before);

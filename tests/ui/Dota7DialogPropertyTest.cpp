@@ -62,6 +62,7 @@ class AnyPlayer : public Dota7Test {
   }
 
   void doSomething(CHotkeySettingDlg& dialog) {
+    QApplication::setActiveWindow(&dialog);
     auto& page = *dialog.findChild<CDotA7BasicSetting*>();
     auto& chat = *dialog.findChild<Dota7ChatKeySettingWidget*>();
     switch (number(8)) {
