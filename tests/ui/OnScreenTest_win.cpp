@@ -10,9 +10,13 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
+
+#include <functional>
 
 #include "model/HotkeyConfig.h"
 #include "ui/CMsgBox.h"
+#include "ui/ModalRun.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/COrrerySettingDlg.h"
 
@@ -77,6 +81,60 @@ TEST(TheOrreryWindowOnAScreen, IsAToolWindowOfTheDialog) {
   EXPECT_NE(IsWindowVisible(handleOf(**orrery)), FALSE);
   EXPECT_EQ(GetWindow(handleOf(**orrery), GW_OWNER), handleOf(dialog));
   EXPECT_NE(GetWindowLongW(handleOf(**orrery), GWL_EXSTYLE) & WS_EX_TOOLWINDOW, 0);
+}
+
+// A window of a host that knows nothing of Qt.
+class HostWindow {
+ public:
+  HostWindow()
+      : handle_(CreateWindowW(L"STATIC", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100,
+                              nullptr, nullptr, nullptr, nullptr)) {
+    SetActiveWindow(handle_);
+  }
+  ~HostWindow() { DestroyWindow(handle_); }
+  HostWindow(const HostWindow&) = delete;
+  HostWindow& operator=(const HostWindow&) = delete;
+
+  [[nodiscard]] HWND handle() const { return handle_; }
+  [[nodiscard]] bool isEnabled() const { return IsWindowEnabled(handle_) != FALSE; }
+
+ private:
+  HWND handle_;
+};
+
+// Runs a dialog, asks `look` meanwhile and ends the dialog with `result`.
+int run(int result, const std::function<void()>& look) {
+  QDialog dialog;
+  QTimer::singleShot(0, [&] {
+    look();
+    dialog.done(result);
+  });
+  return runModal(dialog);
+}
+
+class OwnerHandling : public testing::TestWithParam<int> {
+ protected:
+  OwnerHandling() { setOwnerHandling(true); }
+  ~OwnerHandling() override { setOwnerHandling(false); }
+};
+
+TEST_P(OwnerHandling, DisablesTheHostsWindowWhileTheDialogRuns) {
+  const HostWindow host;
+  ASSERT_TRUE(host.isEnabled());
+  EXPECT_EQ(run(GetParam(), [&] { EXPECT_FALSE(host.isEnabled()); }), GetParam());
+  EXPECT_TRUE(host.isEnabled());
+  EXPECT_EQ(GetActiveWindow(), host.handle());
+}
+
+TEST_P(OwnerHandling, NeedsNoHostsWindow) {
+  EXPECT_EQ(run(GetParam(), [] {}), GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, OwnerHandling, testing::Values(QDialog::Accepted, QDialog::Rejected));
+
+TEST(WithoutOwnerHandling, TheHostsWindowIsLeftAlone) {
+  const HostWindow host;
+  EXPECT_EQ(run(QDialog::Accepted, [&] { EXPECT_TRUE(host.isEnabled()); }), QDialog::Accepted);
 }
 
 }  // namespace
