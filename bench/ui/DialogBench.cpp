@@ -1,0 +1,128 @@
+// Opening the settings dialog up to its first painted frame, beside the same widgets made bare, in
+// the same style sheet; the shares of its steps; and what a switch of schemes costs.
+
+#include <benchmark/benchmark.h>
+
+#include <QCoreApplication>
+
+#include <memory>
+#include <vector>
+
+#include "bench/ui/BarePage.h"
+#include "gameside/Dota7KeyInfoManager.h"
+#include "model/HotkeyConfig.h"
+#include "model/RecommendedScheme.h"
+#include "ui/CHotkeySettingDlg.h"
+#include "ui/StyleSheet.h"
+#include "ui/pages/CAdvancedSettingWidget.h"
+#include "ui/pages/CBasicSettingWidget.h"
+#include "ui/pages/CChatRouletteSettingWidget.h"
+#include "ui/pages/COrrerySettingDlg.h"
+#include "ui/pages/ChatKeySettingWidget.h"
+#include "ui/pages/Dota7ChatKeySettingWidget.h"
+
+namespace brennet::bench {
+namespace {
+
+const QString kSheet = QStringLiteral(":/skin/war3key.qss");
+
+HotkeyConfig& settings() {
+  static HotkeyConfig config;
+  recommend(*config.editableScheme(0));
+  config.editableScheme(1)->HeroSkillKey.fill(KeyWord(0x91, KeyWord::kCtrl));
+  return config;
+}
+
+Dota7KeyInfoManager& manager() {
+  static Dota7KeyInfoManager manager;
+  return manager;
+}
+
+void paint() {
+  QCoreApplication::sendPostedEvents();
+  QCoreApplication::processEvents();
+}
+
+void open(benchmark::State& state) {
+  for ([[maybe_unused]] auto _ : state) {
+    CHotkeySettingDlg dialog(settings(), manager());
+    dialog.show();
+    paint();
+  }
+}
+BENCHMARK(open)->Name("openDialog/brennet/all");
+
+// The part of it that makes forms and pages.
+void make(benchmark::State& state) {
+  for ([[maybe_unused]] auto _ : state) {
+    const CHotkeySettingDlg dialog(settings(), manager());
+    benchmark::DoNotOptimize(&dialog);
+  }
+}
+BENCHMARK(make)->Name("openDialog/brennet/forms");
+
+// Forms and polish; the rest is the first paint.
+void makeAndPolish(benchmark::State& state) {
+  for ([[maybe_unused]] auto _ : state) {
+    CHotkeySettingDlg dialog(settings(), manager());
+    dialog.show();
+  }
+}
+BENCHMARK(makeAndPolish)->Name("openDialog/brennet/formsAndPolish");
+
+// The dialog with everything that it keeps hidden.
+class BareDialog {
+ public:
+  BareDialog() {
+    const CHotkeySettingDlg dialog(settings(), manager());
+    add(dialog);
+    const CAdvancedSettingWidget advanced(settings(), nullptr);
+    const CBasicSettingWidget older(settings(), nullptr);
+    const CChatRouletteSettingWidget wheel(settings(), nullptr);
+    const ChatKeySettingWidget chat(settings(), nullptr);
+    const Dota7ChatKeySettingWidget dota7Chat(manager(), nullptr);
+    const COrrerySettingDlg orrery;
+    for (const QWidget* const hidden : std::initializer_list<const QWidget*>{
+             &advanced, &older, &wheel, &chat, &dota7Chat, &orrery}) {
+      add(*hidden);
+    }
+  }
+
+  [[nodiscard]] std::unique_ptr<QWidget> make() const {
+    std::unique_ptr<QWidget> dialog(recipes_.front().make(nullptr));
+    for (std::size_t i = 1; i < recipes_.size(); ++i) recipes_[i].make(dialog.get())->hide();
+    return dialog;
+  }
+
+ private:
+  void add(const QWidget& window) { recipes_.emplace_back(window); }
+
+  std::vector<PageRecipe> recipes_;
+};
+
+void openBare(benchmark::State& state) {
+  const BareDialog bare;
+  for ([[maybe_unused]] auto _ : state) {
+    const std::unique_ptr<QWidget> dialog = bare.make();
+    loadStyleSheet(*dialog, kSheet);
+    dialog->show();
+    paint();
+  }
+}
+BENCHMARK(openBare)->Name("openDialog/bare/all");
+
+// From one scheme to a repainted page; a frame of a 60 Hz screen is 16.7 ms.
+void switchScheme(benchmark::State& state) {
+  CHotkeySettingDlg dialog(settings(), manager());
+  dialog.show();
+  paint();
+  int scheme = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    dialog.onCurrentIndexChanged_HotkeySetting(++scheme % 2);
+    paint();
+  }
+}
+BENCHMARK(switchScheme)->Name("switchScheme/brennet/repainted");
+
+}  // namespace
+}  // namespace brennet::bench
