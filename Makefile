@@ -5,7 +5,7 @@ FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run test asan windows test-windows sdk bench bench-build fuzz shots translations format lint lint-windows clean
+.PHONY: help run run-windows test asan windows test-windows sdk bench bench-build fuzz shots translations format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -41,6 +41,10 @@ test-windows: ## run all tests as Windows programs, under Wine
 	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
 	@cmake --build --preset native -j $(JOBS) --target agreement_dump
 	@ctest --preset windows -j $(JOBS)
+
+run-windows: windows ## do what "run" does with the Windows library, under Wine
+	@tools/windows/wine.sh
+	@tools/windows/demo.sh build/windows
 
 sdk: windows ## write the package for embedders, build/sdk/brennet-sdk-<version>.zip
 	@tools/sdk.sh build/windows build/sdk

@@ -100,17 +100,20 @@ void CHotkeySettingDlg::connectForm() {
 
 void CHotkeySettingDlg::connectPages() {
   using Dialog = CHotkeySettingDlg;
-  using Slot = void (ChatKeySettingWidget::*)(bool);
   // The quick-chat window follows the advanced page. Where that has taken a refused choice back
   // already, there is nothing to follow, and nothing to tell once more.
-  const auto follow = [this](const char* name, Slot slot) {
-    auto* const button = advanced_->findChild<QAbstractButton*>(QLatin1String(name));
-    connect(button, &QAbstractButton::toggled, quickChat_, [this, button, slot](bool isChecked) {
-      if (isChecked == button->isChecked()) (quickChat_->*slot)(isChecked);
+  for (const int set : {1, 2}) {
+    const QString name = QStringLiteral("optChatKey_%1").arg(set);
+    auto* const button = advanced_->findChild<QAbstractButton*>(name);
+    connect(button, &QAbstractButton::toggled, quickChat_, [this, button, set](bool isChecked) {
+      if (isChecked != button->isChecked()) return;
+      if (set == 1) {
+        quickChat_->onToggled_ChatKey_1(isChecked);
+      } else {
+        quickChat_->onToggled_ChatKey_2(isChecked);
+      }
     });
-  };
-  follow("optChatKey_1", &ChatKeySettingWidget::onToggled_ChatKey_1);
-  follow("optChatKey_2", &ChatKeySettingWidget::onToggled_ChatKey_2);
+  }
   connect(basic_, &CBasicSetting7Widget::showHotKeySettingDlg, this,
           &Dialog::onShowHotKeySettingDlg);
   connect(basic_, &CBasicSetting7Widget::showDota7SettingDlg, this,

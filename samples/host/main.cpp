@@ -85,7 +85,9 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
       return std::strncmp(argument, option, length) == 0;
     });
   };
-  if (has("--pictures")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (has("--pictures") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
   if (!has("--pictures") && !has("--dialog")) {
     return std::make_unique<QCoreApplication>(argc, argv);
   }

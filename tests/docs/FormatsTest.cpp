@@ -1,0 +1,136 @@
+// docs/formats.md says what the code does: row for row, and nothing else.
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <regex>
+
+#include "gameside/Dota7Values.h"
+#include "model/SettingTable.h"
+#include "tests/docs/Document.h"
+
+namespace brennet {
+namespace {
+
+// Names in the formats are ASCII.
+std::string narrow(std::u16string_view name) {
+  return {name.begin(), name.end()};
+}
+
+std::vector<Row> tableOfFormats(std::string_view heading) {
+  return tableBelow(readProjectFile("docs/formats.md"), heading);
+}
+
+std::string joined(std::span<const std::uint16_t> offsets) {
+  std::string text;
+  for (const std::uint16_t offset : offsets) {
+    if (!text.empty()) text += ", ";
+    text += std::to_string(offset);
+  }
+  return text;
+}
+
+// The cells behind the name of a setting: kind, default and offset.
+struct Describe {
+  HotkeyScheme& fresh;
+
+  static std::string text(KeyWord key) { return key.isSet() ? "a key" : "no key"; }
+
+  Row operator()(const SwitchSetting& row) const {
+    std::string place = std::to_string(row.offset);
+    if (row.mask != SwitchSetting::kWholeByte) {
+      place += ", bit " + std::to_string(std::countr_zero(row.mask));
+    }
+    return {"switch", std::to_string(fresh.*row.field), place};
+  }
+  Row operator()(const ByteSetting& row) const {
+    return {"number", std::to_string(fresh.*row.field), std::to_string(row.offset)};
+  }
+  Row operator()(const KeySetting& row) const {
+    return {"key", text(fresh.*row.field), std::to_string(row.offset)};
+  }
+  Row operator()(const KeyListSetting& row) const {
+    return {row.autocast != nullptr ? "key list with marks" : "key list",
+            text(row.keysOf(fresh).front()), joined(row.offsets)};
+  }
+  Row operator()(const RemapSetting& row) const {
+    return {"remaps", text(fresh.HotKey.front().Src), std::to_string(row.offset)};
+  }
+  Row operator()(const ComboSetting& row) const {
+    return {"combination", text(fresh.ComboKey.Key_A), std::to_string(row.offset)};
+  }
+  Row operator()(const PresetSetting&) const {
+    return {"preset", std::to_string(fresh.NumComboKeyIndex), "none"};
+  }
+  Row operator()(const QuickChatSetSetting& row) const {
+    return {"chat keys", std::to_string(fresh.QuickChatIndex), std::to_string(row.offset)};
+  }
+  Row operator()(const PhraseSetting& row) const {
+    const auto& first = (fresh.*row.field).front();
+    return {"phrases", first.value_or(u"").empty() ? "no text" : "a text",
+            std::to_string(row.offset)};
+  }
+};
+
+TEST(Formats, ListTheSettings) {
+  HotkeyScheme fresh;
+  std::vector<Row> expected;
+  for (const Setting& setting : settings()) {
+    Row row = std::visit(Describe{fresh}, setting.kind);
+    row.insert(row.begin(), narrow(setting.element));
+    expected.push_back(std::move(row));
+  }
+  EXPECT_EQ(tableOfFormats("The elements of a scheme"), expected);
+}
+
+TEST(Formats, ListTheRecord) {
+  const std::string header = readProjectFile("model/HotkeyBlock.h");
+  const std::regex offset(R"(BRENNET_BLOCK_OFFSET\((\w+), (\d+)\);)");
+  std::vector<Row> expected;
+  for (std::sregex_iterator at(header.begin(), header.end(), offset), end; at != end; ++at) {
+    expected.push_back({(*at)[1], (*at)[2]});
+  }
+  ASSERT_FALSE(expected.empty());
+  std::vector<Row> listed = tableOfFormats("The record");
+  for (Row& row : listed) row.resize(2);
+  EXPECT_EQ(listed, expected);
+}
+
+// The values of the key fields below one registry key. What a field is called is for people.
+void expectKeyFields(std::string_view heading, std::u16string_view keyPath, std::size_t columns) {
+  std::vector<Row> expected;
+  for (const Dota7KeyField& field : dota7KeyFields()) {
+    if (field.keyPath != keyPath) continue;
+    expected.push_back({narrow(field.normal.text), narrow(field.normal.code),
+                        narrow(field.quick.text), narrow(field.quick.code)});
+    while (expected.back().size() > columns) {
+      EXPECT_EQ(expected.back().back(), "");
+      expected.back().pop_back();
+    }
+  }
+  std::vector<Row> listed = tableOfFormats(heading);
+  for (Row& row : listed) row.erase(row.begin());
+  EXPECT_EQ(listed, expected);
+}
+
+TEST(Formats, ListTheKeysInTheRegistry) {
+  expectKeyFields("Keys in CONTROL", kDota7ControlPath, 4);
+  expectKeyFields("Keys in PHRASES", kDota7PhrasesPath, 2);
+}
+
+template <class Values>
+void expectValues(std::string_view heading, const Values& values) {
+  std::vector<Row> expected;
+  for (const auto& value : values) expected.push_back({narrow(value.valueName)});
+  std::vector<Row> listed = tableOfFormats(heading);
+  for (Row& row : listed) row.erase(row.begin());
+  EXPECT_EQ(listed, expected);
+}
+
+TEST(Formats, ListTheSwitchesAndPhrasesInTheRegistry) {
+  expectValues("Switches in CONTROL", dota7Switches());
+  expectValues("Phrases in PHRASES", dota7Phrases());
+}
+
+}  // namespace
+}  // namespace brennet
