@@ -40,6 +40,9 @@ class CHotkeySettingDlg : public QDialog {
   // closed.
   void setDataFolder(std::u16string_view folder);
 
+  // However the dialog is dismissed, the registry gets back what it had.
+  void reject() override;
+
  signals:
   void resetSetting();
   void useRecommendedSetting();
@@ -66,10 +69,6 @@ class CHotkeySettingDlg : public QDialog {
   void onSwitchPlatKeySettingDlg();
   void onSwitchDota7KeySettingDlg();
   void onShowDota7HotKeySettingDlg();
-
- public:
-  // However the dialog is dismissed, the registry gets back what it had.
-  void reject() override;
 
  private:
   enum class Mode { Platform = 1, Dota7 = 2 };

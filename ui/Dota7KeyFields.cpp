@@ -64,7 +64,7 @@ void Dota7KeyFields::take(QLineEdit& field, const Capture& capture) {
 }
 
 QString Dota7KeyFields::textOf(KeyWord key) const {
-  const QString name = toQString(manager_->keyName(key.virtualKey()));
+  QString name = toQString(manager_->keyName(key.virtualKey()));
   if (isModifier(key)) return name;
   QString text;
   if ((key.modifiers() & KeyWord::kCtrl) != 0) text += QStringLiteral("CTRL +");

@@ -37,11 +37,14 @@ QString openDialog(brennet::IBrennet& brennet, std::uint32_t saveTime) {
 
 QStringList takePictures(brennet::IBrennet& brennet, const QString& folder) {
   QStringList files;
-  QTimer::singleShot(0, [&] {
+  QTimer onceOpen;
+  onceOpen.setSingleShot(true);
+  QObject::connect(&onceOpen, &QTimer::timeout, [&] {
     if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
       takePicturesOf(*dialog, QDir(folder), files);
     }
   });
+  onceOpen.start(0);
   bool saved = false;
   brennet.ShowSettingsDialog(&saved, 0);
   return files;

