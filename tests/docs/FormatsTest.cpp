@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <bit>
-#include <regex>
 
 #include "gameside/Dota7Values.h"
 #include "model/SettingTable.h"
@@ -85,10 +84,14 @@ TEST(Formats, ListTheSettings) {
 
 TEST(Formats, ListTheRecord) {
   const std::string header = readProjectFile("model/HotkeyBlock.h");
-  const std::regex offset(R"(BRENNET_BLOCK_OFFSET\((\w+), (\d+)\);)");
+  const std::string start = "\nBRENNET_BLOCK_OFFSET(";
   std::vector<Row> expected;
-  for (std::sregex_iterator at(header.begin(), header.end(), offset), end; at != end; ++at) {
-    expected.push_back({(*at)[1], (*at)[2]});
+  for (std::size_t at = header.find(start); at != std::string::npos; at = header.find(start, at)) {
+    at += start.size();
+    const std::size_t comma = header.find(", ", at);
+    const std::size_t close = header.find(");", comma);
+    expected.push_back(
+        {header.substr(at, comma - at), header.substr(comma + 2, close - comma - 2)});
   }
   ASSERT_FALSE(expected.empty());
   std::vector<Row> listed = tableOfFormats("The record");

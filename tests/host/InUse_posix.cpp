@@ -1,10 +1,11 @@
+#include "tests/host/InUse.h"
+
 #include <malloc.h>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+// Of the sanitizer's runtime; not every compiler brings its header.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
-
-#include "tests/host/InUse.h"
 
 namespace brennet::test {
 
