@@ -1,14 +1,12 @@
 #pragma once
 
-#include <cstdint>
-
 namespace brennet::platform {
 
-// The windows of the host that a modal window stands before; 0: none. Handles of Windows; other
+// The windows of the host that a modal window stands before; null: none. Handles of Windows; other
 // systems have none.
 struct OwnerWindows {
-  std::uintptr_t root = 0;   // disabled here
-  std::uintptr_t popup = 0;  // the last one of the root's that was active
+  void* root = nullptr;   // disabled here
+  void* popup = nullptr;  // the last one of the root's that was active
   bool isPopupDisabled = false;
 };
 

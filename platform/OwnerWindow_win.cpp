@@ -7,11 +7,8 @@
 namespace brennet::platform {
 namespace {
 
-std::uintptr_t toNumber(HWND window) {
-  return reinterpret_cast<std::uintptr_t>(window);
-}
-HWND toHandle(std::uintptr_t number) {
-  return reinterpret_cast<HWND>(number);
+HWND toHandle(void* window) {
+  return static_cast<HWND>(window);
 }
 
 bool isOfThisThread(HWND window) {
@@ -30,7 +27,8 @@ bool isOwner(HWND window) {
 
 BOOL CALLBACK stopAtOwner(HWND window, LPARAM found) {
   if (!isOwner(window)) return TRUE;
-  *reinterpret_cast<HWND*>(found) = window;
+  // Windows passes what it is given on as a number.
+  *reinterpret_cast<HWND*>(found) = window;  // NOLINT(performance-no-int-to-ptr)
   return FALSE;
 }
 
@@ -63,11 +61,11 @@ OwnerWindows disableOwnerWindows() {
   HWND const root = rootOf(owner);
   HWND const popup = owner == nullptr ? nullptr : GetLastActivePopup(owner);
   if (root != nullptr && IsWindowEnabled(root) != FALSE && root != popup) {
-    windows.root = toNumber(root);
+    windows.root = root;
     if (GetCapture() == root) ReleaseCapture();
     EnableWindow(root, FALSE);
   }
-  windows.popup = toNumber(popup);
+  windows.popup = popup;
   if (popup != nullptr && popup != GetDesktopWindow() && IsWindowEnabled(popup) != FALSE) {
     EnableWindow(popup, FALSE);
     windows.isPopupDisabled = true;
@@ -76,12 +74,12 @@ OwnerWindows disableOwnerWindows() {
 }
 
 void enableOwnerWindows(const OwnerWindows& windows) {
-  if (windows.root != 0) {
+  if (windows.root != nullptr) {
     EnableWindow(toHandle(windows.root), TRUE);
     SetActiveWindow(toHandle(windows.root));
   }
   if (windows.isPopupDisabled) EnableWindow(toHandle(windows.popup), TRUE);
-  if (windows.popup != 0) SetActiveWindow(toHandle(windows.popup));
+  if (windows.popup != nullptr) SetActiveWindow(toHandle(windows.popup));
 }
 
 }  // namespace brennet::platform
