@@ -13,5 +13,5 @@ rm -rf "$run"
 mkdir -p "$run"
 cp samples/data/KeyInfo.xml samples/data/Tollamere.reg "$run/"
 
-QT_QPA_FONTDIR=Z:/usr/share/fonts/truetype/wqy QT_DEBUG_PLUGINS=0 tools/windows/run.sh "$program" \
+QT_QPA_FONTDIR=Z:/usr/share/fonts/truetype/wqy tools/windows/run.sh "$program" \
   --settings "$run/KeyInfo.xml" --data "$run/" --block --pictures "$run"
