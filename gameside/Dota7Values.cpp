@@ -210,6 +210,26 @@ const Row* find(std::span<const Row> rows, std::u16string_view objectName) {
 std::span<const Dota7KeyField> dota7KeyFields() {
   return kKeyFields;
 }
+std::span<const Dota7KeyField, kDota7UnitKeys> dota7UnitKeys() {
+  return std::span(kKeyFields).subspan<0, kDota7UnitKeys>();
+}
+std::span<const Dota7KeyField, kDota7ItemKeys> dota7ItemKeys() {
+  return std::span(kKeyFields).subspan<kDota7UnitKeys, kDota7ItemKeys>();
+}
+std::span<const Dota7KeyField, kDota7SkillKeys> dota7SkillKeys(Dota7Cast cast) {
+  constexpr std::size_t kFirst = kDota7UnitKeys + kDota7ItemKeys;
+  const auto both = std::span(kKeyFields).subspan<kFirst, 2 * kDota7SkillKeys>();
+  return cast == Dota7Cast::Normal ? both.first<kDota7SkillKeys>() : both.last<kDota7SkillKeys>();
+}
+std::span<const Dota7KeyField, kDota7ChatKeys> dota7ChatKeys() {
+  return std::span(kKeyFields).last<kDota7ChatKeys>();
+}
+std::span<const Dota7Phrase, kDota7ChatKeys> dota7QuickChatPhrases() {
+  return std::span(kPhrases).first<kDota7ChatKeys>();
+}
+std::span<const Dota7Phrase, kDota7ChatKeys> dota7StartPhrases() {
+  return std::span(kPhrases).last<kDota7ChatKeys>();
+}
 std::span<const Dota7Switch> dota7Switches() {
   return kSwitches;
 }

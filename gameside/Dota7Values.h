@@ -51,14 +51,29 @@ struct Dota7Phrase {
   std::u16string_view valueName;
 };
 
-inline constexpr std::size_t kDota7KeyFields = 52;
+inline constexpr std::size_t kDota7UnitKeys = 18;
+inline constexpr std::size_t kDota7ItemKeys = 7;
+inline constexpr std::size_t kDota7SkillKeys = 6;  // in each cast mode
+inline constexpr std::size_t kDota7ChatKeys = 15;
+inline constexpr std::size_t kDota7KeyFields =
+    kDota7UnitKeys + kDota7ItemKeys + 2 * kDota7SkillKeys + kDota7ChatKeys;
 inline constexpr std::size_t kDota7Switches = 4;
-inline constexpr std::size_t kDota7Phrases = 30;
+inline constexpr std::size_t kDota7Phrases = 2 * kDota7ChatKeys;
 
 // Every field of the two pages, in the order of the pages.
 [[nodiscard]] std::span<const Dota7KeyField> dota7KeyFields();
 [[nodiscard]] std::span<const Dota7Switch> dota7Switches();
 [[nodiscard]] std::span<const Dota7Phrase> dota7Phrases();
+
+// The key fields of each group: orders and selections, items with the way home, the hero's
+// abilities, quick-chat phrases.
+[[nodiscard]] std::span<const Dota7KeyField, kDota7UnitKeys> dota7UnitKeys();
+[[nodiscard]] std::span<const Dota7KeyField, kDota7ItemKeys> dota7ItemKeys();
+[[nodiscard]] std::span<const Dota7KeyField, kDota7SkillKeys> dota7SkillKeys(Dota7Cast cast);
+[[nodiscard]] std::span<const Dota7KeyField, kDota7ChatKeys> dota7ChatKeys();
+// The phrases of the quick-chat rows, and those said when a game starts.
+[[nodiscard]] std::span<const Dota7Phrase, kDota7ChatKeys> dota7QuickChatPhrases();
+[[nodiscard]] std::span<const Dota7Phrase, kDota7ChatKeys> dota7StartPhrases();
 
 // The row of that object name; null where there is none.
 [[nodiscard]] const Dota7KeyField* findDota7KeyField(std::u16string_view objectName);

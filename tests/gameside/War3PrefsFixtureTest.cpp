@@ -59,7 +59,7 @@ TEST_P(APrefsFile, GetsTheHotkeysOfTheScheme) {
   const std::string actual = withScheme(in);
   if (std::getenv("BRENNET_UPDATE_GOLDEN") != nullptr) {
     ASSERT_FALSE(platform::replaceFile(fixture(name + ".out.txt"), actual));
-    GTEST_SKIP() << "written anew";
+    return;  // written anew: there is nothing to compare it with
   }
   std::string expected;
   ASSERT_FALSE(platform::readFile(fixture(name + ".out.txt"), expected));

@@ -4,7 +4,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <span>
+#include <iterator>
 
 #include "gameside/Dota7KeyInfoManager.h"
 #include "ui/KeyMessages.h"
@@ -18,59 +18,53 @@ using brennet::Dota7Cast;
 
 namespace {
 
-// A field with the label before it.
-struct Row {
-  const char* label;
-  const char* field;
+// What stands before the keys of units, in columns, top to bottom.
+constexpr const char* kUnitLabels[] = {
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "移动"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "保持原地"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "停止"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "巡逻"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "攻击"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "技能学习"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "天赋学习"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择主英雄"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄2"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄3"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄4"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄5"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择信使"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择所有单位"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择其他单位"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择能量圈"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "计分板"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "激活防御符文"),
 };
-
-// In columns, top to bottom.
-constexpr Row kUnitRows[] = {
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "移动"), "edt_HMoveKeyC"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "保持原地"), "edt_HHoldKey"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "停止"), "edt_HStopKey"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "巡逻"), "edt_HPatrolKeyC"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "攻击"), "edt_HAttackKeyC"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "技能学习"), "edt_HMenuAbilityLearnKey"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "天赋学习"), "edt_HMenuTalentLearnKey"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择主英雄"), "edt_HSelectMainHeroKey"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄2"), "edt_HSelectHero2Key"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄3"), "edt_HSelectHero3Key"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄4"), "edt_HSelectHero4Key"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄5"), "edt_HSelectHero5Key"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择信使"), "edt_HSelectCourierKey"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择所有单位"), "edt_HSelectAllUnitsKey"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择其他单位"), "edt_HSelectAllOtherUnitsKey"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择能量圈"), "edt_HSelectCircleOfPowerKey"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "计分板"), "edt_HScoreboardKey"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "激活防御符文"), "edt_HGlyphButtonKey"},
-};
+static_assert(std::size(kUnitLabels) == brennet::kDota7UnitKeys);
 constexpr int kUnitColumns = 3;
 
-// Two in a row, as the inventory has them.
-constexpr Row kItemRows[] = {
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "1-"), "edt_ItemKeyC0"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "2-"), "edt_ItemKeyC1"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "3-"), "edt_ItemKeyC2"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "4-"), "edt_ItemKeyC3"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "5-"), "edt_ItemKeyC4"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "6-"), "edt_ItemKeyC5"},
-    {QT_TRANSLATE_NOOP("CDotA7BasicSetting", "回程-"), "edt_ItemKeyHTeleportKeyC"},
+// Before those of items: two in a row, as the inventory has them.
+constexpr const char* kItemLabels[] = {
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "1-"),    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "2-"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "3-"),    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "4-"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "5-"),    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "6-"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "回程-"),
 };
+static_assert(std::size(kItemLabels) == brennet::kDota7ItemKeys);
 constexpr int kItemColumns = 2;
-
-constexpr const char* kNormalSkills[] = {"edtOrderSkill_2",  "edtOrderSkill_5", "edtOrderSkill_8",
-                                         "edtOrderSkill_11", "edtOrderSkill_4", "edtOrderSkill_7"};
-constexpr const char* kQuickSkills[] = {"edtHACSkill_3",  "edtHACSkill_6", "edtHACSkill_9",
-                                        "edtHACSkill_12", "edtHACSkill_5", "edtHACSkill_8"};
 
 QString text(const char* source) {
   return QCoreApplication::translate("CDotA7BasicSetting", source);
 }
 
-void addRow(QGridLayout& grid, int row, int column, const Row& data) {
-  const QString what = text(data.label);
-  QLineEdit* const field = brennet::newKeyField(QLatin1String(data.field), what);
+QLineEdit* newField(const brennet::Dota7KeyField& row, const QString& accessibleName) {
+  return brennet::newKeyField(brennet::toQString(row.objectName), accessibleName);
+}
+
+// A field with the label before it.
+void addRow(QGridLayout& grid, int row, int column, const char* labelText,
+            const brennet::Dota7KeyField& key) {
+  const QString what = text(labelText);
+  QLineEdit* const field = newField(key, what);
   auto* const label = new QLabel(what);
   label->setBuddy(field);
   grid.addWidget(label, row, 2 * column);
@@ -78,11 +72,10 @@ void addRow(QGridLayout& grid, int row, int column, const Row& data) {
 }
 
 // Six abilities behind the button of their cast mode.
-void addSkills(QGridLayout& grid, int row, std::span<const char* const> fields,
-               const QString& what) {
+void addSkills(QGridLayout& grid, int row, Dota7Cast cast, const QString& what) {
   int column = 1;
-  for (const char* const name : fields) {
-    grid.addWidget(brennet::newKeyField(QLatin1String(name), what.arg(column)), row, column);
+  for (const brennet::Dota7KeyField& key : brennet::dota7SkillKeys(cast)) {
+    grid.addWidget(newField(key, what.arg(column)), row, column);
     ++column;
   }
 }
@@ -103,20 +96,21 @@ CDotA7BasicSetting::CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QW
 CDotA7BasicSetting::~CDotA7BasicSetting() = default;
 
 void CDotA7BasicSetting::buildRows() {
-  constexpr int kUnitLines = (std::size(kUnitRows) + kUnitColumns - 1) / kUnitColumns;
+  constexpr int kUnitLines = (brennet::kDota7UnitKeys + kUnitColumns - 1) / kUnitColumns;
   int number = 0;
-  for (const Row& row : kUnitRows) {
-    addRow(*form_->layUnits, number % kUnitLines, number / kUnitLines, row);
+  for (const brennet::Dota7KeyField& key : brennet::dota7UnitKeys()) {
+    addRow(*form_->layUnits, number % kUnitLines, number / kUnitLines, kUnitLabels[number], key);
     ++number;
   }
   number = 0;
-  for (const Row& row : kItemRows) {
-    addRow(*form_->layItems, number / kItemColumns, number % kItemColumns, row);
+  for (const brennet::Dota7KeyField& key : brennet::dota7ItemKeys()) {
+    addRow(*form_->layItems, number / kItemColumns, number % kItemColumns, kItemLabels[number],
+           key);
     ++number;
   }
-  addSkills(*form_->laySkills, 0, kNormalSkills,
+  addSkills(*form_->laySkills, 0, Dota7Cast::Normal,
             text(QT_TRANSLATE_NOOP("CDotA7BasicSetting", "英雄技能 %1（一般）")));
-  addSkills(*form_->laySkills, 1, kQuickSkills,
+  addSkills(*form_->laySkills, 1, Dota7Cast::Quick,
             text(QT_TRANSLATE_NOOP("CDotA7BasicSetting", "英雄技能 %1（快捷施法）")));
   brennet::setTabOrderOfLayouts(*this);
 }

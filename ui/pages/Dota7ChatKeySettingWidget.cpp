@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int kRows = 15;
 // Wide enough to read a phrase of some length; longer ones are scrolled.
 constexpr int kShownCharacters = 20;
 constexpr char16_t kWideCharacter = u'\u4E2D';
@@ -55,19 +54,23 @@ Dota7ChatKeySettingWidget::Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManage
 Dota7ChatKeySettingWidget::~Dota7ChatKeySettingWidget() = default;
 
 void Dota7ChatKeySettingWidget::buildRows() {
-  for (int row = 0; row < kRows; ++row) {
+  for (std::size_t i = 0; i < brennet::kDota7ChatKeys; ++i) {
+    const int row = static_cast<int>(i);
     const int number = row + 1;
-    auto* const phrase = newPhraseField(QStringLiteral("edt_SQuickChatString%1").arg(row),
-                                        tr("快捷喊话 %1").arg(number));
-    auto* const key = brennet::newKeyField(QStringLiteral("edt_HQuickChatHot%1Key").arg(row),
-                                           tr("快捷喊话 %1 的按键").arg(number));
+    const auto& quickRow = brennet::dota7QuickChatPhrases()[i];
+    const auto& startRow = brennet::dota7StartPhrases()[i];
+    auto* const phrase =
+        newPhraseField(brennet::toQString(quickRow.objectName), tr("快捷喊话 %1").arg(number));
+    auto* const key =
+        brennet::newKeyField(brennet::toQString(brennet::dota7ChatKeys()[i].objectName),
+                             tr("快捷喊话 %1 的按键").arg(number));
     auto& quick = *form_->layQuickChat;
     quick.addWidget(newLabel(QStringLiteral("label_QuickChat%1").arg(row), number, phrase), row, 0);
     quick.addWidget(phrase, row, 1);
     quick.addWidget(key, row, 2);
 
-    auto* const start = newPhraseField(QStringLiteral("edt_SOnStartString%1").arg(row),
-                                       tr("开局喊话 %1").arg(number));
+    auto* const start =
+        newPhraseField(brennet::toQString(startRow.objectName), tr("开局喊话 %1").arg(number));
     auto& atStart = *form_->layOnStart;
     atStart.addWidget(newLabel(QStringLiteral("label_SOnStartString%1").arg(row), number, start),
                       row, 0);
