@@ -33,7 +33,7 @@ constexpr QSize kRing(340, 300);
 // How many characters can be read at once, at least.
 constexpr int kSlotCharacters = 12;
 constexpr int kTreeCharacters = 24;
-constexpr int kKeyCharacters = 16;  // "CTRL + Alt + PRINT SCREEN"
+constexpr char kLongestKey[] = "CTRL + Alt + PRINT SCREEN MMM";  // and room for the frame
 constexpr char16_t kWideCharacter = u'\u4E2D';
 
 int widthOf(int characters, const QWidget& page) {
@@ -103,7 +103,9 @@ void CChatRouletteSettingWidget::makeSlots() {
     slots_.push_back(field);
   }
   setTabOrder(before, ui_->edtChatWheelKey);
-  ui_->edtChatWheelKey->setMinimumWidth(widthOf(kKeyCharacters, *this));
+  // In its own letters: those of phrases may come from another font.
+  ui_->edtChatWheelKey->setMinimumWidth(
+      fontMetrics().horizontalAdvance(QLatin1String(kLongestKey)));
 }
 
 void CChatRouletteSettingWidget::fillTree() {
