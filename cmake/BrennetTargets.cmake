@@ -74,6 +74,6 @@ function(brennet_add_test name)
     set_tests_properties(${name} PROPERTIES TIMEOUT 600)
   else()
     gtest_discover_tests(${name}_tests TEST_PREFIX "${name}." NO_PRETTY_VALUES
-      DISCOVERY_TIMEOUT 60)
+      DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 600)
   endif()
 endfunction()

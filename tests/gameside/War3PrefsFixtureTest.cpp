@@ -1,16 +1,15 @@
 // Whole preference files, each as the game wrote it (<case>.in.txt) and as it has to be after the
 // hotkeys of a scheme were put into it (<case>.out.txt).
 //
-// With BRENNET_UPDATE_GOLDEN set in the environment, the second file of each pair is written anew
-// instead of compared; look at the difference before you commit it.
+// The second file of each pair is a golden file, see Golden.h.
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <string>
 
 #include "gameside/War3PrefsFile.h"
 #include "platform/Files.h"
+#include "tests/support/Golden.h"
 
 namespace brennet {
 namespace {
@@ -57,13 +56,7 @@ TEST_P(APrefsFile, GetsTheHotkeysOfTheScheme) {
   std::string in;
   ASSERT_FALSE(platform::readFile(fixture(name + ".in.txt"), in));
   const std::string actual = withScheme(in);
-  if (std::getenv("BRENNET_UPDATE_GOLDEN") != nullptr) {
-    ASSERT_FALSE(platform::replaceFile(fixture(name + ".out.txt"), actual));
-    return;  // written anew: there is nothing to compare it with
-  }
-  std::string expected;
-  ASSERT_FALSE(platform::readFile(fixture(name + ".out.txt"), expected));
-  EXPECT_EQ(actual, expected);
+  test::expectGolden("gameside/" + name + ".out.txt", actual);
   EXPECT_EQ(withScheme(actual), actual) << "a second run must change nothing";
 }
 

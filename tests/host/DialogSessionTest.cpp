@@ -1,65 +1,36 @@
 // The settings dialog as a host opens it, answered by a timer.
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTimer>
-
-#include <functional>
 
 #include "gameside/Dota7Values.h"
-#include "tests/host/HostFixture.h"
+#include "tests/host/DialogFixture.h"
 #include "tests/support/ScopedRegistry.h"
-#include "tests/ui/UiTest.h"
 #include "tests/ui/pages/PageChecks.h"
 
 namespace brennet::test {
 namespace {
 
-class DialogSession : public HostFixture {
+class DialogSession : public DialogFixture {
  protected:
   DialogSession() {
     registry_.createKey(kDota7ControlPath);
     registry_.createKey(kDota7PhrasesPath);
   }
 
-  // Opens the dialog, does `act` in it and clicks the button of that name.
-  bool open(const char* button, const std::function<void(QDialog&)>& act) {
-    bool isOpened = false;
-    QTimer::singleShot(0, [&] {
-      auto& dialog = *qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      isOpened = true;
-      act(dialog);
-      dialog.findChild<QPushButton*>(QLatin1String(button))->click();
-    });
-    saved_ = true;
-    const bool accepted = brennet_.ShowSettingsDialog(&saved_, 4711);
-    EXPECT_TRUE(isOpened);
-    return accepted;
-  }
-
-  static QWidget& basicPage(QDialog& dialog) {
-    return *dialog.findChild<QWidget*>(QStringLiteral("CHotkeySettingPage"));
-  }
-  static QLineEdit& field(QWidget& window, const char* name) {
-    return *window.findChild<QLineEdit*>(QLatin1String(name));
-  }
-
   // Something on each side: a key of the command card, a preset, phrases and a key of DotA 7.
   static void changeMuch(QDialog& dialog) {
     QWidget& page = basicPage(dialog);
     pressKey(field(page, "edtSkill_3"), Qt::Key_E, Qt::ControlModifier);
-    page.findChild<QAbstractButton*>(QStringLiteral("btn_skillcast_3"))->click();
-    page.findChild<QAbstractButton*>(QStringLiteral("chkGroupKey1"))->click();
+    button(page, "btn_skillcast_3").click();
+    button(page, "chkGroupKey1").click();
     field(dialog, "edtChatWheel_1").setText(QStringLiteral("glhf"));
-    page.findChild<QPushButton*>(QStringLiteral("btnDota7Setting"))->click();
+    button(page, "btnDota7Setting").click();
     pressKey(field(dialog, "edt_HStopKey"), Qt::Key_X);
   }
 
   ScopedRegistry registry_;
-  bool saved_ = false;
 };
 
 TEST_F(DialogSession, SavesWhatThePlayerConfirms) {
@@ -126,7 +97,7 @@ TEST_F(DialogSession, LeavesNoWindowsBehind) {
   const int before = QApplication::topLevelWidgets().size();
   for (int round = 0; round < 20; ++round) {
     EXPECT_FALSE(open("btnCancel", [](QDialog& dialog) {
-      basicPage(dialog).findChild<QPushButton*>(QStringLiteral("btnOrrerySetting"))->click();
+      button(basicPage(dialog), "btnOrrerySetting").click();
     }));
   }
   EXPECT_EQ(QApplication::topLevelWidgets().size(), before);

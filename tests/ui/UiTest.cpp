@@ -14,6 +14,27 @@ namespace {
 
 QStringList* caught = nullptr;
 
+// Longer than any test that is at work keeps a box waiting.
+constexpr int kPatienceMs = 20'000;
+
+// Closes each box that is still there after a while.
+class UnansweredBoxes : public QObject {
+ public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto* const box = qobject_cast<QMessageBox*>(watched);
+    if (box != nullptr && event->type() == QEvent::Show) {
+      QTimer::singleShot(kPatienceMs, box, [box] {
+        if (!box->isVisible()) return;
+        ADD_FAILURE() << "nobody answers: " << qUtf8Printable(box->text());
+        box->done(0);
+      });
+    }
+    return QObject::eventFilter(watched, event);
+  }
+};
+
 // What says something about the machine or the platform, not about a window.
 bool isExpected(const QString& warning) {
   const char* const kBeginnings[] = {
@@ -79,6 +100,10 @@ NoBoxes::NoBoxes() {
     box->close();
   });
   timer_.start(0);
+}
+
+void closeUnansweredBoxes() {
+  qApp->installEventFilter(new UnansweredBoxes(qApp));
 }
 
 void failOnWarnings() {

@@ -58,4 +58,7 @@ class [[nodiscard]] NoBoxes {
 // From now on warnings are failures; what the offscreen platform says about itself is not.
 void failOnWarnings();
 
+// From now on a message box that nobody answers fails the test instead of stopping it.
+void closeUnansweredBoxes();
+
 }  // namespace brennet::test

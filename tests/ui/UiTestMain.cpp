@@ -47,6 +47,7 @@ int main(int argc, char** argv) {
   // would tell of that.
   static const QApplication* const application = new QApplication(argc, argv);
   Q_UNUSED(application)
+  brennet::test::closeUnansweredBoxes();
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
   return RUN_ALL_TESTS();
 }
