@@ -2,8 +2,8 @@
 # Shows the library at work: tools/run.sh HOST_PROGRAM LIBRARY [SETTINGS]
 #
 # Copies a settings file (the sample by default) and the sample preference file of the game into
-# build/run/, lets the sample host load them there and open the settings dialog, and prints what that
-# did to the game's file. Where there is no screen, pictures of the dialog are made instead.
+# build/run/, and lets the sample host load them there, open the settings dialog and say what has
+# changed. Where there is no screen, pictures of the dialog are made instead.
 set -euo pipefail
 
 program=$1
@@ -31,18 +31,9 @@ status=0
   --profile "$run/profile" --block "${windows[@]}" || status=$?
 
 echo
-echo "What changed in the game's preference file:"
-before=$(mktemp) && after=$(mktemp)
-trap 'rm -f "$before" "$after"' EXIT
-tr -d '\r' <"$run/War3Preferences.before.txt" >"$before"
-tr -d '\r' <"$game/War3Preferences.txt" >"$after"
-if diff -u --label before --label after "$before" "$after"; then
-  echo "  nothing"
-fi
-
-echo
 echo "The files:"
 echo "  $run/settings/KeyInfo.xml"
 echo "  $game/War3Preferences.txt"
 echo "  $run/War3Preferences.before.txt"
+[[ ! -e $BRENNET_REGISTRY ]] || echo "  $run/registry.reg"
 exit "$status"

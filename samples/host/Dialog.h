@@ -7,7 +7,7 @@
 // Opens the settings dialog and waits for the player. Returns what came of it, as a sentence.
 QString openDialog(brennet::IBrennet& brennet, std::uint32_t saveTime);
 
-// Opens it where nobody sees it, takes pictures of its two modes, settings.png and dota7.png in
-// `folder`, and cancels it. Returns the files; fewer where the dialog has no such mode, or a file
-// could not be written.
+// Opens it, takes pictures of its two modes and of the windows behind its buttons, settings.png and
+// so on in `folder`, and cancels it at once. Returns the files; fewer where the dialog has no such
+// button, or a file could not be written.
 QStringList takePictures(brennet::IBrennet& brennet, const QString& folder);

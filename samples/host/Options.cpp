@@ -36,7 +36,7 @@ void declareOptions(QCommandLineParser& parser) {
       valued("save-block", "FILE", "Write the block to FILE."),
       valued("apply-block", "FILE", "Hand the block in FILE back to the library."),
       flag("dialog", "Open the settings dialog."),
-      valued("pictures", "DIR", "Open the dialog unseen and put pictures of it into DIR."),
+      valued("pictures", "DIR", "Put pictures of the dialog and its windows into DIR."),
       valued("enable", "on|off", "Switch the feature on or off."),
       valued("save-time", "N",
              "The save time for --enable, --apply-block and --dialog; default: now."),

@@ -98,9 +98,46 @@ QString blockTable(const HotkeyBlock& block) {
   return text;
 }
 
+Sections sectionsOf(const HotkeyBlock& block) {
+  Values values;
+  for (const BlockField& field : explainBlock(block)) values.insert(field.name, field.meaning);
+  return {{QString(), values}};
+}
+
+QString orNothing(const QString& value) {
+  return value.isEmpty() ? QStringLiteral("(nothing)") : value;
+}
+
+QString changesText(const char* where, const QVector<Change>& changes) {
+  QString text = QStringLiteral("  %1\n").arg(QLatin1String(where));
+  if (changes.isEmpty()) text += QStringLiteral("    nothing\n");
+  for (const Change& change : changes) {
+    text += QStringLiteral("    %1: %2 -> %3\n")
+                .arg(change.name, orNothing(change.before), orNothing(change.after));
+  }
+  return text;
+}
+
+QJsonArray changesJson(const QVector<Change>& changes) {
+  QJsonArray list;
+  for (const Change& change : changes) {
+    list.append(QJsonObject{{QStringLiteral("name"), change.name},
+                            {QStringLiteral("before"), change.before},
+                            {QStringLiteral("after"), change.after}});
+  }
+  return list;
+}
+
 }  // namespace
 
-void fillReport(brennet::IBrennet& brennet, Report& report) {
+Sections filledBlock(brennet::IBrennet& brennet) {
+  HotkeyBlock block{};
+  block.size = sizeof(block);
+  brennet.FillHotkeyBlock(&block);
+  return sectionsOf(block);
+}
+
+void fillReport(brennet::IBrennet& brennet, const Before& before, Report& report) {
   report.block.size = sizeof(report.block);
   if (!brennet.FillHotkeyBlock(&report.block)) {
     report.refusals += QStringLiteral("the block could not be filled");
@@ -108,6 +145,10 @@ void fillReport(brennet::IBrennet& brennet, Report& report) {
   report.lastSaveTime = brennet.GetLastSaveTime();
   report.capsLockUsed = brennet.IsCapsLockUsed();
   report.shiftUsed = brennet.IsShiftUsed();
+  const GameSide now = readGameSide();
+  report.blockChanges = changesBetween(before.block, sectionsOf(report.block));
+  report.preferenceChanges = changesBetween(before.gameSide.preferences, now.preferences);
+  report.registryChanges = changesBetween(before.gameSide.registry, now.registry);
 }
 
 QString textReport(const Report& report, bool withBlock) {
@@ -118,6 +159,10 @@ QString textReport(const Report& report, bool withBlock) {
   text += line(QStringLiteral("Save time"), QString::number(report.lastSaveTime));
   text += QStringLiteral("\nActive scheme\n") + schemeInWords(report.block);
   if (withBlock) text += blockTable(report.block);
+  text += QStringLiteral("\nWhat has changed\n");
+  text += changesText("in the block", report.blockChanges);
+  text += changesText("in the game's preference file", report.preferenceChanges);
+  text += changesText("in the registry", report.registryChanges);
   return text;
 }
 
@@ -140,6 +185,9 @@ QByteArray jsonReport(const Report& report) {
       {QStringLiteral("shiftUsed"), report.shiftUsed},
       {QStringLiteral("refusals"), QJsonArray::fromStringList(report.refusals)},
       {QStringLiteral("block"), fields},
+      {QStringLiteral("blockChanges"), changesJson(report.blockChanges)},
+      {QStringLiteral("preferenceChanges"), changesJson(report.preferenceChanges)},
+      {QStringLiteral("registryChanges"), changesJson(report.registryChanges)},
   };
   return QJsonDocument(root).toJson();
 }

@@ -6,6 +6,8 @@
 #include <brennet/HotkeyBlock.h>
 #include <brennet/IBrennet.h>
 
+#include "GameSide.h"
+
 // What the library answered, gathered while the host works.
 struct Report {
   QString settings;
@@ -15,13 +17,27 @@ struct Report {
   std::uint32_t lastSaveTime = 0;
   bool capsLockUsed = false;
   bool shiftUsed = false;
+  // Since it was loaded, and outside of the library since before that.
+  QVector<Change> blockChanges;
+  QVector<Change> preferenceChanges;
+  QVector<Change> registryChanges;
 };
 
-// Asks the library for everything that a report shows.
-void fillReport(brennet::IBrennet& brennet, Report& report);
+// How things were before the host began to work: outside of the library, and in the block.
+struct Before {
+  GameSide gameSide;
+  Sections block;
+};
 
-// For a person: the result of the load and the active scheme in words, and every field of the
-// block when `withBlock` is set.
+// The fields of the block that the library fills now, in words; those of a block of zeros where it
+// fills none.
+Sections filledBlock(brennet::IBrennet& brennet);
+
+// Asks the library for everything that a report shows.
+void fillReport(brennet::IBrennet& brennet, const Before& before, Report& report);
+
+// For a person: the result of the load, the active scheme in words, every field of the block when
+// `withBlock` is set, and what has changed.
 QString textReport(const Report& report, bool withBlock);
 
 // The same for a program.

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QOperatingSystemVersion>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
@@ -77,7 +78,12 @@ void showWindows(brennet::IBrennet& brennet, const Options& options, Report& rep
   if (files.isEmpty()) report.refusals += QStringLiteral("no picture of the dialog was made");
 }
 
-// Windows take another kind of application than the rest does, and pictures no screen.
+bool isWindows() {
+  return QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
+}
+
+// Windows take another kind of application than the rest does, and pictures no screen; but on
+// Windows only windows of its own have its letters.
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
   const auto has = [&](const char* option) {
     const std::size_t length = std::strlen(option);
@@ -85,7 +91,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
       return std::strncmp(argument, option, length) == 0;
     });
   };
-  if (has("--pictures") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+  if (has("--pictures") && !isWindows() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
   if (!has("--pictures") && !has("--dialog")) {
@@ -112,10 +118,13 @@ int run(const Options& options) {
   brennet::IBrennet& brennet = *library.brennet();
 
   Report report;
+  Before before;
+  before.gameSide = readGameSide();
   load(brennet, options, report);
+  before.block = filledBlock(brennet);
   change(brennet, options, returned, report);
   showWindows(brennet, options, report);
-  fillReport(brennet, report);
+  fillReport(brennet, before, report);
 
   if (!options.saveBlock.isEmpty() && !writeBlock(options.saveBlock, report.block)) {
     return badUsage(options.saveBlock + QStringLiteral(": cannot be written"));

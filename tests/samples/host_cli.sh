@@ -91,6 +91,7 @@ import sys
 
 report = json.load(open(sys.argv[1], encoding="utf-8"))
 assert report["loaded"] and report["enabled"] and not report["refusals"]
+assert not report["blockChanges"] and not report["registryChanges"]
 end = 0
 for field in report["block"]:
     assert field["offset"] == end, field
@@ -103,6 +104,7 @@ run 1 --settings "$folder/KeyInfo.xml" --apply-block "$folder/block"
 complains 'nothing in it differs'
 printf '\x5A' | dd of="$folder/block" bs=1 seek=68 conv=notrunc status=none
 run 0 --settings "$folder/KeyInfo.xml" --apply-block "$folder/block" --save-time 1700000000
+says 'ZoomValue: 120 -> 90'
 run 0 --settings "$folder/KeyInfo.xml" --block
 says 'Save time        1700000000'
 grep -E '^ +68  ZoomValue +5a +90$' "$folder/out" >/dev/null || fail 'the zoom value was not taken'
@@ -113,6 +115,7 @@ run 2 --settings "$folder/KeyInfo.xml" --apply-block "$folder/cut"
 run 0 --settings "$folder/KeyInfo.xml" "${profile[@]}" --enable off
 says 'Feature          off'
 follows 'customkeys=0'
+is_windows || says '[Gameplay] customkeys: 2 -> 0'
 run 0 --settings "$folder/KeyInfo.xml" --enable on
 
 # The settings dialog, unseen: a picture is made of it, and nothing is changed. What the libraries
@@ -121,9 +124,14 @@ printf 'leak:%s\n' libfontconfig libqoffscreen libQt5 >"$folder/leaks"
 export LSAN_OPTIONS=suppressions=$folder/leaks:print_suppressions=0
 mkdir "$folder/pictures"
 cp "$folder/KeyInfo.xml" "$folder/before.xml"
-run 0 --settings "$folder/KeyInfo.xml" --pictures "$folder/pictures"
-complains 'A picture: '
-[[ $(head -c 4 "$folder/pictures/settings.png" | tail -c 3) == PNG ]] || fail 'it is no picture'
+cp "$samples/Tollamere.reg" "$folder"
+export BRENNET_REGISTRY=$folder/registry.reg
+run 0 --settings "$folder/KeyInfo.xml" --data "$folder/" --pictures "$folder/pictures"
+for picture in settings orrery quick-chat dota7 dota7-chat; do
+  complains "$picture.png"
+  [[ $(head -c 4 "$folder/pictures/$picture.png" | tail -c 3) == PNG ]] || fail 'it is no picture'
+done
+says '[HKEY_CURRENT_USER\Software\Tollamere\CONTROL]: (nothing) -> 96 values'
 cmp -s "$folder/before.xml" "$folder/KeyInfo.xml" || fail 'the settings changed'
 run 1 --settings "$folder/KeyInfo.xml" --pictures "$folder/missing/folder"
 complains 'no picture of the dialog was made'

@@ -1,17 +1,29 @@
 #!/usr/bin/env bash
 # Shows the Windows library at work, under Wine: tools/windows/demo.sh BUILD_FOLDER
 #
-# The sample host loads copies of the sample files in build/run-windows/, opens the settings dialog
-# without a screen, takes pictures of it and prints what the library hands to the game. The letters
-# are those of the system that Wine runs on: without a screen Qt does not ask Windows for them.
+# The sample host loads copies of the sample files in build/run-windows/, takes pictures of the
+# settings dialog there, and prints what the library hands to the game and what has changed.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
-program=$1/bin/brennet-host.exe
+program=$PWD/$1/bin/brennet-host.exe
 run=build/run-windows
 rm -rf "$run"
 mkdir -p "$run"
-cp samples/data/KeyInfo.xml samples/data/Tollamere.reg "$run/"
+cp samples/data/KeyInfo.xml samples/data/Tollamere.reg samples/data/War3Preferences.txt "$run/"
 
-QT_QPA_FONTDIR=Z:/usr/share/fonts/truetype/wqy tools/windows/run.sh "$program" \
-  --settings "$run/KeyInfo.xml" --data "$run/" --block --pictures "$run"
+# Wine's user is a new one each time: the game's file has to come to his profile and back.
+printf '%s\r\n' '@echo off' \
+  'md "%USERPROFILE%\Documents\Warcraft III"' \
+  'copy /b War3Preferences.txt "%USERPROFILE%\Documents\Warcraft III" >nul' \
+  "Z:${program//\//\\} --settings KeyInfo.xml --data .\\ --block --pictures ." \
+  'set result=%ERRORLEVEL%' \
+  'copy /b "%USERPROFILE%\Documents\Warcraft III\War3Preferences.txt" . >nul' \
+  'exit %result%' >"$run/demo.bat"
+status=0
+(cd "$run" && ../../tools/windows/run.sh cmd /c demo.bat) || status=$?
+rm "$run/demo.bat"
+
+echo
+echo "The files are in $run/"
+exit "$status"

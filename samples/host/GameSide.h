@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Sections.h"
+
+// Where the player's keys take effect outside of the library: the game's preference file, and the
+// DotA 7 keys in the registry.
+struct GameSide {
+  Sections preferences;
+  Sections registry;
+};
+
+// Reads both as they are now. What is not there is empty.
+GameSide readGameSide();
