@@ -6,13 +6,14 @@
 Each RESULT.json is the output of one program run with repetitions. Medians count.
 Benchmarks named <group>/brennet/<case> are compared with <group>/<peer>/<case>; for those named
 scale/<operation>/<n> the growth of time per doubling of n is shown. What of ours has no peer is
-listed with its time alone.
+listed with its time alone; where the name of its group ends in "Steps", with its share of the group.
 """
 
 import argparse
 import fnmatch
 import json
 import math
+import re
 import sys
 
 OURS = "brennet"
@@ -33,6 +34,7 @@ RATIO_TARGETS = [
     ("conflict/*/*", 2.0),
     ("firstShow/bare/*", 1.3),
     ("openDialog/bare/all", 1.3),
+    ("openAgain/first/all", 1.0),
 ]
 
 # The most that time may grow when n doubles: linear, with room for caches.
@@ -48,7 +50,7 @@ def medians(paths):
             rows = json.load(file)["benchmarks"]
         for row in rows:
             if row.get("aggregate_name") == "median":
-                name = row["run_name"].removesuffix("/real_time")
+                name = re.sub("(/iterations:[0-9]+|/real_time|/manual_time)+$", "", row["run_name"])
                 times[name] = row["real_time"] * unit[row["time_unit"]]
     return times
 
@@ -103,6 +105,10 @@ def alone(times, comparisons):
         peer, _, case = rest.partition("/")
         if group != "scale" and peer == OURS and (group, case) not in compared:
             rows.append({"group": group, "case": case, "ours_ns": time})
+    for row in rows:
+        group = row["group"]
+        whole = sum(other["ours_ns"] for other in rows if other["group"] == group)
+        row["share"] = row["ours_ns"] / whole if group.endswith("Steps") else None
     return rows
 
 
@@ -119,6 +125,10 @@ def verdict(row):
 
 def limit(row):
     return "" if row["target"] is None else f"<= {row['target']}"
+
+
+def share(row):
+    return "" if row["share"] is None else f"{row['share']:.0%}"
 
 
 def print_table(header, rows):
@@ -141,8 +151,9 @@ def print_report(comparisons, growths, singles):
         [[row["operation"], str(row["n"]), str(row["next_n"]), duration(row["n_ns"]),
           duration(row["next_n_ns"]), f"{row['growth']:.2f}", limit(row), verdict(row)]
          for row in growths])
-    print_table(["group", "case", "brennet"],
-                [[row["group"], row["case"], duration(row["ours_ns"])] for row in singles])
+    print_table(["group", "case", "brennet", "share"],
+                [[row["group"], row["case"], duration(row["ours_ns"]), share(row)]
+                 for row in singles])
 
 
 def main():

@@ -5,13 +5,14 @@
 
 #include <QCoreApplication>
 
+#include <chrono>
 #include <memory>
 #include <vector>
 
 #include "bench/ui/BarePage.h"
+#include "bench/ui/Opening.h"
 #include "gameside/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
-#include "model/RecommendedScheme.h"
 #include "ui/CHotkeySettingDlg.h"
 #include "ui/StyleSheet.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
@@ -26,23 +27,6 @@ namespace {
 
 const QString kSheet = QStringLiteral(":/skin/war3key.qss");
 
-HotkeyConfig& settings() {
-  static HotkeyConfig config;
-  recommend(*config.editableScheme(0));
-  config.editableScheme(1)->HeroSkillKey.fill(KeyWord(0x91, KeyWord::kCtrl));
-  return config;
-}
-
-Dota7KeyInfoManager& manager() {
-  static Dota7KeyInfoManager manager;
-  return manager;
-}
-
-void paint() {
-  QCoreApplication::sendPostedEvents();
-  QCoreApplication::processEvents();
-}
-
 void open(benchmark::State& state) {
   for ([[maybe_unused]] auto _ : state) {
     CHotkeySettingDlg dialog(settings(), manager());
@@ -52,23 +36,33 @@ void open(benchmark::State& state) {
 }
 BENCHMARK(open)->Name("openDialog/brennet/all");
 
-// The part of it that makes forms and pages.
-void make(benchmark::State& state) {
-  for ([[maybe_unused]] auto _ : state) {
-    const CHotkeySettingDlg dialog(settings(), manager());
-    benchmark::DoNotOptimize(&dialog);
-  }
-}
-BENCHMARK(make)->Name("openDialog/brennet/forms");
+// The same, with only one of its steps counted.
+enum class Step { Forms, Polish, FirstPaint };
 
-// Forms and polish; the rest is the first paint.
-void makeAndPolish(benchmark::State& state) {
+void openStep(benchmark::State& state, Step counted) {
+  using Clock = std::chrono::steady_clock;
   for ([[maybe_unused]] auto _ : state) {
+    const Clock::time_point begin = Clock::now();
     CHotkeySettingDlg dialog(settings(), manager());
+    const Clock::time_point made = Clock::now();
     dialog.show();
+    const Clock::time_point polished = Clock::now();
+    paint();
+    const Clock::time_point painted = Clock::now();
+    const Clock::duration steps[] = {made - begin, polished - made, painted - polished};
+    const std::chrono::duration<double> time = steps[static_cast<std::size_t>(counted)];
+    state.SetIterationTime(time.count());
   }
 }
-BENCHMARK(makeAndPolish)->Name("openDialog/brennet/formsAndPolish");
+BENCHMARK_CAPTURE(openStep, forms, Step::Forms)
+    ->Name("openDialogSteps/brennet/forms")
+    ->UseManualTime();
+BENCHMARK_CAPTURE(openStep, polish, Step::Polish)
+    ->Name("openDialogSteps/brennet/polish")
+    ->UseManualTime();
+BENCHMARK_CAPTURE(openStep, firstPaint, Step::FirstPaint)
+    ->Name("openDialogSteps/brennet/firstPaint")
+    ->UseManualTime();
 
 // The dialog with everything that it keeps hidden.
 class BareDialog {

@@ -4,6 +4,8 @@
 
 #include <QApplication>
 
+#include "bench/ui/Opening.h"
+
 namespace {
 
 // What a page says of each key, and what the platform says of itself, is not to be measured.
@@ -18,6 +20,10 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   QApplication::setStyle(QStringLiteral("fusion"));
   QApplication::setQuitOnLastWindowClosed(false);
+  if (QCoreApplication::arguments().contains(QLatin1String(brennet::bench::kOpenTwice))) {
+    brennet::bench::openTwice();
+    return 0;
+  }
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   return 0;
