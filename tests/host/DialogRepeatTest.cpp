@@ -14,9 +14,8 @@
 namespace brennet::test {
 namespace {
 
-// After so many rounds nothing is met for the first time any more: fonts, caches, and the lists in
-// which the allocator keeps small blocks for the next time, which count as in use.
-constexpr int kFirstRounds = 50;
+// After so many rounds nothing is met for the first time any more, such as fonts and pictures.
+constexpr int kFirstRounds = 10;
 constexpr int kRounds = 200;
 constexpr int kOrreryEach = 10;
 
