@@ -1,7 +1,10 @@
 // The message box with each icon, with one button and with two.
 
 #include <QCoreApplication>
+#include <QLabel>
 #include <QPushButton>
+
+#include <algorithm>
 
 #include "tests/ui/shots/Shots.h"
 #include "ui/CMsgBox.h"
@@ -18,6 +21,14 @@ constexpr Icon kIcons[] = {{"warning", QMessageBox::Warning},
                            {"question", QMessageBox::Question},
                            {"plain", QMessageBox::NoIcon}};
 
+// Boxes wrap texts at half of the screen, which is small here, and smaller still where it counts as
+// one of high density. So the text asks for the room that it has on a large one.
+void keepWidth(const CMsgBox& box) {
+  constexpr int kTextRoom = 400;
+  auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  label->setMinimumWidth(std::min(label->sizeHint().width(), kTextRoom));
+}
+
 std::unique_ptr<QWidget> makeBox(QMessageBox::Icon icon, QMessageBox::StandardButtons buttons) {
   const auto text = [](const char* id) { return QCoreApplication::translate("QObject", id); };
   // The second one has several lines.
@@ -27,6 +38,7 @@ std::unique_ptr<QWidget> makeBox(QMessageBox::Icon icon, QMessageBox::StandardBu
       icon, text("IDS_TITLE"), buttons == QMessageBox::Ok ? key : keys + u'\n' + key, buttons);
   box->setButtonTexts();
   box->setDefaultButton(QMessageBox::Ok);
+  keepWidth(*box);
   return box;
 }
 

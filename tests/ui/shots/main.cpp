@@ -1,7 +1,7 @@
 // Takes pictures of the windows, without a screen: brennet-shots FOLDER
-// Each is taken in each language, in its own size and as a screen of double density shows it:
-// NAME.zh_CN.png, NAME.zh_CN@2x.png, NAME.en.png, NAME.en@2x.png. Chinese texts take a font that
-// has their characters, such as that of Debian's package fonts-wqy-microhei.
+// Each is taken in each language as screens of three densities show it: NAME.zh_CN.png,
+// NAME.zh_CN@1.5x.png, NAME.zh_CN@2x.png, NAME.en.png and so on. Chinese texts take a font that has
+// their characters, such as that of Debian's package fonts-wqy-microhei.
 
 #include <QApplication>
 #include <QDir>
@@ -17,23 +17,18 @@ namespace {
 
 using brennet::shots::Shot;
 
-bool take(const Shot& shot, const QDir& folder, const QString& language, int scale) {
+bool take(const Shot& shot, const QString& file) {
   const std::unique_ptr<QWidget> window = shot.make();
   window->show();
   QApplication::setActiveWindow(window.get());
   QCoreApplication::processEvents();
-  QPixmap picture(window->size() * scale);
-  picture.setDevicePixelRatio(scale);
-  window->render(&picture);
-  const QString suffix = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
-  const QString file =
-      folder.filePath(QStringLiteral("%1.%2%3.png").arg(shot.name, language, suffix));
-  if (picture.save(file)) return true;
+  if (window->grab().save(file)) return true;
   std::fprintf(stderr, "cannot write %s\n", qUtf8Printable(file));
   return false;
 }
 
-bool takeAll(const QList<Shot>& shots, const QDir& folder, const QString& language) {
+bool takeAll(const QList<Shot>& shots, const QDir& folder, const QString& language,
+             const QString& suffix) {
   QTranslator catalogue;
   if (!catalogue.load(QStringLiteral(BRENNET_TRANSLATIONS "/brennet_%1.qm").arg(language))) {
     std::fprintf(stderr, "there is no catalogue for %s\n", qUtf8Printable(language));
@@ -41,22 +36,16 @@ bool takeAll(const QList<Shot>& shots, const QDir& folder, const QString& langua
   }
   QCoreApplication::installTranslator(&catalogue);
   for (const Shot& shot : shots) {
-    for (const int scale : {1, 2}) {
-      if (!take(shot, folder, language, scale)) return false;
-    }
+    const QString file = QStringLiteral("%1.%2%3.png").arg(shot.name, language, suffix);
+    if (!take(shot, folder.filePath(file))) return false;
   }
   return true;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+// Qt looks at the density when an application starts, so each has one of its own.
+bool takeAtScale(const char* scale, int argc, char** argv) {
+  qputenv("QT_SCALE_FACTOR", scale);
   const QApplication application(argc, argv);
-  if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-    std::fprintf(stderr, "usage: brennet-shots FOLDER\n");
-    return 2;
-  }
   QApplication::setStyle(QStringLiteral("fusion"));
   // As large as a host on Windows has it: 9 points.
   QFont font = QApplication::font();
@@ -67,8 +56,26 @@ int main(int argc, char** argv) {
                             brennet::shots::chatShots() + brennet::shots::controlShots() +
                             brennet::shots::dialogShots() + brennet::shots::dota7Shots() +
                             brennet::shots::wheelShots();
+  const QString suffix =
+      qstrcmp(scale, "1") == 0 ? QString() : QStringLiteral("@%1x").arg(QLatin1String(scale));
   for (const char* const language : {"zh_CN", "en"}) {
-    if (!takeAll(shots, folder, QLatin1String(language))) return 1;
+    if (!takeAll(shots, folder, QLatin1String(language), suffix)) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+    std::fprintf(stderr, "usage: brennet-shots FOLDER\n");
+    return 2;
+  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // As the sample host has it.
+  QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  for (const char* const scale : {"1", "1.5", "2"}) {
+    if (!takeAtScale(scale, argc, argv)) return 1;
   }
   return 0;
 }

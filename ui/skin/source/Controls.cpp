@@ -69,14 +69,14 @@ Canvas pageTab() {
   return stacked({
       tab({rgb(0x2c3750), rgb(0x222b3f), kSunkenEdge}, none),
       tab({rgb(0x3c4d72), rgb(0x2d3a57), kEdge}, rgb(0xffffff, 0.10)),
-      tab({rgb(0x53699a), rgb(0x384a6e), kButtonEdge}, kHighlight),
+      tab({rgb(0x445a83), rgb(0x34466a), kButtonEdge}, kHighlight),
   });
 }
 
 Canvas castToggle() {
   return stacked({
       toggle({rgb(0x2c3750), rgb(0x33415e), kButtonEdge}, rgb(0xa9b8d0)),
-      toggle({rgb(0x53699a), rgb(0x384a6e), kHighlight}, kGold),
+      toggle({rgb(0x53699a), rgb(0x384a6e), kButtonEdge}, kGold),
   });
 }
 
@@ -85,7 +85,7 @@ Canvas modeButton() {
 }
 
 Canvas modeButtonHovered() {
-  return mode({rgb(0x5a74a3), rgb(0x445a83), kHighlight}, kBright);
+  return mode({rgb(0x344568), rgb(0x2a3753), kHighlight}, kBright);
 }
 
 Canvas arrowUp() {

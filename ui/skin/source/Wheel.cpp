@@ -71,7 +71,7 @@ Canvas phraseField() {
 }
 
 Canvas phraseFieldHovered() {
-  return field(rgb(0x354a72, 0.96), kHighlight, kBright);
+  return field(rgb(0x354a72, 0.96), kWhite, kBright);
 }
 
 }  // namespace brennet::skin
