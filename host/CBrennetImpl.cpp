@@ -90,14 +90,19 @@ bool CBrennetImpl::ShowSettingsDialog(bool* saved, std::uint32_t saveTime) noexc
   *saved = false;
   // Without the host's application object there are no windows.
   if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) return false;
-  return orElse(false, [&] {
-    workingCopy().ResetAndCopyFrom(*config_);
-    CHotkeySettingDlg dialog(workingCopy(), Dota7KeyInfoManager::instance());
-    dialog.setDataFolder(dataFolder_);
-    if (runModal(dialog) != QDialog::Accepted) return false;
-    *saved = orElse(false, [&] { return saveWorkingCopy(saveTime); });
-    return true;
-  });
+  if (isDialogOpen_) return false;
+  isDialogOpen_ = true;
+  const bool isConfirmed = orElse(false, [&] { return runDialog(); });
+  isDialogOpen_ = false;
+  if (isConfirmed) *saved = orElse(false, [&] { return saveWorkingCopy(saveTime); });
+  return isConfirmed;
+}
+
+bool CBrennetImpl::runDialog() {
+  workingCopy().ResetAndCopyFrom(*config_);
+  CHotkeySettingDlg dialog(workingCopy(), Dota7KeyInfoManager::instance());
+  dialog.setDataFolder(dataFolder_);
+  return runModal(dialog) == QDialog::Accepted;
 }
 
 bool CBrennetImpl::FillHotkeyBlock(HotkeyBlock* block) noexcept {
@@ -142,6 +147,8 @@ std::int32_t CBrennetImpl::ApplyHotkeyBlock(HotkeyBlock* block, std::uint32_t sa
   if (!isSizeWritable(block)) return kApplied;
   const std::uint32_t size = announcedSize(block);
   if (!platform::isWritable(block, size)) return kApplied;
+  // The player's own changes are being made in the working copy, and would be lost.
+  if (isDialogOpen_) return kNotApplied;
 
   HotkeyBlock current;
   fillBlock(*config_, current);

@@ -34,12 +34,16 @@ class CBrennetImpl final : public IBrennet {
   CBrennetImpl();
   ~CBrennetImpl() = default;
 
+  // The dialog on the working copy; whether the player confirmed.
+  bool runDialog();
+
   // Saves the working copy and, when that succeeded, makes it the main configuration.
   bool saveWorkingCopy(std::uint32_t saveTime);
 
   std::u16string settingsPath_;
   std::u16string dataFolder_;
-  HotkeyConfig* config_;  // the main configuration, not owned
+  bool isDialogOpen_ = false;  // which edits the working copy
+  HotkeyConfig* config_;       // the main configuration, not owned
 };
 
 }  // namespace brennet

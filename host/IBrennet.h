@@ -44,7 +44,8 @@ class IBrennet {
   // Slot 2. Opens the settings dialog, modal over the host's window, on a copy of the settings.
   // When the player confirms, the copy is saved with `saveTime`, `*saved` tells whether that
   // succeeded, and if so the copy becomes the active configuration.
-  // Returns whether the player confirmed; false when `saved` is null.
+  // Returns whether the player confirmed; false when `saved` is null, without a QApplication, and
+  // while the dialog is open already.
   virtual bool BRENNET_CALL ShowSettingsDialog(bool* saved, std::uint32_t saveTime) = 0;
 
   // Slot 3. Fills `block` with the active bindings. The caller writes the number of bytes it
@@ -78,7 +79,7 @@ class IBrennet {
   // Slot 10. Takes back a block that was changed in game, merges what differs into the settings
   // and saves them with `saveTime`. Reads `block->size` bytes, at most one record.
   // Returns 0 after a successful save, and 0 when `block` is null or any of its `size` bytes is
-  // not writable; -1 when nothing differs or the save fails.
+  // not writable; -1 when nothing differs, the save fails, or the settings dialog is open.
   virtual std::int32_t BRENNET_CALL ApplyHotkeyBlock(HotkeyBlock* block,
                                                      std::uint32_t saveTime) = 0;
 

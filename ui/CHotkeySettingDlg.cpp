@@ -4,11 +4,14 @@
 #include <QMouseEvent>
 #include <QStackedLayout>
 
+#include <initializer_list>
+
 #include "gameside/Dota7KeyInfoManager.h"
 #include "gameside/RegistryImport.h"
 #include "model/HotkeyConfig.h"
 #include "ui/CMsgBox.h"
 #include "ui/StyleSheet.h"
+#include "ui/TabOrder.h"
 #include "ui/VirtualKey.h"
 #include "ui/WindowDrag.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
@@ -46,11 +49,15 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
   connectForm();
   connectPages();
   setMode(Mode::Platform);
+  brennet::setTabOrderOfLayouts(*this);
   // A key field would take the first key, whatever it is meant for.
   form_->titleWidget->setFocus();
 }
 
-CHotkeySettingDlg::~CHotkeySettingDlg() = default;
+// The application may quit, or the host hide the window: nobody has confirmed anything then.
+CHotkeySettingDlg::~CHotkeySettingDlg() {
+  if (result() != Accepted) manager_->cancelChanges();
+}
 
 void CHotkeySettingDlg::createPages() {
   advanced_ = new CAdvancedSettingWidget(*config_, this);
@@ -67,13 +74,20 @@ void CHotkeySettingDlg::createPages() {
   advanced_->hide();
   olderBasic_->hide();
   chatWheel_->hide();
+  for (QWidget* const page : std::initializer_list<QWidget*>{basic_, dota7_}) {
+    for (QPushButton* const button : page->findChildren<QPushButton*>()) {
+      button->setAutoDefault(false);  // Return is no click in this dialog
+    }
+  }
 }
 
 void CHotkeySettingDlg::fillForm() {
   form_->cmbHotkeySetting->addItems(
       {tr("setting group 1"), tr("setting group 2"), tr("setting group 3")});
   const auto index = static_cast<int>(config_->index());
-  if (index < form_->cmbHotkeySetting->count()) form_->cmbHotkeySetting->setCurrentIndex(index);
+  // Where the file names a scheme that there is not, none is shown, and each can be chosen.
+  const bool isThere = index < form_->cmbHotkeySetting->count();
+  form_->cmbHotkeySetting->setCurrentIndex(isThere ? index : -1);
   form_->chkUseHotkeySettings->setChecked(config_->enable());
   for (QLabel* const link : {form_->lblResetToDefaultSetting, form_->lblUseRecommendedSetting}) {
     link->installEventFilter(this);
@@ -153,7 +167,11 @@ void CHotkeySettingDlg::onSwitchChatWheelSettingUI() {
   constexpr int kNoPage = 2;  // the stack has none behind the DotA 7 page
   stack_->setCurrentIndex(kNoPage);
   chatWheel_->setFocus();
-  if (auto* const first = chatWheel_->findChild<QWidget*>()) first->setFocus();
+  for (QWidget* const inner : chatWheel_->findChildren<QWidget*>()) {
+    if (inner->focusPolicy() == Qt::NoFocus) continue;
+    inner->setFocus();
+    return;
+  }
 }
 
 // A key field that has the focus ends what was begun in it before the changes are counted.
@@ -182,9 +200,12 @@ void CHotkeySettingDlg::onToggled_UseHotkeySettings(bool bChecked) {
 }
 
 bool CHotkeySettingDlg::isConfirmed(int icon, const QString& title, const QString& question) {
-  return CMsgBox::showMessage(this, static_cast<QMessageBox::Icon>(icon), title, question,
-                              QMessageBox::Ok | QMessageBox::Cancel,
-                              QMessageBox::Ok) == QMessageBox::Ok;
+  const int answer =
+      CMsgBox::showMessage(this, static_cast<QMessageBox::Icon>(icon), title, question,
+                           QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
+  // A key that answers goes down in the box and up here.
+  isKeyDownElsewhere_ = true;
+  return answer == QMessageBox::Ok;
 }
 
 void CHotkeySettingDlg::onResetSetting() {
@@ -263,9 +284,12 @@ bool CHotkeySettingDlg::eventFilter(QObject* watched, QEvent* event) {
   bool isClicked = false;
   if (link != nullptr && event->type() == QEvent::MouseButtonRelease) {
     isClicked = link->rect().contains(static_cast<QMouseEvent*>(event)->pos());
+  } else if (link != nullptr && event->type() == QEvent::KeyPress) {
+    isKeyDownElsewhere_ = false;
   } else if (link != nullptr && event->type() == QEvent::KeyRelease) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    isClicked = key == Qt::Key_Space || key == Qt::Key_Enter;
+    isClicked = (key == Qt::Key_Space || key == Qt::Key_Enter) && !isKeyDownElsewhere_;
+    isKeyDownElsewhere_ = false;
   }
   if (isClicked && link == form_->lblResetToDefaultSetting) emit resetSetting();
   if (isClicked && link == form_->lblUseRecommendedSetting) emit useRecommendedSetting();

@@ -40,7 +40,7 @@ class CHotkeySettingDlg : public QDialog {
   // closed.
   void setDataFolder(std::u16string_view folder);
 
-  // However the dialog is dismissed, the registry gets back what it had.
+  // The registry gets back what it had. So it does where the dialog is gone without an answer.
   void reject() override;
 
  signals:
@@ -87,6 +87,7 @@ class CHotkeySettingDlg : public QDialog {
 
   brennet::HotkeyConfig* config_;
   brennet::Dota7KeyInfoManager* manager_;
+  bool isKeyDownElsewhere_ = false;  // what goes up next on a link did not go down there
   std::unique_ptr<Ui::CHotkeySettingDlg> form_;
   QStackedLayout* stack_ = nullptr;
   // Children of this widget.

@@ -9,6 +9,18 @@ namespace {
 
 bool handlesOwners = false;
 
+// As long as this lives; also when the dialog fails.
+class DisabledOwners {
+ public:
+  DisabledOwners() : windows_(platform::disableOwnerWindows()) {}
+  ~DisabledOwners() { platform::enableOwnerWindows(windows_); }
+  DisabledOwners(const DisabledOwners&) = delete;
+  DisabledOwners& operator=(const DisabledOwners&) = delete;
+
+ private:
+  platform::OwnerWindows windows_;
+};
+
 }  // namespace
 
 void setOwnerHandling(bool on) {
@@ -18,10 +30,8 @@ void setOwnerHandling(bool on) {
 int runModal(QDialog& dialog) {
   dialog.setWindowModality(Qt::ApplicationModal);
   if (!handlesOwners) return dialog.exec();
-  const platform::OwnerWindows owners = platform::disableOwnerWindows();
-  const int result = dialog.exec();
-  platform::enableOwnerWindows(owners);
-  return result;
+  const DisabledOwners owners;
+  return dialog.exec();
 }
 
 }  // namespace brennet

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "ui/CKeyLineEdit.h"
+
 namespace brennet {
 namespace {
 
@@ -52,6 +54,9 @@ void setTabOrderOfLayouts(QWidget& window) {
   if (window.layout() == nullptr) return;
   Controls controls;
   collect(*window.layout(), controls);
+  std::stable_partition(controls.begin(), controls.end(), [](const QWidget* control) {
+    return qobject_cast<const CKeyLineEdit*>(control) == nullptr;
+  });
   // Qt moves no control that follows already, even round the end of the window to its start: so
   // something else is the last one there for the moment.
   QWidget last(&window);

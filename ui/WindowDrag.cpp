@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QLayout>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -21,12 +22,18 @@ QPoint pointOf(std::intptr_t lParam) {
   return {half(0), half(16)};
 }
 
+// What only holds other controls, and shows nothing of its own between them.
+bool isEmptyArea(const QWidget& widget) {
+  return widget.layout() != nullptr && qobject_cast<const QGroupBox*>(&widget) == nullptr;
+}
+
 }  // namespace
 
 Under underPoint(const DraggableWindow& dragged, QPoint point) {
   const QWidget* const child = dragged.window.childAt(dragged.window.mapFromGlobal(point));
   if (child == nullptr) return Under::Nothing;
   if (child == dragged.titleStrip || child == dragged.form) return Under::Frame;
+  if (isEmptyArea(*child)) return Under::Frame;
   if (qobject_cast<const QLabel*>(child) != nullptr) {
     return child->font().underline() ? Under::Link : Under::Label;
   }

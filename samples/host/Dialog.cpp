@@ -80,13 +80,10 @@ QStringList takePicturesOf(QDialog& dialog, const QString& folder) {
 
 }  // namespace
 
-QString openDialog(brennet::IBrennet& brennet, std::uint32_t saveTime) {
+DialogEnd openDialog(brennet::IBrennet& brennet, std::uint32_t saveTime) {
   bool saved = false;
-  if (!brennet.ShowSettingsDialog(&saved, saveTime)) {
-    return QStringLiteral("The dialog was cancelled: nothing has changed.");
-  }
-  return saved ? QStringLiteral("The dialog was confirmed, and the settings were saved.")
-               : QStringLiteral("The dialog was confirmed, but the settings could not be saved.");
+  if (!brennet.ShowSettingsDialog(&saved, saveTime)) return DialogEnd::Cancelled;
+  return saved ? DialogEnd::Saved : DialogEnd::NotSaved;
 }
 
 QStringList takePictures(brennet::IBrennet& brennet, const QString& folder) {

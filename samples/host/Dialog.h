@@ -4,8 +4,10 @@
 #include <QString>
 #include <QStringList>
 
-// Opens the settings dialog and waits for the player. Returns what came of it, as a sentence.
-QString openDialog(brennet::IBrennet& brennet, std::uint32_t saveTime);
+enum class DialogEnd { Cancelled, Saved, NotSaved };
+
+// Opens the settings dialog and waits for the player.
+DialogEnd openDialog(brennet::IBrennet& brennet, std::uint32_t saveTime);
 
 // Opens it, takes pictures of its two modes and of the windows behind its buttons, settings.png and
 // so on in `folder`, and cancels it at once. Returns the files; fewer where the dialog has no such

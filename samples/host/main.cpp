@@ -68,10 +68,17 @@ void change(brennet::IBrennet& brennet, const Options& options, QByteArray& retu
   }
 }
 
-void showWindows(brennet::IBrennet& brennet, const Options& options, Report& report) {
-  if (options.dialog) {
-    std::fprintf(stderr, "%s\n", qPrintable(openDialog(brennet, options.saveTime)));
+void showDialog(brennet::IBrennet& brennet, const Options& options, Report& report) {
+  const DialogEnd end = openDialog(brennet, options.saveTime);
+  if (end == DialogEnd::Cancelled) std::fputs("The dialog was cancelled.\n", stderr);
+  if (end == DialogEnd::Saved) std::fputs("The settings were saved.\n", stderr);
+  if (end == DialogEnd::NotSaved) {
+    report.refusals += QStringLiteral("the settings were confirmed, but could not be saved");
   }
+}
+
+void showWindows(brennet::IBrennet& brennet, const Options& options, Report& report) {
+  if (options.dialog) showDialog(brennet, options, report);
   if (options.pictures.isEmpty()) return;
   const QStringList files = takePictures(brennet, options.pictures);
   for (const QString& file : files) std::fprintf(stderr, "A picture: %s\n", qPrintable(file));

@@ -45,10 +45,14 @@ Widget& find(QWidget& window, const char* name) {
 }  // namespace
 
 bool DialogFixture::open(const char* button, const Act& act) {
-  const NextWindow dialog([&](QDialog& window) {
-    act(window);
-    DialogFixture::button(window, button).click();
+  return openUntil([&](QDialog& dialog) {
+    act(dialog);
+    DialogFixture::button(dialog, button).click();
   });
+}
+
+bool DialogFixture::openUntil(const Act& act) {
+  const NextWindow dialog(act);
   saved_ = true;
   return brennet_.ShowSettingsDialog(&saved_, 4711);
 }

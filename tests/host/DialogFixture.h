@@ -19,6 +19,9 @@ class DialogFixture : public HostFixture {
   // Opens the dialog, does `act` in it and clicks the button of that name. Returns the answer.
   bool open(const char* button, const Act& act);
 
+  // The same with an `act` that ends the dialog itself.
+  bool openUntil(const Act& act);
+
   // Clicks the button, does `act` in the modal window that it opens, and clicks the button of the
   // name `answer` there.
   static void inWindowOf(QAbstractButton& opener, const char* answer, const Act& act);

@@ -1,15 +1,14 @@
 // The settings dialog again and again in one host: what it takes it gives back.
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QDialog>
 #include <QPixmapCache>
-#include <QPushButton>
-#include <QTimer>
 
 #include "gameside/Dota7Values.h"
-#include "tests/host/HostFixture.h"
+#include "tests/host/DialogFixture.h"
 #include "tests/host/InUse.h"
 #include "tests/support/ScopedRegistry.h"
+#include "tests/ui/UiTest.h"
 
 namespace brennet::test {
 namespace {
@@ -17,36 +16,33 @@ namespace {
 // After so many rounds nothing is met for the first time any more, such as fonts and pictures.
 constexpr int kFirstRounds = 10;
 constexpr int kRounds = 200;
-constexpr int kOrreryEach = 10;
+// So often the player looks at everything that the dialog has, and confirms; else he cancels.
+constexpr int kLookEach = 10;
 
-class DialogRepeat : public HostFixture {
+class DialogRepeat : public DialogFixture {
  protected:
   DialogRepeat() {
     registry_.createKey(kDota7ControlPath);
     registry_.createKey(kDota7PhrasesPath);
   }
 
-  // Opens the dialog, and the Orrery window from it if asked to, and cancels it.
-  void openAndCancel(bool withOrrery) {
-    bool isOpened = false;
-    QTimer::singleShot(0, [&] {
-      auto& dialog = *qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      isOpened = true;
-      if (withOrrery) click(dialog, "btnOrrerySetting");
-      click(dialog, "btnCancel");
-    });
-    bool saved = true;
-    EXPECT_FALSE(brennet_.ShowSettingsDialog(&saved, 4711));
-    EXPECT_FALSE(saved);
-    EXPECT_TRUE(isOpened);
+  static void look(QDialog& dialog) {
+    button(dialog, "btnOrrerySetting").click();
+    inWindowOf(button(dialog, "btnTalkSetting"), "btnCancel", [](QDialog&) {});
+    {
+      const auto question = whenBoxIsShown([](QMessageBox& box) { box.reject(); });
+      QMetaObject::invokeMethod(&dialog, "onResetSetting");
+    }
+    button(dialog, "btnDota7Setting").click();
+    inWindowOf(button(dialog, "chatHotkeyBtn"), "btnCancel", [](QDialog&) {});
   }
 
   void repeat(int from, int to) {
-    for (int round = from; round < to; ++round) openAndCancel(round % kOrreryEach == 0);
-  }
-
-  static void click(QDialog& dialog, const char* button) {
-    dialog.findChild<QPushButton*>(QLatin1String(button))->click();
+    for (int round = from; round < to; ++round) {
+      const bool looks = round % kLookEach == 0;
+      EXPECT_EQ(looks, looks ? open("btnOK", look) : open("btnCancel", [](QDialog&) {}));
+      EXPECT_EQ(saved_, looks);
+    }
   }
 
   ScopedRegistry registry_;

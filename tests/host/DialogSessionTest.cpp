@@ -3,10 +3,13 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QTimer>
 
 #include "gameside/Dota7Values.h"
+#include "keys/KeyWord.h"
 #include "tests/host/DialogFixture.h"
 #include "tests/support/ScopedRegistry.h"
+#include "tests/ui/UiTest.h"
 #include "tests/ui/pages/PageChecks.h"
 
 namespace brennet::test {
@@ -28,6 +31,15 @@ class DialogSession : public DialogFixture {
     field(dialog, "edtChatWheel_1").setText(QStringLiteral("glhf"));
     button(page, "btnDota7Setting").click();
     pressKey(field(dialog, "edt_HStopKey"), Qt::Key_X);
+  }
+
+  // As a host does it, from within its event loop.
+  static void inAnApplication(const std::function<void()>& act) {
+    QTimer::singleShot(0, [&] {
+      act();
+      QCoreApplication::quit();
+    });
+    QCoreApplication::exec();
   }
 
   ScopedRegistry registry_;
@@ -91,6 +103,89 @@ TEST_F(DialogSession, EditsTheSchemeThatThePlayerChooses) {
   }));
   EXPECT_EQ(filled().heroSkillKeys0to5[0], 'T' << 8);
   EXPECT_NE(readBytes(settings_).find("index=\"1\""), std::string::npos);
+}
+
+// The host has other ways to end the dialog than the player has.
+TEST_F(DialogSession, ChangesNothingWhenTheHostEndsIt) {
+  struct Row {
+    const char* name;
+    void (*end)(QDialog&);
+  };
+  const Row rows[] = {
+      {"quit", [](QDialog&) { QCoreApplication::quit(); }},
+      {"done", [](QDialog& dialog) { dialog.done(QDialog::Rejected); }},
+      {"hide", [](QDialog& dialog) { dialog.hide(); }},
+      {"close", [](QDialog& dialog) { dialog.close(); }},
+      {"close all", [](QDialog&) { QApplication::closeAllWindows(); }},
+      {"under a box",
+       [](QDialog& dialog) {
+         const auto box = whenBoxIsShown([&](QMessageBox& question) {
+           dialog.done(QDialog::Rejected);
+           question.button(QMessageBox::Ok)->click();
+         });
+         QMetaObject::invokeMethod(&dialog, "onResetSetting");
+       }},
+      {"under a window",
+       [](QDialog& dialog) {
+         inWindowOf(button(dialog, "chatHotkeyBtn"), "btnOK", [&](QDialog& chat) {
+           field(chat, "edt_SQuickChatString0").setText(QStringLiteral("hi"));
+           dialog.done(QDialog::Rejected);
+         });
+       }},
+  };
+  for (const Row& row : rows) {
+    const platform::RegFile registry = registry_.content();
+    const HotkeyBlock block = filled();
+    inAnApplication([&] {
+      EXPECT_FALSE(openUntil([&](QDialog& dialog) {
+        changeMuch(dialog);
+        row.end(dialog);
+      })) << row.name;
+    });
+    EXPECT_FALSE(saved_) << row.name;
+    EXPECT_EQ(registry_.content(), registry) << row.name;
+    const HotkeyBlock after = filled();
+    EXPECT_EQ(std::memcmp(&block, &after, sizeof(block)), 0) << row.name;
+  }
+}
+
+// What a timer of the host does meanwhile must not cost the player his changes.
+TEST_F(DialogSession, IsNotDisturbedByItsHost) {
+  EXPECT_TRUE(open("btnOK", [this](QDialog& dialog) {
+    changeMuch(dialog);
+    bool saved = true;
+    EXPECT_FALSE(brennet_.ShowSettingsDialog(&saved, 1)) << "one is open already";
+    EXPECT_FALSE(saved);
+    HotkeyBlock block = filled();
+    block.zoomValue = 55;
+    EXPECT_EQ(brennet_.ApplyHotkeyBlock(&block, 1), -1);
+    EXPECT_NE(filled().zoomValue, 55);
+  }));
+  EXPECT_TRUE(saved_);
+  EXPECT_EQ(filled().heroSkillKeys0to5[2] >> 8, 'E');
+  HotkeyBlock block = filled();
+  block.zoomValue = 55;
+  EXPECT_EQ(brennet_.ApplyHotkeyBlock(&block, 1), 0) << "as soon as it is closed";
+}
+
+TEST_F(DialogSession, ChoosesASchemeWhereTheFileNamesNone) {
+  EXPECT_TRUE(
+      loadText("<KeyInfo enable=\"1\" index=\"5\"><LastSaveTime>77</LastSaveTime></KeyInfo>"));
+  EXPECT_TRUE(open("btnOK", [](QDialog& dialog) {
+    auto& schemes = *dialog.findChild<QComboBox*>(QStringLiteral("cmbHotkeySetting"));
+    EXPECT_EQ(schemes.currentIndex(), -1);
+    schemes.setCurrentIndex(0);
+    pressKey(field(basicPage(dialog), "edtSkill_1"), Qt::Key_T);
+  }));
+  EXPECT_NE(readBytes(settings_).find("index=\"0\""), std::string::npos);
+  EXPECT_EQ(filled().heroSkillKeys0to5[0], 'T' << 8);
+}
+
+TEST_F(DialogSession, KeepsASchemeThatThereIsNot) {
+  EXPECT_TRUE(
+      loadText("<KeyInfo enable=\"1\" index=\"5\"><LastSaveTime>77</LastSaveTime></KeyInfo>"));
+  EXPECT_TRUE(open("btnOK", [](QDialog&) {}));
+  EXPECT_NE(readBytes(settings_).find("index=\"5\""), std::string::npos);
 }
 
 TEST_F(DialogSession, LeavesNoWindowsBehind) {

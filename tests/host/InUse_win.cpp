@@ -40,15 +40,35 @@ unsigned long openHandles() {
   return count;
 }
 
+// Pens, bitmaps, fonts and so on. Wine counts none, but knows each by the lower half of its handle.
+unsigned long drawingObjects() {
+  constexpr std::uintptr_t kLastObject = 0xFFFF;
+  unsigned long count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  for (std::uintptr_t object = 1; object <= kLastObject; ++object) {
+    if (GetObjectType(reinterpret_cast<HGDIOBJ>(object)) != 0) ++count;
+  }
+  return count;
+}
+
+BOOL CALLBACK countWindow(HWND /*window*/, LPARAM count) {
+  ++*reinterpret_cast<unsigned long*>(count);
+  return TRUE;
+}
+
+// Of this thread, and what else of that kind the system counts.
+unsigned long windowObjects() {
+  unsigned long count = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+  EnumThreadWindows(GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&count));
+  return count;
+}
+
 }  // namespace
 
 InUse inUse() {
-  const HANDLE process = GetCurrentProcess();
   return {.memory = bytesOfAllHeaps(),
           .handles = openHandles(),
-          // Wine counts neither of these.
-          .drawingObjects = GetGuiResources(process, GR_GDIOBJECTS),
-          .windowObjects = GetGuiResources(process, GR_USEROBJECTS)};
+          .drawingObjects = drawingObjects(),
+          .windowObjects = windowObjects()};
 }
 
 }  // namespace brennet::test

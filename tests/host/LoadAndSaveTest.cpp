@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "host/CBrennetImpl.h"
 #include "host/ProcessConfigs.h"
 #include "tests/host/HostFixture.h"
 

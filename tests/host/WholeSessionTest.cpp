@@ -10,6 +10,7 @@
 #include <iterator>
 
 #include "gameside/Dota7Values.h"
+#include "keys/KeyWord.h"
 #include "tests/host/DialogFixture.h"
 #include "tests/support/Golden.h"
 #include "tests/support/ScopedRegistry.h"

@@ -21,7 +21,7 @@ printf '%s\r\n' '@echo off' \
   'copy /b "%USERPROFILE%\Documents\Warcraft III\War3Preferences.txt" . >nul' \
   'exit %result%' >"$run/demo.bat"
 status=0
-(cd "$run" && ../../tools/windows/run.sh cmd /c demo.bat) || status=$?
+(cd "$run" && BRENNET_SCREEN=1 ../../tools/windows/run.sh cmd /c demo.bat) || status=$?
 rm "$run/demo.bat"
 
 echo

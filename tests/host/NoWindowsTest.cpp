@@ -1,0 +1,38 @@
+// A host without the application object that windows need.
+
+#include <QGuiApplication>
+
+#include <optional>
+
+#include "tests/host/HostFixture.h"
+
+namespace brennet::test {
+namespace {
+
+class WithoutWindows : public HostFixture {
+ protected:
+  void expectNoDialog(const char* host) {
+    const HotkeyBlock block = filled();
+    bool saved = true;
+    EXPECT_FALSE(brennet_.ShowSettingsDialog(&saved, 4711)) << host;
+    EXPECT_FALSE(saved) << host;
+    const HotkeyBlock after = filled();
+    EXPECT_EQ(std::memcmp(&block, &after, sizeof(block)), 0) << host;
+  }
+};
+
+TEST_F(WithoutWindows, NoDialogIsShown) {
+  expectNoDialog("without an application object");
+  int count = 1;
+  char name[] = "host";
+  char* arguments[] = {name, nullptr};
+  std::optional<QCoreApplication> application(std::in_place, count, arguments);
+  expectNoDialog("with one for programs without windows");
+  application.reset();
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication gui(count, arguments);
+  expectNoDialog("with one for windows without widgets");
+}
+
+}  // namespace
+}  // namespace brennet::test
