@@ -5,8 +5,10 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFont>
 #include <QPixmap>
+#include <QTemporaryDir>
 #include <QTranslator>
 
 #include <cstdio>
@@ -72,6 +74,11 @@ int main(int argc, char** argv) {
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  // The DotA 7 windows show what the registry holds.
+  const QTemporaryDir folder;
+  const QString registry = folder.filePath(QStringLiteral("registry.reg"));
+  QFile::copy(QStringLiteral(BRENNET_SAMPLE_DATA "/Tollamere.reg"), registry);
+  qputenv("BRENNET_REGISTRY", QFile::encodeName(registry));
   // As the sample host has it.
   QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   for (const char* const scale : {"1", "1.5", "2"}) {
