@@ -114,6 +114,7 @@ void CMsgBox::setButtonTexts() {
     auto* const pushButton = qobject_cast<QPushButton*>(button(row.button));
     if (pushButton == nullptr) continue;
     pushButton->setText(translated(row.text));
+    pushButton->setIcon({});  // some desktops have one, for which the width leaves no room
     pushButton->setFixedWidth(widthFor(*pushButton));
   }
 }

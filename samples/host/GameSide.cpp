@@ -38,6 +38,10 @@ QString registryText() {
 
 }  // namespace
 
+Sections readRegistryDefaults(const QString& dataFolder) {
+  return parseSections(readText(QDir(dataFolder).filePath(QStringLiteral("Tollamere.reg"))));
+}
+
 GameSide readGameSide() {
   return {.preferences = parseSections(readText(QDir::home().filePath(kPreferences))),
           .registry = parseSections(registryText())};

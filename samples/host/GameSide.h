@@ -11,3 +11,6 @@ struct GameSide {
 
 // Reads both as they are now. What is not there is empty.
 GameSide readGameSide();
+
+// The keys that the library imports from the data folder into a registry that has none.
+Sections readRegistryDefaults(const QString& dataFolder);

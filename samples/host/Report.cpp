@@ -104,6 +104,14 @@ Sections sectionsOf(const HotkeyBlock& block) {
   return {{QString(), values}};
 }
 
+// After an import also what is not as it was imported.
+QVector<Change> registryChanges(const Before& before, const Sections& now) {
+  QVector<Change> changes = changesBetween(before.gameSide.registry, now);
+  const bool isImported = before.gameSide.registry.isEmpty() && !now.isEmpty();
+  if (isImported) changes += changesBetween(before.registryDefaults, now);
+  return changes;
+}
+
 QString orNothing(const QString& value) {
   return value.isEmpty() ? QStringLiteral("(nothing)") : value;
 }
@@ -148,7 +156,7 @@ void fillReport(brennet::IBrennet& brennet, const Before& before, Report& report
   const GameSide now = readGameSide();
   report.blockChanges = changesBetween(before.block, sectionsOf(report.block));
   report.preferenceChanges = changesBetween(before.gameSide.preferences, now.preferences);
-  report.registryChanges = changesBetween(before.gameSide.registry, now.registry);
+  report.registryChanges = registryChanges(before, now.registry);
 }
 
 QString textReport(const Report& report, bool withBlock) {

@@ -26,6 +26,7 @@ struct Report {
 // How things were before the host began to work: outside of the library, and in the block.
 struct Before {
   GameSide gameSide;
+  Sections registryDefaults;
   Sections block;
 };
 

@@ -127,6 +127,7 @@ int run(const Options& options) {
   Report report;
   Before before;
   before.gameSide = readGameSide();
+  before.registryDefaults = readRegistryDefaults(options.data);
   load(brennet, options, report);
   before.block = filledBlock(brennet);
   change(brennet, options, returned, report);

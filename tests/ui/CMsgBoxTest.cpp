@@ -203,6 +203,15 @@ TEST(TheButtons, AreWiderByTheirOwnMargins) {
   EXPECT_EQ(button->minimumWidth(), width + 7 + 10);
 }
 
+TEST(TheButtons, HaveNoIcons) {
+  CMsgBox box(QMessageBox::Warning, {}, {}, kOk);
+  // As on a desktop whose boxes have some.
+  auto* const button = qobject_cast<QPushButton*>(box.button(kOk));
+  button->setIcon(QPixmap(16, 16));
+  box.setButtonTexts();
+  EXPECT_TRUE(button->icon().isNull());
+}
+
 // Answers with the context and the text, so that both show.
 class Catalogue : public QTranslator {
  public:
