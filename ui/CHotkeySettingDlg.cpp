@@ -5,6 +5,7 @@
 #include <QStackedLayout>
 
 #include <initializer_list>
+#include <new>
 
 #include "gameside/Dota7KeyInfoManager.h"
 #include "gameside/RegistryImport.h"
@@ -56,7 +57,12 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
 
 // The application may quit, or the host hide the window: nobody has confirmed anything then.
 CHotkeySettingDlg::~CHotkeySettingDlg() {
-  if (result() != Accepted) manager_->cancelChanges();
+  if (result() == Accepted) return;
+  try {
+    manager_->cancelChanges();
+  } catch (const std::bad_alloc&) {
+    // What is kept is given back the next time that a dialog is cancelled.
+  }
 }
 
 void CHotkeySettingDlg::createPages() {

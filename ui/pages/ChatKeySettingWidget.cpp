@@ -28,7 +28,7 @@ std::unique_ptr<Ui::ChatKeySettingWidget> makeForm(QDialog& dialog) {
 }  // namespace
 
 ChatKeySettingWidget::ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidget* parent)
-    : QDialog(parent),
+    : MovableDialog(parent),
       config_(&config),
       ui_(makeForm(*this)),
       keyButtons_({ui_->optChatKey_1, ui_->optChatKey_2}, config),
@@ -102,20 +102,5 @@ void ChatKeySettingWidget::onToggled_ChatKey_2(bool bChecked) {
 }
 
 bool ChatKeySettingWidget::eventFilter(QObject* watched, QEvent* event) {
-  return capture_.filter(watched, event) || QDialog::eventFilter(watched, event);
-}
-
-void ChatKeySettingWidget::mousePressEvent(QMouseEvent* event) {
-  QDialog::mousePressEvent(event);
-  mouseMove_.press(*this, *event);
-}
-
-void ChatKeySettingWidget::mouseReleaseEvent(QMouseEvent* event) {
-  QDialog::mouseReleaseEvent(event);
-  mouseMove_.release();
-}
-
-void ChatKeySettingWidget::mouseMoveEvent(QMouseEvent* event) {
-  QDialog::mouseMoveEvent(event);
-  mouseMove_.move(*this, *event);
+  return capture_.filter(watched, event) || MovableDialog::eventFilter(watched, event);
 }

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QDialog>
-
 #include <memory>
 
 #include "ui/CaptureFields.h"
-#include "ui/MouseMove.h"
+#include "ui/MovableDialog.h"
 #include "ui/QuickChatKeyButtons.h"
 
 class QLineEdit;
@@ -15,9 +13,9 @@ class ChatKeySettingWidget;
 }
 
 // The quick-chat dialog: the eight phrases of the current scheme, which OK stores, and the keys
-// that send them, which are stored at once. It has no frame; the mouse moves it by any place that
-// is no control. In no namespace: style sheets and catalogues of translations know it by this name.
-class ChatKeySettingWidget : public QDialog {
+// that send them, which are stored at once. In no namespace: style sheets and catalogues of
+// translations know it by this name.
+class ChatKeySettingWidget : public brennet::MovableDialog {
   Q_OBJECT
 
  public:
@@ -37,9 +35,6 @@ class ChatKeySettingWidget : public QDialog {
   // Captures keys as the pages do, without a setting to store them in. Nothing has this filter: the
   // fields take text.
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
 
  public slots:
   void onClickedOkBtn();
@@ -54,5 +49,4 @@ class ChatKeySettingWidget : public QDialog {
   std::unique_ptr<Ui::ChatKeySettingWidget> ui_;
   brennet::QuickChatKeyButtons keyButtons_;
   brennet::CaptureFields capture_;
-  brennet::MouseMove mouseMove_;
 };

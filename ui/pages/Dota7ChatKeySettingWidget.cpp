@@ -38,7 +38,7 @@ QLineEdit* newPhraseField(const QString& objectName, const QString& accessibleNa
 
 Dota7ChatKeySettingWidget::Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManager& manager,
                                                      QWidget* parent)
-    : QDialog(parent),
+    : MovableDialog(parent),
       manager_(&manager),
       form_(brennet::formOn<Ui::Dota7ChatKeySettingWidget>(*this)),
       keys_(manager, [this] { brennet::tellKeyIsUsed(this); }) {
@@ -105,20 +105,5 @@ void Dota7ChatKeySettingWidget::onClickedCancelBtn() {
 }
 
 bool Dota7ChatKeySettingWidget::eventFilter(QObject* watched, QEvent* event) {
-  return keys_.filter(watched, event) || QDialog::eventFilter(watched, event);
-}
-
-void Dota7ChatKeySettingWidget::mousePressEvent(QMouseEvent* event) {
-  QDialog::mousePressEvent(event);
-  mouseMove_.press(*this, *event);
-}
-
-void Dota7ChatKeySettingWidget::mouseReleaseEvent(QMouseEvent* event) {
-  QDialog::mouseReleaseEvent(event);
-  mouseMove_.release();
-}
-
-void Dota7ChatKeySettingWidget::mouseMoveEvent(QMouseEvent* event) {
-  QDialog::mouseMoveEvent(event);
-  mouseMove_.move(*this, *event);
+  return keys_.filter(watched, event) || MovableDialog::eventFilter(watched, event);
 }

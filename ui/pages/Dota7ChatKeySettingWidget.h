@@ -1,21 +1,18 @@
 #pragma once
 
-#include <QDialog>
-
 #include <memory>
 
 #include "ui/Dota7KeyFields.h"
-#include "ui/MouseMove.h"
+#include "ui/MovableDialog.h"
 
 namespace Ui {
 class Dota7ChatKeySettingWidget;
 }
 
 // The chat dialog of the DotA 7 mode: phrases that keys send, and phrases that are said when a game
-// starts. Phrases are stored when the owner asks for it, keys at once. It has no frame; the mouse
-// moves it by any place that is no control. In no namespace: style sheets and catalogues of
-// translations know it by this name.
-class Dota7ChatKeySettingWidget : public QDialog {
+// starts. Phrases are stored when the owner asks for it, keys at once. In no namespace: style
+// sheets and catalogues of translations know it by this name.
+class Dota7ChatKeySettingWidget : public brennet::MovableDialog {
   Q_OBJECT
 
  public:
@@ -30,9 +27,6 @@ class Dota7ChatKeySettingWidget : public QDialog {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
 
  public slots:
   void onClickedOkBtn();
@@ -44,5 +38,4 @@ class Dota7ChatKeySettingWidget : public QDialog {
   brennet::Dota7KeyInfoManager* manager_;
   std::unique_ptr<Ui::Dota7ChatKeySettingWidget> form_;
   brennet::Dota7KeyFields keys_;
-  brennet::MouseMove mouseMove_;
 };
