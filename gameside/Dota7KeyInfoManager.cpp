@@ -33,8 +33,10 @@ void Dota7KeyInfoManager::writeValue(const Dota7Change& change) {
 void Dota7KeyInfoManager::put(RegistryKey& key, Place place, const RegistryValue& value) {
   RegistryKey::Reading reading = key.read(place.second);
   if (!reading.known || reading.value == value) return;
-  if (!key.write(place.second, value)) return;
-  before_.try_emplace(std::move(place), std::move(reading.value));
+  // Kept first: what memory runs out for must not have been written.
+  const auto [kept, isFirst] = before_.try_emplace(std::move(place), std::move(reading.value));
+  const bool isWritten = key.write(kept->first.second, value);
+  if (!isWritten && isFirst) before_.erase(kept);
 }
 
 void Dota7KeyInfoManager::writeRecords() {
