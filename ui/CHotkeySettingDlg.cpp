@@ -324,6 +324,8 @@ bool CHotkeySettingDlg::nativeEvent(const QByteArray& eventType, void* message, 
 
 void CHotkeySettingDlg::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
+  // Windows shows tool windows without giving them the keyboard.
+  activateWindow();
   if (!isFirstShow_) return;
   isFirstShow_ = false;
   if (brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"))) {

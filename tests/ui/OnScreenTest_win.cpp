@@ -1,4 +1,4 @@
-// Windows as the system has them: what it is told of points, and which window owns which.
+// Windows as the system has them: what it is told of points, and which window belongs to which.
 
 #include <windows.h>
 
@@ -10,13 +10,14 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 
-#include <functional>
+#include <algorithm>
 
+#include "gameside/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
+#include "tests/support/ScopedRegistry.h"
+#include "ui/CHotkeySettingDlg.h"
 #include "ui/CMsgBox.h"
-#include "ui/ModalRun.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/COrrerySettingDlg.h"
 
@@ -83,58 +84,36 @@ TEST(TheOrreryWindowOnAScreen, IsAToolWindowOfTheDialog) {
   EXPECT_NE(GetWindowLongW(handleOf(**orrery), GWL_EXSTYLE) & WS_EX_TOOLWINDOW, 0);
 }
 
-// A window of a host that knows nothing of Qt.
-class HostWindow {
- public:
-  HostWindow()
-      : handle_(CreateWindowW(L"STATIC", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100,
-                              nullptr, nullptr, nullptr, nullptr)) {
-    SetActiveWindow(handle_);
-  }
-  ~HostWindow() { DestroyWindow(handle_); }
-  HostWindow(const HostWindow&) = delete;
-  HostWindow& operator=(const HostWindow&) = delete;
-
-  [[nodiscard]] HWND handle() const { return handle_; }
-  [[nodiscard]] bool isEnabled() const { return IsWindowEnabled(handle_) != FALSE; }
-
- private:
-  HWND handle_;
-};
-
-// Runs a dialog, asks `look` meanwhile and ends the dialog with `result`.
-int run(int result, const std::function<void()>& look) {
-  QDialog dialog;
-  QTimer::singleShot(0, [&] {
-    look();
-    dialog.done(result);
-  });
-  return runModal(dialog);
-}
-
-class OwnerHandling : public testing::TestWithParam<int> {
- protected:
-  OwnerHandling() { setOwnerHandling(true); }
-  ~OwnerHandling() override { setOwnerHandling(false); }
-};
-
-TEST_P(OwnerHandling, DisablesTheHostsWindowWhileTheDialogRuns) {
-  const HostWindow host;
-  ASSERT_TRUE(host.isEnabled());
-  EXPECT_EQ(run(GetParam(), [&] { EXPECT_FALSE(host.isEnabled()); }), GetParam());
-  EXPECT_TRUE(host.isEnabled());
-  EXPECT_EQ(GetActiveWindow(), host.handle());
-}
-
-TEST_P(OwnerHandling, NeedsNoHostsWindow) {
-  EXPECT_EQ(run(GetParam(), [] {}), GetParam());
-}
-
-INSTANTIATE_TEST_SUITE_P(Of, OwnerHandling, testing::Values(QDialog::Accepted, QDialog::Rejected));
-
-TEST(WithoutOwnerHandling, TheHostsWindowIsLeftAlone) {
-  const HostWindow host;
-  EXPECT_EQ(run(QDialog::Accepted, [&] { EXPECT_TRUE(host.isEnabled()); }), QDialog::Accepted);
+TEST(TheSettingsDialogOnAScreen, TellsTheSystemWhereItCanBeDragged) {
+  const ScopedRegistry registry;
+  Dota7KeyInfoManager manager;
+  HotkeyConfig config;
+  CHotkeySettingDlg dialog(config, manager);
+  dialog.show();
+  QCoreApplication::processEvents();
+  const auto& page = *dialog.findChild<CBasicSetting7Widget*>();
+  const auto middleOf = [&dialog](const char* name) {
+    return centreOf(*dialog.findChild<QWidget*>(QLatin1String(name)));
+  };
+  const auto placeOn = [&](const char* group, QPoint place) {
+    return page.findChild<QWidget*>(QLatin1String(group))->mapTo(&dialog, place);
+  };
+  struct {
+    const char* what;
+    QPoint place;
+    LRESULT answer;
+  } const kRows[] = {
+      {"the title strip", {dialog.width() / 2, middleOf("titleWidget").y()}, HTCAPTION},
+      {"the title", middleOf("lblTitle"), HTCAPTION},
+      {"the close button", middleOf("btnClose"), HTCLIENT},
+      {"the link", middleOf("lblResetToDefaultSetting"), HTCLIENT},
+      {"OK", middleOf("btnOK"), HTCLIENT},
+      {"a key field", middleOf("edtSkill_1"), HTCLIENT},
+      {"a group box", placeOn("grpHeroSkill", {12, 3}), HTCAPTION},
+      {"between groups", placeOn("grpNumKeypad", {-3, 20}), HTCAPTION},
+      {"beside OK", middleOf("btnOK") - QPoint(200, 0), HTCAPTION},
+  };
+  for (const auto& row : kRows) EXPECT_EQ(hitAt(dialog, row.place), row.answer) << row.what;
 }
 
 }  // namespace

@@ -16,9 +16,12 @@
 #include <optional>
 #include <string>
 
+#include "gameside/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
+#include "tests/support/ScopedRegistry.h"
 #include "tests/ui/UiTest.h"
 #include "tests/ui/pages/PageChecks.h"
+#include "ui/CHotkeySettingDlg.h"
 #include "ui/CMsgBox.h"
 #include "ui/StyleSheet.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
@@ -50,6 +53,40 @@ TEST(ABoxWithoutItsSheet, TellsOfItInAPlainBoxAndStaysUsable) {
   EXPECT_EQ(CMsgBox::showMessage(nullptr, QMessageBox::Warning, QStringLiteral("title"),
                                  QStringLiteral("text"), QMessageBox::Ok | QMessageBox::Cancel),
             QMessageBox::Cancel);
+}
+
+TEST(TheDialogWithoutItsSheet, TellsOfItInABoxAndStaysUsable) {
+  const CaughtMessages messages;  // of pictures that are missing, too
+  const ScopedRegistry registry;
+  Dota7KeyInfoManager manager;
+  HotkeyConfig config;
+  CHotkeySettingDlg dialog(config, manager);
+  std::optional<ExpectedBox> second;
+  const auto first = whenBoxIsShown([&](QMessageBox& complaintOfTheBox) {
+    EXPECT_EQ(qobject_cast<CMsgBox*>(&complaintOfTheBox), nullptr);
+    complaintOfTheBox.button(QMessageBox::Ok)->click();
+    second.emplace([&](QMessageBox& box) {
+      EXPECT_NE(qobject_cast<CMsgBox*>(&box), nullptr);
+      EXPECT_EQ(box.parentWidget(), &dialog);
+      EXPECT_EQ(box.icon(), QMessageBox::Critical);
+      EXPECT_EQ(box.windowTitle(), QStringLiteral("error"));
+      EXPECT_EQ(box.text(), QStringLiteral("failed to read qss file"));
+      EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+      box.button(QMessageBox::Ok)->click();
+    });
+  });
+  dialog.show();
+  EXPECT_TRUE(dialog.styleSheet().isEmpty());
+  pressKey(*dialog.findChild<CBasicSetting7Widget*>()->findChild<QLineEdit*>(
+               QStringLiteral("edtSkill_12")),
+           Qt::Key_Q);
+  EXPECT_EQ(config.scheme().HeroSkillKey[11], KeyWord('Q', 0));
+  dialog.findChild<QPushButton*>(QStringLiteral("btnOK"), Qt::FindDirectChildrenOnly)->click();
+  EXPECT_EQ(dialog.result(), QDialog::Accepted);
+  EXPECT_FALSE(dialog.isVisible());
+  const NoBoxes noBoxes;
+  dialog.show();
+  QCoreApplication::processEvents();
 }
 
 enum class Missing { Sheet, Pictures };

@@ -6,11 +6,13 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include "ui/CMsgBox.h"
 
@@ -24,8 +26,12 @@ class AWindow : public testing::Test {
     window_.setWindowFlags(Qt::FramelessWindowHint);
     window_.setGeometry(50, 60, 900, 200);
     form_.setGeometry(0, 0, 800, 200);
-    const QList<QWidget*> parts = {&strip_, &label_, &link_, &group_, &button_, &check_, &edit_};
+    const QList<QWidget*> parts = {&strip_,  &label_, &link_, &group_,
+                                   &button_, &check_, &edit_, &area_};
     for (int i = 0; i < parts.size(); ++i) parts[i]->setGeometry(i * 100, 0, 90, 90);
+    auto* const row = new QHBoxLayout(&area_);
+    row->addSpacing(45);
+    row->addWidget(&inArea_);
     QFont font = link_.font();
     font.setUnderline(true);
     link_.setFont(font);
@@ -52,6 +58,8 @@ class AWindow : public testing::Test {
   QPushButton button_{&form_};
   QCheckBox check_{&form_};
   QLineEdit edit_{&form_};
+  QWidget area_{&form_};  // holds others, and shows nothing
+  QCheckBox inArea_{&area_};
 };
 
 TEST_F(AWindow, KnowsWhatIsUnderThePoint) {
@@ -62,6 +70,8 @@ TEST_F(AWindow, KnowsWhatIsUnderThePoint) {
   EXPECT_EQ(under(button_), Under::PushButton);
   EXPECT_EQ(under(check_), Under::Control);
   EXPECT_EQ(under(edit_), Under::Control);
+  EXPECT_EQ(under(area_), Under::Frame) << "beside what it holds";
+  EXPECT_EQ(under(inArea_), Under::Control);
   const QPoint onTheForm = form_.mapToGlobal({400, 150});
   EXPECT_EQ(underPoint(dragged(), onTheForm), Under::Frame);
   const QPoint besideTheForm = window_.mapToGlobal({850, 100});
@@ -72,8 +82,14 @@ TEST_F(AWindow, CountsOtherWidgetsAsControls) {
   EXPECT_EQ(underPoint({window_}, middleOf(strip_)), Under::Control);
 }
 
-TEST_F(AWindow, IsDraggedByItsLabelsAndSizedByItsMargins) {
+TEST_F(AWindow, KnowsAGroupBoxAlsoWhereItHoldsOthers) {
+  const QVBoxLayout inGroup(&group_);
+  EXPECT_EQ(under(group_), Under::GroupBox);
+}
+
+TEST_F(AWindow, IsDraggedByItsEmptyPlacesAndSizedByItsMargins) {
   EXPECT_EQ(hitAt(dragged(), middleOf(label_)), Hit::Caption);
+  EXPECT_EQ(hitAt(dragged(), middleOf(area_)), Hit::Caption);
   EXPECT_EQ(hitAt(dragged(), middleOf(link_)), Hit::Client);
   EXPECT_EQ(hitAt(dragged(), middleOf(edit_)), Hit::Client);
   EXPECT_EQ(hitAt(dragged(), {49, 100}), Hit::NotHandled);

@@ -170,18 +170,17 @@ TEST_F(BasicPage, IsReadInOrder) {
   page.show();
   const QStringList order = tabOrder(page);
   const auto at = [&order](const char* name) { return order.indexOf(QLatin1String(name)); };
-  const char* const kInOrder[] = {"edtSkill_9",       "btn_skillcast_9",
-                                  "edtSkill_10",      "edtSkill_12",
-                                  "edtSkill_8",       "edtSkill_1",
-                                  "chkSkillHero",     "btn_SetAll_AutoCast",
-                                  "edtGoodsKey_7",    "edtGoodsKey_8",
-                                  "edtGoodsKey_4",    "edt_skillex_L_1",
-                                  "edt_skillex_R_1",  "edt_skillex_GROUP_2_L_1",
-                                  "chkKeyModifyHero", "edtMouseWheelUpKey",
-                                  "chkLockMouse",     "edtWinLockMouse",
-                                  "chkHideUI",        "chkGroupKey1",
-                                  "chkGroupKey3",     "btnOrrerySetting",
-                                  "btnDota7Setting"};
+  // Key fields keep Tab as a key: what can be left by it comes before them.
+  const char* const kInOrder[] = {
+      "btn_skillcast_9",    "chkSkillHero",    "btn_SetAll_AutoCast",
+      "chkKeyModifyHero",   "chkLockMouse",    "chkHideUI",
+      "chkGroupKey1",       "chkGroupKey3",    "btnOrrerySetting",
+      "btnDota7Setting",    "edtSkill_9",      "edtSkill_10",
+      "edtSkill_12",        "edtSkill_8",      "edtSkill_1",
+      "edtGoodsKey_7",      "edtGoodsKey_8",   "edtGoodsKey_4",
+      "edt_skillex_L_1",    "edt_skillex_R_1", "edt_skillex_GROUP_2_L_1",
+      "edtMouseWheelUpKey", "edtWinLockMouse"};
+  expectKeyFieldsLast(order);
   int last = -1;
   for (const char* const name : kInOrder) {
     EXPECT_GT(at(name), last) << name;

@@ -113,12 +113,14 @@ TEST_F(OlderBasicPage, HasNamesForScreenReaders) {
 
 TEST_F(OlderBasicPage, IsReadInOrder) {
   page.show();
-  // The rows of the command card, then the other groups.
+  // The switches, then the fields: the rows of the command card, then the other groups.
   QStringList expected;
   for (const char* const name :
-       {"edtSkill_5", "edtSkill_6", "edtSkill_7", "edtSkill_1", "edtSkill_2", "edtSkill_3",
-        "edtSkill_4", "edtGoodsKey_7", "edtGoodsKey_8", "edtGoodsKey_4", "edtGoodsKey_5",
-        "edtGoodsKey_1", "edtGoodsKey_2"}) {
+       {"chkDisableLWin",      "chkLockMouse",     "chkShowFriendBlood",   "chkShowFirendMana",
+        "chkShowEnimiesBlood", "chkKeepNoStretch", "chkDelayOptimization", "edtSkill_5",
+        "edtSkill_6",          "edtSkill_7",       "edtSkill_1",           "edtSkill_2",
+        "edtSkill_3",          "edtSkill_4",       "edtGoodsKey_7",        "edtGoodsKey_8",
+        "edtGoodsKey_4",       "edtGoodsKey_5",    "edtGoodsKey_1",        "edtGoodsKey_2"}) {
     expected += QLatin1String(name);
   }
   for (int n = 1; n <= 5; ++n) {
@@ -128,8 +130,7 @@ TEST_F(OlderBasicPage, IsReadInOrder) {
   for (const char* const name :
        {"edt_skillex_GROUP_L_1", "edt_skillex_GROUP_L_2", "edt_skillex_GROUP_R_1",
         "edtMouseWheelUpKey", "edtMouseWheelMiddleKey", "edtMouseWheelDownKey",
-        "edtHotKeyLedgerSkill", "chkDisableLWin", "chkLockMouse", "chkShowFriendBlood",
-        "chkShowFirendMana", "chkShowEnimiesBlood", "chkKeepNoStretch", "chkDelayOptimization"}) {
+        "edtHotKeyLedgerSkill"}) {
     expected += QLatin1String(name);
   }
   EXPECT_EQ(tabOrder(page), expected);

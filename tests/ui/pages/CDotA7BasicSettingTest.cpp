@@ -281,13 +281,14 @@ TEST_F(Dota7Page, IsReadInOrder) {
   page->show();
   const QStringList order = tabOrder(*page);
   int last = -1;
-  for (const char* const name : {"chk_Normal", "edtOrderSkill_2", "chk_QuickUse", "edtHACSkill_8",
-                                 "edt_HMoveKeyC", "edt_HGlyphButtonKey", "edt_ItemKeyC0",
-                                 "edt_ItemKeyC1", "chk_SLegacyKeys", "chatHotkeyBtn"}) {
+  for (const char* const name : {"chk_Normal", "chk_QuickUse", "chk_SLegacyKeys", "chatHotkeyBtn",
+                                 "edtOrderSkill_2", "edtHACSkill_8", "edt_HMoveKeyC",
+                                 "edt_HGlyphButtonKey", "edt_ItemKeyC0", "edt_ItemKeyC1"}) {
     const int at = order.indexOf(QLatin1String(name));
     EXPECT_GT(at, last) << name;
     last = at;
   }
+  expectKeyFieldsLast(order);
 }
 
 TEST(Dota7PageWithoutRegistry, StaysQuiet) {

@@ -76,10 +76,10 @@ TEST(OrreryWindow, HasNamesForScreenReaders) {
 TEST(OrreryWindow, IsReadInOrder) {
   COrrerySettingDlg dialog;
   dialog.show();
-  const QStringList expected = {QStringLiteral("btnClose"), QStringLiteral("edtOpenCloseLedger"),
+  const QStringList expected = {QStringLiteral("btnClose"), QStringLiteral("chkShowFriendsMana"),
+                                QStringLiteral("edtOpenCloseLedger"),
                                 QStringLiteral("edtShowHideLedgerData"),
-                                QStringLiteral("edtHotKeyLedgerSkill"),
-                                QStringLiteral("chkShowFriendsMana")};
+                                QStringLiteral("edtHotKeyLedgerSkill")};
   EXPECT_EQ(tabOrder(dialog), expected);
 }
 

@@ -13,6 +13,8 @@
 #include <QLineEdit>
 #include <QMetaMethod>
 
+#include <algorithm>
+
 #include "ui/VirtualKey.h"
 
 namespace brennet::test {
@@ -117,6 +119,12 @@ QStringList tabOrder(QWidget& window) {
     if (isReached && window.isAncestorOf(at)) names += at->objectName();
   }
   return names;
+}
+
+void expectKeyFieldsLast(const QStringList& order) {
+  const auto isOther = [](const QString& name) { return !name.startsWith(QLatin1String("edt")); };
+  EXPECT_TRUE(std::is_partitioned(order.begin(), order.end(), isOther))
+      << qPrintable(order.join(QLatin1Char(' ')));
 }
 
 void expectAccessible(const QWidget& page) {

@@ -22,6 +22,10 @@ void releaseKey(QWidget& field, Qt::Key key);
 // The object names of all widgets that Tab reaches in a window that is shown, from the first on.
 [[nodiscard]] QStringList tabOrder(QWidget& window);
 
+// Fails where something else comes after a key field in an order of names: a key field keeps Tab as
+// a key, and nothing behind it would be reached.
+void expectKeyFieldsLast(const QStringList& order);
+
 // Fails for each control without a name for assistive technology, and for each label with a
 // mnemonic partner missing: a label that stands left of a line edit in its row is its buddy.
 void expectAccessible(const QWidget& page);
