@@ -30,7 +30,7 @@ status=0
 # What the platform without a screen says of itself is nothing to read.
 "$program" --library "$library" --settings "$run/settings/KeyInfo.xml" --data "$run/data/" \
   --profile "$run/profile" --block "${windows[@]}" \
-  2> >(grep -v '^This plugin does not support ' >&2) || status=$?
+  2> >(grep --line-buffered -v '^This plugin does not support ' >&2) || status=$?
 
 echo
 echo "The files:"
