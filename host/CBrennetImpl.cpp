@@ -15,7 +15,7 @@
 #include "model/KeyConflicts.h"
 #include "platform/MemoryProbe.h"
 #include "ui/CHotkeySettingDlg.h"
-#include "ui/ModalRun.h"
+#include "ui/window/ModalRun.h"
 
 namespace brennet {
 namespace {

@@ -10,11 +10,7 @@
 #include "gameside/Dota7KeyInfoManager.h"
 #include "gameside/RegistryImport.h"
 #include "model/HotkeyConfig.h"
-#include "ui/CMsgBox.h"
-#include "ui/StyleSheet.h"
-#include "ui/TabOrder.h"
-#include "ui/VirtualKey.h"
-#include "ui/WindowDrag.h"
+#include "ui/capture/VirtualKey.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CBasicSettingWidget.h"
@@ -22,6 +18,10 @@
 #include "ui/pages/CDotA7BasicSetting.h"
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/window/CMsgBox.h"
+#include "ui/window/StyleSheet.h"
+#include "ui/window/TabOrder.h"
+#include "ui/window/WindowDrag.h"
 #include "ui_CHotkeySettingDlg.h"
 
 namespace {

@@ -14,13 +14,13 @@
 #include "gameside/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "ui/CHotkeySettingDlg.h"
-#include "ui/StyleSheet.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSettingWidget.h"
 #include "ui/pages/CChatRouletteSettingWidget.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::bench {
 namespace {

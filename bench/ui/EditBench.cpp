@@ -11,9 +11,9 @@
 #include "bench/model/AllocationCount.h"
 #include "model/HotkeyConfig.h"
 #include "model/RecommendedScheme.h"
-#include "ui/StyleSheet.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::bench {
 namespace {

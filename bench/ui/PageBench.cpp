@@ -12,13 +12,13 @@
 #include "bench/ui/BarePage.h"
 #include "model/HotkeyConfig.h"
 #include "model/RecommendedScheme.h"
-#include "ui/StyleSheet.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CBasicSettingWidget.h"
 #include "ui/pages/CChatRouletteSettingWidget.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::bench {
 namespace {

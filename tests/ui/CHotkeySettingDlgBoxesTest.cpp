@@ -5,10 +5,10 @@
 
 #include "model/RecommendedScheme.h"
 #include "tests/ui/SettingsDialogTest.h"
-#include "ui/CMsgBox.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CChatRouletteSettingWidget.h"
 #include "ui/pages/ChatKeySettingWidget.h"
+#include "ui/window/CMsgBox.h"
 
 namespace brennet::test {
 namespace {

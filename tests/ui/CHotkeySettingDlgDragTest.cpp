@@ -6,7 +6,7 @@
 #include <QPushButton>
 
 #include "tests/ui/SettingsDialogTest.h"
-#include "ui/WindowDrag.h"
+#include "ui/window/WindowDrag.h"
 
 namespace brennet::test {
 namespace {

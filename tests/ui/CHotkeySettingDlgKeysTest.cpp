@@ -4,7 +4,7 @@
 #include <QPushButton>
 
 #include "tests/ui/SettingsDialogTest.h"
-#include "ui/VirtualKey.h"
+#include "ui/capture/VirtualKey.h"
 
 namespace brennet::test {
 namespace {

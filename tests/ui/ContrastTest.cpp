@@ -21,8 +21,8 @@
 #include <functional>
 
 #include "tests/ui/PixelContrast.h"
-#include "ui/CMsgBox.h"
 #include "ui/pages/COrrerySettingDlg.h"
+#include "ui/window/CMsgBox.h"
 
 namespace brennet::test {
 namespace {

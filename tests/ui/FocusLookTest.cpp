@@ -15,8 +15,8 @@
 #include <QTreeWidget>
 
 #include "tests/ui/PixelContrast.h"
-#include "ui/CMsgBox.h"
-#include "ui/StyleSheet.h"
+#include "ui/window/CMsgBox.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::test {
 namespace {

@@ -14,7 +14,7 @@
 #include "model/HotkeyConfig.h"
 #include "tests/gameside/Dota7Test.h"
 #include "ui/CHotkeySettingDlg.h"
-#include "ui/CKeyLineEdit.h"
+#include "ui/capture/CKeyLineEdit.h"
 
 namespace brennet::test {
 namespace {

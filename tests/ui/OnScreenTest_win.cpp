@@ -17,9 +17,9 @@
 #include "model/HotkeyConfig.h"
 #include "tests/support/ScopedRegistry.h"
 #include "ui/CHotkeySettingDlg.h"
-#include "ui/CMsgBox.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/COrrerySettingDlg.h"
+#include "ui/window/CMsgBox.h"
 
 namespace brennet::test {
 namespace {

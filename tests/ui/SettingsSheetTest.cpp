@@ -16,7 +16,7 @@
 #include <cmath>
 #include <vector>
 
-#include "ui/StyleSheet.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet {
 namespace {

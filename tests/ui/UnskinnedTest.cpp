@@ -22,14 +22,14 @@
 #include "tests/ui/UiTest.h"
 #include "tests/ui/pages/PageChecks.h"
 #include "ui/CHotkeySettingDlg.h"
-#include "ui/CMsgBox.h"
-#include "ui/StyleSheet.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CBasicSettingWidget.h"
 #include "ui/pages/CChatRouletteSettingWidget.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
+#include "ui/window/CMsgBox.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::test {
 namespace {

@@ -3,9 +3,9 @@
 #include <QDebug>
 #include <QLineEdit>
 
-#include "ui/FeatureKeys.h"
-#include "ui/KeyMessages.h"
 #include "ui/Text.h"
+#include "ui/capture/FeatureKeys.h"
+#include "ui/capture/KeyMessages.h"
 
 namespace brennet {
 namespace {

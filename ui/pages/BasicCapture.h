@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include "ui/CaptureFields.h"
-#include "ui/EditControl.h"
+#include "ui/capture/CaptureFields.h"
+#include "ui/capture/EditControl.h"
 
 class QWidget;
 

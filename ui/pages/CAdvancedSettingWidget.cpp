@@ -5,10 +5,10 @@
 
 #include <cstdint>
 
-#include "ui/CCustomMsgTableModel.h"
-#include "ui/FeatureKeys.h"
-#include "ui/KeyMessages.h"
 #include "ui/Text.h"
+#include "ui/capture/FeatureKeys.h"
+#include "ui/capture/KeyMessages.h"
+#include "ui/chat/CCustomMsgTableModel.h"
 #include "ui/pages/Form.h"
 #include "ui_CAdvancedSettingWidget.h"
 

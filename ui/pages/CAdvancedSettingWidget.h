@@ -5,9 +5,9 @@
 
 #include <memory>
 
-#include "ui/CaptureFields.h"
-#include "ui/PresetBoxes.h"
-#include "ui/QuickChatKeyButtons.h"
+#include "ui/capture/CaptureFields.h"
+#include "ui/chat/QuickChatKeyButtons.h"
+#include "ui/pages/PresetBoxes.h"
 
 class CCustomMsgTableModel;
 class QModelIndex;

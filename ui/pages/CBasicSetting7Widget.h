@@ -6,10 +6,10 @@
 #include <span>
 #include <vector>
 
-#include "ui/CaptureFields.h"
-#include "ui/EditControl.h"
-#include "ui/PresetBoxes.h"
-#include "ui/SwitchBoxes.h"
+#include "ui/capture/CaptureFields.h"
+#include "ui/capture/EditControl.h"
+#include "ui/pages/PresetBoxes.h"
+#include "ui/pages/SwitchBoxes.h"
 
 namespace Ui {
 class CHotkeySettingPage;

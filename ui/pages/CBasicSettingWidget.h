@@ -4,9 +4,9 @@
 
 #include <memory>
 
-#include "ui/CaptureFields.h"
-#include "ui/EditControl.h"
-#include "ui/SwitchBoxes.h"
+#include "ui/capture/CaptureFields.h"
+#include "ui/capture/EditControl.h"
+#include "ui/pages/SwitchBoxes.h"
 
 namespace Ui {
 class CBasicSettingWidget;

@@ -8,14 +8,14 @@
 #include <QTextDocument>
 #include <QTreeWidgetItem>
 
-#include "ui/CCustomLineEdit.h"
-#include "ui/ChatPhrases.h"
-#include "ui/FeatureKeys.h"
-#include "ui/KeyMessages.h"
-#include "ui/PhraseDelegate.h"
-#include "ui/RingLayout.h"
 #include "ui/Text.h"
-#include "ui/TypedPhrase.h"
+#include "ui/capture/FeatureKeys.h"
+#include "ui/capture/KeyMessages.h"
+#include "ui/chat/CCustomLineEdit.h"
+#include "ui/chat/ChatPhrases.h"
+#include "ui/chat/PhraseDelegate.h"
+#include "ui/chat/RingLayout.h"
+#include "ui/chat/TypedPhrase.h"
 #include "ui/pages/Form.h"
 #include "ui_CChatRouletteSettingWidget.h"
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "ui/CaptureFields.h"
+#include "ui/capture/CaptureFields.h"
 
 class CCustomLineEdit;
 class QTreeWidgetItem;

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "gameside/Dota7Values.h"
-#include "ui/Dota7KeyFields.h"
+#include "ui/capture/Dota7KeyFields.h"
 
 namespace Ui {
 class CDotA7BasicSetting;

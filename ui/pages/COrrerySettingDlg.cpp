@@ -1,8 +1,8 @@
 #include "ui/pages/COrrerySettingDlg.h"
 
-#include "ui/StyleSheet.h"
-#include "ui/TabOrder.h"
-#include "ui/WindowDrag.h"
+#include "ui/window/StyleSheet.h"
+#include "ui/window/TabOrder.h"
+#include "ui/window/WindowDrag.h"
 #include "ui_COrrerySettingDlg.h"
 
 COrrerySettingDlg::COrrerySettingDlg(QWidget* parent)

@@ -2,9 +2,9 @@
 
 #include <string_view>
 
-#include "ui/KeyMessages.h"
 #include "ui/Text.h"
-#include "ui/TypedPhrase.h"
+#include "ui/capture/KeyMessages.h"
+#include "ui/chat/TypedPhrase.h"
 #include "ui/pages/Form.h"
 #include "ui_ChatKeySettingWidget.h"
 

@@ -2,9 +2,9 @@
 
 #include <memory>
 
-#include "ui/CaptureFields.h"
-#include "ui/MovableDialog.h"
-#include "ui/QuickChatKeyButtons.h"
+#include "ui/capture/CaptureFields.h"
+#include "ui/chat/QuickChatKeyButtons.h"
+#include "ui/window/MovableDialog.h"
 
 class QLineEdit;
 

@@ -4,11 +4,11 @@
 #include <QLineEdit>
 
 #include "gameside/Dota7KeyInfoManager.h"
-#include "ui/KeyMessages.h"
-#include "ui/TabOrder.h"
 #include "ui/Text.h"
+#include "ui/capture/KeyMessages.h"
 #include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
+#include "ui/window/TabOrder.h"
 #include "ui_Dota7ChatKeySettingWidget.h"
 
 namespace {

@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "ui/Dota7KeyFields.h"
-#include "ui/MovableDialog.h"
+#include "ui/capture/Dota7KeyFields.h"
+#include "ui/window/MovableDialog.h"
 
 namespace Ui {
 class Dota7ChatKeySettingWidget;

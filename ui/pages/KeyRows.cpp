@@ -7,7 +7,7 @@
 #include <QPushButton>
 
 #include "model/CardPositions.h"
-#include "ui/CKeyLineEdit.h"
+#include "ui/capture/CKeyLineEdit.h"
 
 namespace brennet {
 namespace {

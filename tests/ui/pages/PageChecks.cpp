@@ -15,7 +15,7 @@
 
 #include <algorithm>
 
-#include "ui/VirtualKey.h"
+#include "ui/capture/VirtualKey.h"
 
 namespace brennet::test {
 namespace {

@@ -13,9 +13,9 @@
 #include "tests/ui/UiTest.h"
 #include "tests/ui/pages/BasicPageTest.h"
 #include "tests/ui/pages/PageChecks.h"
-#include "ui/CMsgBox.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/ChatKeySettingWidget.h"
+#include "ui/window/CMsgBox.h"
 
 namespace brennet::test {
 namespace {

@@ -13,8 +13,6 @@
 #include "model/HotkeyConfig.h"
 #include "model/RecommendedScheme.h"
 #include "tests/ui/pages/PageChecks.h"
-#include "ui/CMsgBox.h"
-#include "ui/StyleSheet.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CBasicSettingWidget.h"
@@ -23,6 +21,8 @@
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/window/CMsgBox.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::test {
 namespace {

@@ -19,11 +19,10 @@
 #include "gameside/Dota7KeyInfoManager.h"
 #include "model/HotkeyScheme.h"
 #include "tests/ui/UiTest.h"
-#include "ui/CCustomMsgTableModel.h"
 #include "ui/CHotkeySettingDlg.h"
-#include "ui/CMsgBox.h"
-#include "ui/ChatPhrases.h"
-#include "ui/KeyMessages.h"
+#include "ui/capture/KeyMessages.h"
+#include "ui/chat/CCustomMsgTableModel.h"
+#include "ui/chat/ChatPhrases.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CBasicSettingWidget.h"
@@ -32,6 +31,7 @@
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/window/CMsgBox.h"
 
 namespace brennet::test {
 namespace {

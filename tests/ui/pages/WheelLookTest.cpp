@@ -7,7 +7,7 @@
 #include <QScrollBar>
 
 #include "tests/ui/pages/WheelPage.h"
-#include "ui/StyleSheet.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::test {
 namespace {

@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "tests/ui/shots/Shots.h"
-#include "ui/CMsgBox.h"
+#include "ui/window/CMsgBox.h"
 
 namespace brennet::shots {
 namespace {

@@ -1,9 +1,9 @@
 // The quick-chat dialog and the advanced page, with keys and phrases of all lengths.
 
 #include "tests/ui/shots/Shots.h"
-#include "ui/StyleSheet.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/ChatKeySettingWidget.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::shots {
 namespace {

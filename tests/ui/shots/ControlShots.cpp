@@ -11,7 +11,7 @@
 #include <QScrollBar>
 
 #include "tests/ui/shots/Shots.h"
-#include "ui/StyleSheet.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::shots {
 namespace {

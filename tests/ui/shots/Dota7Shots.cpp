@@ -2,9 +2,9 @@
 
 #include "gameside/Dota7KeyInfoManager.h"
 #include "tests/ui/shots/Shots.h"
-#include "ui/StyleSheet.h"
 #include "ui/pages/CDotA7BasicSetting.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::shots {
 namespace {

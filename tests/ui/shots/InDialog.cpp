@@ -1,7 +1,7 @@
 #include <QVBoxLayout>
 
 #include "tests/ui/shots/Shots.h"
-#include "ui/StyleSheet.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::shots {
 

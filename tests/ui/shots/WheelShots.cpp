@@ -4,8 +4,8 @@
 #include <QVBoxLayout>
 
 #include "tests/ui/shots/Shots.h"
-#include "ui/StyleSheet.h"
 #include "ui/pages/CChatRouletteSettingWidget.h"
+#include "ui/window/StyleSheet.h"
 
 namespace brennet::shots {
 namespace {

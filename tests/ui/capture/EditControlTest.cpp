@@ -1,0 +1,89 @@
+#include "ui/capture/EditControl.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace brennet {
+namespace {
+
+struct Row {
+  std::u16string name;
+  bool isKnown;
+  EditControl control;
+};
+
+void expectRows(const Row* rows, std::size_t count, BasicPage page) {
+  for (std::size_t i = 0; i < count; ++i) {
+    EditControl control{.nMouseWheelIndex = 9};
+    const std::string name(rows[i].name.begin(), rows[i].name.end());
+    EXPECT_EQ(getEditControlTypeByParseName(rows[i].name, page, control), rows[i].isKnown) << name;
+    EXPECT_EQ(control, rows[i].control) << name;
+  }
+}
+
+TEST(EditControl, IsSelectedByTheNameOnBothPages) {
+  const Row kRows[] = {
+      {u"edtSkill_1", true, {.nSkillIndex = 1}},
+      {u"edtSkill_7", true, {.nSkillIndex = 7}},
+      {u"edtSkill_0", false, {}},
+      {u"edtSkill_", false, {}},
+      {u"edtSkill_x", false, {}},
+      {u"edtGoodsKey_1", true, {.nGoodsIndex = 1}},
+      {u"edtGoodsKey_8", true, {.nGoodsIndex = 8}},
+      {u"edtGoodsKey_3", false, {.nGoodsIndex = 3}},
+      {u"edtGoodsKey_6", false, {.nGoodsIndex = 6}},
+      {u"edtGoodsKey_9", false, {.nGoodsIndex = 9}},
+      {u"edtGoodsKey_12", false, {}},
+      {u"edt_skillex_L_5", true, {.nSkillExSrcIndex = 5}},
+      {u"edt_skillex_L_6", false, {.nSkillExSrcIndex = 6}},
+      {u"edt_skillex_R_1", true, {.nSkillExDstIndex = 1}},
+      {u"edt_skillex_GROUP_L_2", true, {.nSkillGroupSrcIndex = 2}},
+      {u"edt_skillex_GROUP_L_3", false, {.nSkillGroupSrcIndex = 3}},
+      {u"edt_skillex_GROUP_R_1", true, {.nSkillGroupDstIndex = 1}},
+      {u"edt_skillex_GROUP_R_2", false, {.nSkillGroupDstIndex = 2}},
+      {u"edtMouseWheelUpKey", true, {.nMouseWheelIndex = 1}},
+      {u"edtMouseWheelMiddleKey", true, {.nMouseWheelIndex = 2}},
+      {u"edtMouseWheelDownKey", true, {.nMouseWheelIndex = 3}},
+      {u"edtMouseWheelDownKey2", false, {}},
+      {u"edtOpenCloseLedger", true, {.nLedgerIndex = 1}},
+      {u"edtShowHideLedgerData", true, {.nLedgerIndex = 2}},
+      {u"edtHotKeyLedgerSkill", true, {.nLedgerIndex = 3}},
+      {u"edtSomethingElse", false, {}},
+      {u"EDTSKILL_1", false, {}},
+      {u"", false, {}},
+  };
+  expectRows(kRows, std::size(kRows), BasicPage::Current);
+  expectRows(kRows, std::size(kRows), BasicPage::Older);
+}
+
+TEST(EditControl, OfTheCurrentPageHasTwelveSkillsAndASecondGroup) {
+  const Row kRows[] = {
+      {u"edtSkill_12", true, {.nSkillIndex = 12}},
+      {u"edtSkill_13", false, {.nSkillIndex = 13}},
+      {u"edtSkill_012", true, {.nSkillIndex = 12}},
+      {u"edtSkill__8", true, {.nSkillIndex = 8}},
+      {u"edtSkill_8_", true, {.nSkillIndex = 8}},
+      {u"edtSkill_3_4", true, {.nSkillIndex = 4}},
+      {u"edtSkill_256", false, {}},
+      {u"edtSkill_4294967297", false, {}},
+      {u"edtSkill___", false, {}},
+      {u"edt_skillex_GROUP_2_L_3", true, {.nSkillGroup2SrcIndex = 3}},
+      {u"edt_skillex_GROUP_2_L_4", false, {.nSkillGroup2SrcIndex = 4}},
+      {u"edt_skillex_GROUP_2_R_1", true, {.nSkillGroup2DstIndex = 1}},
+  };
+  expectRows(kRows, std::size(kRows), BasicPage::Current);
+}
+
+TEST(EditControl, OfTheOlderPageHasNeither) {
+  const Row kRows[] = {
+      {u"edtSkill_8", false, {.nSkillIndex = 8}},
+      {u"edtSkill_12", false, {}},
+      {u"edt_skillex_GROUP_2_L_1", false, {}},
+      {u"edt_skillex_GROUP_2_R_1", false, {}},
+  };
+  expectRows(kRows, std::size(kRows), BasicPage::Older);
+}
+
+}  // namespace
+}  // namespace brennet

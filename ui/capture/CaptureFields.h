@@ -1,0 +1,59 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "ui/capture/KeyFieldFilter.h"
+#include "ui/capture/KeySetting.h"
+
+namespace brennet {
+
+// What a page with fields for keys of the scheme has of its own.
+struct CapturePage {
+  CaptureStyle style;
+  KeyFieldFilter::Captures captures = [](const QLineEdit&) { return true; };
+  // The setting that a field of this object name edits, if any.
+  std::function<std::optional<KeySetting>(std::u16string_view)> settingOf;
+  // Hears which field a key was pressed in, before the key is stored.
+  std::function<void(const QLineEdit&)> trace = [](const QLineEdit&) {};
+  // Tells the player that a key is used already. May run an event loop.
+  std::function<void()> tellUsed;
+};
+
+// The fields of a page for keys of the current scheme.
+class CaptureFields {
+ public:
+  // `config` outlives this object.
+  CaptureFields(CapturePage page, HotkeyConfig& config);
+  CaptureFields(const CaptureFields&) = delete;
+  CaptureFields& operator=(const CaptureFields&) = delete;
+  ~CaptureFields() = default;
+
+  // See KeyFieldFilter. The fields outlive this object.
+  void install(const QWidget& window, QObject& page);
+
+  // Shows the keys of the current scheme in all fields that have a setting. What was begun with a
+  // lone modifier is forgotten.
+  void refresh();
+
+  // For the event filter of the page: whether the event is used up.
+  bool filter(QObject* watched, QEvent* event) { return filter_.filter(watched, event); }
+
+ private:
+  struct Field {
+    QLineEdit* field;
+    KeySetting setting;
+  };
+
+  [[nodiscard]] std::optional<KeySetting> settingOf(const QLineEdit& field) const;
+  void take(QLineEdit& field, const Capture& capture);
+
+  CapturePage page_;
+  HotkeyConfig* config_;
+  KeyFieldFilter filter_;
+  std::vector<Field> fields_;
+};
+
+}  // namespace brennet

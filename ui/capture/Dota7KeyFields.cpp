@@ -1,0 +1,75 @@
+#include "ui/capture/Dota7KeyFields.h"
+
+#include <QLineEdit>
+#include <utility>
+
+#include "gameside/Dota7KeyInfoManager.h"
+#include "ui/Text.h"
+
+namespace brennet {
+namespace {
+
+constexpr CaptureStyle kStyle = {.modifiersAreKeys = true};
+
+const Dota7KeyField* rowOf(const QLineEdit& field) {
+  return findDota7KeyField(viewOf(field.objectName()));
+}
+
+bool isModifier(KeyWord key) {
+  return key.virtualKey() == Dota7Key::kCtrl || key.virtualKey() == Dota7Key::kAlt;
+}
+
+// With both modifiers held, Alt is the one that counts.
+Dota7Key toDota7Key(KeyWord key) {
+  Dota7Key result{.code = key.virtualKey()};
+  if ((key.modifiers() & KeyWord::kCtrl) != 0) result.modifier = Dota7Key::kCtrl;
+  if ((key.modifiers() & KeyWord::kAlt) != 0) result.modifier = Dota7Key::kAlt;
+  return result;
+}
+
+}  // namespace
+
+Dota7KeyFields::Dota7KeyFields(Dota7KeyInfoManager& manager, std::function<void()> tellUsed)
+    : manager_(&manager),
+      tellUsed_(std::move(tellUsed)),
+      filter_(
+          kStyle, [](const QLineEdit& field) { return rowOf(field) != nullptr; },
+          [this](QLineEdit& field, const Capture& capture) { take(field, capture); }) {}
+
+void Dota7KeyFields::install(const QWidget& window, QObject& page) {
+  for (QLineEdit* const field : filter_.install(window, page)) {
+    fields_.push_back({field, rowOf(*field)});
+  }
+}
+
+void Dota7KeyFields::refresh() {
+  // A lone modifier that is still down is in the store, and goes when it is released.
+  for (const Field& field : fields_) {
+    field.field->setText(toQString(manager_->settings().keyText(*field.row)));
+  }
+}
+
+void Dota7KeyFields::take(QLineEdit& field, const Capture& capture) {
+  Dota7Settings& settings = manager_->settings();
+  const Dota7KeyField& row = *rowOf(field);
+  const bool isStored = capture.outcome == Capture::Outcome::Captured &&
+                        settings.storeKey(row, toDota7Key(capture.key));
+  if (isStored) {
+    field.setText(textOf(capture.key));
+    return;
+  }
+  settings.clearKey(row);
+  field.clear();
+  if (capture.outcome == Capture::Outcome::Captured) tellUsed_();
+}
+
+QString Dota7KeyFields::textOf(KeyWord key) const {
+  QString name = toQString(manager_->keyName(key.virtualKey()));
+  if (isModifier(key)) return name;
+  QString text;
+  if ((key.modifiers() & KeyWord::kCtrl) != 0) text += QStringLiteral("CTRL +");
+  if ((key.modifiers() & KeyWord::kAlt) != 0) text += QStringLiteral("ALT +");
+  return text + QLatin1Char(' ') + name;
+}
+
+}  // namespace brennet

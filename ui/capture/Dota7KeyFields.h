@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "gameside/Dota7Values.h"
+#include "keys/KeyWord.h"
+#include "ui/capture/KeyFieldFilter.h"
+
+class QString;
+
+namespace brennet {
+
+class Dota7KeyInfoManager;
+
+// The fields of a DotA 7 page for keys. Each key is in the registry at once.
+class Dota7KeyFields {
+ public:
+  // `tellUsed` tells the player that a key is used already; it may run an event loop. `manager`
+  // outlives this object.
+  Dota7KeyFields(Dota7KeyInfoManager& manager, std::function<void()> tellUsed);
+  Dota7KeyFields(const Dota7KeyFields&) = delete;
+  Dota7KeyFields& operator=(const Dota7KeyFields&) = delete;
+  ~Dota7KeyFields() = default;
+
+  // See KeyFieldFilter; fields for phrases, which are named alike, take text. The fields outlive
+  // this object.
+  void install(const QWidget& window, QObject& page);
+
+  // Shows the keys of the cast mode that is in force.
+  void refresh();
+
+  // For the event filter of the page: whether the event is used up.
+  bool filter(QObject* watched, QEvent* event) { return filter_.filter(watched, event); }
+
+ private:
+  struct Field {
+    QLineEdit* field;
+    const Dota7KeyField* row;
+  };
+
+  void take(QLineEdit& field, const Capture& capture);
+  [[nodiscard]] QString textOf(KeyWord key) const;
+
+  Dota7KeyInfoManager* manager_;
+  std::function<void()> tellUsed_;
+  KeyFieldFilter filter_;
+  std::vector<Field> fields_;
+};
+
+}  // namespace brennet

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "ui/capture/KeyCapture.h"
+
+class QEvent;
+class QLineEdit;
+class QObject;
+class QWidget;
+
+namespace brennet {
+
+// The event filter of line edits that take the next key in the place of text. One object serves
+// all fields of a page; what a key means is the page's.
+class KeyFieldFilter {
+ public:
+  // Whether a field captures keys; the others take text as usual.
+  using Captures = std::function<bool(const QLineEdit&)>;
+  // Gets whatever changes a field; never an outcome of Ignored. May run an event loop, at its end.
+  using OnCapture = std::function<void(QLineEdit&, const Capture&)>;
+
+  KeyFieldFilter(CaptureStyle style, Captures captures, OnCapture onCapture);
+
+  // Makes `page` the event filter of all line edits named "edt..." in `window`. Nothing but keys
+  // gets into those that capture them; input methods, which would swallow keys, are off there.
+  // Returns those.
+  std::vector<QLineEdit*> install(const QWidget& window, QObject& page) const;
+
+  // For the event filter of the page: whether the event is used up.
+  bool filter(QObject* watched, QEvent* event);
+
+  // Forgets what was begun with a lone modifier.
+  void forget() { static_cast<void>(capture_.leave()); }
+
+ private:
+  void pass(QLineEdit& field, const Capture& capture) const;
+
+  KeyCapture capture_;
+  Captures captures_;
+  OnCapture onCapture_;
+};
+
+}  // namespace brennet

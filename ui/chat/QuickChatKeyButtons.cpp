@@ -1,0 +1,39 @@
+#include "ui/chat/QuickChatKeyButtons.h"
+
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+#include "model/HotkeyConfig.h"
+#include "ui/capture/KeyMessages.h"
+
+namespace brennet {
+
+void QuickChatKeyButtons::refresh() const {
+  check(config_->scheme().QuickChatIndex == 0 ? 0 : 1);
+}
+
+void QuickChatKeyButtons::toggled(int set, bool isChecked) const {
+  if (!isChecked) return;
+  // The choice may come from the buttons of another window.
+  const bool isChosen = config_->SetQuickChatIndex(static_cast<std::uint32_t>(set));
+  check(isChosen ? set : 1 - set);
+  if (isChosen) return;
+  // A window that is not shown asks through the one that it belongs to.
+  QWidget* const window = button(set).window();
+  const bool isAside = !window->isVisible() && window->parentWidget() != nullptr;
+  tellKeySetIsUsed(isAside ? window->parentWidget() : window);
+}
+
+QRadioButton& QuickChatKeyButtons::button(int set) const {
+  return *buttons_[static_cast<std::size_t>(set)];
+}
+
+// A button that is unchecked by the other one stays as quiet: a scheme that refuses both sets must
+// not send the choice back and forth.
+void QuickChatKeyButtons::check(int set) const {
+  const QSignalBlocker quietOne(&button(0));
+  const QSignalBlocker quietOther(&button(1));
+  button(set).setChecked(true);
+}
+
+}  // namespace brennet

@@ -1,0 +1,80 @@
+#include "ui/window/WindowDrag.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLayout>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QWidget>
+#include <QWindow>
+
+namespace brennet {
+namespace {
+
+constexpr unsigned kHitTestMessage = 132;  // WM_NCHITTEST
+
+// Two signed halves: screens left of or above the first one have negative coordinates.
+QPoint pointOf(std::intptr_t lParam) {
+  const auto half = [lParam](int shift) {
+    return static_cast<std::int16_t>(static_cast<std::uint16_t>(lParam >> shift & 0xFFFF));
+  };
+  return {half(0), half(16)};
+}
+
+// What only holds other controls, and shows nothing of its own between them.
+bool isEmptyArea(const QWidget& widget) {
+  return widget.layout() != nullptr && qobject_cast<const QGroupBox*>(&widget) == nullptr;
+}
+
+}  // namespace
+
+Under underPoint(const DraggableWindow& dragged, QPoint point) {
+  const QWidget* const child = dragged.window.childAt(dragged.window.mapFromGlobal(point));
+  if (child == nullptr) return Under::Nothing;
+  if (child == dragged.titleStrip || child == dragged.form) return Under::Frame;
+  if (isEmptyArea(*child)) return Under::Frame;
+  if (qobject_cast<const QLabel*>(child) != nullptr) {
+    return child->font().underline() ? Under::Link : Under::Label;
+  }
+  if (qobject_cast<const QGroupBox*>(child) != nullptr) return Under::GroupBox;
+  if (qobject_cast<const QPushButton*>(child) != nullptr) return Under::PushButton;
+  return Under::Control;
+}
+
+Hit hitAt(const DraggableWindow& dragged, QPoint point) {
+  const WindowShape shape{dragged.window.frameGeometry(), dragged.window.contentsMargins(),
+                          dragged.area};
+  return hitTest(shape, point, underPoint(dragged, point));
+}
+
+QPoint fromNative(QPoint point, QPoint screenCorner, qreal scale) {
+  return (point - screenCorner) / scale + screenCorner;
+}
+
+bool answerHitTest(const DraggableWindow& dragged, const QByteArray& eventType, const void* message,
+                   long* result) {
+  if (eventType != "windows_generic_MSG") return false;
+  const auto& native = *static_cast<const NativeMessage*>(message);
+  if (native.message != kHitTestMessage) return false;
+  // Its own messages find a window made; asking for the handle must not make one.
+  if (reinterpret_cast<WId>(native.window) != dragged.window.internalWinId()) return false;
+  const QWindow* const window = dragged.window.windowHandle();
+  if (window == nullptr) return false;
+  const QScreen& screen = *window->screen();
+  const QPoint point =
+      fromNative(pointOf(native.lParam), screen.geometry().topLeft(), screen.devicePixelRatio());
+  const Hit hit = hitAt(dragged, point);
+  if (hit == Hit::NotHandled) return false;
+  *result = static_cast<long>(hit);
+  return true;
+}
+
+bool startDrag(const DraggableWindow& dragged, const QMouseEvent& press) {
+  if (press.button() != Qt::LeftButton) return false;
+  if (hitAt(dragged, press.globalPos()) != Hit::Caption) return false;
+  if (QWindow* const window = dragged.window.windowHandle()) window->startSystemMove();
+  return true;
+}
+
+}  // namespace brennet

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QByteArray>
+#include <QPoint>
+
+#include <cstdint>
+
+#include "ui/window/HitTest.h"
+
+class QMouseEvent;
+class QWidget;
+
+namespace brennet {
+
+// A window without a frame of the system's, as the mouse finds it.
+struct DraggableWindow {
+  const QWidget& window;
+  DragArea area = DragArea::EmptyPlaces;
+  const QWidget* titleStrip = nullptr;
+  const QWidget* form = nullptr;  // the widget that all parts of the form stand on
+};
+
+// What the start of Windows' MSG holds.
+struct NativeMessage {
+  void* window = nullptr;
+  unsigned message = 0;
+  std::uintptr_t wParam = 0;
+  std::intptr_t lParam = 0;
+};
+
+// What is at a point of the screen.
+[[nodiscard]] Under underPoint(const DraggableWindow& dragged, QPoint point);
+[[nodiscard]] Hit hitAt(const DraggableWindow& dragged, QPoint point);
+
+// A place that Windows tells, as Qt counts: it scales each screen from its own corner.
+[[nodiscard]] QPoint fromNative(QPoint point, QPoint screenCorner, qreal scale);
+
+// For QWidget::nativeEvent. Where Windows asks what a point of this window is, and there is an
+// answer, it goes to `result`; returns whether that was so.
+bool answerHitTest(const DraggableWindow& dragged, const QByteArray& eventType, const void* message,
+                   long* result);
+
+// For QWidget::mousePressEvent, on systems that do not ask: a left press where the window can be
+// dragged starts that. Returns whether it was such a press.
+bool startDrag(const DraggableWindow& dragged, const QMouseEvent& press);
+
+}  // namespace brennet
