@@ -87,7 +87,6 @@ class CHotkeySettingDlg : public QDialog {
 
   brennet::HotkeyConfig* config_;
   brennet::Dota7KeyInfoManager* manager_;
-  bool isKeyDownElsewhere_ = false;  // what goes up next on a link did not go down there
   std::unique_ptr<Ui::CHotkeySettingDlg> form_;
   QStackedLayout* stack_ = nullptr;
   // Children of this widget.
@@ -100,4 +99,5 @@ class CHotkeySettingDlg : public QDialog {
   Dota7ChatKeySettingWidget* dota7Chat_ = nullptr;
   Mode mode_ = Mode::Platform;
   bool isFirstShow_ = true;
+  bool isKeyDownElsewhere_ = false;  // what goes up next on a link did not go down there
 };

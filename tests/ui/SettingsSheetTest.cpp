@@ -13,25 +13,15 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include <cmath>
 #include <vector>
 
+#include "tests/ui/PixelContrast.h"
 #include "ui/window/StyleSheet.h"
 
 namespace brennet {
 namespace {
 
 constexpr QRgb kBelow = 0xFF1E242F;
-
-// As eyes see it, from 0 for black to 1 for white.
-double luminance(QRgb color) {
-  const auto linear = [](int part) {
-    const double value = part / 255.0;
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) +
-         0.0722 * linear(qBlue(color));
-}
 
 class TheSettingsSheet : public testing::Test {
  protected:
@@ -167,9 +157,9 @@ TEST_F(TheSettingsSheet, KeepsTheStateOfASmallPictureWithTheFocus) {
 TEST_F(TheSettingsSheet, DrawsBordersOfFieldsThatCanBeSeen) {
   auto* const field = make<QLineEdit>("edtSkill_1");
   field->resize(100, field->sizeHint().height());
-  const double border = luminance(pictureOf(*field).pixel(50, 0));
-  EXPECT_GE((border + 0.05) / (luminance(kBelow) + 0.05), 3.0);
-  EXPECT_GE((border + 0.05) / (luminance(pictureOf(*field).pixel(50, 3)) + 0.05), 3.0);
+  const QRgb border = pictureOf(*field).pixel(50, 0);
+  EXPECT_GE(test::contrast(border, kBelow), 3.0);
+  EXPECT_GE(test::contrast(border, pictureOf(*field).pixel(50, 3)), 3.0);
 }
 
 TEST_F(TheSettingsSheet, ColoursTexts) {
