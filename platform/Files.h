@@ -17,14 +17,16 @@ namespace brennet::platform {
 //
 // At every moment the disk holds the whole old or the whole new content: the bytes go to a
 // temporary file in the same folder, are flushed, and the temporary file takes the target's place.
-// A file that is there keeps its permissions, a symbolic link stays one, and a file that could not
-// be opened for writing is left alone. Where the folder takes no temporary file, or the temporary
-// file cannot take the target's place, the target is written in place: room is made sure of first,
-// and the old content is written back when the new one cannot be written.
+// A file that is there keeps its permissions, as far as this process may set them, a symbolic link
+// stays one, and a file that could not be opened for writing is left alone. Where the folder takes
+// no temporary file, or the temporary file cannot take the target's place, the target is written in
+// place: room is made sure of first, and the old content is written back when the new one cannot be
+// written.
 //
-// On Windows a file that is replaced has another name for a moment; both functions wait for it, put
-// back what a process left there that ended half-way, and wait for programs that hold the file, up
-// to a fifth of a second.
+// On Windows a file that is replaced has another name for a moment, "NAME.brennet-old"; both
+// functions wait for it, put back what a process left there that ended half-way, and wait for
+// programs that hold the file, up to a fifth of a second at each step. Temporary files that such a
+// process left are removed when they are an hour old.
 //
 // Returns the first error of any step, a failing flush or close included, or an empty one.
 // After an error the old content stands and no temporary file is left; only a file that was written

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "platform/Files.h"
+#include "platform/TemporaryNames.h"
 
 namespace brennet::platform {
 namespace {
@@ -139,10 +140,6 @@ std::error_code writeInPlace(const std::string& path, std::string_view bytes, bo
   return error;
 }
 
-std::string temporaryName(const std::string& path, int number) {
-  return path + "." + std::to_string(getpid()) + "-" + std::to_string(number) + ".tmp";
-}
-
 std::string folderOf(const std::string& path) {
   const std::size_t slash = path.find_last_of('/');
   return slash == std::string::npos ? "." : path.substr(0, slash + 1);
@@ -219,11 +216,13 @@ std::error_code readFile(const Path& path, std::string& bytes) {
 std::error_code replaceFile(const Path& name, std::string_view bytes) {
   if (name.empty()) return std::make_error_code(std::errc::no_such_file_or_directory);
   const std::string path = withoutLinks(name.native());
+  removeLeftovers(path);
   const Target target = inspect(path);
   if (target.error) return target.error;
 
   for (int number = 0; number < kTemporaryNames && !isLink(path); ++number) {
-    const std::string temporary = temporaryName(path, number);
+    const std::string temporary =
+        temporaryName(path, static_cast<unsigned long>(getpid()), number).native();
     OpenFile file(temporary, O_WRONLY | O_CREAT | O_EXCL, kNewFileMode);
     if (file.isOpen()) {
       const Replacement result = replaceThrough(temporary, file, path, target, bytes);

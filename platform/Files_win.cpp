@@ -1,3 +1,5 @@
+#include "platform/Files.h"
+
 #include <windows.h>
 // shlwapi.h needs windows.h first.
 #include <shlwapi.h>
@@ -5,173 +7,20 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/Files.h"
+#include "platform/FileCalls_win.h"
+#include "platform/Replacement_win.h"
+#include "platform/TemporaryNames.h"
 
 namespace brennet::platform {
 namespace {
 
-constexpr DWORD kLargestPiece = 1U << 30U;
 constexpr int kTemporaryNames = 100;
-
-// Virus scanners and indexers hold a new file for a moment; the target may be held as well.
-constexpr int kTries = 10;
-constexpr DWORD kPause = 20;  // milliseconds
-
-std::error_code errorOf(DWORD code) {
-  return {static_cast<int>(code), std::system_category()};
-}
-std::error_code lastError() {
-  return errorOf(GetLastError());
-}
-
-class OpenFile {
- public:
-  OpenFile() = default;
-  OpenFile(const std::wstring& name, DWORD access, DWORD sharing, DWORD creation) {
-    open(name, access, sharing, creation);
-  }
-  ~OpenFile() { static_cast<void>(closeNow()); }
-  OpenFile(const OpenFile&) = delete;
-  OpenFile& operator=(const OpenFile&) = delete;
-
-  bool open(const std::wstring& name, DWORD access, DWORD sharing, DWORD creation) {
-    handle_ = CreateFileW(name.c_str(), access, sharing, nullptr, creation, FILE_ATTRIBUTE_NORMAL,
-                          nullptr);
-    return isOpen();
-  }
-
-  [[nodiscard]] bool isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
-  [[nodiscard]] HANDLE get() const { return handle_; }
-
-  std::error_code closeNow() {
-    if (!isOpen()) return {};
-    const BOOL closed = CloseHandle(handle_);
-    handle_ = INVALID_HANDLE_VALUE;
-    return closed != FALSE ? std::error_code() : lastError();
-  }
-
- private:
-  HANDLE handle_ = INVALID_HANDLE_VALUE;
-};
-
-std::error_code writeAll(HANDLE file, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const auto piece = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), kLargestPiece));
-    DWORD written = 0;
-    if (WriteFile(file, bytes.data(), piece, &written, nullptr) == FALSE) return lastError();
-    if (written == 0) return errorOf(ERROR_DISK_FULL);
-    bytes.remove_prefix(written);
-  }
-  return {};
-}
 
 // Writes, flushes and closes; the first failure counts.
 std::error_code finish(OpenFile& file, std::string_view bytes) {
   if (const std::error_code error = writeAll(file.get(), bytes)) return error;
   if (FlushFileBuffers(file.get()) == FALSE) return lastError();
   return file.closeNow();
-}
-
-// Somebody else has the file open just now.
-bool isHeld(DWORD error) {
-  return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
-}
-
-// A file that is about to be deleted or moved denies access too.
-bool mayPass(DWORD error) {
-  return isHeld(error) || error == ERROR_ACCESS_DENIED;
-}
-
-// Calls `operation` until it succeeds or fails for good; 0 or the error.
-template <class Operation, class Condition = bool (*)(DWORD error)>
-DWORD retried(Operation operation, Condition isWorthIt = mayPass) {
-  DWORD error = 0;
-  for (int i = 0; i < kTries; ++i) {
-    if (operation() != FALSE) return 0;
-    error = GetLastError();
-    if (!isWorthIt(error)) return error;
-    Sleep(kPause);
-  }
-  return error;
-}
-
-DWORD moveTo(const std::wstring& from, const std::wstring& to) {
-  return retried([&] { return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH); });
-}
-
-void removeFile(const std::wstring& path) {
-  retried([&] { return DeleteFileW(path.c_str()); });
-}
-
-bool exists(const std::wstring& path) {
-  return PathFileExistsW(path.c_str()) != FALSE;
-}
-
-// The names beside a file under which its new and its old content stand while it is replaced. The
-// old one's is always the same, so that whoever comes next finds it if this process ends half-way.
-struct BesideNames {
-  std::wstring temporary;
-  std::wstring backup;
-};
-
-std::wstring backupName(const std::wstring& path) {
-  return path + L".brennet-old";
-}
-
-BesideNames besideNames(const std::wstring& path, int number) {
-  return {path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(number) +
-              L".tmp",
-          backupName(path)};
-}
-
-// While ReplaceFileW works there is no file of that name for a moment, only its backup. Whether
-// that is why a file was not found.
-bool isBeingReplaced(const std::wstring& path, DWORD error) {
-  return error == ERROR_FILE_NOT_FOUND && (exists(backupName(path)) || exists(path));
-}
-
-// Waits for whoever is replacing a file; if nobody is any more, the backup becomes the file again.
-void awaitReplacement(const std::wstring& path) {
-  const std::wstring backup = backupName(path);
-  for (int i = 0; i < kTries; ++i) {
-    if (exists(path) || !exists(backup)) return;
-    Sleep(kPause);
-  }
-  MoveFileExW(backup.c_str(), path.c_str(), MOVEFILE_WRITE_THROUGH);
-}
-
-// Puts the temporary file in the place of `path`, which is there. ReplaceFileW keeps the
-// attributes and rights of the old file. It can fail half-way; its documentation tells the three
-// states in which it leaves the files then, and in the end `path` is the old or the new file.
-DWORD replaceExisting(const BesideNames& names, const std::wstring& path) {
-  DWORD error = retried([&] {
-    return ReplaceFileW(path.c_str(), names.temporary.c_str(), names.backup.c_str(),
-                        REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr);
-  });
-  switch (error) {
-    case ERROR_UNABLE_TO_MOVE_REPLACEMENT_2:
-      // The old file has the backup's name, the new one its temporary name.
-      error = moveTo(names.temporary, path);
-      if (error != 0) moveTo(names.backup, path);
-      break;
-    case ERROR_UNABLE_TO_REMOVE_REPLACED:
-    case ERROR_UNABLE_TO_MOVE_REPLACEMENT:
-    default:
-      break;  // both files have the names they had
-  }
-  // The last copy of the old content is not thrown away.
-  if (exists(path) && exists(names.backup)) removeFile(names.backup);
-  return error;
-}
-
-// Gives the temporary file the place of `path`, which may come or go under way.
-DWORD takePlace(const BesideNames& names, const std::wstring& path, bool isThere) {
-  if (isThere) {
-    const DWORD error = replaceExisting(names, path);
-    return error == ERROR_FILE_NOT_FOUND ? moveTo(names.temporary, path) : error;
-  }
-  const DWORD error = moveTo(names.temporary, path);
-  return error == ERROR_ALREADY_EXISTS ? replaceExisting(names, path) : error;
 }
 
 enum class Outcome { Replaced, Failed, NotReplaceable };
@@ -182,17 +31,17 @@ struct Replacement {
 };
 
 // Fills the open temporary file and gives it the place of `path`; leaves no temporary file.
-Replacement replaceThrough(const BesideNames& names, OpenFile& file, const std::wstring& path,
+Replacement replaceThrough(const std::wstring& temporary, OpenFile& file, const std::wstring& path,
                            bool isThere, std::string_view bytes) {
   Replacement result{Outcome::Replaced, finish(file, bytes)};
   if (result.error) {
     result.outcome = Outcome::Failed;
-  } else if (takePlace(names, path, isThere) != 0) {
+  } else if (takePlace(temporary, path, isThere) != 0) {
     result.outcome = Outcome::NotReplaceable;
   }
   if (result.outcome != Outcome::Replaced) {
     static_cast<void>(file.closeNow());
-    removeFile(names.temporary);
+    removeFile(temporary);
   }
   return result;
 }
@@ -217,34 +66,23 @@ std::error_code overwrite(HANDLE file, std::string_view bytes, std::size_t oldSi
   return error;
 }
 
-// For files that cannot be replaced. The old content is kept at hand and written back if the new
-// one cannot be written.
-std::error_code writeInPlace(const std::wstring& path, std::string_view bytes, bool isThere) {
-  std::string old;
-  if (isThere) {
-    const std::error_code error = readFile(path, old);
-    // A file that may be written but not read has to do without.
-    if (error && error != errorOf(ERROR_ACCESS_DENIED)) return error;
-  }
-  OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, isThere ? OPEN_EXISTING : CREATE_NEW);
-  if (!file.isOpen()) return lastError();
-  const std::error_code error = overwrite(file.get(), bytes, old.size());
-  if (!error) return file.closeNow();
-  if (isThere) {
-    static_cast<void>(overwrite(file.get(), old, bytes.size()));
-  } else {
-    static_cast<void>(file.closeNow());
-    removeFile(path);
-  }
-  return error;
-}
-
 // Whether a file can be written at `path`, and what is there.
 struct Target {
   DWORD error;  // it cannot be written; 0: it can
   bool isThere = false;
   bool isLink = false;
 };
+
+// Whether the file itself is only a name for another. Other files than links have reparse points,
+// too: deduplicated ones, and those that are kept elsewhere.
+bool isSymbolicLink(const std::wstring& path, DWORD attributes) {
+  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
+  WIN32_FIND_DATAW data{};
+  HANDLE const search = FindFirstFileW(path.c_str(), &data);
+  if (search == INVALID_HANDLE_VALUE) return false;
+  FindClose(search);
+  return data.dwReserved0 == IO_REPARSE_TAG_SYMLINK;
+}
 
 Target inspect(const std::wstring& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
@@ -259,9 +97,40 @@ Target inspect(const std::wstring& path) {
     SetLastError(ERROR_INVALID_HANDLE);
     return FALSE;
   });
-  if (error == ERROR_FILE_NOT_FOUND) return {0};
-  if (error != 0) return {error};
-  return {0, true, isKnown && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0};
+  if (error != 0 && error != ERROR_FILE_NOT_FOUND) return {error};
+  return {0, error == 0, isKnown && isSymbolicLink(path, attributes)};
+}
+
+// The content before it is written over. A file that may be written but not read has to do without.
+std::error_code readOld(const std::wstring& path, std::string& old) {
+  const std::error_code error = readFile(path, old);
+  return error == errorOf(ERROR_ACCESS_DENIED) ? std::error_code() : error;
+}
+
+// For files that cannot be replaced. The old content is kept at hand and written back if the new
+// one cannot be written.
+std::error_code writeInPlace(const std::wstring& path, std::string_view bytes, bool isLink) {
+  // A replacement that failed half-way may have left nothing there but a backup beside it.
+  bool isThere = exists(path);
+  std::string old;
+  if (isThere) {
+    const std::error_code error = readOld(path, old);
+    // A link to nothing: the name is there, the file is not.
+    isThere = !isLink || error != errorOf(ERROR_FILE_NOT_FOUND);
+    if (isThere && error) return error;
+  }
+  const DWORD creation = isThere ? OPEN_EXISTING : isLink ? OPEN_ALWAYS : CREATE_NEW;
+  OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, creation);
+  if (!file.isOpen()) return lastError();
+  const std::error_code error = overwrite(file.get(), bytes, old.size());
+  if (!error) return file.closeNow();
+  if (isThere) {
+    static_cast<void>(overwrite(file.get(), old, bytes.size()));
+  } else {
+    static_cast<void>(file.closeNow());
+    removeFile(path);
+  }
+  return error;
 }
 
 }  // namespace
@@ -278,47 +147,29 @@ std::error_code readFile(const Path& path, std::string& bytes) {
       [&](DWORD code) { return isHeld(code) || isBeingReplaced(path.native(), code); });
   if (error != 0) return errorOf(error);
   if (GetFileType(file.get()) != FILE_TYPE_DISK) return errorOf(ERROR_INVALID_HANDLE);
-  LARGE_INTEGER fileSize{};
-  if (GetFileSizeEx(file.get(), &fileSize) == FALSE) return lastError();
-  if (static_cast<std::uint64_t>(fileSize.QuadPart) > bytes.max_size()) {
-    return errorOf(ERROR_FILE_TOO_LARGE);
-  }
-  bytes.resize(static_cast<std::size_t>(fileSize.QuadPart));
-  std::size_t size = 0;
-  while (size < bytes.size()) {
-    const auto piece =
-        static_cast<DWORD>(std::min<std::size_t>(bytes.size() - size, kLargestPiece));
-    DWORD count = 0;
-    if (ReadFile(file.get(), bytes.data() + size, piece, &count, nullptr) == FALSE) {
-      const std::error_code failure = lastError();
-      bytes.clear();
-      return failure;
-    }
-    if (count == 0) break;
-    size += count;
-  }
-  bytes.resize(size);
-  return {};
+  const std::error_code failure = readAll(file.get(), bytes);
+  if (failure) bytes.clear();
+  return failure;
 }
 
 std::error_code replaceFile(const Path& name, std::string_view bytes) {
   const std::wstring& path = name.native();
+  removeLeftovers(name);
   awaitReplacement(path);
   const Target target = inspect(path);
   if (target.error != 0) return errorOf(target.error);
 
   for (int number = 0; number < kTemporaryNames && !target.isLink; ++number) {
-    const BesideNames names = besideNames(path, number);
-    OpenFile file(names.temporary, GENERIC_WRITE, 0, CREATE_NEW);
+    const std::wstring temporary = temporaryName(name, GetCurrentProcessId(), number).native();
+    OpenFile file(temporary, GENERIC_WRITE, 0, CREATE_NEW);
     if (file.isOpen()) {
-      const Replacement result = replaceThrough(names, file, path, target.isThere, bytes);
+      const Replacement result = replaceThrough(temporary, file, path, target.isThere, bytes);
       if (result.outcome != Outcome::NotReplaceable) return result.error;
       break;
     }
     if (GetLastError() != ERROR_FILE_EXISTS) break;
   }
-  // A replacement that failed half-way may have left nothing there but a backup beside it.
-  return writeInPlace(path, bytes, exists(path));
+  return writeInPlace(path, bytes, target.isLink);
 }
 
 bool pathExists(const Path& path) {

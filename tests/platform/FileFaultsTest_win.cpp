@@ -3,7 +3,9 @@
 
 #include "tests/platform/FileFaults_win.h"
 // gtest.h comes after windows.h, which would undo its macros.
+#include <iterator>
 #include <string>
+#include <vector>
 
 #include "platform/Files.h"
 #include "tests/platform/FileFaultsFixture.h"
@@ -12,6 +14,8 @@ namespace brennet::platform {
 namespace {
 
 using test::halfwayFaults;
+using test::interruptions;
+using test::moveFlags;
 using test::passingFaults;
 using test::readBytes;
 using test::replacedFiles;
@@ -59,6 +63,12 @@ TEST_F(HalfReplacement, ThatCannotBeMadeGoodLeavesTheOldFileUnderItsBackupName) 
   const std::string backup = "f.brennet-old";
   EXPECT_EQ(folder_.listing(), "f\n" + backup + "\n");
   EXPECT_EQ(readBytes(folder_ / backup), kOld);
+
+  // It is not the last copy any more, and must not come back when the player deletes the file.
+  std::string read;
+  EXPECT_FALSE(readFile(path(), read));
+  EXPECT_EQ(read, kNew);
+  EXPECT_EQ(folder_.listing(), "f\n");
 }
 
 class PassingFault : public test::FileFaultsFixture {
@@ -70,14 +80,35 @@ constexpr DWORD kPassing[] = {ERROR_ACCESS_DENIED, ERROR_SHARING_VIOLATION, ERRO
 constexpr int kAFew = 3;
 
 TEST_F(PassingFault, OfReplacingIsWaitedFor) {
-  for (const DWORD error : kPassing) {
+  std::vector<DWORD> errors(std::begin(kPassing), std::end(kPassing));
+  errors.insert(errors.end(), {ERROR_UNABLE_TO_REMOVE_REPLACED, ERROR_UNABLE_TO_MOVE_REPLACEMENT});
+  for (const DWORD error : errors) {
     writeBytes(path(), kOld);
     const int before = replacedFiles;
-    passingFaults = {.error = error, .opening = kAFew, .replacing = kAFew};
+    passingFaults = {.error = error, .replacing = kAFew};
     EXPECT_FALSE(replaceFile(path(), kNew)) << error;
     EXPECT_EQ(readBytes(path()), kNew) << error;
     EXPECT_EQ(replacedFiles, before + 1) << error << ": written in place";
   }
+}
+
+TEST_F(PassingFault, OfOpeningTheOldFileIsWaitedFor) {
+  for (const DWORD error : kPassing) {
+    writeBytes(path(), kOld);
+    const int before = replacedFiles;
+    passingFaults = {.error = error, .opening = kAFew};
+    EXPECT_FALSE(replaceFile(path(), kNew)) << error;
+    EXPECT_EQ(readBytes(path()), kNew) << error;
+    EXPECT_EQ(replacedFiles, before + 1) << error;
+  }
+}
+
+TEST_F(PassingFault, OfRemovingTheTemporaryFileIsWaitedFor) {
+  writeBytes(path(), kOld);
+  test::faults.flushing = true;
+  passingFaults = {.error = ERROR_SHARING_VIOLATION, .deleting = kAFew};
+  EXPECT_TRUE(replaceFile(path(), kNew));
+  EXPECT_EQ(folder_.listing(), "f\n");
 }
 
 TEST_F(PassingFault, OfMovingANewFileIsWaitedFor) {
@@ -109,6 +140,73 @@ TEST_F(PassingFault, ThatIsNoneIsNotWaitedFor) {
   passingFaults = {.error = ERROR_PATH_NOT_FOUND, .replacing = kAFew};
   EXPECT_FALSE(replaceFile(path(), kNew)) << "written in place";
   EXPECT_EQ(passingFaults.replacing, kAFew - 1);
+}
+
+class Interruption : public test::FileFaultsFixture {
+ protected:
+  ~Interruption() override { interruptions = test::Interruptions(); }
+};
+
+TEST_F(Interruption, ThatTakesTheOldFileAwayLeavesTheNewOne) {
+  writeBytes(path(), kOld);
+  const int before = replacedFiles;
+  interruptions.beforeReplacing = [&] { std::filesystem::remove(path()); };
+  moveFlags = ~0U;
+  EXPECT_FALSE(replaceFile(path(), kNew));
+  EXPECT_EQ(readBytes(path()), kNew);
+  EXPECT_EQ(replacedFiles, before);
+  EXPECT_EQ(moveFlags, DWORD{MOVEFILE_WRITE_THROUGH}) << "not moved, or in another way";
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+TEST_F(Interruption, ThatPutsAFileThereIsReplacedAsAnyOther) {
+  const int before = replacedFiles;
+  interruptions.beforeMoving = [&] { writeBytes(path(), kOld); };
+  EXPECT_FALSE(replaceFile(path(), kNew));
+  EXPECT_EQ(readBytes(path()), kNew);
+  EXPECT_EQ(replacedFiles, before + 1);
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+TEST_F(Interruption, ThatLetsAFileGrowIsReadToItsEnd) {
+  writeBytes(path(), kOld);
+  interruptions.afterSizing = [&] { writeBytes(path(), kNew); };
+  std::string read;
+  EXPECT_FALSE(readFile(path(), read));
+  EXPECT_EQ(read, kNew);
+}
+
+TEST_F(Interruption, ThatCutsAFileIsReadToItsEnd) {
+  writeBytes(path(), kOld);
+  interruptions.afterSizing = [&] { writeBytes(path(), kShort); };
+  std::string read;
+  EXPECT_FALSE(readFile(path(), read));
+  EXPECT_EQ(read, kShort);
+}
+
+class ReparsePoint : public test::FileFaultsFixture {
+ protected:
+  ~ReparsePoint() override { test::reparseTag = 0; }
+};
+
+TEST_F(ReparsePoint, OfALinkKeepsItFromBeingReplaced) {
+  test::reparseTag = IO_REPARSE_TAG_SYMLINK;
+  const int before = replacedFiles;
+  moveFlags = 0;
+  for (const char* const bytes : {kOld, kNew, kShort}) {
+    EXPECT_FALSE(replaceFile(path(), bytes));
+    EXPECT_EQ(readBytes(path()), bytes);
+  }
+  EXPECT_EQ(replacedFiles, before);
+}
+
+TEST_F(ReparsePoint, OfAnotherKindDoesNot) {
+  writeBytes(path(), kOld);
+  test::reparseTag = IO_REPARSE_TAG_DEDUP;
+  const int before = replacedFiles;
+  EXPECT_FALSE(replaceFile(path(), kNew));
+  EXPECT_EQ(readBytes(path()), kNew);
+  EXPECT_EQ(replacedFiles, before + 1);
 }
 
 }  // namespace

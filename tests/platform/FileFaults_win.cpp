@@ -1,13 +1,20 @@
 #include "tests/platform/FileFaults_win.h"
 
+// shlwapi.h needs windows.h first.
+#include <shlwapi.h>
+
 #include <string>
+#include <utility>
 
 namespace brennet::test {
 
 FileFaults faults;
 HalfwayFaults halfwayFaults;
 PassingFaults passingFaults;
+Interruptions interruptions;
+DWORD reparseTag = 0;
 int replacedFiles = 0;
+DWORD moveFlags = ~0U;
 const int kDeviceError = ERROR_IO_DEVICE;
 
 // Wine does not count handles; their values are multiples of four.
@@ -27,7 +34,10 @@ namespace {
 
 using brennet::test::faults;
 using brennet::test::halfwayFaults;
+using brennet::test::interruptions;
+using brennet::test::moveFlags;
 using brennet::test::passingFaults;
+using brennet::test::reparseTag;
 using brennet::test::replacedFiles;
 
 BOOL failWith(DWORD error) {
@@ -41,6 +51,10 @@ bool failsInPassing(int& left) {
   --left;
   SetLastError(passingFaults.error);
   return true;
+}
+
+void interrupt(std::function<void()>& action) {
+  if (action) std::exchange(action, nullptr)();
 }
 
 // The system's own function behind one that a test stands before.
@@ -76,9 +90,36 @@ BOOL WINAPI flushFile(HANDLE file) {
   return faults.flushing || faults.failsNow() ? failWith(ERROR_IO_DEVICE) : real(file);
 }
 
+// Whether the file would be longer if it ended where it stands now.
+bool growsHere(HANDLE file) {
+  static auto* const sizeOf = systems<decltype(GetFileSizeEx)>("GetFileSizeEx");
+  LARGE_INTEGER here{};
+  LARGE_INTEGER size{};
+  SetFilePointerEx(file, LARGE_INTEGER{}, &here, FILE_CURRENT);
+  sizeOf(file, &size);
+  return here.QuadPart > size.QuadPart;
+}
+
 BOOL WINAPI setEnd(HANDLE file) {
   static auto* const real = systems<decltype(SetEndOfFile)>("SetEndOfFile");
-  return faults.diskFull || faults.failsNow() ? failWith(ERROR_DISK_FULL) : real(file);
+  const bool fails = (faults.diskFull && growsHere(file)) || faults.failsNow();
+  return fails ? failWith(ERROR_DISK_FULL) : real(file);
+}
+
+BOOL WINAPI sizeOfFile(HANDLE file, LARGE_INTEGER* size) {
+  static auto* const real = systems<decltype(GetFileSizeEx)>("GetFileSizeEx");
+  if (faults.failsNow()) return failWith(ERROR_IO_DEVICE);
+  const BOOL isDone = real(file, size);
+  interrupt(interruptions.afterSizing);
+  return isDone;
+}
+
+// A device that fails has given a part before.
+BOOL WINAPI readBytes(HANDLE file, LPVOID bytes, DWORD size, LPDWORD read, OVERLAPPED* where) {
+  static auto* const real = systems<decltype(ReadFile)>("ReadFile");
+  if (!faults.failsNow()) return real(file, bytes, size, read, where);
+  real(file, bytes, size / 2, read, where);
+  return failWith(ERROR_IO_DEVICE);
 }
 
 BOOL WINAPI closeHandle(HANDLE file) {
@@ -89,6 +130,8 @@ BOOL WINAPI closeHandle(HANDLE file) {
 
 BOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
   static auto* const real = systems<decltype(MoveFileExW)>("MoveFileExW");
+  moveFlags &= flags;
+  interrupt(interruptions.beforeMoving);
   if (failsInPassing(passingFaults.moving)) return FALSE;
   const bool isNew = std::wstring(from).ends_with(L".tmp");
   if (halfwayFaults.moving || (halfwayFaults.movingTheNew && isNew) || faults.failsNow()) {
@@ -101,14 +144,39 @@ BOOL WINAPI replaceExistingFile(LPCWSTR replaced, LPCWSTR replacement, LPCWSTR b
                                 LPVOID exclude, LPVOID reserved) {
   static auto* const real = systems<decltype(ReplaceFileW)>("ReplaceFileW");
   static auto* const move = systems<decltype(MoveFileExW)>("MoveFileExW");
+  interrupt(interruptions.beforeReplacing);
   if (failsInPassing(passingFaults.replacing)) return FALSE;
   const DWORD error = halfwayFaults.replacing;
   if (error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2) move(replaced, backup, 0);
   if (error != 0) return failWith(error);
-  if (faults.replacing || faults.failsNow()) return failWith(ERROR_UNABLE_TO_REMOVE_REPLACED);
+  if (faults.replacing || faults.failsNow()) return failWith(ERROR_NOT_SUPPORTED);
   const BOOL isDone = real(replaced, replacement, backup, flags, exclude, reserved);
   if (isDone != FALSE) ++replacedFiles;
   return isDone;
+}
+
+BOOL WINAPI deleteFile(LPCWSTR name) {
+  static auto* const real = systems<decltype(DeleteFileW)>("DeleteFileW");
+  return failsInPassing(passingFaults.deleting) ? FALSE : real(name);
+}
+
+DWORD WINAPI attributesOf(LPCWSTR name) {
+  static auto* const real = systems<decltype(GetFileAttributesW)>("GetFileAttributesW");
+  const DWORD attributes = real(name);
+  if (reparseTag == 0 || !std::wstring(name).ends_with(L"\\f")) return attributes;
+  // A link to nothing is there, too.
+  return (attributes == INVALID_FILE_ATTRIBUTES ? 0 : attributes) | FILE_ATTRIBUTE_REPARSE_POINT;
+}
+
+BOOL WINAPI pathExists(LPCWSTR path) {
+  return attributesOf(path) != INVALID_FILE_ATTRIBUTES ? TRUE : FALSE;
+}
+
+HANDLE WINAPI findFirst(LPCWSTR name, WIN32_FIND_DATAW* data) {
+  static auto* const real = systems<decltype(FindFirstFileW)>("FindFirstFileW");
+  HANDLE const search = real(reparseTag == 0 ? name : L"*", data);
+  if (reparseTag != 0) data->dwReserved0 = reparseTag;
+  return search;
 }
 
 }  // namespace
@@ -123,6 +191,12 @@ STAND_BEFORE(CreateFileW, "CreateFileW@28", createFile);
 STAND_BEFORE(WriteFile, "WriteFile@20", writeFile);
 STAND_BEFORE(FlushFileBuffers, "FlushFileBuffers@4", flushFile);
 STAND_BEFORE(SetEndOfFile, "SetEndOfFile@4", setEnd);
+STAND_BEFORE(GetFileSizeEx, "GetFileSizeEx@8", sizeOfFile);
+STAND_BEFORE(ReadFile, "ReadFile@20", readBytes);
+STAND_BEFORE(DeleteFileW, "DeleteFileW@4", deleteFile);
+STAND_BEFORE(GetFileAttributesW, "GetFileAttributesW@4", attributesOf);
+STAND_BEFORE(PathFileExistsW, "PathFileExistsW@4", pathExists);
+STAND_BEFORE(FindFirstFileW, "FindFirstFileW@8", findFirst);
 STAND_BEFORE(CloseHandle, "CloseHandle@4", closeHandle);
 STAND_BEFORE(MoveFileExW, "MoveFileExW@12", moveFile);
 STAND_BEFORE(ReplaceFileW, "ReplaceFileW@24", replaceExistingFile);

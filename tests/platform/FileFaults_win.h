@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <functional>
+
 #include "tests/platform/FileFaults.h"
 
 namespace brennet::test {
@@ -20,12 +22,28 @@ struct PassingFaults {
   DWORD error = 0;
   int opening = 0;    // how many calls still fail: CreateFileW of a file that is there...
   int moving = 0;     // ...MoveFileExW...
-  int replacing = 0;  // ...ReplaceFileW
+  int replacing = 0;  // ...ReplaceFileW...
+  int deleting = 0;   // ...DeleteFileW
 };
 
 extern PassingFaults passingFaults;
 
+// What another program does just before or after a call, once.
+struct Interruptions {
+  std::function<void()> beforeMoving;     // MoveFileExW
+  std::function<void()> beforeReplacing;  // ReplaceFileW
+  std::function<void()> afterSizing;      // GetFileSizeEx
+};
+
+extern Interruptions interruptions;
+
+// The reparse point that the files of a test have; 0: none.
+extern DWORD reparseTag;
+
 // How many files took the place of another since the program started.
 extern int replacedFiles;
+
+// The flags of all calls of MoveFileExW, those that every call had.
+extern DWORD moveFlags;
 
 }  // namespace brennet::test

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <string>
+
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {
@@ -59,6 +62,64 @@ TEST(ReplaceFile, ReplacesTheContent) {
     EXPECT_EQ(readBytes(folder / "f"), bytes);
     EXPECT_EQ(folder.listing(), "f\n");
   }
+}
+
+constexpr auto kTwoHours = std::chrono::hours(2);
+
+void makeOld(const Path& path) {
+  const auto before = std::filesystem::file_time_type::clock::now() - kTwoHours;
+  std::error_code unused;  // not every system sets the time of a folder
+  std::filesystem::last_write_time(path, before, unused);
+}
+
+void writeOldBytes(const Path& path) {
+  writeBytes(path, "half");
+  makeOld(path);
+}
+
+// What processes left that were ended while they wrote.
+TEST(ReplaceFile, RemovesOldTemporaryFilesOfItsOwn) {
+  const TempFolder folder;
+  for (const char* const name : {"f.1-0.tmp", "f.4294967295-99.tmp"}) writeOldBytes(folder / name);
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(ReplaceFile, RemovesThemFromTheWorkingFolderToo) {
+  const TempFolder folder;
+  const Path before = std::filesystem::current_path();
+  std::filesystem::current_path(folder.path());
+  writeOldBytes("f.1-0.tmp");
+  EXPECT_FALSE(replaceFile("f", "new"));
+  std::filesystem::current_path(before);
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(ReplaceFile, LeavesTemporaryFilesAloneThatMayBeInUse) {
+  const TempFolder folder;
+  writeBytes(folder / "f.1-0.tmp", "somebody is writing this");
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(folder.listing(), "f\nf.1-0.tmp\n");
+}
+
+TEST(ReplaceFile, LeavesFilesAloneThatAreNotItsOwn) {
+  const TempFolder folder;
+  std::string expected = "f\n";
+  for (const char* const name : {"f.-0.tmp", "f.1-.tmp", "f.1-0.TMP", "f.1-0.tmp.bak", "f.1-0x.tmp",
+                                 "f.1.tmp", "f.tmp", "ff.1-0.tmp", "fx1-0.tmp", "g.1-0.tmp"}) {
+    writeOldBytes(folder / name);
+    expected += std::string(name) + "\n";
+  }
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(folder.listing(), expected);
+}
+
+TEST(ReplaceFile, LeavesAFolderAloneThatHasTheNameOfATemporaryFile) {
+  const TempFolder folder;
+  EXPECT_TRUE(createFolder(folder / "f.1-0.tmp"));
+  makeOld(folder / "f.1-0.tmp");
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(folder.listing(), "f\nf.1-0.tmp\n");
 }
 
 TEST(Folders, AreCreatedOneLevelAtATime) {

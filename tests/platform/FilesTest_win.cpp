@@ -57,6 +57,15 @@ TEST(Reading, ReadsWhatAnotherProgramIsWriting) {
   EXPECT_EQ(read, "bytes");
 }
 
+TEST(Reading, ReadsWhatAnotherProgramIsRenaming) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "bytes");
+  const Holder holder(folder / "f", DELETE, FILE_SHARE_READ);
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_EQ(read, "bytes");
+}
+
 TEST(Reading, WaitsForAProgramThatHoldsTheFileForAMoment) {
   const TempFolder folder;
   writeBytes(folder / "f", "bytes");
@@ -153,9 +162,33 @@ TEST(Replacing, DoesNotTakeAnOldBackupForTheFile) {
   std::string read;
   EXPECT_FALSE(readFile(folder / "f", read));
   EXPECT_EQ(read, "new");
+  writeBytes(folder / kBackup, "old");
   EXPECT_FALSE(replaceFile(folder / "f", "newer"));
   EXPECT_EQ(readBytes(folder / "f"), "newer");
   EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(Reading, DoesNotBringAFileBackThatThePlayerHasDeleted) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "new");
+  writeBytes(folder / kBackup, "old");
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "f", read));
+  std::filesystem::remove(folder / "f");
+  EXPECT_TRUE(readFile(folder / "f", read));
+  EXPECT_EQ(folder.listing(), "");
+}
+
+TEST(Replacing, LeavesAFolderWithTheNameOfABackupAlone) {
+  const TempFolder folder;
+  EXPECT_TRUE(createFolder(folder / kBackup));
+  std::string read;
+  EXPECT_TRUE(readFile(folder / "f", read));
+  for (const char* const bytes : {"first", "second"}) {
+    EXPECT_FALSE(replaceFile(folder / "f", bytes));
+    EXPECT_EQ(readBytes(folder / "f"), bytes);
+  }
+  EXPECT_TRUE(folderExists(folder / kBackup));
 }
 
 // A reader meets the whole old or the whole new content, and never no file.
@@ -188,15 +221,17 @@ TEST(Replacing, TakesNamesOutsideTheAnsiCodePage) {
   EXPECT_TRUE(folderExists(inner));
 }
 
-// There is no room for the ending of a temporary name then.
-TEST(Replacing, WritesANameOfTheGreatestLength) {
+TEST(Replacing, TakesPathsOfAnyLengthWhereTheySaySo) {
   const TempFolder folder;
-  const std::size_t room = MAX_PATH - 2 - folder.path().native().size();
-  const Path path = folder / std::string(room, 'n');
+  const Path inner = LR"(\\?\)" + (folder / std::string(200, 'd')).native();
+  ASSERT_TRUE(createFolder(inner));
+  const Path path = inner / std::string(100, 'n');
   for (const char* const bytes : {"first", "second"}) {
     EXPECT_FALSE(replaceFile(path, bytes));
     EXPECT_EQ(readBytes(path), bytes);
   }
+  std::filesystem::remove(path);
+  std::filesystem::remove(inner);
 }
 
 }  // namespace

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+#include <system_error>
+
+// What the file functions of this system are put together from.
+namespace brennet::platform {
+
+// Virus scanners and indexers hold a new file for a moment; a file that is to be replaced may be
+// held as well. So much patience there is at each step.
+inline constexpr int kTries = 10;
+inline constexpr DWORD kPause = 20;  // milliseconds
+
+[[nodiscard]] std::error_code errorOf(DWORD code);
+[[nodiscard]] std::error_code lastError();
+
+// Somebody else has the file open just now.
+[[nodiscard]] bool isHeld(DWORD error);
+
+// A file that is held, or one that is about to be deleted or moved: that one denies access too.
+[[nodiscard]] bool mayPass(DWORD error);
+
+// Calls `operation` until it succeeds or fails for good; 0 or the error. An operation is a call of
+// the system or returns as one does: FALSE, with the error in GetLastError.
+template <class Operation, class Condition = bool (*)(DWORD error)>
+DWORD retried(Operation operation, Condition isWorthIt = mayPass) {
+  for (int i = 1;; ++i) {
+    if (operation() != FALSE) return 0;
+    const DWORD error = GetLastError();
+    if (i == kTries || !isWorthIt(error)) return error;
+    Sleep(kPause);
+  }
+}
+
+// A handle that is closed when it goes out of scope.
+class OpenFile {
+ public:
+  OpenFile() = default;
+  OpenFile(const std::wstring& name, DWORD access, DWORD sharing, DWORD creation) {
+    open(name, access, sharing, creation);
+  }
+  ~OpenFile() { static_cast<void>(closeNow()); }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+  // The arguments are CreateFileW's. Whether the file is open then; if not, GetLastError tells why.
+  bool open(const std::wstring& name, DWORD access, DWORD sharing, DWORD creation);
+
+  [[nodiscard]] bool isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  [[nodiscard]] HANDLE get() const { return handle_; }
+
+  // Closing may be where a failed write shows.
+  std::error_code closeNow();
+
+ private:
+  HANDLE handle_ = INVALID_HANDLE_VALUE;
+};
+
+// Appends what the open file holds from its position to its end, also where it grows meanwhile.
+[[nodiscard]] std::error_code readAll(HANDLE file, std::string& bytes);
+[[nodiscard]] std::error_code writeAll(HANDLE file, std::string_view bytes);
+
+// Whether anything stands at `path`, and whether it is a file.
+[[nodiscard]] bool exists(const std::wstring& path);
+[[nodiscard]] bool isFile(const std::wstring& path);
+
+// Gives the file `from` the name `to`, which must be free; 0 or the error.
+[[nodiscard]] DWORD moveTo(const std::wstring& from, const std::wstring& to);
+
+void removeFile(const std::wstring& path);
+
+}  // namespace brennet::platform
