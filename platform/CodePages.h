@@ -50,7 +50,8 @@ struct EncodedUnit {
 [[nodiscard]] EncodedUnit utf16ToBytes(CodePage codePage, char16_t unit);
 
 // Whole texts in code pages of any supported shape; appended to `out`. What has no representation
-// becomes the default character; `encode` returns whether that happened.
+// becomes the default character; `encode` returns whether that happened. What the system fails to
+// convert is left out, which is a loss, too.
 void decode(CodePage codePage, std::string_view bytes, std::u16string& out);
 [[nodiscard]] bool encode(CodePage codePage, std::u16string_view text, std::string& out);
 

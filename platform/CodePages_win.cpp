@@ -57,25 +57,40 @@ char16_t decodeOne(CodePage codePage, const char* bytes, int size) {
   return u'?';
 }
 
+// A call that fails gives no text: the system tells nothing of what it has written by then.
 void decodePiece(CodePage codePage, std::string_view bytes, std::u16string& out) {
   const int size = static_cast<int>(bytes.size());
   const int length = MultiByteToWideChar(codePage, 0, bytes.data(), size, nullptr, 0);
+  if (length == 0) return;
   const std::size_t end = out.size();
   out.resize(end + static_cast<std::size_t>(length));
-  MultiByteToWideChar(codePage, 0, bytes.data(), size, reinterpret_cast<wchar_t*>(out.data() + end),
-                      length);
+  const int done = MultiByteToWideChar(codePage, 0, bytes.data(), size,
+                                       reinterpret_cast<wchar_t*>(out.data() + end), length);
+  out.resize(end + static_cast<std::size_t>(done));
 }
 
+bool isReadAs(CodePage codePage, std::string_view bytes, std::u16string_view text) {
+  std::u16string back;
+  decodePiece(codePage, bytes, back);
+  return back == text;
+}
+
+// Returns whether anything was lost; where a call fails, that is all.
 bool encodePiece(CodePage codePage, std::u16string_view text, std::string& out) {
   const auto* const units = reinterpret_cast<const wchar_t*>(text.data());
   const int size = static_cast<int>(text.size());
-  BOOL usedDefault = FALSE;
-  BOOL* const tell = tellsOfLoss(codePage) ? &usedDefault : nullptr;
   const int length = WideCharToMultiByte(codePage, 0, units, size, nullptr, 0, nullptr, nullptr);
+  if (length == 0) return true;
   const std::size_t end = out.size();
   out.resize(end + static_cast<std::size_t>(length));
-  WideCharToMultiByte(codePage, 0, units, size, out.data() + end, length, nullptr, tell);
-  return usedDefault != FALSE;
+  BOOL usedDefault = FALSE;
+  const bool isTold = tellsOfLoss(codePage);
+  const int done = WideCharToMultiByte(codePage, 0, units, size, out.data() + end, length, nullptr,
+                                       isTold ? &usedDefault : nullptr);
+  out.resize(end + static_cast<std::size_t>(done));
+  if (done == 0) return true;
+  if (isTold) return usedDefault != FALSE;
+  return !isReadAs(codePage, std::string_view(out).substr(end), text);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "platform/FileCalls_win.h"
 
+#include <windows.h>
 // shlwapi.h needs windows.h first.
 #include <shlwapi.h>
 
@@ -10,6 +11,7 @@ namespace brennet::platform {
 namespace {
 
 constexpr DWORD kLargestPiece = 1U << 30U;
+constexpr DWORD kPause = 20;  // milliseconds
 
 DWORD pieceOf(std::size_t size) {
   return static_cast<DWORD>(std::min<std::size_t>(size, kLargestPiece));
@@ -29,36 +31,46 @@ std::error_code makeRoom(HANDLE file, std::string& bytes) {
 
 }  // namespace
 
-std::error_code errorOf(DWORD code) {
+void pause() {
+  Sleep(kPause);
+}
+
+std::error_code errorOf(SystemError code) {
   return {static_cast<int>(code), std::system_category()};
 }
 
-std::error_code lastError() {
-  return errorOf(GetLastError());
+SystemError lastCode() {
+  return GetLastError();
 }
 
-bool isHeld(DWORD error) {
+std::error_code lastError() {
+  return errorOf(lastCode());
+}
+
+bool isHeld(SystemError error) {
   return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
 }
 
-bool mayPass(DWORD error) {
+bool mayPass(SystemError error) {
   return isHeld(error) || error == ERROR_ACCESS_DENIED;
 }
 
-bool OpenFile::open(const std::wstring& name, DWORD access, DWORD sharing, DWORD creation) {
-  handle_ =
+bool OpenFile::open(const std::wstring& name, unsigned long access, unsigned long sharing,
+                    unsigned long creation) {
+  HANDLE const handle =
       CreateFileW(name.c_str(), access, sharing, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr);
+  handle_ = handle == INVALID_HANDLE_VALUE ? nullptr : handle;
   return isOpen();
 }
 
 std::error_code OpenFile::closeNow() {
   if (!isOpen()) return {};
   const BOOL closed = CloseHandle(handle_);
-  handle_ = INVALID_HANDLE_VALUE;
+  handle_ = nullptr;
   return closed != FALSE ? std::error_code() : lastError();
 }
 
-std::error_code readAll(HANDLE file, std::string& bytes) {
+std::error_code readAll(FileHandle file, std::string& bytes) {
   if (const std::error_code error = makeRoom(file, bytes)) return error;
   std::size_t size = 0;
   while (true) {
@@ -75,7 +87,7 @@ std::error_code readAll(HANDLE file, std::string& bytes) {
   return {};
 }
 
-std::error_code writeAll(HANDLE file, std::string_view bytes) {
+std::error_code writeAll(FileHandle file, std::string_view bytes) {
   while (!bytes.empty()) {
     DWORD written = 0;
     if (WriteFile(file, bytes.data(), pieceOf(bytes.size()), &written, nullptr) == FALSE) {
@@ -96,7 +108,7 @@ bool isFile(const std::wstring& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
-DWORD moveTo(const std::wstring& from, const std::wstring& to) {
+SystemError moveTo(const std::wstring& from, const std::wstring& to) {
   return retried([&] { return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH); });
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <windows.h>
-
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -12,34 +10,44 @@ namespace brennet::platform {
 // Virus scanners and indexers hold a new file for a moment; a file that is to be replaced may be
 // held as well. So much patience there is at each step.
 inline constexpr int kTries = 10;
-inline constexpr DWORD kPause = 20;  // milliseconds
 
-[[nodiscard]] std::error_code errorOf(DWORD code);
+// Waits between two of them: 20 milliseconds.
+void pause();
+
+// An error of the system as GetLastError gives it (DWORD); 0 is none.
+using SystemError = unsigned long;
+
+[[nodiscard]] std::error_code errorOf(SystemError code);
+[[nodiscard]] SystemError lastCode();
 [[nodiscard]] std::error_code lastError();
 
 // Somebody else has the file open just now.
-[[nodiscard]] bool isHeld(DWORD error);
+[[nodiscard]] bool isHeld(SystemError error);
 
 // A file that is held, or one that is about to be deleted or moved: that one denies access too.
-[[nodiscard]] bool mayPass(DWORD error);
+[[nodiscard]] bool mayPass(SystemError error);
 
 // Calls `operation` until it succeeds or fails for good; 0 or the error. An operation is a call of
-// the system or returns as one does: FALSE, with the error in GetLastError.
-template <class Operation, class Condition = bool (*)(DWORD error)>
-DWORD retried(Operation operation, Condition isWorthIt = mayPass) {
+// the system or returns as one does: not 0, or 0 with the error in GetLastError.
+template <class Operation, class Condition = bool (*)(SystemError error)>
+SystemError retried(Operation operation, Condition isWorthIt = mayPass) {
   for (int i = 1;; ++i) {
-    if (operation() != FALSE) return 0;
-    const DWORD error = GetLastError();
+    if (operation()) return 0;
+    const SystemError error = lastCode();
     if (i == kTries || !isWorthIt(error)) return error;
-    Sleep(kPause);
+    pause();
   }
 }
+
+// A handle of the system (HANDLE).
+using FileHandle = void*;
 
 // A handle that is closed when it goes out of scope.
 class OpenFile {
  public:
   OpenFile() = default;
-  OpenFile(const std::wstring& name, DWORD access, DWORD sharing, DWORD creation) {
+  OpenFile(const std::wstring& name, unsigned long access, unsigned long sharing,
+           unsigned long creation) {
     open(name, access, sharing, creation);
   }
   ~OpenFile() { static_cast<void>(closeNow()); }
@@ -47,28 +55,29 @@ class OpenFile {
   OpenFile& operator=(const OpenFile&) = delete;
 
   // The arguments are CreateFileW's. Whether the file is open then; if not, GetLastError tells why.
-  bool open(const std::wstring& name, DWORD access, DWORD sharing, DWORD creation);
+  bool open(const std::wstring& name, unsigned long access, unsigned long sharing,
+            unsigned long creation);
 
-  [[nodiscard]] bool isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
-  [[nodiscard]] HANDLE get() const { return handle_; }
+  [[nodiscard]] bool isOpen() const { return handle_ != nullptr; }
+  [[nodiscard]] FileHandle get() const { return handle_; }
 
   // Closing may be where a failed write shows.
   std::error_code closeNow();
 
  private:
-  HANDLE handle_ = INVALID_HANDLE_VALUE;
+  FileHandle handle_ = nullptr;
 };
 
 // Appends what the open file holds from its position to its end, also where it grows meanwhile.
-[[nodiscard]] std::error_code readAll(HANDLE file, std::string& bytes);
-[[nodiscard]] std::error_code writeAll(HANDLE file, std::string_view bytes);
+[[nodiscard]] std::error_code readAll(FileHandle file, std::string& bytes);
+[[nodiscard]] std::error_code writeAll(FileHandle file, std::string_view bytes);
 
 // Whether anything stands at `path`, and whether it is a file.
 [[nodiscard]] bool exists(const std::wstring& path);
 [[nodiscard]] bool isFile(const std::wstring& path);
 
 // Gives the file `from` the name `to`, which must be free; 0 or the error.
-[[nodiscard]] DWORD moveTo(const std::wstring& from, const std::wstring& to);
+[[nodiscard]] SystemError moveTo(const std::wstring& from, const std::wstring& to);
 
 void removeFile(const std::wstring& path);
 

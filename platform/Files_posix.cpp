@@ -10,6 +10,7 @@
 #include <string>
 
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
 #include "platform/TemporaryNames.h"
 
 namespace brennet::platform {

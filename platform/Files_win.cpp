@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/FileCalls_win.h"
+#include "platform/Leftovers.h"
 #include "platform/Replacement_win.h"
 #include "platform/TemporaryNames.h"
 
@@ -68,7 +69,7 @@ std::error_code overwrite(HANDLE file, std::string_view bytes, std::size_t oldSi
 
 // Whether a file can be written at `path`, and what is there.
 struct Target {
-  DWORD error;  // it cannot be written; 0: it can
+  SystemError error;  // it cannot be written; 0: it can
   bool isThere = false;
   bool isLink = false;
 };
@@ -90,12 +91,12 @@ Target inspect(const std::wstring& path) {
   // These do not pass; waiting for them would only hold up the host.
   constexpr DWORD kForbidden = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
   if (isKnown && (attributes & kForbidden) != 0) return {ERROR_ACCESS_DENIED};
-  const DWORD error = retried([&] {
+  const SystemError error = retried([&] {
     const OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
-    if (!file.isOpen()) return FALSE;
-    if (GetFileType(file.get()) == FILE_TYPE_DISK) return TRUE;
+    if (!file.isOpen()) return false;
+    if (GetFileType(file.get()) == FILE_TYPE_DISK) return true;
     SetLastError(ERROR_INVALID_HANDLE);
-    return FALSE;
+    return false;
   });
   if (error != 0 && error != ERROR_FILE_NOT_FOUND) return {error};
   return {0, error == 0, isKnown && isSymbolicLink(path, attributes)};
@@ -140,11 +141,9 @@ std::error_code readFile(const Path& path, std::string& bytes) {
   constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   awaitReplacement(path.native());
   OpenFile file;
-  const DWORD error = retried(
-      [&] {
-        return file.open(path.native(), GENERIC_READ, kSharing, OPEN_EXISTING) ? TRUE : FALSE;
-      },
-      [&](DWORD code) { return isHeld(code) || isBeingReplaced(path.native(), code); });
+  const SystemError error = retried(
+      [&] { return file.open(path.native(), GENERIC_READ, kSharing, OPEN_EXISTING); },
+      [&](SystemError code) { return isHeld(code) || isBeingReplaced(path.native(), code); });
   if (error != 0) return errorOf(error);
   if (GetFileType(file.get()) != FILE_TYPE_DISK) return errorOf(ERROR_INVALID_HANDLE);
   const std::error_code failure = readAll(file.get(), bytes);

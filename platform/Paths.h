@@ -7,7 +7,7 @@
 namespace brennet::platform {
 
 // A file name in the form that this system's file calls take: UTF-16 on Windows, bytes elsewhere.
-// Of std::filesystem only what reports errors without exceptions is used.
+// Only the value type of std::filesystem is used; Files.h reports errors without exceptions.
 using Path = std::filesystem::path;
 
 // `name` as a path. Unpaired surrogates name no file elsewhere than on Windows; they become U+FFFD.

@@ -1,6 +1,6 @@
 #include "platform/Replacement_win.h"
 
-#include "platform/FileCalls_win.h"
+#include <windows.h>
 
 namespace brennet::platform {
 namespace {
@@ -15,7 +15,7 @@ void dropBackup(const std::wstring& path) {
   const std::wstring backup = backupName(path);
   if (!isFile(backup)) return;
   OpenFile file;
-  if (retried([&] { return file.open(backup, DELETE, 0, OPEN_EXISTING) ? TRUE : FALSE; }) != 0) {
+  if (retried([&] { return file.open(backup, DELETE, 0, OPEN_EXISTING); }) != 0) {
     return;
   }
   if (!isFile(path)) return;
@@ -25,7 +25,7 @@ void dropBackup(const std::wstring& path) {
 
 // Besides the errors that pass for every call: these two leave both files with the names they had,
 // and are what ReplaceFileW often tells when somebody has one of them open.
-bool mayReplaceLater(DWORD error) {
+bool mayReplaceLater(SystemError error) {
   return mayPass(error) || error == ERROR_UNABLE_TO_REMOVE_REPLACED ||
          error == ERROR_UNABLE_TO_MOVE_REPLACEMENT;
 }
@@ -33,9 +33,9 @@ bool mayReplaceLater(DWORD error) {
 // Puts the temporary file in the place of `path`, which is there. ReplaceFileW keeps the rights of
 // the old file, as far as this process may set them. It can fail half-way; its documentation tells
 // the three states in which it leaves the files then.
-DWORD replaceExisting(const std::wstring& temporary, const std::wstring& path) {
+SystemError replaceExisting(const std::wstring& temporary, const std::wstring& path) {
   const std::wstring backup = backupName(path);
-  DWORD error = retried(
+  SystemError error = retried(
       [&] {
         return ReplaceFileW(path.c_str(), temporary.c_str(), backup.c_str(),
                             REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr);
@@ -57,21 +57,21 @@ void awaitReplacement(const std::wstring& path) {
   for (int i = 0; i < kTries; ++i) {
     if (!isFile(backup)) return;
     if (exists(path)) return dropBackup(path);
-    Sleep(kPause);
+    pause();
   }
   static_cast<void>(moveTo(backup, path));
 }
 
-bool isBeingReplaced(const std::wstring& path, DWORD error) {
+bool isBeingReplaced(const std::wstring& path, SystemError error) {
   return error == ERROR_FILE_NOT_FOUND && (isFile(backupName(path)) || exists(path));
 }
 
-DWORD takePlace(const std::wstring& temporary, const std::wstring& path, bool isThere) {
+SystemError takePlace(const std::wstring& temporary, const std::wstring& path, bool isThere) {
   if (isThere) {
-    const DWORD error = replaceExisting(temporary, path);
+    const SystemError error = replaceExisting(temporary, path);
     return error == ERROR_FILE_NOT_FOUND ? moveTo(temporary, path) : error;
   }
-  const DWORD error = moveTo(temporary, path);
+  const SystemError error = moveTo(temporary, path);
   return error == ERROR_ALREADY_EXISTS ? replaceExisting(temporary, path) : error;
 }
 

@@ -9,9 +9,8 @@ namespace brennet::platform {
 // The name of the process with the given number; `number` tells files of one process apart.
 [[nodiscard]] Path temporaryName(const Path& path, unsigned long process, int number);
 
-// Removes what processes left beside the file at `path` that ended before its new content was in
-// place. Such a file is an hour old at least: a younger one may be in use. Failures are passed
-// over: what stays now goes another time. Throws std::bad_alloc.
-void removeLeftovers(const Path& path);
+// Whether `name` is such a name of a file called `file`; both without their folders.
+[[nodiscard]] bool isTemporaryName(std::basic_string_view<Path::value_type> name,
+                                   std::basic_string_view<Path::value_type> file);
 
 }  // namespace brennet::platform
