@@ -40,21 +40,26 @@ cmd 1 "reg query $key /v Value"
 cmd 0 "echo x>$file && type $file"
 cmd 1 "type $file"
 
-# A program that waits for input for ever, and is stopped.
+# A program that waits for input for ever, and is stopped or killed. With job control, because
+# programs in the background cannot be interrupted without.
 mkfifo "$folder/input"
-"$emulator" cmd.exe /k "rem $marker" <>"$folder/input" >/dev/null 2>&1 &
-program=$!
-waiting=no
-for _ in {1..300}; do
-  is_waiting && waiting=yes && break
-  sleep 0.1
+for signal in HUP INT TERM KILL; do
+  set -m
+  "$emulator" cmd.exe /k "rem $marker" <>"$folder/input" >/dev/null 2>&1 &
+  program=$!
+  set +m
+  waiting=no
+  for _ in {1..300}; do
+    is_waiting && waiting=yes && break
+    sleep 0.1
+  done
+  [[ $waiting == yes ]] || fail 'the program that waits does not start'
+  kill "-$signal" "$program"
+  for _ in {1..50}; do
+    [[ -z $(marked) ]] && break
+    sleep 0.1
+  done
+  [[ -z $(marked) ]] || fail "left running after $signal: $(marked | tr '\n' ' ')"
 done
-[[ $waiting == yes ]] || fail 'the program that waits does not start'
-kill "$program"
-for _ in {1..50}; do
-  [[ -z $(marked) ]] && break
-  sleep 0.1
-done
-[[ -z $(marked) ]] || fail "left running: $(marked | tr '\n' ' ')"
 
 exit $((failures > 0))

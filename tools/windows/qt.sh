@@ -18,7 +18,8 @@ package=qtbase-opensource-src
 # no path of this machine gets into the binaries.
 prefix=/opt/brennet-qt
 
-# Tablet events need a header that the distribution's tarball lacks; the rest is not used.
+# Tablet events need a header that the distribution's tarball lacks; the database of file types has
+# a licence of its own; the rest is not used.
 options=(
   -opensource -confirm-license -release -shared
   -xplatform win32-g++ -device-option CROSS_COMPILE=i686-w64-mingw32-
@@ -27,21 +28,24 @@ options=(
   -qt-zlib -qt-pcre -qt-libpng -no-libjpeg -qt-freetype -qt-harfbuzz
   -no-feature-sql -no-feature-network -no-feature-xml -no-feature-concurrent
   -no-feature-tabletevent -no-feature-vulkan -no-feature-printer
+  -no-feature-mimetype-database
 )
 # Folders below src/ that are installed, once the targets of build_qt are made.
 parts=(
   winmain corelib gui widgets testlib tools/moc tools/rcc tools/uic
   plugins/platforms/windows plugins/platforms/offscreen plugins/styles/windowsvista
 )
-key=$(key_of "${options[@]}" "${parts[@]}" 2)
+key=$(key_of "${options[@]}" "${parts[@]}" 3)
 qt_dir=$toolchain_dir/qt-$version-$key
 
-is_whole() { # FOLDER
+# Prints the name of a file that the build should have made and has not.
+first_missing() { # FOLDER
   local file
   for file in bin/Qt5Core.dll bin/Qt5Gui.dll bin/Qt5Widgets.dll bin/Qt5Test.dll bin/moc bin/rcc \
     bin/uic lib/cmake/Qt5Widgets/Qt5WidgetsConfig.cmake plugins/platforms/qwindows.dll \
-    plugins/platforms/qoffscreen.dll plugins/styles/qwindowsvistastyle.dll LICENSE.LGPLv3; do
-    [[ -s $1/$file ]] || { echo "$file" && return 1; }
+    plugins/platforms/qoffscreen.dll plugins/styles/qwindowsvistastyle.dll \
+    licences/attributions.txt; do
+    [[ -s $1/$file ]] || { echo "$file" && return; }
   done
 }
 
@@ -55,35 +59,34 @@ fetch_source() {
   local options=(-o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=-
     -o "Dir::State::Lists=$apt/lists" -o "Dir::Cache=$apt" -o APT::Sandbox::User=
     -o Acquire::Languages=none)
-  say "Fetching the source of Qt $version"
-  apt-get "${options[@]}" update -qq -o APT::Update::Error-Mode=any >"$work_dir/fetch.log" 2>&1 ||
-    no_source "the package index cannot be fetched; is there a network?"
-  (cd "$work_dir" && apt-get "${options[@]}" source -qq --download-only --only-source \
-    "$package") >>"$work_dir/fetch.log" 2>&1 ||
-    no_source "the package $package cannot be fetched; is there a network?"
+  local log=$work_dir/fetch.log hint='Is there a network?'
+  logged "$log" "Qt: fetch the package index" \
+    apt-get "${options[@]}" update -qq -o APT::Update::Error-Mode=any
+  cd "$work_dir"
+  progress=count_fetched logged "$log" "Qt: fetch the source of Qt $version, 50 MB" \
+    apt-get "${options[@]}" source -qq --download-only --only-source "$package"
   local tarball
-  tarball=$(compgen -G "$work_dir/${package}_${version}*.orig.tar.xz") ||
-    no_source "this distribution has no $package $version, which Debian 12 has."
-  mkdir "$work_dir/source"
-  tar -xJf "$tarball" -C "$work_dir/source" --strip-components=1
-  apply_backports
+  tarball=$(compgen -G "${package}_${version}*.orig.tar.xz") ||
+    die "This distribution has no $package $version, which Debian 12 has."
+  mkdir source
+  hint='Is the disk full?'
+  logged "$log" "Qt: unpack the source" tar -xJf "$tarball" -C source --strip-components=1
+  logged "$log" "Qt: take over the distribution's fixes" apply_backports
+}
+
+count_fetched() {
+  echo "$(du -sm "$work_dir" | cut -f 1) MB"
 }
 
 # The fixes, for security above all, that the distribution took over from later versions. They come
 # before its own changes in the list.
 apply_backports() {
-  local name
-  tar -xJf "$work_dir/$package"_*.debian.tar.xz -C "$work_dir" debian/patches
+  local series=debian/patches/series name
+  tar -xJf "$package"_*.debian.tar.xz debian/patches
+  [[ -s $series ]]
   while read -r name; do
-    patch -d "$work_dir/source" -p1 -s <"$work_dir/debian/patches/$name" >"$work_dir/fetch.log" ||
-      no_source "$name does not apply."
-  done < <(sed -n '/^# Debian specific/q; /^[^#]/p' "$work_dir/debian/patches/series")
-}
-
-no_source() {
-  tail -n 3 "$work_dir/fetch.log" >&2
-  rm -rf "$work_dir"
-  die "No source of Qt $version: $1"
+    patch -d source -p1 -s <"debian/patches/$name"
+  done < <(sed -n '/^# Debian specific/q; /^[^#]/p' "$series")
 }
 
 build_qt() {
@@ -105,7 +108,7 @@ build_qt() {
 }
 
 count_objects() {
-  echo "$(find "$work_dir/build" -name '*.o' | wc -l) of about 1200 files compiled"
+  echo "$(find "$work_dir/build" -name '*.o' | wc -l) of about 1220 files compiled"
 }
 
 build_plugins() { # JOBS
@@ -123,8 +126,8 @@ install_parts() {
   make -C .. install_mkspecs INSTALL_ROOT="$work_dir/stage"
   # The CMake files of Qt5Core ask for it.
   cp ../bin/qmake "$work_dir/stage$prefix/bin/"
-  # Whoever passes the DLLs on has to pass it on too.
-  cp "$work_dir/source/LICENSE.LGPLv3" "$work_dir/stage$prefix/"
+  # Whoever passes the DLLs on has to pass them on too.
+  "$here/qt_licences.sh" "$work_dir/source" "$work_dir/stage$prefix/licences"
 }
 
 main() {
@@ -132,22 +135,20 @@ main() {
     echo "$qt_dir"
     return
   fi
-  local missing
+  if is_finished "$qt_dir"; then return; fi
   open_toolchain_dir
-  if [[ -d $qt_dir ]]; then
-    missing=$(is_whole "$qt_dir") ||
-      die "$qt_dir is damaged ($missing is missing); remove that folder and run again."
-    return
-  fi
+  # Another run may have finished it while this one waited.
+  if is_finished "$qt_dir"; then return; fi
   need_free_space 3000
   say "Qt $version for Windows is built once, into $qt_dir: about 15 minutes on two cores"
   make_work_dir
-  trap 'rm -rf "$work_dir"' EXIT
   fetch_source
-  (build_qt)
-  missing=$(is_whole "$work_dir/stage$prefix") ||
+  build_qt
+  local missing
+  missing=$(first_missing "$work_dir/stage$prefix")
+  [[ -z $missing ]] ||
     die "The build of Qt made no $missing; please report this with the output above."
-  mv "$work_dir/stage$prefix" "$qt_dir"
+  put_in_place "$work_dir/stage$prefix" "$qt_dir"
   say "Qt is ready"
 }
 

@@ -13,21 +13,39 @@ here=$(cd "$(dirname "$0")" && pwd)
 source "$here/lib.sh"
 checkout=$(cd "$here/../.." && pwd)
 
-# Runs a command and ends with its exit status; kills it when this script is told to end. It runs in
-# the background, because a signal does not end the waiting for anything else.
+# Runs a command and ends with its exit status; kills it when this script is told to end, and has the
+# system kill it when the script is killed. It runs in the background, because a signal does not end
+# the waiting for anything else.
 stoppable() {
   local status=0
-  "$@" <&0 &
+  setpriv --pdeathsig KILL "$@" <&0 &
   # shellcheck disable=SC2064  # the process of now
-  trap "kill -KILL $!; exit 143" INT TERM
+  trap "kill -KILL $!; exit 143" HUP INT TERM
   wait $! || status=$?
   exit "$status"
+}
+
+# Starts a screen that nobody sees, and lets DISPLAY name it.
+start_screen() { # PREFIX LOG_FOLDER COMMAND...
+  local prefix=$1 log=$2 number tries
+  shift 2
+  # The number is one that no other program has at the moment.
+  "$@" -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$log/screen" >"$log/screen.log" 2>&1 &
+  for ((tries = 0; tries < 100; ++tries)); do
+    [[ ! -s $log/screen ]] || break
+    sleep 0.1
+  done
+  read -r number <"$log/screen" || { cat "$log/screen.log" >&2 && exit 1; }
+  export DISPLAY=:$number
+  # No window manager is there to wait for.
+  printf '%s\n' '' '[Software\\Wine\\X11 Driver]' '"Managed"="N"' >>"$prefix/user.reg"
 }
 
 # In namespaces of its own: mounts and processes go with the program. What is written to the root
 # file system goes to memory, so that the next program finds it fresh.
 run_in_root() {
   need_root "Running programs in the root file system of Wine"
+  export -f start_screen
   stoppable unshare --mount --pid --fork --kill-child bash -euc '
     wine_dir=$1 home=$2 locale=$3
     shift 3
@@ -46,23 +64,12 @@ run_in_root() {
       mkdir -p "$root$folder"
       mount --rbind "$folder" "$root$folder"
     done
-    screen=(-u DISPLAY)
-    if [[ -n ${BRENNET_SCREEN-} ]]; then
-      # The number is one that no other program has at the moment.
-      chroot "$root" Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp \
-        3>"$root/tmp/screen" >"$root/tmp/screen.log" 2>&1 &
-      for ((tries = 0; tries < 100; ++tries)); do
-        [[ ! -s $root/tmp/screen ]] || break
-        sleep 0.1
-      done
-      read -r number <"$root/tmp/screen" || { cat "$root/tmp/screen.log" >&2 && exit 1; }
-      screen=(DISPLAY=":$number")
-      # No window manager is there to wait for.
-      printf "%s\n" "" "[Software\\\\Wine\\\\X11 Driver]" "\"Managed\"=\"N\"" >>"$root$home/prefix/user.reg"
-    fi
+    unset DISPLAY
+    [[ -z ${BRENNET_SCREEN-} ]] ||
+      start_screen "$root$home/prefix" "$root/tmp" chroot "$root" Xvfb
     status=0
     chroot "$root" env -u LANG -u LANGUAGE -u TMPDIR -u TMP -u TEMP --chdir="$PWD" \
-      "${screen[@]}" HOME="$home" WINEPREFIX="$home/prefix" LC_ALL="$locale" PATH=/usr/bin:/bin \
+      HOME="$home" WINEPREFIX="$home/prefix" LC_ALL="$locale" PATH=/usr/bin:/bin \
       wine "$@" || status=$?
     exit $status' run_in_root "$wine_dir" "$wine_home" "$wine_locale" "$@"
 }
@@ -76,11 +83,8 @@ run_with_installed_wine() {
   trap "wineserver --kill 2>/dev/null || true; wineserver --wait || true; rm -rf '$folder'" EXIT
   cp -a "$wine_dir/prefix" "$WINEPREFIX"
   unset DISPLAY
-  if [[ -n ${BRENNET_SCREEN-} ]]; then
-    # The screen ends with the last program that it showed.
-    stoppable env LC_ALL="$wine_locale" xvfb-run --auto-servernum \
-      --server-args="-screen 0 1280x1024x24 -nolisten tcp" wine "$@"
-  fi
+  [[ -z ${BRENNET_SCREEN-} ]] ||
+    start_screen "$WINEPREFIX" "$folder" setpriv --pdeathsig KILL Xvfb  # it ends with this script
   stoppable env LC_ALL="$wine_locale" wine "$@"
 }
 

@@ -3,7 +3,7 @@
 #
 # Where a Wine that runs 32-bit programs is installed, it is used. Elsewhere a root file system of
 # its own is made, because 32-bit packages seldom install beside the machine's own; that takes root,
-# a minute and 1 GB. Both end with a template of a Wine prefix, of which each program gets a fresh
+# a minute and 1.7 GB. Both end with a template of a Wine prefix, of which each program gets a fresh
 # copy (run.sh). The locale is Chinese: the ANSI code page is then 936, as on the players' machines.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
@@ -16,7 +16,7 @@ make_root() {
   [[ -n $sources ]] || die "apt knows no package source; add the distribution's to /etc/apt."
   # run.sh mounts what a program writes at "layers".
   mkdir -p "$work_dir/whole/layers"
-  logged "$work_dir/root.log" "A root file system with 32-bit Wine" \
+  hint='Is there a network?' logged "$work_dir/root.log" "A root file system with 32-bit Wine" \
     mmdebstrap --arch=i386 --variant=apt --include="$wine_packages" \
     --customize-hook="chroot \"\$1\" localedef -i zh_CN -f UTF-8 $wine_locale" \
     --customize-hook='rm -rf "$1"/var/cache/apt/* "$1"/var/lib/apt/lists/* "$1"/usr/share/doc' \
@@ -32,9 +32,14 @@ make_root() {
     make_prefix "$work_dir/whole/root" "$wine_home" "$wine_locale"
 }
 
-# Succeeds when the machine's own Wine makes a 32-bit prefix and the machine has the locale.
+# Succeeds when the machine's own Wine makes a 32-bit prefix, and the machine has the locale, its
+# letters and a screen for windows that nobody sees.
 make_prefix_with_installed_wine() {
-  command -v wineboot >/dev/null && command -v wineserver >/dev/null || return 1
+  local program
+  for program in wine wineboot wineserver Xvfb fc-list; do
+    command -v "$program" >/dev/null || return 1
+  done
+  fc-list :lang=zh-cn | grep -q . || return 1
   locale -a | grep -qix "${wine_locale/UTF-8/utf-\\?8}" || return 1
   mkdir -p "$work_dir/whole" "$work_dir/home"
   (
@@ -47,18 +52,21 @@ make_prefix_with_installed_wine() {
   return 1
 }
 
+# Whether Wine is set up; ends the script when it cannot be used.
+is_ready() {
+  [[ ! -d $wine_dir/root ]] || need_root "Running programs in the root file system of Wine"
+  is_finished "$wine_dir" || return 1
+  [[ -d $wine_dir/root ]] || command -v wine >/dev/null ||
+    die "$wine_dir is for a Wine that is not installed any more; remove that folder and run again."
+}
+
 main() {
+  if is_ready; then return; fi
   open_toolchain_dir
-  if [[ -d $wine_dir ]]; then
-    local prefix=$wine_dir/prefix
-    [[ ! -d $wine_dir/root ]] || prefix=$wine_dir/root$wine_home/prefix
-    [[ -s $prefix/system.reg ]] ||
-      die "$wine_dir is damaged (system.reg is missing); remove that folder and run again."
-    return
-  fi
+  # Another run may have finished it while this one waited.
+  if is_ready; then return; fi
   need_free_space 2500
   make_work_dir
-  trap 'rm -rf --one-file-system "$work_dir"' EXIT
   if make_prefix_with_installed_wine; then
     say "Wine: the installed one is used"
   else
@@ -66,7 +74,7 @@ main() {
     "$here/../setup.sh" wine
     make_root
   fi
-  mv "$work_dir/whole" "$wine_dir"
+  put_in_place "$work_dir/whole" "$wine_dir"
   say "Wine is ready"
 }
 
