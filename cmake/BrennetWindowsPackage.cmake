@@ -33,16 +33,24 @@ endforeach()
 install(DIRECTORY samples/host DESTINATION samples
   FILES_MATCHING PATTERN "*.h" PATTERN "*.cpp")
 install(FILES sdk/sample/CMakeLists.txt DESTINATION samples/host)
-install(FILES samples/data/KeyInfo.xml samples/data/War3Preferences.txt DESTINATION samples/data)
+install(FILES samples/data/KeyInfo.xml samples/data/Tollamere.reg samples/data/War3Preferences.txt
+  DESTINATION samples/data)
 install(FILES sdk/README.md sdk/CONTRACT.md DESTINATION .)
+install(FILES docs/embedding.md DESTINATION docs)
 
 # The texts come from where the parts come from: the folder of Qt and the compiler's packages.
 install(FILES sdk/NOTICE.md DESTINATION licences)
-install(FILES "${BRENNET_QT_DIR}/LICENSE.LGPLv3" DESTINATION licences RENAME LGPL-3.txt)
-install(FILES /usr/share/common-licenses/GPL-3 DESTINATION licences RENAME GPL-3.txt)
-install(FILES /usr/share/doc/libqt5core5a/copyright DESTINATION licences RENAME qt-parts.txt)
-install(FILES /usr/share/doc/gcc-mingw-w64-base/copyright DESTINATION licences
+install(FILES "${BRENNET_QT_DIR}/licences/LICENSE.LGPLv3" DESTINATION licences RENAME LGPL-3.txt)
+install(FILES "${BRENNET_QT_DIR}/licences/LICENSE.GPL3" DESTINATION licences RENAME GPL-3.txt)
+install(FILES "${BRENNET_QT_DIR}/licences/attributions.txt" DESTINATION licences
+  RENAME qt-parts.txt)
+install(FILES /usr/share/doc/gcc-mingw-w64-i686-posix-runtime/copyright DESTINATION licences
   RENAME gcc-runtime.txt)
 install(FILES /usr/share/doc/mingw-w64-i686-dev/copyright DESTINATION licences
   RENAME mingw-w64.txt)
-install(FILES tools/windows/qt.sh tools/windows/lib.sh DESTINATION licences/qt-build)
+# What those two refer to by its place on a Debian system.
+foreach(text Artistic GFDL-1.2 GPL-2 LGPL-2 LGPL-2.1)
+  install(FILES /usr/share/common-licenses/${text} DESTINATION licences RENAME ${text}.txt)
+endforeach()
+install(PROGRAMS tools/windows/qt.sh tools/windows/qt_licences.sh DESTINATION licences/qt-build)
+install(FILES tools/windows/lib.sh DESTINATION licences/qt-build)

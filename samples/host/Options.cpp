@@ -23,8 +23,8 @@ QCommandLineOption flag(const char* name, const char* description) {
 void declareOptions(QCommandLineParser& parser) {
   parser.setApplicationDescription(
       QStringLiteral("Loads the Brennet library as a game-platform client does."));
-  parser.addHelpOption();
   parser.addOptions({
+      {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this list.")},
       valued("library", "FILE", "The library to load; default: the one beside this program."),
       valued("settings", "FILE", "The player's settings file."),
       valued("data", "DIR", "The folder that holds Tollamere.reg."),
@@ -55,12 +55,16 @@ std::optional<Options> parseOptions(const QStringList& arguments) {
   QCommandLineParser parser;
   declareOptions(parser);
   if (!parser.parse(arguments)) return refuse(parser.errorText());
-  if (parser.isSet(QStringLiteral("help"))) parser.showHelp(0);
+  Options options;
+  if (parser.isSet(QStringLiteral("help"))) {
+    // The parser's own way of showing it is a message box where Windows has no console.
+    options.help = parser.helpText();
+    return options;
+  }
   if (!parser.positionalArguments().isEmpty()) {
     return refuse(QStringLiteral("unexpected argument: ") + parser.positionalArguments().first());
   }
 
-  Options options;
   options.library = parser.value(QStringLiteral("library"));
   options.settings = parser.value(QStringLiteral("settings"));
   options.data = parser.value(QStringLiteral("data"));

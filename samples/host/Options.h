@@ -6,6 +6,7 @@
 
 // What the command line asks for.
 struct Options {
+  QString help;     // empty: it was not asked for, else nothing but this text was
   QString library;  // empty: beside the program
   QString settings;
   QString data;
@@ -21,5 +22,4 @@ struct Options {
 };
 
 // The options, or nothing after a message on standard error when they make no sense.
-// --help and --version print to standard output and end the program.
 std::optional<Options> parseOptions(const QStringList& arguments);

@@ -15,6 +15,7 @@
 #include "Dialog.h"
 #include "Library.h"
 #include "Options.h"
+#include "PlatformPlugin.h"
 #include "Report.h"
 
 namespace {
@@ -89,20 +90,28 @@ bool isWindows() {
   return QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
 }
 
+bool hasArgument(int argc, char** argv, const char* option) {
+  const std::size_t length = std::strlen(option);
+  return std::any_of(argv + 1, argv + argc, [&](const char* argument) {
+    return std::strncmp(argument, option, length) == 0;
+  });
+}
+
 // Windows take another kind of application than the rest does, and pictures no screen; but on
-// Windows only windows of its own have its letters.
+// Windows only windows of its own have its letters. Null when windows cannot be opened, after a
+// message.
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
-  const auto has = [&](const char* option) {
-    const std::size_t length = std::strlen(option);
-    return std::any_of(argv + 1, argv + argc, [&](const char* argument) {
-      return std::strncmp(argument, option, length) == 0;
-    });
-  };
-  if (has("--pictures") && !isWindows() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-  }
-  if (!has("--pictures") && !has("--dialog")) {
+  const bool takesPictures = hasArgument(argc, argv, "--pictures");
+  if (!takesPictures && !hasArgument(argc, argv, "--dialog")) {
     return std::make_unique<QCoreApplication>(argc, argv);
+  }
+  const QString missing = missingPlatformPlugin(argc, argv);
+  if (!missing.isEmpty()) {
+    badUsage(QStringLiteral("Missing beside this program: ") + missing);
+    return nullptr;
+  }
+  if (takesPictures && !isWindows() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
   }
   QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
   QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -151,7 +160,13 @@ int run(const Options& options) {
 
 int main(int argc, char** argv) {
   const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
+  if (application == nullptr) return kBadUsage;
   const Catalogue catalogue;
   const std::optional<Options> options = parseOptions(QCoreApplication::arguments());
-  return options ? run(*options) : kBadUsage;
+  if (!options) return kBadUsage;
+  if (!options->help.isEmpty()) {
+    std::fputs(qPrintable(options->help), stdout);
+    return kDone;
+  }
+  return run(*options);
 }

@@ -41,6 +41,14 @@ run() {
 says() { grep -qF -- "$1" "$folder/out" || fail "the output does not say: $1"; }
 complains() { grep -qF -- "$1" "$folder/err" || fail "no message says: $1"; }
 
+# Help comes on standard output, also where there is no console.
+for option in --help -h; do
+  run 0 "$option"
+  says '--settings <FILE>'
+  says 'Print this list.'
+  [[ ! -s $folder/err ]] || fail "help complains: $(cat "$folder/err")"
+done
+
 # Bad usage.
 run 2
 complains '--settings FILE is needed'

@@ -8,6 +8,7 @@ here=$(cd "$(dirname "$0")" && pwd)
 source "$here/lib.sh"
 
 work=$1 package=$2 checkout=$3 version=$4 emulator=$5
+major=${version%%.*}
 found=(-DBrennet_DIR="$package/lib/cmake/Brennet")
 windows=(--toolchain "$checkout/cmake/mingw-i686.cmake")
 
@@ -37,10 +38,18 @@ cp "$package"/bin/*.dll contract/
 run 0 "$emulator" contract/host.exe
 says 'loaded: yes, save time: 1404738022, feature: on' out
 
-# The 32-bit library for a 64-bit program, an older and a newer version, another system.
+# The same major version that is not newer is good enough.
+quietly cmake -G Ninja -S "$here/consumer" -B older "${windows[@]}" "${found[@]}" \
+  -DBRENNET_WANTED="$major.0"
+
+# The 32-bit library for a 64-bit program, newer versions, a component, another system.
 expect_refused "version: $version (32bit)" refused-64 "${found[@]}"
-expect_refused 'compatible with requested version "999.0"' refused-major "${windows[@]}" \
-  "${found[@]}" -DBRENNET_WANTED=999.0
+for wanted in "$major.999" "$((major + 1)).0"; do
+  expect_refused "compatible with requested version \"$wanted\"" "refused-$wanted" \
+    "${windows[@]}" "${found[@]}" -DBRENNET_WANTED="$wanted"
+done
+expect_refused 'Brennet has no component Extra.' refused-component "${windows[@]}" "${found[@]}" \
+  -DBRENNET_WANTED='COMPONENTS;Extra'
 mkdir system
 printf '%s\n' 'cmake_minimum_required(VERSION 3.22)' 'project(System LANGUAGES NONE)' \
   'find_package(Brennet REQUIRED)' >system/CMakeLists.txt

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Takes DLLs away from the package, and has each missing one named:
+# Takes each DLL and the platform plugin away from the package, and has the missing one named:
 # missing.sh WORK PACKAGE SAMPLE_DATA EMULATOR
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
@@ -13,10 +13,10 @@ empty_folder "$work"
 cd "$work"
 cp "$data/KeyInfo.xml" .
 
-# A fresh copy of the package's programs in host/.
+# A fresh copy of the package's programs in host/, with the folders below.
 copy_host() {
   empty_folder host
-  cp "$package"/bin/*.* host/
+  cp -R "$package"/bin/. host/
 }
 
 # compile NAME TEXT DLL...: makes a DLL of that C++ text which needs the other ones.
@@ -26,8 +26,11 @@ compile() {
   quietly i686-w64-mingw32-g++-posix -shared -x c++ - -x none "$@" -o "made/$name" <<<"$text"
 }
 
-# What the host itself needs is named by the loader: by Windows in a box, by Wine in a line.
-for name in Qt5Core.dll libstdc++-6.dll libgcc_s_dw2-1.dll; do
+# What the host itself needs is named by the loader: by Windows in a box, by Wine in a line. That is
+# every DLL but the library.
+for file in "$package"/bin/*.dll; do
+  name=${file##*/}
+  [[ $name != Brennet.dll ]] || continue
   copy_host
   rm "host/$name"
   run 53 "$emulator" "${host[@]}"
@@ -45,6 +48,24 @@ says 'there is no library' err
 says 'host\Brennet.dll' err
 run 2 "$emulator" "${host[@]}" --library nowhere/Other.dll
 says 'there is no library nowhere\Other.dll' err
+
+# The plugin without which no window opens, and nothing else needs.
+copy_host
+rm host/platforms/qwindows.dll
+mkdir pictures
+for way in --dialog '--pictures pictures'; do
+  # shellcheck disable=SC2086  # an option and its value
+  BRENNET_SCREEN=1 run 2 timeout 60 "$emulator" "${host[@]}" $way
+  says 'Missing beside this program: platforms\qwindows.dll' err
+done
+run 0 "$emulator" "${host[@]}"
+
+# It may lie where a qt.conf says.
+mkdir -p elsewhere/platforms
+cp "$package/bin/platforms/qwindows.dll" elsewhere/platforms/
+printf '[Paths]\nPlugins = ../elsewhere\n' >host/qt.conf
+run 0 "$emulator" "${host[@]}" --pictures pictures
+says 'settings.png' err
 
 # What the library needs, and what that needs: three DLLs stand in for it.
 mkdir made

@@ -37,7 +37,11 @@ says 'loaded: 1, save time: 1404738022, filled: 1' out
 cd ..
 grep -q 'customkeys=2' "$game/War3Preferences.txt" || fail 'the preference file does not follow'
 
+quietly cmake -G Ninja -S "$here/consumer" -B older -DCMAKE_PREFIX_PATH="$package" \
+  -DBRENNET_WANTED="$major.0"
 expect_refused "compatible with requested version \"$((major + 1)).0\"" refused-major \
   -DCMAKE_PREFIX_PATH="$package" -DBRENNET_WANTED="$((major + 1)).0"
 expect_refused "compatible with requested version \"$major.999\"" refused-newer \
   -DCMAKE_PREFIX_PATH="$package" -DBRENNET_WANTED="$major.999"
+expect_refused 'Brennet has no component Extra.' refused-component \
+  -DCMAKE_PREFIX_PATH="$package" -DBRENNET_WANTED='COMPONENTS;Extra'

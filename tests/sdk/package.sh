@@ -22,9 +22,9 @@ zipinfo -v "first/$name.zip" >entries
 [[ $(ls first second | tr '\n' ' ') == "first: $name.zip  second: $name.zip " ]] ||
   fail "more than the zip was left: $(ls -R first second)"
 
-quietly unzip -q "first/$name.zip" -d unpacked
-[[ $(ls unpacked) == "$name" ]] || fail "the top folder is $(ls unpacked)"
-package=unpacked/$name
+quietly unzip -q "first/$name.zip" -d 'un packed'
+[[ $(ls 'un packed') == "$name" ]] || fail "the top folder is $(ls 'un packed')"
+package="un packed/$name"
 expect_files "$package" <"$here/windows.list"
 expect_relocatable "$package"
 
@@ -33,6 +33,51 @@ leaks=$(find "$package" -type f -exec \
   grep -alF -e "$checkout" -e "$build" -e "$qt_dir" -e "$HOME/." {} + || true)
 leaks+=$(grep -alE '/usr/(lib|include|src|i686)' "$package"/{bin,lib}/*.* || true)
 [[ -z $leaks ]] || fail "folders of this machine are named in $leaks"
+
+# Expects a text in a file of licences/, which is too long to be shown.
+names() { # TEXT FILE
+  grep -qF -- "$1" "$package/licences/$2" || fail "\"$1\" is not in $2"
+}
+
+# Each file under bin/ is named with its terms, and each text that is named is there.
+while read -r file; do
+  names "\`$file\`" NOTICE.md
+done < <(cd "$package" && find bin -type f)
+grep -oE '`[A-Za-z0-9.-]+\.txt`' "$package/licences/NOTICE.md" | tr -d '`' | sort -u >texts
+[[ $(wc -l <texts) -ge 9 ]] || fail "few texts are named: $(cat texts)"
+while read -r file; do
+  [[ -s $package/licences/$file ]] || fail "NOTICE.md names $file, which is not there"
+done <texts
+
+# So are all texts that others refer to by their place on a Debian system; there, names without a
+# version are those of the last one.
+grep -ohE 'common-licenses/[A-Z][A-Za-z0-9.-]*[A-Za-z0-9]' "$package"/licences/*.txt | sort -u |
+  sed -E 's|.*/||; s/^(L?GPL)$/\1-3/' >texts
+[[ $(wc -l <texts) -ge 3 ]] || fail "few texts are referred to: $(cat texts)"
+while read -r file; do
+  [[ -s $package/licences/$file.txt ]] || fail "a text refers to $file, which is not there"
+done <texts
+
+# What is shipped of the runtime is named by the texts for it, and each part of others in Qt is in
+# the list of them.
+names 'GCC RUNTIME LIBRARY EXCEPTION' gcc-runtime.txt
+names ' - libgcc (' gcc-runtime.txt
+names ' - libstdc++-v3' gcc-runtime.txt
+names 'Files: mingw-w64-libraries/winpthreads/*' mingw-w64.txt
+"$package/licences/qt-build/qt_licences.sh" --parts >parts
+[[ $(wc -l <parts) -ge 30 ]] || fail "few parts of Qt are named: $(cat parts)"
+while read -r part; do
+  names " [$part]" qt-parts.txt
+done <parts
+[[ $(grep -cE '^[^ ].* \[[A-Za-z0-9_-]+\]$' "$package/licences/qt-parts.txt") == $(wc -l <parts) ]] ||
+  fail 'the list has a part that is not built'
+
+# Links in the documents lead to files of the package.
+while IFS=: read -r document link; do
+  target=$(dirname "$document")/${link%%#*}
+  [[ -e $target ]] || fail "$document links to $link, which is not there"
+done < <(find "$package" -name '*.md' -exec grep -oHE '\]\([^)h][^)]*\)' {} + |
+  sed -E 's/:\]\(/:/; s/\)$//')
 
 # The import library for Microsoft's linker asks for the name that the DLL exports.
 llvm-readobj --coff-exports "$package/bin/Brennet.dll" >exports
