@@ -90,7 +90,8 @@ class IBrennet {
   ~IBrennet() = default;
 };
 
-// The type of the exported function, for GetProcAddress and dlsym:
+// The type of the exported function, which returns the same object each time, never null, and
+// throws nothing. For GetProcAddress and dlsym:
 //   auto get = reinterpret_cast<brennet::GetBrennetPtrFunction>(GetProcAddress(dll,
 //   "GetBrennetPtr"));
 using GetBrennetPtrFunction = IBrennet* (*)();

@@ -19,15 +19,17 @@ TEST(Gb18030, IsThereWhereTheSystemHasIt) {
   EXPECT_EQ(codePageShape(kGb18030), known ? CodePageShape::Other : CodePageShape::Unsupported);
 
   std::string bytes;
-  EXPECT_EQ(encode(kGb18030, u"\u8C22", bytes), false);
+  EXPECT_EQ(encode(kGb18030, u"\u8C22", bytes), !known);
   EXPECT_EQ(bytes, known ? "\xD0\xBB" : "");
 }
 
-// kernel32 cannot tell of losses there, and fails when it is asked to.
+// kernel32 cannot tell of losses there, and fails when it is asked to. There are none: UTF-7 has
+// every unit.
 TEST(Utf7, IsWritten) {
   std::string bytes;
   EXPECT_FALSE(encode(65000, u"a\u8C22", bytes));
   EXPECT_EQ(bytes, "a+jCI-");
+  EXPECT_FALSE(encode(65000, std::u16string{0xD800, u'a'}, bytes));
 }
 
 }  // namespace

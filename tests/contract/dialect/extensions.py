@@ -10,26 +10,32 @@ import sys
 
 RULES = {
     "attribute": r"\b__attribute(__)?\b",
+    "gnu-attribute": r"\bgnu\s*::",
     "builtin": r"\b__builtin_",
     "typeof": r"\b(__)?typeof(__)?\b",
-    "statement-expression": r"\(\s*\{[^{}]*;",
+    "statement-expression": r"\(\s*\{(?:[^{}]*;|\s*(?:do|for|if|switch|while)\b)",
     "case-range": r"\bcase\b[^:;]*\.\.\.",
     "omitted-operand": r"\?\s*:(?!:)",
     "wide-integer": r"\b__u?int128",
     "assembler": r"\b(asm|__asm|__asm__)\b",
     "keyword": r"\b(__extension__|__restrict__|__inline__|__alignof__|__thread|__label__)\b",
     "function-name": r"\b__(PRETTY_FUNCTION|FUNCTION)__\b",
-    "directive": r"(?m)^[ \t]*#[ \t]*(include_next|warning|ident)\b",
+    "directive": r"(?m)^[ \t]*#[ \t]*(include_next|warning|ident|pragma[ \t]+GCC)\b",
 }
 
-# Texts and comments are no code. What stands for a text keeps the lines and the quotes.
+# Texts and comments are no code. What stands for a text keeps the lines and the quotes. Numbers come
+# first, because their digits may be parted by single quotes; so do texts that end with a word of
+# their own.
 LITERAL_OR_COMMENT = re.compile(
-    r"""("(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])*')|//[^\n]*|/\*.*?\*/""", re.DOTALL)
+    r"""(?P<number>\b\d(?:'?[\w.])*)|(?P<text>R"(?P<end>[^(\s]*)\(.*?\)(?P=end)"|"(?:\\.|[^"\\\n])*"
+    |'(?:\\.|[^'\\\n])*')|//[^\n]*|/\*.*?\*/""", re.DOTALL | re.VERBOSE)
 
 
 def code_of(path):
     def blank(match):
-        return '""' if match[1] else "\n" * match[0].count("\n")
+        if match["number"]:
+            return match[0]
+        return ('""' if match["text"] else "") + "\n" * match[0].count("\n")
     return LITERAL_OR_COMMENT.sub(blank, path.read_text(encoding="utf-8"))
 
 

@@ -19,6 +19,9 @@
   X(23, kEdiLost, "the call does not keep edi")                                     \
   X(24, kEbpLost, "the call does not keep ebp")                                     \
   X(25, kNoBool, "the byte of a bool is neither 0 nor 1")                           \
+  X(26, kX87ControlChanged, "the call changes the control word of the x87 unit")    \
+  X(27, kSseControlChanged, "the call changes the control bits of MXCSR")           \
+  X(28, kDirectionChanged, "the call leaves the direction flag set")                \
   X(30, kNoDefaults, "before any load a getter does not give the default")          \
   X(31, kNoDefaultBlock, "before any load the record does not hold the defaults")   \
   X(32, kDialogConfirmed, "the dialog is confirmed where the result has no place")  \

@@ -8,13 +8,21 @@ namespace {
 constexpr wchar_t kName[] = L"Brennet.dll";
 
 unsigned checkedCall(void* function, void* object, const unsigned* arguments, unsigned count) {
-  MemberCall call = {function, object, arguments, count, place.alignment, 0, 0, 0, 0, 0, 0, 0, 0};
+  MemberCall call = {};
+  call.function = function;
+  call.object = object;
+  call.arguments = arguments;
+  call.count = count;
+  call.alignment = place.alignment;
   makeMemberCall(&call);
   require(call.stackAfter == call.stackBefore, kStackMoved);
   require(call.ebx == kEbx, kEbxLost);
   require(call.esi == kEsi, kEsiLost);
   require(call.edi == kEdi, kEdiLost);
   require(call.ebp == kEbp, kEbpLost);
+  require(call.x87Control == kX87Control, kX87ControlChanged);
+  require((call.sseControl & kSseControlBits) == kSseControl, kSseControlChanged);
+  require((call.flags & kDirectionFlag) == 0, kDirectionChanged);
   return call.eax;
 }
 

@@ -1,9 +1,13 @@
 #include "MemberCall.h"
 
-static_assert(sizeof(MemberCall) == 52, "the assembler below counts in these offsets");
+static_assert(sizeof(MemberCall) == 72, "the assembler below counts in these offsets");
 
 // Not in a register or on the stack, because nothing there can be relied on after the call.
 extern "C" MemberCall* callUnderWay = nullptr;
+
+// The assembler takes them from memory.
+extern "C" constexpr unsigned short givenX87Control = kX87Control;
+extern "C" constexpr unsigned givenSseControl = kSseControl;
 
 // clang-format off
 extern "C" __declspec(naked) void __cdecl makeMemberCall(MemberCall*) {
@@ -30,6 +34,10 @@ extern "C" __declspec(naked) void __cdecl makeMemberCall(MemberCall*) {
     cld
     rep movsd
 
+    fnstcw word ptr [eax + 64]   // hostX87Control
+    stmxcsr dword ptr [eax + 68] // hostSseControl
+    fldcw givenX87Control
+    ldmxcsr givenSseControl
     mov ecx, [eax + 4]           // object
     mov ebx, 0xB0B1B2B3
     mov esi, 0x51525354
@@ -44,6 +52,13 @@ extern "C" __declspec(naked) void __cdecl makeMemberCall(MemberCall*) {
     mov [ecx + 36], esi
     mov [ecx + 40], edi
     mov [ecx + 44], ebp
+    pushfd
+    pop dword ptr [ecx + 52]     // flags
+    cld
+    fnstcw word ptr [ecx + 56]   // x87Control
+    stmxcsr dword ptr [ecx + 60] // sseControl
+    fldcw word ptr [ecx + 64]
+    ldmxcsr dword ptr [ecx + 68]
 
     mov esp, [ecx + 48]
     pop edi

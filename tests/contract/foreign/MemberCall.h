@@ -17,6 +17,11 @@ struct MemberCall {
   unsigned edi;
   unsigned ebp;
   unsigned hostStack;
+  unsigned flags;
+  unsigned x87Control;
+  unsigned sseControl;  // with the exceptions that were met, in the lowest six bits
+  unsigned hostX87Control;
+  unsigned hostSseControl;
 };
 
 // What the saved registers hold when the call is made.
@@ -25,6 +30,16 @@ constexpr unsigned kEsi = 0x51525354;
 constexpr unsigned kEdi = 0xD0D1D2D3;
 constexpr unsigned kEbp = 0xE0E1E2E3;
 
+// What the units for floating-point numbers are told when the call is made: doubles, as MSVC has
+// it, and tiny results as zeros. Whoever puts back what GNU has is seen.
+constexpr unsigned kX87Control = 0x027F;
+constexpr unsigned kSseControl = 0x9F80;
+constexpr unsigned kSseControlBits = 0xFFC0;
+
+// Strings are copied upwards where it is not set.
+constexpr unsigned kDirectionFlag = 0x400;
+
 // Makes the call and notes the result, the stack pointer before the arguments and after the call,
-// and the saved registers after the call. Our own are put back whatever the function did to them.
+// and the saved registers, the flags and the two control words after the call. Our own are put back
+// whatever the function did to them.
 extern "C" void __cdecl makeMemberCall(MemberCall* call);

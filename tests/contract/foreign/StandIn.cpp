@@ -15,6 +15,9 @@
 #define DEFAULT 8
 #define OBJECT 9
 #define UNLOADING 10
+#define X87_CONTROL 11
+#define SSE_CONTROL 12
+#define DIRECTION 13
 
 // clang-format off
 extern "C" {
@@ -46,6 +49,16 @@ __declspec(naked) void broken() { __asm {
   xor ebp, ebp
 #elif STAND_IN_BREAKS == ALIGNMENT
   movaps xmm0, [esp + 4]
+#elif STAND_IN_BREAKS == X87_CONTROL
+  push 0x037F
+  fldcw word ptr [esp]
+  pop eax
+#elif STAND_IN_BREAKS == SSE_CONTROL
+  push 0x1F80
+  ldmxcsr dword ptr [esp]
+  pop eax
+#elif STAND_IN_BREAKS == DIRECTION
+  std
 #elif STAND_IN_BREAKS == BOOL_BYTE
   mov eax, 2
   ret

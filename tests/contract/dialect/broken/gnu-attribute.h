@@ -1,0 +1,4 @@
+struct [[gnu::packed]] Record {
+  char first;
+  int second;
+};
