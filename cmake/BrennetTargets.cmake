@@ -67,8 +67,6 @@ function(brennet_add_test name)
   add_executable(${name}_tests ${test_SOURCES})
   brennet_target_defaults(${name}_tests)
   target_link_libraries(${name}_tests PRIVATE ${test_DEPENDS} GTest::gmock ${main})
-  target_compile_definitions(${name}_tests PRIVATE
-    BRENNET_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name}_tests --gtest_brief=1)
     set_tests_properties(${name} PROPERTIES TIMEOUT 600)

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the given needs take, as far as it is missing: tools/setup.sh build test ...
 #
-# Needs: build, test, bench, fuzz, lint, windows, wine. On Debian and its relatives packages are looked up with
+# Needs: build, test, bench, fuzz, lint, windows, wine, cache. On Debian and its relatives packages are looked up with
 # dpkg and installed with apt-get, as root or where sudo asks for no password; otherwise the line
 # to run is printed and the exit status is 1. On other systems only the commands are checked.
 set -euo pipefail
@@ -17,6 +17,7 @@ declare -A packages=(
   [windows]="cmake ninja-build pkg-config g++ make patch xz-utils g++-mingw-w64-i686-posix googletest
              clang lld llvm zip unzip python3 qttools5-dev-tools"
   [wine]="mmdebstrap arch-test"
+  [cache]="ccache"
 )
 # shellcheck disable=SC2034  # read through the name reference of words_of
 declare -A commands=(
@@ -28,10 +29,11 @@ declare -A commands=(
   [windows]="cmake ninja make patch xz i686-w64-mingw32-g++-posix clang++ lld-link zip unzip python3
              lrelease"
   [wine]="mmdebstrap"
+  [cache]="ccache"
 )
 
 usage() {
-  echo "usage: tools/setup.sh {build|test|bench|fuzz|lint|windows|wine}..." >&2
+  echo "usage: tools/setup.sh {build|test|bench|fuzz|lint|windows|wine|cache}..." >&2
   exit 2
 }
 

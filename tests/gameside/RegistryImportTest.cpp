@@ -6,6 +6,7 @@
 
 #include "gameside/Dota7Settings.h"
 #include "tests/gameside/Dota7Test.h"
+#include "tests/support/TestData.h"
 
 namespace brennet {
 namespace {
@@ -18,7 +19,7 @@ using test::ScopedRegistry;
 using test::TempFolder;
 using test::writeBytes;
 
-constexpr char kSample[] = BRENNET_TEST_DATA "/../../samples/data/Tollamere.reg";
+const std::string kSample = test::sampleData("Tollamere.reg");
 
 std::u16string withSeparator(const std::filesystem::path& folder) {
   return (folder / "").u16string();

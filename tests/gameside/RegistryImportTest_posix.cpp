@@ -2,6 +2,7 @@
 
 #include "gameside/RegistryImport.h"
 #include "tests/gameside/Dota7Test.h"
+#include "tests/support/TestData.h"
 
 namespace brennet {
 namespace {
@@ -14,7 +15,7 @@ using test::TempFolder;
 using test::utf8;
 using test::writeBytes;
 
-constexpr char kSample[] = BRENNET_TEST_DATA "/../../samples/data/Tollamere.reg";
+const std::string kSample = test::sampleData("Tollamere.reg");
 
 TEST(RegistryImportFromAFile, GivesTheRegistryTheSample) {
   for (const std::string& name : {"plain"s, "two words"s, utf8(u8"\u9B54\u517D \u6539\u952E")}) {

@@ -6,6 +6,7 @@
 
 #include "gameside/RegistryImport.h"
 #include "tests/gameside/Dota7Test.h"
+#include "tests/support/TestData.h"
 
 namespace brennet {
 namespace {
@@ -18,7 +19,7 @@ using test::TempFolder;
 using test::utf8;
 using test::writeBytes;
 
-constexpr char kSample[] = BRENNET_TEST_DATA "/../../samples/data/Tollamere.reg";
+const std::string kSample = test::sampleData("Tollamere.reg");
 
 // This process and all that it starts from now on, counted by the system.
 class StartedProcesses {

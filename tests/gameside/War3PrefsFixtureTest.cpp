@@ -10,6 +10,7 @@
 #include "gameside/War3PrefsFile.h"
 #include "platform/Files.h"
 #include "tests/support/Golden.h"
+#include "tests/support/TestData.h"
 
 namespace brennet {
 namespace {
@@ -39,7 +40,7 @@ constexpr War3HotkeySection kScheme[] = {
 };
 
 platform::Path fixture(const std::string& name) {
-  return platform::pathFromNarrow(BRENNET_TEST_DATA "/gameside/" + name);
+  return platform::pathFromNarrow(test::testData("gameside/" + name));
 }
 
 std::string withScheme(const std::string& fileBytes) {

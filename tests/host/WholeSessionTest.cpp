@@ -14,6 +14,7 @@
 #include "tests/host/DialogFixture.h"
 #include "tests/support/Golden.h"
 #include "tests/support/ScopedRegistry.h"
+#include "tests/support/TestData.h"
 #include "tests/ui/UiTest.h"
 #include "tests/ui/pages/PageChecks.h"
 
@@ -21,7 +22,7 @@ namespace brennet::test {
 namespace {
 
 std::string sample(const char* name) {
-  return readBytes(std::filesystem::path(BRENNET_TEST_DATA "/../../samples/data") / name);
+  return readBytes(sampleData(name));
 }
 
 platform::RegistryValue bytes(std::string data) {

@@ -4,10 +4,12 @@
 
 #include <fstream>
 
+#include "tests/support/TestData.h"
+
 namespace brennet::test {
 
 std::vector<TableRow> readTableRows(const std::string& file, char separator) {
-  std::ifstream stream(std::string(BRENNET_TEST_DATA "/markup/") + file);
+  std::ifstream stream(testData("markup/" + file));
   EXPECT_TRUE(stream) << file;
   std::vector<TableRow> rows;
   for (std::string line; std::getline(stream, line);) {

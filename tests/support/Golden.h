@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/Files.h"
+#include "tests/support/TestData.h"
 
 namespace brennet::test {
 
@@ -13,7 +14,7 @@ namespace brennet::test {
 // BRENNET_UPDATE_GOLDEN set in the environment the file is written anew instead; look at the
 // difference before you commit it.
 inline void expectGolden(const std::string& name, const std::string& actual) {
-  const platform::Path file = platform::pathFromNarrow(BRENNET_TEST_DATA "/" + name);
+  const platform::Path file = platform::pathFromNarrow(testData(name));
   if (std::getenv("BRENNET_UPDATE_GOLDEN") != nullptr) {
     ASSERT_FALSE(platform::replaceFile(file, actual));
     return;
