@@ -9,6 +9,7 @@
 
 #include "gameside/RegistryImport.h"
 #include "tests/gameside/Dota7Test.h"
+#include "tests/support/StandBefore_win.h"
 
 namespace {
 
@@ -28,10 +29,7 @@ HINSTANCE WINAPI execute(HWND owner, LPCWSTR verb, LPCWSTR program, LPCWSTR para
 
 }  // namespace
 
-// Calls of the system go through this pointer. The linker takes it from here before it looks into
-// the import library.
-extern decltype(&ShellExecuteW) const standBeforeShellExecuteW __asm__("__imp__ShellExecuteW@24");
-decltype(&ShellExecuteW) const standBeforeShellExecuteW __attribute__((used)) = &execute;
+STAND_BEFORE(ShellExecuteW, "ShellExecuteW@24", execute);
 
 namespace brennet {
 namespace {

@@ -5,6 +5,8 @@
 #include <memory>
 #include <vector>
 
+#include "tests/support/OpenHandles.h"
+
 #ifdef __SANITIZE_ADDRESS__
 // Of the sanitizer's runtime; not every compiler brings its header.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
@@ -30,10 +32,10 @@ InUse inUse() {
   fillFreeLists();
 #ifdef __SANITIZE_ADDRESS__
   // The sanitizer has an allocator of its own, of which the library knows nothing.
-  return {.memory = __sanitizer_get_current_allocated_bytes()};
+  return {.memory = __sanitizer_get_current_allocated_bytes(), .handles = openHandles()};
 #else
   const struct mallinfo2 all = mallinfo2();
-  return {.memory = all.uordblks + all.hblkhd};
+  return {.memory = all.uordblks + all.hblkhd, .handles = openHandles()};
 #endif
 }
 

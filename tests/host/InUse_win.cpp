@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+#include "tests/support/OpenHandles.h"
+
 namespace brennet::test {
 namespace {
 
@@ -26,18 +28,6 @@ std::size_t bytesOfAllHeaps() {
   std::size_t bytes = 0;
   for (DWORD i = 0; i < count && i < kMostHeaps; ++i) bytes += bytesOf(heaps[i]);
   return bytes;
-}
-
-// Values of handles are multiples of 4, and one that is free is given again before a larger one.
-// Asked for the number of handles, not every Windows answers.
-unsigned long openHandles() {
-  constexpr std::uintptr_t kLastHandle = 16384;
-  unsigned long count = 0;
-  for (std::uintptr_t value = 4; value <= kLastHandle; value += 4) {
-    DWORD flags = 0;
-    if (GetHandleInformation(reinterpret_cast<HANDLE>(value), &flags) != 0) ++count;
-  }
-  return count;
 }
 
 // Pens, bitmaps, fonts and so on. Wine counts none, but knows each by the lower half of its handle.

@@ -10,6 +10,7 @@
 
 #include "platform/CodePages.h"
 #include "platform/Paths.h"
+#include "tests/support/StandBefore_win.h"
 
 namespace {
 
@@ -30,11 +31,7 @@ struct System {
 };
 System kernel;
 
-template <class Function>
-Function* systems(const char* name) {
-  return reinterpret_cast<Function*>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), name)));
-}
+using brennet::test::systems;
 
 // Copies what fits; the whole length where there is no room, as kernel32 has it.
 template <class Text, class Unit>
@@ -96,12 +93,6 @@ int WINAPI toBytes(UINT codePage, DWORD flags, LPCWCH units, int size, LPSTR out
 }
 
 }  // namespace
-
-// Calls of the system go through these pointers. The linker takes them from here before it looks
-// into the import library.
-#define STAND_BEFORE(function, symbol, ours)                                        \
-  extern decltype(&function) const standBefore##function __asm__("__imp__" symbol); \
-  decltype(&function) const standBefore##function __attribute__((used)) = &ours
 
 STAND_BEFORE(GetACP, "GetACP@0", getAcp);
 STAND_BEFORE(IsValidCodePage, "IsValidCodePage@4", isValid);

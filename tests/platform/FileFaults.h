@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstddef>
-
 namespace brennet::test {
 
 // Which of the system calls under platform/Files.h fail. Programs that link FileFaults_<system>.cpp
@@ -21,8 +19,5 @@ struct FileFaults {
 
 extern FileFaults faults;
 extern const int kDeviceError;
-
-// How many files and other things of the system this process has open.
-std::size_t openHandles();
 
 }  // namespace brennet::test

@@ -8,6 +8,7 @@
 #include "platform/Files.h"
 #include "tests/platform/FileFaults.h"
 #include "tests/platform/FileFaultsFixture.h"
+#include "tests/support/OpenHandles.h"
 
 namespace brennet::platform {
 namespace {

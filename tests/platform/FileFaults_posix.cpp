@@ -8,18 +8,11 @@
 
 #include <cerrno>
 #include <cstdarg>
-#include <filesystem>
-#include <iterator>
 
 namespace brennet::test {
 
 FileFaults faults;
 const int kDeviceError = EIO;
-
-std::size_t openHandles() {
-  const std::filesystem::directory_iterator files("/proc/self/fd");
-  return static_cast<std::size_t>(std::distance(begin(files), end(files)));
-}
 
 }  // namespace brennet::test
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <utility>
 
+#include "tests/support/StandBefore_win.h"
+
 namespace brennet::test {
 
 FileFaults faults;
@@ -16,17 +18,6 @@ DWORD reparseTag = 0;
 int replacedFiles = 0;
 DWORD moveFlags = ~0U;
 const int kDeviceError = ERROR_IO_DEVICE;
-
-// Wine does not count handles; their values are multiples of four.
-std::size_t openHandles() {
-  constexpr std::uintptr_t kMoreThanAnyTestOpens = 0x10000;
-  std::size_t count = 0;
-  for (std::uintptr_t value = 4; value < kMoreThanAnyTestOpens; value += 4) {
-    DWORD flags = 0;
-    count += GetHandleInformation(reinterpret_cast<HANDLE>(value), &flags) != FALSE ? 1U : 0U;
-  }
-  return count;
-}
 
 }  // namespace brennet::test
 
@@ -39,6 +30,7 @@ using brennet::test::moveFlags;
 using brennet::test::passingFaults;
 using brennet::test::reparseTag;
 using brennet::test::replacedFiles;
+using brennet::test::systems;
 
 BOOL failWith(DWORD error) {
   SetLastError(error);
@@ -55,13 +47,6 @@ bool failsInPassing(int& left) {
 
 void interrupt(std::function<void()>& action) {
   if (action) std::exchange(action, nullptr)();
-}
-
-// The system's own function behind one that a test stands before.
-template <class Function>
-Function* systems(const char* name) {
-  return reinterpret_cast<Function*>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), name)));
 }
 
 HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD sharing, SECURITY_ATTRIBUTES* security,
@@ -180,12 +165,6 @@ HANDLE WINAPI findFirst(LPCWSTR name, WIN32_FIND_DATAW* data) {
 }
 
 }  // namespace
-
-// Calls of the system go through these pointers. The linker takes them from here before it looks
-// into the import library.
-#define STAND_BEFORE(function, symbol, ours)                                        \
-  extern decltype(&function) const standBefore##function __asm__("__imp__" symbol); \
-  decltype(&function) const standBefore##function __attribute__((used)) = &ours
 
 STAND_BEFORE(CreateFileW, "CreateFileW@28", createFile);
 STAND_BEFORE(WriteFile, "WriteFile@20", writeFile);

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstddef>
+
+namespace brennet::test {
+
+// How many files and other things of the system this process has open.
+[[nodiscard]] std::size_t openHandles();
+
+}  // namespace brennet::test

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <windows.h>
+
+// A test that stands between the code and the system. Calls of the system go through pointers,
+// which the linker takes from the test before it looks into the import library:
+//   STAND_BEFORE(ReadFile, "ReadFile@20", ours);
+// The name in quotes is the function's with the bytes of its arguments. It stands outside of all
+// namespaces.
+#define STAND_BEFORE(function, symbol, ours)                                        \
+  extern decltype(&function) const standBefore##function __asm__("__imp__" symbol); \
+  decltype(&function) const standBefore##function __attribute__((used)) = &ours
+
+namespace brennet::test {
+
+// The function of kernel32 that a test stands before: systems<decltype(ReadFile)>("ReadFile").
+template <class Function>
+Function* systems(const char* name) {
+  return reinterpret_cast<Function*>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), name)));
+}
+
+}  // namespace brennet::test
