@@ -63,6 +63,11 @@ bool OpenFile::open(const std::wstring& name, unsigned long access, unsigned lon
   return isOpen();
 }
 
+bool OpenFile::removeOnClose() {
+  FILE_DISPOSITION_INFO info{TRUE};
+  return SetFileInformationByHandle(handle_, FileDispositionInfo, &info, sizeof(info)) != FALSE;
+}
+
 std::error_code OpenFile::closeNow() {
   if (!isOpen()) return {};
   const BOOL closed = CloseHandle(handle_);

@@ -61,6 +61,10 @@ class OpenFile {
   [[nodiscard]] bool isOpen() const { return handle_ != nullptr; }
   [[nodiscard]] FileHandle get() const { return handle_; }
 
+  // Has the file removed when it is closed, under whatever name; opened with DELETE access. Whether
+  // that works.
+  bool removeOnClose();
+
   // Closing may be where a failed write shows.
   std::error_code closeNow();
 

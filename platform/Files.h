@@ -25,8 +25,10 @@ namespace brennet::platform {
 //
 // On Windows a file that is replaced has another name for a moment, "NAME.brennet-old"; both
 // functions wait for it, put back what a process left there that ended half-way, and wait for
-// programs that hold the file, up to a fifth of a second at each step. Temporary files that such a
-// process left are removed when they are an hour old.
+// programs that hold the file, up to a fifth of a second at each step. Where the old content can
+// neither be replaced nor get its name back, it keeps that one until the next call.
+//
+// Temporary files that a process left are removed when they are an hour old.
 //
 // Returns the first error of any step, a failing flush or close included, or an empty one.
 // After an error the old content stands and no temporary file is left; only a file that was written

@@ -169,12 +169,13 @@ Replacement putInPlace(const std::string& temporary, OpenFile& file, const std::
   return {isThere ? Outcome::Replaced : Outcome::NotReplaceable, {}};
 }
 
-// The same, leaving no temporary file. Throws nothing once the new file is there.
+// The same, leaving no temporary file. Takes no memory, so that it ends what it has begun.
 Replacement replaceThrough(const std::string& temporary, OpenFile& file, const std::string& path,
-                           const Target& target, std::string_view bytes) {
+                           const std::string& folderName, const Target& target,
+                           std::string_view bytes) {
   // Flushed in the end, so that the new name is on the disk too. Not every file system can; the
   // file's content is safe either way.
-  const OpenFile folder(folderOf(path), O_RDONLY | O_DIRECTORY);
+  const OpenFile folder(folderName, O_RDONLY | O_DIRECTORY);
   const Replacement result = putInPlace(temporary, file, path, target, bytes);
   if (result.outcome != Outcome::Replaced) {
     unlink(temporary.c_str());
@@ -217,16 +218,17 @@ std::error_code readFile(const Path& path, std::string& bytes) {
 std::error_code replaceFile(const Path& name, std::string_view bytes) {
   if (name.empty()) return std::make_error_code(std::errc::no_such_file_or_directory);
   const std::string path = withoutLinks(name.native());
-  removeLeftovers(path);
   const Target target = inspect(path);
   if (target.error) return target.error;
+  removeLeftovers(path);
+  const std::string folder = folderOf(path);
 
   for (int number = 0; number < kTemporaryNames && !isLink(path); ++number) {
     const std::string temporary =
         temporaryName(path, static_cast<unsigned long>(getpid()), number).native();
     OpenFile file(temporary, O_WRONLY | O_CREAT | O_EXCL, kNewFileMode);
     if (file.isOpen()) {
-      const Replacement result = replaceThrough(temporary, file, path, target, bytes);
+      const Replacement result = replaceThrough(temporary, file, path, folder, target, bytes);
       if (result.outcome != Outcome::NotReplaceable) return result.error;
       break;
     }

@@ -31,18 +31,21 @@ struct Replacement {
   std::error_code error;
 };
 
-// Fills the open temporary file and gives it the place of `path`; leaves no temporary file.
-Replacement replaceThrough(const std::wstring& temporary, OpenFile& file, const std::wstring& path,
-                           bool isThere, std::string_view bytes) {
+// Fills the open temporary file and gives it the place of the other; leaves no temporary file.
+Replacement replaceThrough(const ReplacementNames& names, OpenFile& file, bool isThere,
+                           std::string_view bytes) {
   Replacement result{Outcome::Replaced, finish(file, bytes)};
   if (result.error) {
     result.outcome = Outcome::Failed;
-  } else if (takePlace(temporary, path, isThere) != 0) {
-    result.outcome = Outcome::NotReplaceable;
+  } else if (const SystemError error = takePlace(names, isThere); error != 0) {
+    // Where the old content has no other place than the backup, nothing is written in place, so
+    // that nobody takes that for the file and removes the backup.
+    const bool isAway = isMovedAway(names);
+    result = {isAway ? Outcome::Failed : Outcome::NotReplaceable, errorOf(error)};
   }
   if (result.outcome != Outcome::Replaced) {
     static_cast<void>(file.closeNow());
-    removeFile(temporary);
+    removeFile(names.temporary);
   }
   return result;
 }
@@ -111,7 +114,6 @@ std::error_code readOld(const std::wstring& path, std::string& old) {
 // For files that cannot be replaced. The old content is kept at hand and written back if the new
 // one cannot be written.
 std::error_code writeInPlace(const std::wstring& path, std::string_view bytes, bool isLink) {
-  // A replacement that failed half-way may have left nothing there but a backup beside it.
   bool isThere = exists(path);
   std::string old;
   if (isThere) {
@@ -121,15 +123,17 @@ std::error_code writeInPlace(const std::wstring& path, std::string_view bytes, b
     if (isThere && error) return error;
   }
   const DWORD creation = isThere ? OPEN_EXISTING : isLink ? OPEN_ALWAYS : CREATE_NEW;
-  OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, creation);
-  if (!file.isOpen()) return lastError();
+  const DWORD access = isThere ? GENERIC_WRITE : GENERIC_WRITE | DELETE;
+  OpenFile file;
+  const SystemError failure =
+      retried([&] { return file.open(path, access, FILE_SHARE_READ, creation); });
+  if (failure != 0) return errorOf(failure);
   const std::error_code error = overwrite(file.get(), bytes, old.size());
   if (!error) return file.closeNow();
   if (isThere) {
     static_cast<void>(overwrite(file.get(), old, bytes.size()));
   } else {
-    static_cast<void>(file.closeNow());
-    removeFile(path);
+    static_cast<void>(file.removeOnClose());
   }
   return error;
 }
@@ -139,7 +143,7 @@ std::error_code writeInPlace(const std::wstring& path, std::string_view bytes, b
 std::error_code readFile(const Path& path, std::string& bytes) {
   bytes.clear();
   constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  awaitReplacement(path.native());
+  if (const SystemError error = awaitReplacement(path.native()); error != 0) return errorOf(error);
   OpenFile file;
   const SystemError error = retried(
       [&] { return file.open(path.native(), GENERIC_READ, kSharing, OPEN_EXISTING); },
@@ -153,20 +157,23 @@ std::error_code readFile(const Path& path, std::string& bytes) {
 
 std::error_code replaceFile(const Path& name, std::string_view bytes) {
   const std::wstring& path = name.native();
-  removeLeftovers(name);
-  awaitReplacement(path);
+  if (const SystemError error = awaitReplacement(path); error != 0) return errorOf(error);
   const Target target = inspect(path);
   if (target.error != 0) return errorOf(target.error);
+  removeLeftovers(name);
 
+  ReplacementNames names{path, backupName(path), {}};
   for (int number = 0; number < kTemporaryNames && !target.isLink; ++number) {
-    const std::wstring temporary = temporaryName(name, GetCurrentProcessId(), number).native();
-    OpenFile file(temporary, GENERIC_WRITE, 0, CREATE_NEW);
+    names.temporary = temporaryName(name, GetCurrentProcessId(), number).native();
+    OpenFile file(names.temporary, GENERIC_WRITE, 0, CREATE_NEW);
     if (file.isOpen()) {
-      const Replacement result = replaceThrough(temporary, file, path, target.isThere, bytes);
+      const Replacement result = replaceThrough(names, file, target.isThere, bytes);
       if (result.outcome != Outcome::NotReplaceable) return result.error;
       break;
     }
-    if (GetLastError() != ERROR_FILE_EXISTS) break;
+    // Access is denied to a name, too, whose file somebody has open who removed it.
+    const SystemError error = lastCode();
+    if (error != ERROR_FILE_EXISTS && error != ERROR_ACCESS_DENIED) break;
   }
   return writeInPlace(path, bytes, target.isLink);
 }

@@ -4,6 +4,7 @@
 
 #include <ctime>
 #include <memory>
+#include <string_view>
 
 #include "platform/Leftovers.h"
 #include "platform/TemporaryNames.h"
@@ -30,10 +31,12 @@ bool isOldFile(const std::string& path) {
 void removeLeftovers(const Path& path) {
   const Path folder = path.has_parent_path() ? path.parent_path() : Path(".");
   const std::string file = path.filename().native();
+  if (file.empty()) return;
   const std::unique_ptr<DIR, Close> entries(opendir(folder.c_str()));
   if (entries == nullptr) return;
   while (const dirent* const entry = readdir(entries.get())) {
-    if (!isTemporaryName(entry->d_name, file)) continue;
+    const std::string_view name = entry->d_name;
+    if (!name.starts_with(file) || !isTemporaryEnding(name.substr(file.size()))) continue;
     const std::string leftover = (folder / entry->d_name).native();
     if (isOldFile(leftover)) unlink(leftover.c_str());
   }

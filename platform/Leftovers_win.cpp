@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "platform/Leftovers.h"
 #include "platform/TemporaryNames.h"
@@ -36,16 +37,25 @@ std::uint64_t ticks(const FILETIME& time) {
 bool isOldFile(const WIN32_FIND_DATAW& data) {
   FILETIME now{};
   GetSystemTimeAsFileTime(&now);
-  return (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 &&
-         ticks(now) >= ticks(data.ftLastWriteTime) + kOld;
+  constexpr DWORD kNoFile = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+  return (data.dwFileAttributes & kNoFile) == 0 && ticks(now) >= ticks(data.ftLastWriteTime) + kOld;
+}
+
+// Names have no case here.
+bool isTemporaryName(std::wstring_view name, std::wstring_view file) {
+  if (name.size() < file.size()) return false;
+  const int size = static_cast<int>(file.size());
+  return CompareStringOrdinal(name.data(), size, file.data(), size, TRUE) == CSTR_EQUAL &&
+         isTemporaryEnding(name.substr(file.size()));
 }
 
 }  // namespace
 
 void removeLeftovers(const Path& path) {
   const std::wstring file = path.filename().native();
+  if (file.empty()) return;
   WIN32_FIND_DATAW data{};
-  const Search search(path.native() + L".*-*.tmp", data);
+  const Search search(path.native() + L".brennet-*.tmp", data);
   if (!search.isOpen()) return;
   do {
     if (!isTemporaryName(data.cFileName, file) || !isOldFile(data)) continue;

@@ -5,22 +5,12 @@
 namespace brennet::platform {
 namespace {
 
-std::wstring backupName(const std::wstring& path) {
-  return path + L".brennet-old";
-}
-
-// Removes the backup, unless it is the last copy. While it is held open here nobody can give its
-// name to another file, so no replacement can begin after the look at `path`.
-void dropBackup(const std::wstring& path) {
-  const std::wstring backup = backupName(path);
-  if (!isFile(backup)) return;
-  OpenFile file;
-  if (retried([&] { return file.open(backup, DELETE, 0, OPEN_EXISTING); }) != 0) {
-    return;
-  }
-  if (!isFile(path)) return;
-  FILE_DISPOSITION_INFO info{TRUE};
-  SetFileInformationByHandle(file.get(), FileDispositionInfo, &info, sizeof(info));
+// Removes the backup, unless it is the last copy; whether it can be removed. While it is held open
+// here nobody can give its name to another file, so no replacement can begin after the look at
+// `path`.
+bool dropBackup(const std::wstring& path, const std::wstring& backup) {
+  OpenFile file(backup, DELETE, 0, OPEN_EXISTING);
+  return file.isOpen() && (!isFile(path) || file.removeOnClose());
 }
 
 // Besides the errors that pass for every call: these two leave both files with the names they had,
@@ -30,49 +20,69 @@ bool mayReplaceLater(SystemError error) {
          error == ERROR_UNABLE_TO_MOVE_REPLACEMENT;
 }
 
-// Puts the temporary file in the place of `path`, which is there. ReplaceFileW keeps the rights of
-// the old file, as far as this process may set them. It can fail half-way; its documentation tells
-// the three states in which it leaves the files then.
-SystemError replaceExisting(const std::wstring& temporary, const std::wstring& path) {
-  const std::wstring backup = backupName(path);
+// Puts the temporary file in the place of one that is there. ReplaceFileW keeps the rights of the
+// old file, as far as this process may set them. It can fail half-way; its documentation tells the
+// three states in which it leaves the files then.
+SystemError replaceExisting(const ReplacementNames& names) {
   SystemError error = retried(
       [&] {
-        return ReplaceFileW(path.c_str(), temporary.c_str(), backup.c_str(),
+        return ReplaceFileW(names.path.c_str(), names.temporary.c_str(), names.backup.c_str(),
                             REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr);
       },
       mayReplaceLater);
   if (error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2) {
     // The old file has the backup's name, the new one its temporary name.
-    error = moveTo(temporary, path);
-    if (error != 0) static_cast<void>(moveTo(backup, path));
+    error = moveTo(names.temporary, names.path);
+    if (error != 0) static_cast<void>(moveTo(names.backup, names.path));
   }
-  dropBackup(path);
+  // What cannot be removed now goes another time.
+  if (isFile(names.backup)) retried([&] { return dropBackup(names.path, names.backup); });
   return error;
 }
 
 }  // namespace
 
-void awaitReplacement(const std::wstring& path) {
+std::wstring backupName(const std::wstring& path) {
+  return path + L".brennet-old";
+}
+
+SystemError awaitReplacement(const std::wstring& path) {
   const std::wstring backup = backupName(path);
   for (int i = 0; i < kTries; ++i) {
-    if (!isFile(backup)) return;
-    if (exists(path)) return dropBackup(path);
+    if (!isFile(backup)) return 0;
+    if (exists(path)) {
+      static_cast<void>(dropBackup(path, backup));
+      return 0;
+    }
     pause();
   }
-  static_cast<void>(moveTo(backup, path));
+  const SystemError error = moveTo(backup, path);
+  // Somebody else did it.
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_ALREADY_EXISTS ? 0 : error;
 }
 
 bool isBeingReplaced(const std::wstring& path, SystemError error) {
   return error == ERROR_FILE_NOT_FOUND && (isFile(backupName(path)) || exists(path));
 }
 
-SystemError takePlace(const std::wstring& temporary, const std::wstring& path, bool isThere) {
-  if (isThere) {
-    const SystemError error = replaceExisting(temporary, path);
-    return error == ERROR_FILE_NOT_FOUND ? moveTo(temporary, path) : error;
+SystemError takePlace(const ReplacementNames& names, bool isThere) {
+  SystemError error = 0;
+  for (int i = 0; i < kTries; ++i) {
+    error = isThere ? replaceExisting(names) : moveTo(names.temporary, names.path);
+    const SystemError otherwise = isThere ? ERROR_FILE_NOT_FOUND : ERROR_ALREADY_EXISTS;
+    if (error != otherwise) break;
+    // Another process is replacing the file at this moment; or it came or went for good.
+    if (isMovedAway(names)) {
+      pause();
+    } else {
+      isThere = !isThere;
+    }
   }
-  const SystemError error = moveTo(temporary, path);
-  return error == ERROR_ALREADY_EXISTS ? replaceExisting(temporary, path) : error;
+  return error;
+}
+
+bool isMovedAway(const ReplacementNames& names) {
+  return isFile(names.backup) && !exists(names.path);
 }
 
 }  // namespace brennet::platform

@@ -1,17 +1,27 @@
 #include "platform/TemporaryNames.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
+#include <string>
 
 namespace brennet::platform {
 namespace {
 
 using NameView = std::basic_string_view<Path::value_type>;
 
-constexpr Path::value_type kEnding[] = {'.', 't', 'm', 'p'};
+// In the units of this system's names.
+template <std::size_t size>
+constexpr std::array<Path::value_type, size - 1> inUnits(const char (&text)[size]) {
+  std::array<Path::value_type, size - 1> units{};
+  std::copy_n(text, size - 1, units.begin());
+  return units;
+}
 
-NameView ending() {
-  return {kEnding, std::size(kEnding)};
+constexpr auto kStart = inUnits(".brennet-");
+constexpr auto kEnd = inUnits(".tmp");
+
+NameView view(const auto& units) {
+  return {units.data(), units.size()};
 }
 
 bool isNumber(NameView text) {
@@ -23,20 +33,20 @@ bool isNumber(NameView text) {
 
 Path temporaryName(const Path& path, unsigned long process, int number) {
   Path name = path;
-  name += "." + std::to_string(process) + "-" + std::to_string(number);
-  name += ending();
+  name += view(kStart);
+  name += std::to_string(process) + "-" + std::to_string(number);
+  name += view(kEnd);
   return name;
 }
 
-bool isTemporaryName(NameView name, NameView file) {
-  if (!name.starts_with(file) || !name.ends_with(ending())) return false;
-  if (name.size() <= file.size() + ending().size()) return false;
-  NameView numbers = name.substr(file.size(), name.size() - file.size() - ending().size());
-  if (numbers.front() != '.') return false;
-  numbers.remove_prefix(1);
-  const std::size_t dash = numbers.find('-');
-  return dash != NameView::npos && isNumber(numbers.substr(0, dash)) &&
-         isNumber(numbers.substr(dash + 1));
+bool isTemporaryEnding(NameView text) {
+  if (text.size() < kStart.size() + kEnd.size()) return false;
+  if (!text.starts_with(view(kStart)) || !text.ends_with(view(kEnd))) return false;
+  text.remove_prefix(kStart.size());
+  text.remove_suffix(kEnd.size());
+  const std::size_t dash = text.find('-');
+  return dash != NameView::npos && isNumber(text.substr(0, dash)) &&
+         isNumber(text.substr(dash + 1));
 }
 
 }  // namespace brennet::platform

@@ -51,6 +51,7 @@ TEST_F(OutOfMemory, WhileApplyingABlockChangesAllOrNothing) {
   HotkeyBlock block = filled();
   const HotkeyBlock before = block;
   const std::string fileBefore = readBytes(settings_);
+  const std::string filesBefore = folder_.listing();
   block.heroSkillKeys0to5[0] = 0x5200;
   block.quickChat[0] = 'x';
   std::int32_t applied = -1;
@@ -60,6 +61,7 @@ TEST_F(OutOfMemory, WhileApplyingABlockChangesAllOrNothing) {
                        const HotkeyBlock& expected = applied == 0 ? block : before;
                        EXPECT_EQ(std::memcmp(&now, &expected, sizeof(now)), 0) << n;
                        EXPECT_EQ(readBytes(settings_) == fileBefore, applied != 0) << n;
+                       EXPECT_EQ(folder_.listing(), filesBefore) << n;
                        if (applied != 0) return;
                        // From here on the allocations of the game's file fail, silently.
                        ASSERT_TRUE(loadText(fileBefore));

@@ -5,6 +5,7 @@
 // gtest.h comes after windows.h, which would undo its macros.
 #include <iterator>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "platform/Files.h"
@@ -54,20 +55,27 @@ TEST_F(HalfReplacement, ThatTookTheOldNameAwayIsMadeGood) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
+constexpr char kBackup[] = "f.brennet-old";
+
+// Nothing is written in place then: whoever reads meanwhile would take that for the file, and the
+// backup for one that is not needed.
 TEST_F(HalfReplacement, ThatCannotBeMadeGoodLeavesTheOldFileUnderItsBackupName) {
   writeBytes(path(), kOld);
   halfwayFaults.replacing = ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
   halfwayFaults.moving = true;
-  EXPECT_FALSE(replaceFile(path(), kNew));
-  EXPECT_EQ(readBytes(path()), kNew);
-  const std::string backup = "f.brennet-old";
-  EXPECT_EQ(folder_.listing(), "f\n" + backup + "\n");
-  EXPECT_EQ(readBytes(folder_ / backup), kOld);
+  EXPECT_TRUE(replaceFile(path(), kNew));
+  EXPECT_EQ(folder_.listing(), std::string(kBackup) + "\n");
+  EXPECT_EQ(readBytes(folder_ / kBackup), kOld);
 
-  // It is not the last copy any more, and must not come back when the player deletes the file.
+  // As long as it cannot be put back, the file counts as unreadable, not as missing.
   std::string read;
+  EXPECT_EQ(readFile(path(), read).value(), ERROR_INVALID_NAME);
+  EXPECT_EQ(replaceFile(path(), kNew).value(), ERROR_INVALID_NAME);
+  EXPECT_EQ(readBytes(folder_ / kBackup), kOld);
+
+  halfwayFaults = {};
   EXPECT_FALSE(readFile(path(), read));
-  EXPECT_EQ(read, kNew);
+  EXPECT_EQ(read, kOld);
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
@@ -156,6 +164,25 @@ TEST_F(Interruption, ThatTakesTheOldFileAwayLeavesTheNewOne) {
   EXPECT_EQ(readBytes(path()), kNew);
   EXPECT_EQ(replacedFiles, before);
   EXPECT_EQ(moveFlags, DWORD{MOVEFILE_WRITE_THROUGH}) << "not moved, or in another way";
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+// Another process has moved the file away for a moment.
+TEST_F(Interruption, ThatReplacesTheFileIsWaitedFor) {
+  writeBytes(path(), kOld);
+  const int before = replacedFiles;
+  std::thread other;
+  interruptions.beforeReplacing = [&] {
+    std::filesystem::rename(path(), folder_ / kBackup);
+    other = std::thread([&] {
+      Sleep(50);
+      writeBytes(path(), kShort);
+    });
+  };
+  EXPECT_FALSE(replaceFile(path(), kNew));
+  other.join();
+  EXPECT_EQ(readBytes(path()), kNew);
+  EXPECT_EQ(replacedFiles, before + 1) << "written in place";
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 

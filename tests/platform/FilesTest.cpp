@@ -80,7 +80,8 @@ void writeOldBytes(const Path& path) {
 // What processes left that were ended while they wrote.
 TEST(ReplaceFile, RemovesOldTemporaryFilesOfItsOwn) {
   const TempFolder folder;
-  for (const char* const name : {"f.1-0.tmp", "f.4294967295-99.tmp"}) writeOldBytes(folder / name);
+  for (const char* const name : {"f.brennet-1-0.tmp", "f.brennet-4294967295-99.tmp"})
+    writeOldBytes(folder / name);
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
   EXPECT_EQ(folder.listing(), "f\n");
 }
@@ -89,7 +90,7 @@ TEST(ReplaceFile, RemovesThemFromTheWorkingFolderToo) {
   const TempFolder folder;
   const Path before = std::filesystem::current_path();
   std::filesystem::current_path(folder.path());
-  writeOldBytes("f.1-0.tmp");
+  writeOldBytes("f.brennet-1-0.tmp");
   EXPECT_FALSE(replaceFile("f", "new"));
   std::filesystem::current_path(before);
   EXPECT_EQ(folder.listing(), "f\n");
@@ -97,29 +98,38 @@ TEST(ReplaceFile, RemovesThemFromTheWorkingFolderToo) {
 
 TEST(ReplaceFile, LeavesTemporaryFilesAloneThatMayBeInUse) {
   const TempFolder folder;
-  writeBytes(folder / "f.1-0.tmp", "somebody is writing this");
+  writeBytes(folder / "f.brennet-1-0.tmp", "somebody is writing this");
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
-  EXPECT_EQ(folder.listing(), "f\nf.1-0.tmp\n");
+  EXPECT_EQ(folder.listing(), "f\nf.brennet-1-0.tmp\n");
 }
 
 TEST(ReplaceFile, LeavesFilesAloneThatAreNotItsOwn) {
   const TempFolder folder;
-  std::string expected = "f\n";
-  for (const char* const name : {"f.-0.tmp", "f.1-.tmp", "f.1-0.TMP", "f.1-0.tmp.bak", "f.1-0x.tmp",
-                                 "f.1.tmp", "f.tmp", "ff.1-0.tmp", "fx1-0.tmp", "g.1-0.tmp"}) {
+  for (const char* const name :
+       {".brennet-1-0.tmp", "f-brennet-1-0.tmp", "f.1-0.tmp", "f.brennet--0.tmp",
+        "f.brennet-1-.tmp", "f.brennet-1-0.bak", "f.brennet-1-0.tmp.bak", "f.brennet-1-0x.tmp",
+        "f.tmp", "ff.brennet-1-0.tmp", "g.brennet-1-0.tmp"}) {
     writeOldBytes(folder / name);
-    expected += std::string(name) + "\n";
   }
+  writeBytes(folder / "f", "old");
+  const std::string before = folder.listing();
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
-  EXPECT_EQ(folder.listing(), expected);
+  EXPECT_EQ(folder.listing(), before);
+}
+
+TEST(ReplaceFile, LeavesTheFilesOfAFolderAloneThatIsNoFile) {
+  const TempFolder folder;
+  writeOldBytes(folder / ".brennet-1-0.tmp");
+  EXPECT_TRUE(replaceFile(folder.path() / "", "new"));
+  EXPECT_EQ(folder.listing(), ".brennet-1-0.tmp\n");
 }
 
 TEST(ReplaceFile, LeavesAFolderAloneThatHasTheNameOfATemporaryFile) {
   const TempFolder folder;
-  EXPECT_TRUE(createFolder(folder / "f.1-0.tmp"));
-  makeOld(folder / "f.1-0.tmp");
+  EXPECT_TRUE(createFolder(folder / "f.brennet-1-0.tmp"));
+  makeOld(folder / "f.brennet-1-0.tmp");
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
-  EXPECT_EQ(folder.listing(), "f\nf.1-0.tmp\n");
+  EXPECT_EQ(folder.listing(), "f\nf.brennet-1-0.tmp\n");
 }
 
 TEST(Folders, AreCreatedOneLevelAtATime) {
