@@ -55,6 +55,14 @@ if [[ $EUID -eq 0 ]]; then
   mv "$folder/kept" "$folder/bin/fc-list"
 fi
 
+# A Wine that does not run, and one that is stopped.
+mv "$folder/bin/wineboot" "$folder/kept"
+stand_in wineboot 'exec sleep "$LONG"'
+stopped_by TERM "$LONG" "$scripts/wine.sh"
+[[ $status == 143 ]] || fail "exit status $status"
+is_clean
+mv "$folder/kept" "$folder/bin/wineboot"
+
 accepts with_stand_ins "$scripts/wine.sh"
 grep -q 'the installed one is used' "$folder/out" || fail "not used: $(cat "$folder/out")"
 is_clean

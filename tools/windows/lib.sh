@@ -4,7 +4,8 @@
 #
 # The toolchain folder holds one folder per thing and version, say qt-5.15.8-1a2b3c4d. It is made
 # under another name and renamed when it is whole, so a folder that is there is finished. A list of
-# its files tells whether it still is as it was then.
+# its files with their sizes and rights tells whether it still is.
+unset progress hint
 
 # Where nobody says so, the shell knows the home folder from the user's entry.
 export HOME=${HOME:-$(unset HOME && echo ~)}
@@ -39,8 +40,8 @@ die() {
 open_toolchain_dir() {
   [[ $toolchain_dir == /* ]] ||
     die "BRENNET_TOOLCHAIN_DIR must be an absolute path, and is \"$toolchain_dir\"."
-  # Neither makefiles nor the options of mount take other names.
-  [[ $toolchain_dir != *[^[:alnum:]/._+@%~-]* ]] ||
+  # Makefiles and the options of mount take no such names.
+  [[ $toolchain_dir != *[[:space:]:,\;\"\'\`\$\&\*\?\#\(\)\<\>\|\!\{\}\[\]\=\%\^\\]* ]] ||
     die "The name $toolchain_dir has blanks or signs that compilers stumble over;" \
       "set BRENNET_TOOLCHAIN_DIR to another folder."
   local lock=$toolchain_dir/lock
@@ -51,16 +52,19 @@ open_toolchain_dir() {
     say "Waiting for another run that sets up the toolchain"
     flock 9
   }
-  rm -rf --one-file-system "$toolchain_dir"/unfinished.*
+  rm -rf --one-file-system "$toolchain_dir"/unfinished.* ||
+    die "What an earlier run left in $toolchain_dir cannot be removed; is it still at work?"
 }
 
 # A fresh folder to work in; what is whole at the end is moved out of it, the rest is thrown away,
 # also when the script is stopped.
 make_work_dir() {
   work_dir=
-  trap 'stop_job; rm -rf --one-file-system "$work_dir"' EXIT
+  # Nobody gets impatient while it is cleared up.
+  trap 'trap "" HUP INT QUIT TERM; stop_job; rm -rf --one-file-system "$work_dir"' EXIT
   trap 'exit 129' HUP
   trap 'exit 130' INT
+  trap 'exit 131' QUIT
   trap 'exit 143' TERM
   work_dir=$(mktemp -d "$toolchain_dir/unfinished.XXXXXX")
   # Programs that are not root look things up in it.
@@ -82,11 +86,10 @@ put_in_place() { # FROM TO
 is_finished() { # FOLDER
   [[ -d $1 ]] || return 1
   local wrong
-  wrong=$({ diff "$1/contents.txt" <(contents_of "$1") 2>/dev/null || [[ $? == 1 ]]; } ||
-    echo '< 0 0 ./contents.txt -> ')
-  wrong=$(sed -n 's,^[<>] [0-7]* [0-9]* \./\(.*\) -> .*,\1,p;T;q' <<<"$wrong")
-  [[ -z $wrong ]] ||
-    die "$1 is damaged ($wrong is missing or changed); remove that folder and run again."
+  ! wrong=$(diff "$1/contents.txt" <(contents_of "$1") 2>&1) || return 0
+  # The name in the first line that differs; the list itself where there is none.
+  wrong=$(LC_ALL=C sed -n 's,^[<>] [0-7]* [0-9]* \./\(.*\) -> .*,\1,p;T;q' <<<"$wrong")
+  die "$1 is damaged (${wrong:-contents.txt} is missing or changed); remove that folder and run again."
 }
 
 need_free_space() { # MEBIBYTES
@@ -102,12 +105,11 @@ need_root() { # WHAT FOR
 }
 
 # Runs a command with its output in a log file; tells every 20 seconds how long it has run and, when
-# "progress" names a function, how far it is. When the command fails, the end of the log is shown
-# and the script ends; "hint" is a question that may help.
-logged() { # LOG WHAT COMMAND...
+# "progress" names a function, how far it is. The exit status is in "job_status"; this is called in
+# no condition, because a function that is the command would go on after its first failure then.
+run_job() { # LOG WHAT COMMAND...
   local log=$1 what=$2 started=$SECONDS beat=0
   shift 2
-  say "$what"
   # A process group of its own, so that everything below it can be stopped.
   set -m
   "$@" >"$log" 2>&1 </dev/null 9>&- &
@@ -119,17 +121,25 @@ logged() { # LOG WHAT COMMAND...
       say "$what: $((SECONDS - started)) s${progress:+, $($progress)}"
     fi
   done
-  local status=0
-  wait "$job" || status=$?
+  job_status=0
+  wait "$job" || job_status=$?
   job=
-  if [[ $status != 0 ]]; then
-    tail -n 20 "$log" >&2
-    cp "$log" "$toolchain_dir/failed.log"
-    die "\"$what\" failed.${hint:+ $hint} The whole output is in $toolchain_dir/failed.log."
-  fi
 }
 
-# Ends what "logged" has started and all that this has started.
+# Does that for a command that has to succeed. When it fails, the end of the log is shown and the
+# script ends; "hint" is a question that may help.
+logged() { # LOG WHAT COMMAND...
+  say "$2"
+  run_job "$@"
+  [[ $job_status != 0 ]] || return 0
+  tail -n 20 "$1" >&2
+  local whole=''
+  ! cp "$1" "$toolchain_dir/failed.log" 2>/dev/null ||
+    whole=" The whole output is in $toolchain_dir/failed.log."
+  die "\"$2\" failed.${hint:+ $hint}$whole"
+}
+
+# Ends what "run_job" has started and all that this has started.
 stop_job() {
   [[ -n ${job-} ]] || return 0
   kill -TERM -- "-$job" 2>/dev/null || return 0

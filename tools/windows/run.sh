@@ -27,15 +27,18 @@ stoppable() {
 
 # Starts a screen that nobody sees, and lets DISPLAY name it.
 start_screen() { # PREFIX LOG_FOLDER COMMAND...
-  local prefix=$1 log=$2 number tries
+  local prefix=$1 log=$2 number tries=0
   shift 2
   # The number is one that no other program has at the moment.
   "$@" -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$log/screen" >"$log/screen.log" 2>&1 &
-  for ((tries = 0; tries < 100; ++tries)); do
-    [[ ! -s $log/screen ]] || break
+  until read -r number 2>/dev/null <"$log/screen"; do
+    if ((++tries == 300)); then
+      cat "$log/screen.log" >&2
+      echo "brennet: The screen for windows does not start." >&2
+      exit 1
+    fi
     sleep 0.1
   done
-  read -r number <"$log/screen" || { cat "$log/screen.log" >&2 && exit 1; }
   export DISPLAY=:$number
   # No window manager is there to wait for.
   printf '%s\n' '' '[Software\\Wine\\X11 Driver]' '"Managed"="N"' >>"$prefix/user.reg"
@@ -68,12 +71,14 @@ run_in_root() {
     [[ -z ${BRENNET_SCREEN-} ]] ||
       start_screen "$root$home/prefix" "$root/tmp" chroot "$root" Xvfb
     status=0
-    chroot "$root" env -u LANG -u LANGUAGE -u TMPDIR -u TMP -u TEMP --chdir="$PWD" \
+    chroot "$root" env -u "BASH_FUNC_start_screen%%" -u LANG -u LANGUAGE -u TMPDIR -u TMP -u TEMP --chdir="$PWD" \
       HOME="$home" WINEPREFIX="$home/prefix" LC_ALL="$locale" PATH=/usr/bin:/bin \
       wine "$@" || status=$?
     exit $status' run_in_root "$wine_dir" "$wine_home" "$wine_locale" "$@"
 }
 
+# When this script is killed, the program ends with it, but not what the program has started; that
+# Wine ends by itself.
 run_with_installed_wine() {
   local folder
   folder=$(mktemp -d)

@@ -32,24 +32,27 @@ make_root() {
     make_prefix "$work_dir/whole/root" "$wine_home" "$wine_locale"
 }
 
-# Succeeds when the machine's own Wine makes a 32-bit prefix, and the machine has the locale, its
-# letters and a screen for windows that nobody sees.
-make_prefix_with_installed_wine() {
+# Whether the machine has a Wine of its own, and with it the locale, its letters and a screen for
+# windows that nobody sees.
+has_wine() {
   local program
   for program in wine wineboot wineserver Xvfb fc-list; do
     command -v "$program" >/dev/null || return 1
   done
-  fc-list :lang=zh-cn | grep -q . || return 1
-  locale -a | grep -qix "${wine_locale/UTF-8/utf-\\?8}" || return 1
-  mkdir -p "$work_dir/whole" "$work_dir/home"
-  (
-    # Wine links the folders of the home folder into the user's profile.
-    export HOME=$work_dir/home WINEARCH=win32 WINEPREFIX=$work_dir/whole/prefix WINEDEBUG=-all LC_ALL=$wine_locale
-    unset DISPLAY
-    timeout 300 wineboot --init && timeout 60 wineserver --wait
-  ) >"$work_dir/prefix.log" 2>&1 9>&- && return
-  rm -rf "$work_dir/whole"
-  return 1
+  [[ -n $(fc-list :lang=zh-cn) ]] && locale -a | grep -ix "${wine_locale/UTF-8/utf-\\?8}" >/dev/null
+}
+
+# Makes a 32-bit prefix, where the machine's Wine runs 32-bit programs.
+make_prefix_with_installed_wine() {
+  # Wine links the folders of the home folder into the user's profile.
+  export HOME=$work_dir/home WINEARCH=win32 WINEPREFIX=$work_dir/whole/prefix WINEDEBUG=-all
+  export LC_ALL=$wine_locale
+  unset DISPLAY
+  mkdir -p "$work_dir/whole" "$HOME"
+  trap 'wineserver --kill || true' EXIT
+  # In the process group of this, which is stopped as a whole.
+  timeout --foreground 300 wineboot --init
+  timeout --foreground 60 wineserver --wait
 }
 
 # Whether Wine is set up; ends the script when it cannot be used.
@@ -67,9 +70,13 @@ main() {
   if is_ready; then return; fi
   need_free_space 2500
   make_work_dir
-  if make_prefix_with_installed_wine; then
+  if has_wine; then
+    run_job "$work_dir/prefix.log" "A prefix of the installed Wine" make_prefix_with_installed_wine
+  fi
+  if [[ ${job_status-1} == 0 ]]; then
     say "Wine: the installed one is used"
   else
+    rm -rf "$work_dir/whole"
     need_root "No 32-bit Wine is installed, and making a root file system for one"
     "$here/../setup.sh" wine
     make_root
