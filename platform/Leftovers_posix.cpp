@@ -31,7 +31,6 @@ bool isOldFile(const std::string& path) {
 void removeLeftovers(const Path& path) {
   const Path folder = path.has_parent_path() ? path.parent_path() : Path(".");
   const std::string file = path.filename().native();
-  if (file.empty()) return;
   const std::unique_ptr<DIR, Close> entries(opendir(folder.c_str()));
   if (entries == nullptr) return;
   while (const dirent* const entry = readdir(entries.get())) {

@@ -53,7 +53,6 @@ bool isTemporaryName(std::wstring_view name, std::wstring_view file) {
 
 void removeLeftovers(const Path& path) {
   const std::wstring file = path.filename().native();
-  if (file.empty()) return;
   WIN32_FIND_DATAW data{};
   const Search search(path.native() + L".brennet-*.tmp", data);
   if (!search.isOpen()) return;

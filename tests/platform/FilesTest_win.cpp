@@ -4,6 +4,7 @@
 // gtest.h comes after windows.h, which would undo its macros.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <memory>
 #include <thread>
 
@@ -177,6 +178,32 @@ TEST(Reading, DoesNotBringAFileBackThatThePlayerHasDeleted) {
   std::filesystem::remove(folder / "f");
   EXPECT_TRUE(readFile(folder / "f", read));
   EXPECT_EQ(folder.listing(), "");
+}
+
+// As long as somebody holds the only copy, nothing takes its place.
+TEST(Replacing, DoesNotForgetABackupThatIsHeld) {
+  const TempFolder folder;
+  writeBytes(folder / kBackup, "old");
+  {
+    const Holder holder(folder / kBackup, GENERIC_READ, 0);
+    std::string read;
+    EXPECT_EQ(readFile(folder / "f", read).value(), ERROR_SHARING_VIOLATION);
+    EXPECT_EQ(replaceFile(folder / "f", "new").value(), ERROR_SHARING_VIOLATION);
+    EXPECT_EQ(folder.listing(), std::string(kBackup) + "\n");
+  }
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+TEST(Replacing, RemovesLeftoversWhateverTheirCase) {
+  const TempFolder folder;
+  const Path leftover = folder / "SETTINGS.XML.brennet-1-0.tmp";
+  writeBytes(leftover, "half");
+  const auto before = std::filesystem::file_time_type::clock::now() - std::chrono::hours(2);
+  std::filesystem::last_write_time(leftover, before);
+  EXPECT_FALSE(replaceFile(folder / "Settings.xml", "new"));
+  EXPECT_EQ(folder.listing(), "Settings.xml\n");
 }
 
 TEST(Replacing, LeavesAFolderWithTheNameOfABackupAlone) {
