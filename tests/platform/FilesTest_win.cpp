@@ -49,22 +49,15 @@ TEST(Reading, RefusesADevice) {
   EXPECT_EQ(read, "");
 }
 
-TEST(Reading, ReadsWhatAnotherProgramIsWriting) {
+TEST(Reading, ReadsWhatAnotherProgramIsWritingOrRenaming) {
   const TempFolder folder;
   writeBytes(folder / "f", "bytes");
-  const Holder holder(folder / "f", GENERIC_WRITE, FILE_SHARE_READ);
-  std::string read;
-  EXPECT_FALSE(readFile(folder / "f", read));
-  EXPECT_EQ(read, "bytes");
-}
-
-TEST(Reading, ReadsWhatAnotherProgramIsRenaming) {
-  const TempFolder folder;
-  writeBytes(folder / "f", "bytes");
-  const Holder holder(folder / "f", DELETE, FILE_SHARE_READ);
-  std::string read;
-  EXPECT_FALSE(readFile(folder / "f", read));
-  EXPECT_EQ(read, "bytes");
+  for (const DWORD access : {DWORD{GENERIC_WRITE}, DWORD{DELETE}}) {
+    const Holder holder(folder / "f", access, FILE_SHARE_READ);
+    std::string read;
+    EXPECT_FALSE(readFile(folder / "f", read)) << access;
+    EXPECT_EQ(read, "bytes") << access;
+  }
 }
 
 TEST(Reading, WaitsForAProgramThatHoldsTheFileForAMoment) {
