@@ -72,7 +72,8 @@ class OpenFile {
   FileHandle handle_ = nullptr;
 };
 
-// Appends what the open file holds from its position to its end, also where it grows meanwhile.
+// Makes `bytes` what the open file holds, to its end also where it grows meanwhile; after an error
+// they are a part of it.
 [[nodiscard]] std::error_code readAll(FileHandle file, std::string& bytes);
 [[nodiscard]] std::error_code writeAll(FileHandle file, std::string_view bytes);
 
