@@ -51,6 +51,7 @@ constexpr KeyRow kKeys[] = {
     {Qt::Key_Right, 0x27},
     {Qt::Key_Down, 0x28},
     {Qt::Key_Print, 0x2C},
+    {Qt::Key_SysReq, 0x2C},  // what X11 makes of Print with Alt
     {Qt::Key_Insert, 0x2D},
     {Qt::Key_Delete, 0x2E},
     {Qt::Key_Meta, 0x5B},
