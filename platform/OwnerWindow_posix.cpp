@@ -6,6 +6,10 @@ OwnerWindows disableOwnerWindows() {
   return {};
 }
 
+std::optional<WindowFrame> ownerFrame() {
+  return std::nullopt;
+}
+
 void enableOwnerWindows(const OwnerWindows& /*windows*/) {}
 
 }  // namespace brennet::platform

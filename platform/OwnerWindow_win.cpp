@@ -73,6 +73,18 @@ OwnerWindows disableOwnerWindows() {
   return windows;
 }
 
+std::optional<WindowFrame> ownerFrame() {
+  HWND const owner = rootOf(withoutChildren(findOwner()));
+  RECT frame = {};
+  if (owner == nullptr || IsIconic(owner) != FALSE || GetWindowRect(owner, &frame) == FALSE) {
+    return std::nullopt;
+  }
+  return WindowFrame{.left = frame.left,
+                     .top = frame.top,
+                     .width = frame.right - frame.left,
+                     .height = frame.bottom - frame.top};
+}
+
 void enableOwnerWindows(const OwnerWindows& windows) {
   if (windows.root != nullptr) {
     EnableWindow(toHandle(windows.root), TRUE);

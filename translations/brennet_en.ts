@@ -621,6 +621,13 @@ Do you want to go on?</translation>
         <translation>Your keys will be replaced by the recommended ones.
 Do you want to go on?</translation>
     </message>
+    <message>
+        <source>After resetting, your modification on basic and advanced settings will lost.
+Are you sure to continue?</source>
+        <comment>DotA 7</comment>
+        <translation>All DotA 7 keys, options and phrases will be cleared.
+Do you want to go on?</translation>
+    </message>
 </context>
 <context>
     <name>CHotkeySettingPage</name>
@@ -990,6 +997,37 @@ Do you want to go on?</translation>
     <message>
         <source>Ignore</source>
         <translation>Ignore</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select all</translation>
     </message>
 </context>
 <context>

@@ -620,6 +620,13 @@ Are you sure to continue?</source>
         <source>Are you sure to use system recommended settings?</source>
         <translation>确定要使用系统推荐的设置吗？</translation>
     </message>
+    <message>
+        <source>After resetting, your modification on basic and advanced settings will lost.
+Are you sure to continue?</source>
+        <comment>DotA 7</comment>
+        <translation>清空后，DotA7.0专用改键的所有按键、选项和喊话都将丢失。
+确定要继续吗？</translation>
+    </message>
 </context>
 <context>
     <name>CHotkeySettingPage</name>
@@ -989,6 +996,37 @@ Are you sure to continue?</source>
     <message>
         <source>Ignore</source>
         <translation>忽略</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
     </message>
 </context>
 <context>

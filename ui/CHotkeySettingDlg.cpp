@@ -19,6 +19,7 @@
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
 #include "ui/window/CMsgBox.h"
+#include "ui/window/ScreenFit.h"
 #include "ui/window/StyleSheet.h"
 #include "ui/window/TabOrder.h"
 #include "ui/window/WindowDrag.h"
@@ -45,6 +46,7 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
   setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
   setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
   form_->setupUi(this);
+  fit_ = new brennet::ScreenFit(*this);
   createPages();
   fillForm();
   connectForm();
@@ -215,9 +217,14 @@ bool CHotkeySettingDlg::isConfirmed(int icon, const QString& title, const QStrin
 }
 
 void CHotkeySettingDlg::onResetSetting() {
+  // Catalogues can say what is lost in the second mode.
   const QString question =
-      tr("After resetting, your modification on basic and advanced settings will lost.\nAre you "
-         "sure to continue?");
+      mode_ == Mode::Platform
+          ? tr("After resetting, your modification on basic and advanced settings will lost.\nAre "
+               "you sure to continue?")
+          : tr("After resetting, your modification on basic and advanced settings will lost.\nAre "
+               "you sure to continue?",
+               "DotA 7");
   if (!isConfirmed(QMessageBox::Warning, tr("reset settings"), question)) return;
   if (mode_ == Mode::Platform) {
     basic_->reset();
@@ -326,14 +333,18 @@ void CHotkeySettingDlg::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   // Windows shows tool windows without giving them the keyboard.
   activateWindow();
-  if (!isFirstShow_) return;
+  const bool isSkinned = !isFirstShow_ || applySkin();
   isFirstShow_ = false;
-  if (brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"))) {
-    fitToSkin();
-    return;
-  }
+  fit_->comeUp();
+  if (isSkinned) return;
   CMsgBox::showMessage(this, QMessageBox::Critical, QStringLiteral("error"),
                        QStringLiteral("failed to read qss file"));
+}
+
+bool CHotkeySettingDlg::applySkin() {
+  if (!brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"))) return false;
+  fitToSkin();
+  return true;
 }
 
 // The page that is not shown would keep the size that it has without the skin, and with it the

@@ -12,6 +12,7 @@ namespace brennet {
 class Dota7KeyInfoManager;
 struct DraggableWindow;
 class HotkeyConfig;
+class ScreenFit;
 }  // namespace brennet
 class CAdvancedSettingWidget;
 class CBasicSetting7Widget;
@@ -80,6 +81,7 @@ class CHotkeySettingDlg : public QDialog {
   void setMode(Mode mode);
   void refreshDota7();
   void leaveField();
+  [[nodiscard]] bool applySkin();
   void fitToSkin();
   void resetChat();
   [[nodiscard]] bool isConfirmed(int icon, const QString& title, const QString& question);
@@ -90,6 +92,7 @@ class CHotkeySettingDlg : public QDialog {
   std::unique_ptr<Ui::CHotkeySettingDlg> form_;
   QStackedLayout* stack_ = nullptr;
   // Children of this widget.
+  brennet::ScreenFit* fit_ = nullptr;
   CAdvancedSettingWidget* advanced_ = nullptr;
   CBasicSettingWidget* olderBasic_ = nullptr;
   CBasicSetting7Widget* basic_ = nullptr;

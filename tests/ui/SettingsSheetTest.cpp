@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QImage>
@@ -10,12 +11,15 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <vector>
 
 #include "tests/ui/PixelContrast.h"
+#include "ui/window/CPictureButton.h"
 #include "ui/window/StyleSheet.h"
 
 namespace brennet {
@@ -50,6 +54,12 @@ class TheSettingsSheet : public testing::Test {
   QImage pictureOf(const QWidget& control) {
     const QPixmap all = window_.grab(control.geometry());
     return all.toImage().convertToFormat(QImage::Format_RGB32);
+  }
+  // What is in the middle of a small picture: there is more of it for the mouse than is seen.
+  QImage middleOf(const QWidget& control, QSize size) {
+    const QRect all = control.rect();
+    const QPoint corner((all.width() - size.width()) / 2, (all.height() - size.height()) / 2);
+    return pictureOf(control).copy(QRect(corner, size));
   }
 
   QWidget window_;
@@ -92,16 +102,17 @@ TEST_F(TheSettingsSheet, CutsTheStatesOfPicturesWithoutStretchingThem) {
   for (const PictureButton& row : kButtons) {
     auto* const button = make<QPushButton>(row.name);
     button->setCheckable(true);
-    EXPECT_TRUE(pictureOf(*button) == state(row.picture, 0, row.height)) << row.name;
+    const QImage plain = state(row.picture, 0, row.height);
+    EXPECT_TRUE(middleOf(*button, plain.size()) == plain) << row.name;
     if (row.hovered != nullptr) {
       QTest::mouseMove(button);
-      EXPECT_TRUE(pictureOf(*button) == state(row.hovered, row.hoveredAt, row.height))
+      EXPECT_TRUE(middleOf(*button, plain.size()) == state(row.hovered, row.hoveredAt, row.height))
           << row.name << " under the mouse";
       QTest::mouseMove(&window_, QPoint(299, 199));
     }
     button->setChecked(true);
     if (row.checked != nullptr) {
-      EXPECT_TRUE(pictureOf(*button) == state(row.checked, row.checkedAt, row.height))
+      EXPECT_TRUE(middleOf(*button, plain.size()) == state(row.checked, row.checkedAt, row.height))
           << row.name << " checked";
     }
     delete button;
@@ -133,24 +144,40 @@ TEST_F(TheSettingsSheet, ShowsWhichPictureHasTheFocus) {
   }
 }
 
-// Under the border of the focus the picture stays what it was.
+// The frame of the focus goes round the picture, which stays what it was.
 TEST_F(TheSettingsSheet, KeepsTheStateOfASmallPictureWithTheFocus) {
   QApplication::setActiveWindow(&window_);
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
-  const QRect inside(3, 3, 7, 7);
   for (const char* const name : {"btn_skillcast_12", "btn_goods_cast_7"}) {
     auto* const button = make<QPushButton>(name);
     button->setCheckable(true);
     button->setFocus();
-    EXPECT_EQ(pictureOf(*button).pixel(6, 0), 0xFFFFFFFF);
+    EXPECT_EQ(middleOf(*button, {15, 15}).pixel(7, 0), 0xFFFFFFFF);
     for (const bool isChecked : {false, true}) {
       button->setChecked(isChecked);
-      EXPECT_TRUE(pictureOf(*button).copy(inside) ==
-                  state("auto", isChecked ? 13 : 0, 13).copy(inside))
+      EXPECT_TRUE(middleOf(*button, {13, 13}) == state("auto", isChecked ? 13 : 0, 13))
           << name << (isChecked ? " checked" : "");
     }
     delete button;
   }
+}
+
+// Nobody has to aim: what can be clicked is 24 pixels high at the least.
+TEST_F(TheSettingsSheet, MakesEverythingLargeEnoughToBeHit) {
+  constexpr int kLeast = 24;
+  for (const char* const name : {"btnClose", "btn_skillcast_1", "btn_goods_cast_1", "btnOther"}) {
+    auto* const button = make<CPictureButton>(name);
+    EXPECT_GE(button->height(), kLeast) << name;
+    const QSignalSpy clicks(button, &QPushButton::clicked);
+    QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, button->rect().topLeft());
+    QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, button->rect().bottomRight());
+    EXPECT_EQ(clicks.size(), 2) << name;
+  }
+  EXPECT_GE(make<QLineEdit>("edtOther")->height(), kLeast);
+  EXPECT_GE(make<QCheckBox>("chkOther")->height(), kLeast);
+  EXPECT_GE(make<QRadioButton>("optOther")->height(), kLeast);
+  EXPECT_GE(make<QComboBox>("cmbOther")->height(), kLeast);
+  EXPECT_GE(make<QLabel>("lblResetToDefaultSetting")->height(), kLeast);
 }
 
 // A border that is to be seen differs from what is around it by a factor of three.

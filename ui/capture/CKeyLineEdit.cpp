@@ -2,13 +2,15 @@
 
 #include <QFontMetrics>
 #include <QHelpEvent>
+#include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QToolTip>
 
 namespace {
 
-constexpr int kAroundText = 6;  // as a line edit keeps free beside its text
+constexpr int kBesideText = 2;  // as a line edit keeps free on each side of its text
+constexpr int kAroundText = 3 * kBesideText;
 
 }  // namespace
 
@@ -25,16 +27,35 @@ QSize CKeyLineEdit::sizeHint() const {
 }
 
 bool CKeyLineEdit::event(QEvent* event) {
-  if (event->type() == QEvent::ToolTip && !showsWholeText()) {
+  if (event->type() == QEvent::ToolTip && shownText() != text()) {
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
     return true;
   }
   return QLineEdit::event(event);
 }
 
-bool CKeyLineEdit::showsWholeText() const {
+// A line edit would cut the first letter that does not fit somewhere in its middle.
+void CKeyLineEdit::paintEvent(QPaintEvent* event) {
+  const QString shown = shownText();
+  if (shown == text()) {
+    QLineEdit::paintEvent(event);
+    return;
+  }
+  QPainter painter(this);
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
+  style()->drawItemText(&painter, roomForText(), Qt::AlignRight | Qt::AlignVCenter, palette(),
+                        isEnabled(), shown, QPalette::Text);
+}
+
+QRect CKeyLineEdit::roomForText() const {
   QStyleOptionFrame option;
   initStyleOption(&option);
   const QRect room = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
-  return fontMetrics().horizontalAdvance(text()) + kAroundText <= room.width();
+  return room.adjusted(kBesideText, 0, -kBesideText, 0);
+}
+
+QString CKeyLineEdit::shownText() const {
+  return fontMetrics().elidedText(text(), Qt::ElideLeft, roomForText().width());
 }

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 // A line edit for a key: as wide as the text of a key with two modifiers. The few texts that are
-// wider show their end, where the key is, and the whole as tool tip.
+// wider show their end, where the key is, behind an ellipsis, and the whole as tool tip.
 // In no namespace: forms know it by this name.
 class CKeyLineEdit : public QLineEdit {
   Q_OBJECT
@@ -14,9 +14,13 @@ class CKeyLineEdit : public QLineEdit {
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
+  // What of the text is shown: all of it, or its end behind an ellipsis.
+  [[nodiscard]] QString shownText() const;
+
  protected:
   bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
-  [[nodiscard]] bool showsWholeText() const;
+  [[nodiscard]] QRect roomForText() const;
 };

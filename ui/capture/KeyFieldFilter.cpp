@@ -50,6 +50,9 @@ bool KeyFieldFilter::filter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease:
       pass(*field, capture_.handle(toKeyEvent(*static_cast<QKeyEvent*>(event))));
       return true;
+    case QEvent::ContextMenu:
+      // The menu of a line edit is for text.
+      return true;
     case QEvent::FocusOut:
       pass(*field, capture_.leave());
       return false;

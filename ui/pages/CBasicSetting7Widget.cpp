@@ -168,7 +168,17 @@ QCheckBox* CBasicSetting7Widget::orreryMana() const {
   return orrery_->findChild<QCheckBox*>(QStringLiteral("chkShowFriendsMana"));
 }
 
+// Where the file names a scheme that there is not, nothing typed here would be kept.
+void CBasicSetting7Widget::enableEdits() {
+  const bool hasScheme = config_.editableScheme() != nullptr;
+  for (QGroupBox* const group : findChildren<QGroupBox*>()) group->setEnabled(hasScheme);
+  for (QLineEdit* const field : orrery_->findChildren<QLineEdit*>()) field->setEnabled(hasScheme);
+  orreryMana()->setEnabled(hasScheme);
+  form_->btnTalkSetting->setEnabled(hasScheme);
+}
+
 void CBasicSetting7Widget::refresh() {
+  enableEdits();
   fields_.refresh();
   switches_.refresh();
   presets_.refresh();

@@ -83,6 +83,7 @@ class CBasicSetting7Widget : public QWidget {
   static std::span<const Option> options();
 
   void buildRows();
+  void enableEdits();
   void addOption(QGridLayout& grid, int number, const Option& option);
   void connectSwitches();
   void connectButtons();

@@ -1,12 +1,15 @@
 #include "ui/pages/COrrerySettingDlg.h"
 
+#include "ui/window/ScreenFit.h"
 #include "ui/window/StyleSheet.h"
 #include "ui/window/TabOrder.h"
 #include "ui/window/WindowDrag.h"
 #include "ui_COrrerySettingDlg.h"
 
 COrrerySettingDlg::COrrerySettingDlg(QWidget* parent)
-    : QDialog(parent), form_(std::make_unique<Ui::COrrerySettingDlg>()) {
+    : QDialog(parent),
+      form_(std::make_unique<Ui::COrrerySettingDlg>()),
+      fit_(new brennet::ScreenFit(*this)) {
   form_->setupUi(this);
   brennet::setTabOrderOfLayouts(*this);
   setWindowFlag(Qt::FramelessWindowHint);
@@ -27,4 +30,9 @@ void COrrerySettingDlg::mousePressEvent(QMouseEvent* event) {
 bool COrrerySettingDlg::nativeEvent(const QByteArray& eventType, void* message, long* result) {
   return brennet::answerHitTest({.window = *this}, eventType, message, result) ||
          QDialog::nativeEvent(eventType, message, result);
+}
+
+void COrrerySettingDlg::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  fit_->comeUp();
 }

@@ -7,6 +7,9 @@
 namespace Ui {
 class COrrerySettingDlg;
 }
+namespace brennet {
+class ScreenFit;
+}
 
 // The keys of the Ledger panel and the switch for allied mana: a small window beside the settings.
 // The basic page owns it, captures its keys and stores them.
@@ -24,7 +27,9 @@ class COrrerySettingDlg : public QDialog {
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   bool nativeEvent(const QByteArray& eventType, void* message, long* result) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   std::unique_ptr<Ui::COrrerySettingDlg> form_;
+  brennet::ScreenFit* fit_;  // a child of this
 };

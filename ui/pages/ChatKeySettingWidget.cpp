@@ -4,6 +4,7 @@
 
 #include "ui/Text.h"
 #include "ui/capture/KeyMessages.h"
+#include "ui/chat/PhraseMenu.h"
 #include "ui/chat/TypedPhrase.h"
 #include "ui/pages/Form.h"
 #include "ui_ChatKeySettingWidget.h"
@@ -39,6 +40,7 @@ ChatKeySettingWidget::ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidge
   // The labels have numbers only, which say little to who does not see them in a column.
   for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
     field(n).setAccessibleName(tr("喊话 %1").arg(n + 1));
+    brennet::offerPhraseMenu(field(n));
   }
   load();
   using This = ChatKeySettingWidget;

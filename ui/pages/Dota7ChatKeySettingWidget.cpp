@@ -6,6 +6,7 @@
 #include "gameside/Dota7KeyInfoManager.h"
 #include "ui/Text.h"
 #include "ui/capture/KeyMessages.h"
+#include "ui/chat/PhraseMenu.h"
 #include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
 #include "ui/window/TabOrder.h"
@@ -30,6 +31,7 @@ QLineEdit* newPhraseField(const QString& objectName, const QString& accessibleNa
   field->setObjectName(objectName);
   field->setAccessibleName(accessibleName);
   const QString shown(kShownCharacters, QChar(kWideCharacter));
+  brennet::offerPhraseMenu(*field);
   field->setMinimumWidth(field->fontMetrics().horizontalAdvance(shown));
   return field;
 }

@@ -8,6 +8,7 @@
 
 #include "model/CardPositions.h"
 #include "ui/capture/CKeyLineEdit.h"
+#include "ui/window/CPictureButton.h"
 
 namespace brennet {
 namespace {
@@ -19,7 +20,7 @@ constexpr int kNumpad0 = 0x60;
 void addCastButton(QGridLayout& grid, CardPosition cell, const QString& objectName,
                    const QString& what, const KeyRowTexts& texts, CastButtons& buttons) {
   if (texts.quickCast.isEmpty()) return;
-  auto* const button = new QPushButton;
+  auto* const button = new CPictureButton;
   button->setObjectName(objectName);
   button->setCheckable(true);
   button->setAutoDefault(false);

@@ -13,6 +13,7 @@
 
 #include <memory>
 
+#include "ui/window/ScreenFit.h"
 #include "ui/window/StyleSheet.h"
 #include "ui/window/WindowDrag.h"
 
@@ -75,6 +76,7 @@ QPushButton* makeCloseButton(QWidget* parent) {
 CMsgBox::CMsgBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons,
                  QWidget* parent, Qt::WindowFlags flags)
     : QMessageBox(icon, title, text, buttons, parent, flags | Qt::FramelessWindowHint) {
+  fit_ = new brennet::ScreenFit(*this);
   applySkin();
   buildTitleStrip();
   // The panel of the buttons is visible, so they stand in its middle.
@@ -159,6 +161,7 @@ brennet::DraggableWindow CMsgBox::dragged() const {
 void CMsgBox::showEvent(QShowEvent* event) {
   layout()->setMenuBar(titleStrip());
   QMessageBox::showEvent(event);
+  fit_->comeUp();
 }
 
 // The panel of the buttons goes on to the edges of the box, as far as its border.

@@ -4,7 +4,8 @@
 
 namespace brennet {
 struct DraggableWindow;
-}
+class ScreenFit;
+}  // namespace brennet
 
 // The message box of all settings windows: a QMessageBox in the skin, without the system's frame,
 // with a title strip of its own. It is in no namespace, because style sheets and catalogues of
@@ -40,4 +41,6 @@ class CMsgBox : public QMessageBox {
   [[nodiscard]] QWidget* titleStrip() const;
   [[nodiscard]] QWidget* buttonPanel() const;
   [[nodiscard]] brennet::DraggableWindow dragged() const;
+
+  brennet::ScreenFit* fit_ = nullptr;  // a child of this
 };

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "ui/capture/CKeyLineEdit.h"
+#include "ui/window/CPageScroller.h"
 
 namespace brennet {
 namespace {
@@ -21,7 +22,9 @@ void collect(QLayoutItem& item, Controls& controls) {
   QWidget* const widget = item.widget();
   if (widget == nullptr) return;
   if ((widget->focusPolicy() & Qt::TabFocus) != 0) controls.push_back(widget);
-  if (QLayout* const inside = widget->layout()) collect(*inside, controls);
+  const auto* const scroller = qobject_cast<const CPageScroller*>(widget);
+  const QWidget* const holder = scroller == nullptr ? widget : scroller->widget();
+  if (QLayout* const inside = holder->layout()) collect(*inside, controls);
 }
 
 // The items of a layout, in the order in which one reads them.

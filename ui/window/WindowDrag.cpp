@@ -1,5 +1,6 @@
 #include "ui/window/WindowDrag.h"
 
+#include <QApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
@@ -8,6 +9,8 @@
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
+
+#include "ui/window/CPageScroller.h"
 
 namespace brennet {
 namespace {
@@ -24,8 +27,51 @@ QPoint pointOf(std::intptr_t lParam) {
 
 // What only holds other controls, and shows nothing of its own between them.
 bool isEmptyArea(const QWidget& widget) {
+  if (qobject_cast<const CPageScroller*>(widget.parentWidget()) != nullptr) return true;
   return widget.layout() != nullptr && qobject_cast<const QGroupBox*>(&widget) == nullptr;
 }
+
+// Waits for the mouse to move after a press. A click alone must not start anything: the release may
+// come before the system has begun to move the window, and then the window would stay with the
+// mouse until the next click.
+class DragStart : public QObject {
+ public:
+  DragStart(QWindow& window, QPoint pressedAt)
+      : QObject(&window), window_(window), pressedAt_(pressedAt) {
+    qApp->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::MouseMove:
+        moved(*static_cast<const QMouseEvent*>(event));
+        break;
+      case QEvent::MouseButtonRelease:
+        end();
+        break;
+      default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  void moved(const QMouseEvent& move) {
+    const bool isHeld = (move.buttons() & Qt::LeftButton) != 0;
+    const int distance = (move.globalPos() - pressedAt_).manhattanLength();
+    if (isHeld && distance < QApplication::startDragDistance()) return;
+    end();
+    if (isHeld) window_.startSystemMove();
+  }
+  void end() {
+    qApp->removeEventFilter(this);
+    deleteLater();
+  }
+
+  QWindow& window_;
+  QPoint pressedAt_;
+};
 
 }  // namespace
 
@@ -73,7 +119,9 @@ bool answerHitTest(const DraggableWindow& dragged, const QByteArray& eventType, 
 bool startDrag(const DraggableWindow& dragged, const QMouseEvent& press) {
   if (press.button() != Qt::LeftButton) return false;
   if (hitAt(dragged, press.globalPos()) != Hit::Caption) return false;
-  if (QWindow* const window = dragged.window.windowHandle()) window->startSystemMove();
+  if (QWindow* const window = dragged.window.windowHandle()) {
+    new DragStart(*window, press.globalPos());  // the window's, until it ends itself
+  }
   return true;
 }
 

@@ -40,8 +40,8 @@ struct NativeMessage {
 bool answerHitTest(const DraggableWindow& dragged, const QByteArray& eventType, const void* message,
                    long* result);
 
-// For QWidget::mousePressEvent, on systems that do not ask: a left press where the window can be
-// dragged starts that. Returns whether it was such a press.
+// For QWidget::mousePressEvent, on systems that do not ask: after a left press where the window can
+// be dragged it follows the mouse as soon as that moves. Returns whether it was such a press.
 bool startDrag(const DraggableWindow& dragged, const QMouseEvent& press);
 
 }  // namespace brennet

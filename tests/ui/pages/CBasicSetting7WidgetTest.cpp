@@ -172,14 +172,31 @@ TEST_F(BasicPage, IsReadInOrder) {
   const auto at = [&order](const char* name) { return order.indexOf(QLatin1String(name)); };
   // Key fields keep Tab as a key: what can be left by it comes before them.
   const char* const kInOrder[] = {
-      "btn_skillcast_9",    "chkSkillHero",    "btn_SetAll_AutoCast",
-      "chkKeyModifyHero",   "chkLockMouse",    "chkHideUI",
-      "chkGroupKey1",       "chkGroupKey3",    "btnOrrerySetting",
-      "btnDota7Setting",    "edtSkill_9",      "edtSkill_10",
-      "edtSkill_12",        "edtSkill_8",      "edtSkill_1",
-      "edtGoodsKey_7",      "edtGoodsKey_8",   "edtGoodsKey_4",
-      "edt_skillex_L_1",    "edt_skillex_R_1", "edt_skillex_GROUP_2_L_1",
-      "edtMouseWheelUpKey", "edtWinLockMouse"};
+      "btn_skillcast_9",
+      "chkSkillHero",
+      "btn_SetAll_AutoCast",
+      "chkKeyModifyHero",
+      "chkLockMouse",
+      "chkHideUI",
+      "btn_goods_cast_7",
+      "chkGroupKey1",
+      "chkGroupKey3",
+      "btnOrrerySetting",
+      "btnDota7Setting",
+      "edtSkill_9",
+      "edtSkill_10",
+      "edtSkill_12",
+      "edtSkill_8",
+      "edtSkill_1",
+      "edt_skillex_L_1",
+      "edt_skillex_R_1",
+      "edt_skillex_GROUP_2_L_1",
+      "edtWinLockMouse",
+      "edtGoodsKey_7",
+      "edtGoodsKey_8",
+      "edtGoodsKey_4",
+      "edtMouseWheelUpKey",
+  };
   expectKeyFieldsLast(order);
   int last = -1;
   for (const char* const name : kInOrder) {

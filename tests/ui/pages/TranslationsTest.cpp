@@ -37,7 +37,7 @@ namespace brennet::test {
 namespace {
 
 struct Entry {
-  QString context, source, translation, state;
+  QString context, source, translation, state, comment;
 };
 
 QList<Entry> readEntries(const QString& language) {
@@ -50,7 +50,11 @@ QList<Entry> readEntries(const QString& language) {
     xml.readNext();
     if (!xml.isStartElement()) continue;
     if (xml.name() == QLatin1String("name")) entry.context = xml.readElementText();
-    if (xml.name() == QLatin1String("source")) entry.source = xml.readElementText();
+    if (xml.name() == QLatin1String("source")) {
+      entry.source = xml.readElementText();
+      entry.comment.clear();
+    }
+    if (xml.name() == QLatin1String("comment")) entry.comment = xml.readElementText();
     if (xml.name() != QLatin1String("translation")) continue;
     entry.state = xml.attributes().value(QLatin1String("type")).toString();
     entry.translation = xml.readElementText();
@@ -66,8 +70,10 @@ class TheCatalogue : public testing::TestWithParam<const char*> {
     const QString name = QStringLiteral("brennet_%1.qm").arg(QLatin1String(GetParam()));
     EXPECT_TRUE(catalogue.load(name, QStringLiteral(BRENNET_TRANSLATIONS)));
   }
-  QString translated(const QString& context, const QString& source) const {
-    return catalogue.translate(context.toUtf8().constData(), source.toUtf8().constData());
+  QString translated(const QString& context, const QString& source,
+                     const QString& comment = QString()) const {
+    return catalogue.translate(context.toUtf8().constData(), source.toUtf8().constData(),
+                               comment.toUtf8().constData());
   }
   // For a fault to say where it is.
   static std::string where(const Entry& entry) {
@@ -83,7 +89,8 @@ TEST_P(TheCatalogue, IsWhole) {
   for (const Entry& entry : entries) {
     EXPECT_EQ(entry.state, QString()) << where(entry);
     EXPECT_FALSE(entry.translation.isEmpty()) << where(entry);
-    EXPECT_EQ(translated(entry.context, entry.source), entry.translation) << where(entry);
+    EXPECT_EQ(translated(entry.context, entry.source, entry.comment), entry.translation)
+        << where(entry);
   }
 }
 
@@ -215,7 +222,7 @@ TEST_P(TheCatalogue, HasAllThatTheWindowsAskFor) {
   showMessages(texts);
   for (const auto& [context, source] : asked.entries) {
     if (isOfQt(context)) continue;
-    EXPECT_NE(translated(context, source), QString()) << where({context, source, {}, {}});
+    EXPECT_NE(translated(context, source), QString()) << where({context, source, {}, {}, {}});
   }
   EXPECT_GT(asked.entries.size(), entries.size() / 2);
 

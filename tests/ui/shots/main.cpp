@@ -13,6 +13,7 @@
 
 #include <cstdio>
 
+#include "tests/ui/screens/TestScreens.h"
 #include "tests/ui/shots/Shots.h"
 
 namespace {
@@ -49,6 +50,7 @@ bool takeAtScale(const char* scale, int argc, char** argv) {
   qputenv("QT_SCALE_FACTOR", scale);
   const QApplication application(argc, argv);
   QApplication::setStyle(QStringLiteral("fusion"));
+  const brennet::test::TestScreens screens({{QSize(1920, 1080) * QByteArray(scale).toDouble()}});
   // As large as a host on Windows has it: 9 points.
   QFont font = QApplication::font();
   font.setPointSizeF(9);

@@ -1,0 +1,79 @@
+#include "ui/chat/PhraseMenu.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QKeySequence>
+#include <QLineEdit>
+#include <QMenu>
+
+namespace brennet {
+namespace {
+
+bool canPaste(const QLineEdit& /*field*/) {
+  return !QGuiApplication::clipboard()->text().isEmpty();
+}
+bool hasText(const QLineEdit& field) {
+  return !field.text().isEmpty();
+}
+
+struct Entry {
+  const char* text;
+  QKeySequence::StandardKey key;
+  void (*act)(QLineEdit& field);
+  bool (*isPossible)(const QLineEdit& field);
+  bool opensGroup = false;  // a line stands above it
+};
+
+// Methods of a line edit as plain functions.
+template <auto isPossible>
+bool asked(const QLineEdit& field) {
+  return (field.*isPossible)();
+}
+template <auto act>
+void done(QLineEdit& field) {
+  (field.*act)();
+}
+
+// The texts are Qt's, so that a catalogue of Qt's own serves as well as one of this component.
+constexpr Entry kEntries[] = {
+    {QT_TRANSLATE_NOOP("QLineEdit", "&Undo"), QKeySequence::Undo, done<&QLineEdit::undo>,
+     asked<&QLineEdit::isUndoAvailable>},
+    {QT_TRANSLATE_NOOP("QLineEdit", "&Redo"), QKeySequence::Redo, done<&QLineEdit::redo>,
+     asked<&QLineEdit::isRedoAvailable>},
+    {QT_TRANSLATE_NOOP("QLineEdit", "Cu&t"), QKeySequence::Cut, done<&QLineEdit::cut>,
+     asked<&QLineEdit::hasSelectedText>, true},
+    {QT_TRANSLATE_NOOP("QLineEdit", "&Copy"), QKeySequence::Copy, done<&QLineEdit::copy>,
+     asked<&QLineEdit::hasSelectedText>},
+    {QT_TRANSLATE_NOOP("QLineEdit", "&Paste"), QKeySequence::Paste, done<&QLineEdit::paste>,
+     canPaste},
+    {QT_TRANSLATE_NOOP("QLineEdit", "Delete"), QKeySequence::UnknownKey, done<&QLineEdit::del>,
+     asked<&QLineEdit::hasSelectedText>},
+    {QT_TRANSLATE_NOOP("QLineEdit", "Select All"), QKeySequence::SelectAll,
+     done<&QLineEdit::selectAll>, hasText, true},
+};
+
+void showMenu(QLineEdit& field, QPoint place) {
+  auto* const menu = new QMenu(&field);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const Entry& entry : kEntries) {
+    if (entry.opensGroup) menu->addSeparator();
+    QAction* const action = menu->addAction(QCoreApplication::translate("QLineEdit", entry.text));
+    action->setShortcut(entry.key);
+    action->setShortcutVisibleInContextMenu(true);
+    action->setEnabled(entry.isPossible(field));
+    QObject::connect(action, &QAction::triggered, &field,
+                     [&field, act = entry.act] { act(field); });
+  }
+  menu->popup(place);
+}
+
+}  // namespace
+
+void offerPhraseMenu(QLineEdit& field) {
+  field.setContextMenuPolicy(Qt::CustomContextMenu);
+  QObject::connect(&field, &QWidget::customContextMenuRequested, &field,
+                   [&field](QPoint place) { showMenu(field, field.mapToGlobal(place)); });
+}
+
+}  // namespace brennet

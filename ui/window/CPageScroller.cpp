@@ -1,0 +1,52 @@
+#include "ui/window/CPageScroller.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScrollBar>
+
+CPageScroller::CPageScroller(QWidget* parent) : QScrollArea(parent) {
+  setFrameShape(QFrame::NoFrame);
+  setWidgetResizable(true);
+  setFocusPolicy(Qt::NoFocus);
+  viewport()->setAutoFillBackground(false);
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget* /*old*/, QWidget* now) { showFocus(now); });
+}
+
+void CPageScroller::setLimit(QSize limit) {
+  if (limit_ == limit) return;
+  limit_ = limit;
+  updateGeometry();
+}
+
+QSize CPageScroller::sizeHint() const {
+  if (widget() == nullptr) return {};
+  const QSize page = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+  bool isTall = page.height() > limit_.height();
+  const int width = page.width() + (isTall ? verticalScrollBar()->sizeHint().width() : 0);
+  const bool isWide = width > limit_.width();
+  int height = page.height() + (isWide ? horizontalScrollBar()->sizeHint().height() : 0);
+  // The bar below may be what is too much.
+  const bool isTallByTheBar = !isTall && height > limit_.height();
+  const QSize whole(isTallByTheBar ? width + verticalScrollBar()->sizeHint().width() : width,
+                    height);
+  return whole.boundedTo(limit_);
+}
+
+bool CPageScroller::event(QEvent* event) {
+  if (event->type() == QEvent::StyleChange) updateGeometry();  // the bars have another width
+  return QScrollArea::event(event);
+}
+
+// The page asks for another size. Qt tells its viewport of that, and nobody else.
+bool CPageScroller::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  return QScrollArea::eventFilter(watched, event);
+}
+
+// A click stays where it is: what it is on must not move away before the button is released.
+void CPageScroller::showFocus(QWidget* focus) {
+  if (focus == nullptr || !isAncestorOf(focus)) return;
+  if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
+  ensureWidgetVisible(focus);
+}

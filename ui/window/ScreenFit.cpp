@@ -1,0 +1,94 @@
+#include "ui/window/ScreenFit.h"
+
+#include <QGuiApplication>
+#include <QLayout>
+#include <QScreen>
+#include <QTimer>
+#include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+
+#include "ui/window/CPageScroller.h"
+#include "ui/window/HostPlace.h"
+
+namespace brennet {
+namespace {
+
+// Along one axis. The start counts more than the end.
+int inside(int place, int size, int start, int areaSize) {
+  return std::max(std::min(place, start + areaSize - size), start);
+}
+
+// Lets the window know that a widget inside has another size. A layout tells the one around it only
+// when events are handled, which would be too late for the place of the window.
+void renewSizes(QWidget& inner, const QWidget& window) {
+  for (QWidget* widget = &inner; widget != &window; widget = widget->parentWidget()) {
+    if (widget->layout() != nullptr) widget->layout()->activate();
+    widget->updateGeometry();
+  }
+  window.layout()->activate();
+}
+
+}  // namespace
+
+QPoint cornerInside(const QRect& area, QSize size, QPoint corner) {
+  return {inside(corner.x(), size.width(), area.x(), area.width()),
+          inside(corner.y(), size.height(), area.y(), area.height())};
+}
+
+ScreenFit::ScreenFit(QWidget& window)
+    : QObject(&window), window_(window), content_(window.findChild<CPageScroller*>()) {}
+
+void ScreenFit::comeUp() {
+  if (!window_.isWindow()) return;  // somebody has put it into another one
+  const HostPlace host = hostPlaceOf(window_);
+  const QRect area = host.screen->availableGeometry();
+  limitTo(area.size());
+  // Who has moved the window wants it there; the attribute must not stay from what is done here.
+  const bool isMoved = window_.testAttribute(Qt::WA_Moved);
+  if (!isMoved) window_.move(host.centre - window_.rect().center());
+  keepInside(isMoved ? window_.windowHandle()->screen()->availableGeometry() : area);
+  window_.setAttribute(Qt::WA_Moved, isMoved);
+  watch();
+}
+
+void ScreenFit::watch() {
+  if (std::exchange(isWatching_, true)) return;
+  // Somebody drags the window there: it stays in his hand.
+  connect(window_.windowHandle(), &QWindow::screenChanged, this, [this] { fitAgain(false); });
+  const auto watchScreen = [this](QScreen* screen) {
+    connect(screen, &QScreen::availableGeometryChanged, this, [this] { fitAgain(true); });
+  };
+  for (QScreen* const screen : QGuiApplication::screens()) watchScreen(screen);
+  connect(qGuiApp, &QGuiApplication::screenAdded, this, watchScreen);
+  // Qt moves the window to another screen when all have been told.
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this,
+          [this] { QTimer::singleShot(0, this, [this] { fitAgain(true); }); });
+}
+
+void ScreenFit::fitAgain(bool moves) {
+  const QWindow* const handle = window_.windowHandle();
+  if (!window_.isVisible() || handle == nullptr || handle->screen() == nullptr) return;
+  const QRect area = handle->screen()->availableGeometry();
+  limitTo(area.size());
+  if (moves) keepInside(area);
+}
+
+void ScreenFit::limitTo(QSize available) const {
+  if (content_ == nullptr) return;
+  QLayout& layout = *window_.layout();
+  content_->setLimit({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
+  renewSizes(*content_, window_);
+  const QSize around = layout.totalSizeHint() - content_->sizeHint();
+  content_->setLimit(available - around.expandedTo({0, 0}));
+  renewSizes(*content_, window_);
+  window_.resize(layout.totalSizeHint());
+}
+
+void ScreenFit::keepInside(const QRect& area) const {
+  window_.move(cornerInside(area, window_.size(), window_.pos()));
+}
+
+}  // namespace brennet

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <QRect>
+
+class CPageScroller;
+class QScreen;
+class QWidget;
+
+namespace brennet {
+
+// Where a window of that size is moved to so that it is inside the area: as little as possible. Of
+// one that is larger than the area the top left corner, where its title is, stays inside.
+[[nodiscard]] QPoint cornerInside(const QRect& area, QSize size, QPoint corner);
+
+// Keeps a window without a frame inside the part of its screen that is free for windows: without
+// task bars and docks.
+class ScreenFit : public QObject {
+ public:
+  // `window` owns this. What is too large for the screen scrolls in its CPageScroller; without one
+  // the window keeps its size.
+  explicit ScreenFit(QWidget& window);
+
+  // To be called when the window is shown and has its final look. A window that nobody has moved
+  // comes up in the middle of the one that it belongs to: its parent's, its transient parent or the
+  // one that the player has before him. All come up on the screen of that window, and stay inside
+  // when the screen changes or is taken away.
+  void comeUp();
+
+ private:
+  void watch();
+  void limitTo(QSize available) const;
+  void keepInside(const QRect& area) const;
+  void fitAgain(bool moves);
+
+  QWidget& window_;
+  CPageScroller* content_;
+  bool isWatching_ = false;
+};
+
+}  // namespace brennet
