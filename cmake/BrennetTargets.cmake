@@ -75,3 +75,23 @@ function(brennet_add_test name)
       DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 600)
   endif()
 endfunction()
+
+# The fonts that windows are tested with, see tests/ui/fonts/. The first is what programs use where
+# nobody asks for another.
+set(BRENNET_FONT_SETS dejavu wqy noto)
+
+# brennet_add_font_tests(ui "PagesLook.*:Fit*")
+# Has CTest run those tests of a program once more with each other font set, as ui_wqy.PagesLook.*
+# and so on. Programs for another system know one set of fonts only.
+function(brennet_add_font_tests name filter)
+  if(CMAKE_CROSSCOMPILING)
+    return()
+  endif()
+  set(others ${BRENNET_FONT_SETS})
+  list(POP_FRONT others)
+  foreach(set IN LISTS others)
+    gtest_discover_tests(${name}_tests TEST_PREFIX "${name}_${set}." TEST_FILTER "${filter}"
+      TEST_LIST ${name}_${set}_tests NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
+      PROPERTIES TIMEOUT 600 ENVIRONMENT "BRENNET_TEST_FONTS=${set}")
+  endforeach()
+endfunction()

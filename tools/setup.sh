@@ -9,7 +9,8 @@ set -euo pipefail
 declare -A packages=(
   [build]="g++ cmake ninja-build pkg-config libicu-dev qtbase5-dev
            qttools5-dev-tools"
-  [test]="qtbase5-private-dev libgtest-dev libgmock-dev clang python3 make patch xz-utils"
+  [test]="qtbase5-private-dev libgtest-dev libgmock-dev clang python3 make patch xz-utils
+          fonts-dejavu-core fonts-wqy-microhei fonts-noto-cjk"
   [bench]="libbenchmark-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libexpat1-dev
            libxml2-dev python3"
   [fuzz]="clang libclang-rt-14-dev"

@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QStyleFactory>
 
 #include "platform/Export.h"
 #include "tests/ui/UiTest.h"
+#include "tests/ui/fonts/TestFonts.h"
 
 // The leak sanitizer asks for this by name: the library of fonts keeps what it read.
 extern "C" BRENNET_EXPORT const char* __lsan_default_suppressions() {
@@ -16,19 +16,10 @@ extern "C" BRENNET_EXPORT const char* __lsan_default_suppressions() {
 
 namespace {
 
-// The offscreen platform knows the fonts of other systems, but not where Windows has them. Wine
-// uses those of the system below it.
-void setFontFolder() {
-  const QString windows = qEnvironmentVariable("windir");
-  if (windows.isEmpty()) return;
-  for (const QString& folder :
-       {windows + QStringLiteral("/Fonts"), QStringLiteral("Z:/usr/share/fonts/truetype/wqy")}) {
-    if (!QDir(folder).isEmpty(QDir::Files)) {
-      qputenv("QT_QPA_FONTDIR", folder.toLocal8Bit());
-      return;
-    }
-  }
-}
+// Without its fonts no test would say anything; the tests can be listed all the same.
+class Fonts : public testing::Environment {
+  void SetUp() override { ASSERT_TRUE(brennet::test::hasFontsOfTheSet()); }
+};
 
 }  // namespace
 
@@ -41,12 +32,13 @@ int main(int argc, char** argv) {
   }
   const QByteArray platform = qgetenv("BRENNET_TEST_PLATFORM");
   qputenv("QT_QPA_PLATFORM", platform.isEmpty() ? "offscreen" : platform);
-  setFontFolder();
+  brennet::test::useFontSetOfTheEnvironment();
   brennet::test::failOnWarnings();
   // It is never deleted: the offscreen platform loses its screen with it, and the leak sanitizer
   // would tell of that.
   static const QApplication* const application = new QApplication(argc, argv);
   Q_UNUSED(application)
+  testing::AddGlobalTestEnvironment(new Fonts);
   brennet::test::closeUnansweredBoxes();
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion")));
   return RUN_ALL_TESTS();

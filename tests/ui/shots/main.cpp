@@ -1,7 +1,7 @@
 // Takes pictures of the windows, without a screen: brennet-shots FOLDER
 // Each is taken in each language as screens of three densities show it: NAME.zh_CN.png,
-// NAME.zh_CN@1.5x.png, NAME.zh_CN@2x.png, NAME.en.png and so on. Chinese texts take a font that has
-// their characters, such as that of Debian's package fonts-wqy-microhei.
+// NAME.zh_CN@1.5x.png, NAME.zh_CN@2x.png, NAME.en.png and so on. The fonts are those of the set
+// "wqy", unless BRENNET_TEST_FONTS names another.
 
 #include <QApplication>
 #include <QDir>
@@ -13,6 +13,7 @@
 
 #include <cstdio>
 
+#include "tests/ui/fonts/TestFonts.h"
 #include "tests/ui/screens/TestScreens.h"
 #include "tests/ui/shots/Shots.h"
 
@@ -49,6 +50,7 @@ bool takeAll(const QList<Shot>& shots, const QDir& folder, const QString& langua
 bool takeAtScale(const char* scale, int argc, char** argv) {
   qputenv("QT_SCALE_FACTOR", scale);
   const QApplication application(argc, argv);
+  if (!brennet::test::hasFontsOfTheSet()) return false;
   QApplication::setStyle(QStringLiteral("fusion"));
   const brennet::test::TestScreens screens({{QSize(1920, 1080) * QByteArray(scale).toDouble()}});
   // As large as a host on Windows has it: 9 points.
@@ -76,6 +78,9 @@ int main(int argc, char** argv) {
     return 2;
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  // They are to show Chinese letters.
+  if (qEnvironmentVariableIsEmpty("BRENNET_TEST_FONTS")) qputenv("BRENNET_TEST_FONTS", "wqy");
+  brennet::test::useFontSetOfTheEnvironment();
   // The DotA 7 windows show what the registry holds.
   const QTemporaryDir folder;
   const QString registry = folder.filePath(QStringLiteral("registry.reg"));
