@@ -8,12 +8,25 @@
 #include "platform/RegistryEditor.h"
 
 namespace brennet {
+namespace {
+
+constexpr std::u16string_view kFileName = u"Tollamere.reg";
+
+// Whether that is the folder of the file, written so that the file's name can follow.
+bool hasFile(const std::u16string& directory) {
+  return platform::pathExists(platform::pathFromUtf16(directory + std::u16string(kFileName)));
+}
+
+}  // namespace
 
 bool importDefaultRegistry(std::u16string_view directory) {
-  constexpr std::u16string_view kFileName = u"Tollamere.reg";
   if (platform::RegistryKey(kDota7Path).isOpen()) return true;
-  const auto file = platform::pathFromUtf16(std::u16string(directory).append(kFileName));
-  return platform::pathExists(file) && platform::importRegFile(directory, kFileName);
+  std::u16string folder(directory);
+  // No name is no folder: a separator would make the root of it.
+  if (!hasFile(folder) && !folder.empty()) {
+    folder += static_cast<char16_t>(platform::Path::preferred_separator);
+  }
+  return hasFile(folder) && platform::importRegFile(folder, kFileName);
 }
 
 }  // namespace brennet

@@ -38,7 +38,8 @@ class IBrennet {
   // False with nothing changed when `path` is null.
   virtual bool BRENNET_CALL LoadSettings(const wchar_t* path) = 0;
 
-  // Slot 1. Stores the folder (copied) that holds Tollamere.reg; null stores an empty name.
+  // Slot 1. Stores the folder (copied) that holds Tollamere.reg, with a path separator at its end
+  // or without; null stores an empty name.
   virtual void BRENNET_CALL SetDataFolder(const wchar_t* folder) = 0;
 
   // Slot 2. Opens the settings dialog, modal over the host's window, on a copy of the settings.

@@ -61,6 +61,16 @@ TEST_F(RegistryImportCall, StartsTheEditorInTheFolderOfTheFile) {
   EXPECT_EQ(call.show, SW_HIDE);
 }
 
+TEST_F(RegistryImportCall, StartsTheEditorThereAlsoWhereTheFolderEndsInNoSeparator) {
+  answer = 33;
+  EXPECT_TRUE(importDefaultRegistry(folder_.u16string()));
+  EXPECT_FALSE(importDefaultRegistry((folder_ / "missing").u16string()));
+  EXPECT_FALSE(importDefaultRegistry(u""));
+  ASSERT_EQ(calls.size(), 1U);
+  EXPECT_EQ(calls.front().parameters, L"/s Tollamere.reg");
+  EXPECT_EQ(calls.front().directory, (folder_ / "").wstring());
+}
+
 // The shell answers with a number above 32 where it has started the program.
 TEST_F(RegistryImportCall, TellsWhetherTheEditorWasStarted) {
   for (const std::intptr_t number : {0, 2, 32, 33, 42}) {

@@ -37,6 +37,54 @@ TEST(RegistryImportFromAFile, GivesTheRegistryTheSample) {
   }
 }
 
+TEST(RegistryImportFromAFile, FindsTheFileWithASeparatorAtTheEndOfTheFolderOrWithout) {
+  const TempFolder parent;
+  const std::filesystem::path folder = parent / "data";
+  std::filesystem::create_directory(folder);
+  writeBytes(folder / "Tollamere.reg", "REGEDIT4\r\n");
+  writeBytes(parent / "other Tollamere.reg", "REGEDIT4\r\n");
+  const struct {
+    std::u16string directory;
+    bool isFound;
+  } kRows[] = {
+      {folder.u16string(), true},
+      {(folder / "").u16string(), true},
+      {(folder / ".." / "data").u16string(), true},
+      {folder.u16string() + u"//", true},
+      {(parent / "").u16string() + u"other ", true},  // it is the text that the name follows
+      {(parent / "").u16string(), false},
+      {(parent / "").u16string() + u"dat", false},
+      {(parent / "").u16string() + u"data ", false},
+      {(folder / "Tollamere.reg").u16string(), false},
+  };
+  for (const auto& row : kRows) {
+    const ScopedRegistry registry;
+    EXPECT_EQ(importDefaultRegistry(row.directory), row.isFound)
+        << testing::PrintToString(row.directory);
+  }
+}
+
+TEST(RegistryImportFromAFile, TakesTheFileWithoutASeparatorFirst) {
+  const TempFolder parent;
+  const std::filesystem::path folder = parent / "data";
+  std::filesystem::create_directory(folder);
+  const auto valueOf = [](const char* digit) {
+    return "REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\Tollamere\\CONTROL]\r\n\"HHoldKeyCode\"=dword:0000005"s +
+           digit + "\r\n";
+  };
+  const auto imported = [&] {
+    const ScopedRegistry registry;
+    EXPECT_TRUE(importDefaultRegistry(folder.u16string()));
+    Dota7KeyInfoManager manager;
+    manager.settings().load();
+    return manager.settings().key(*findDota7KeyField(u"edt_HHoldKey"));
+  };
+  writeBytes(folder / "Tollamere.reg", valueOf("1"));
+  EXPECT_EQ(imported(), test::key('Q'));
+  writeBytes(parent / "dataTollamere.reg", valueOf("2"));
+  EXPECT_EQ(imported(), test::key('R'));
+}
+
 TEST(RegistryImportFromAFile, LeavesTheRegistryAloneWhereTheFileIsDamaged) {
   const ScopedRegistry registry;
   const RegFile before = registry.content();

@@ -91,6 +91,16 @@ TEST_P(RegistryImportByRegedit, GivesTheRegistryTheSampleOnce) {
   EXPECT_EQ(processes.number(), 1U) << "the key is there now";
 }
 
+TEST_P(RegistryImportByRegedit, TakesAFolderWithoutASeparatorAtItsEnd) {
+  writeBytes(folder_ / "Tollamere.reg", readBytes(kSample));
+  const StartedProcesses processes;
+  EXPECT_TRUE(importDefaultRegistry(folder_.u16string()));
+  ASSERT_TRUE(processes.waitForThem());
+  RegFile expected;
+  EXPECT_TRUE(expected.merge(readBytes(kSample)));
+  EXPECT_EQ(registry_.content(), expected);
+}
+
 TEST_P(RegistryImportByRegedit, StartsNothingWhereTheKeyIsThere) {
   registry_.createKey(kDota7Path);
   writeBytes(folder_ / "Tollamere.reg", readBytes(kSample));
