@@ -130,7 +130,7 @@ void CMsgBox::applySkin() {
 void CMsgBox::buildTitleStrip() {
   auto* const strip = new QWidget(this);
   strip->setObjectName(QStringLiteral("msgbox_title_widget"));
-  strip->setFixedHeight(brennet::kStripHeight);
+  strip->setMinimumHeight(brennet::kStripHeight);  // tall letters take more
   auto* const title = new QLabel(windowTitle(), strip);
   title->setObjectName(QStringLiteral("msgbox_title_label"));
   title->setTextFormat(Qt::PlainText);

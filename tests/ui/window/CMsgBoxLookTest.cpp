@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QImage>
 #include <QLabel>
@@ -75,6 +76,28 @@ TEST(TheLookOfTheBox, IsATitleStripOf30PixelsOverItsWholeWidth) {
   }
   EXPECT_EQ(picture.pixel(2, 30), kPage);
   EXPECT_EQ(picture.pixel(right, 30), kPage);
+}
+
+// The mouse takes the box in its upper 30 pixels, however tall the strip is (HitTestTest.cpp).
+TEST(TheLookOfTheBox, HasATallerStripWhereTheLettersOfTheTitleAreTaller) {
+  const QFont font = QApplication::font();
+  QFont large = font;
+  large.setPointSizeF(9.0 * 3);
+  QApplication::setFont(large);
+  {
+    ShownBox shown;
+    const QRect strip = shown.rectOf("msgbox_title_widget");
+    const QRect title = shown.rectOf("msgbox_title_label");
+    EXPECT_GT(strip.height(), 30);
+    EXPECT_EQ(strip.topLeft(), QPoint(0, 0));
+    EXPECT_EQ(strip.width(), shown.box().width());
+    EXPECT_TRUE(strip.contains(title));
+    EXPECT_GE(title.height(), QFontMetrics(large).height());
+    EXPECT_GT(shown.rectOf("qt_msgbox_label").top(), strip.bottom());
+    EXPECT_EQ(shown.picture().pixel(2, strip.bottom()), kStrip);
+    EXPECT_EQ(shown.picture().pixel(2, strip.bottom() + 1), kPage);
+  }
+  QApplication::setFont(font);
 }
 
 TEST(TheLookOfTheBox, IsAPanelFromTheButtonsToItsBorder) {
