@@ -57,12 +57,12 @@ endfunction()
 # brennet_add_test(markup SOURCES a_test.cpp DEPENDS Brennet::markup)
 # One GoogleTest program per folder, each of its cases a CTest test. Programs for another system
 # are a test each: starting its emulator takes longer than most programs run. With OWN_MAIN behind
-# the name the sources hold the function main.
+# the name the sources hold the function main, which calls leaveTheCallersWorld().
 function(brennet_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 test "OWN_MAIN" "" "SOURCES;DEPENDS")
-  set(main GTest::gtest_main)
+  set(main Brennet::test_main)
   if(test_OWN_MAIN)
-    set(main GTest::gtest)
+    set(main Brennet::test_world GTest::gtest)
   endif()
   add_executable(${name}_tests ${test_SOURCES})
   brennet_target_defaults(${name}_tests)
@@ -74,6 +74,18 @@ function(brennet_add_test name)
     gtest_discover_tests(${name}_tests TEST_PREFIX "${name}." NO_PRETTY_VALUES
       DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 600)
   endif()
+endfunction()
+
+# brennet_add_script_test(name [VARIABLE=VALUE]... COMMAND ARGUMENT... [WORKING_DIRECTORY folder])
+# A test that is a command, such as a script, or a program that is no GoogleTest program. It runs in
+# the world of the tests, in which nothing is of the caller's; the variables come on top.
+function(brennet_add_script_test name)
+  set(fonts)
+  if(NOT CMAKE_CROSSCOMPILING)
+    set(fonts "FONTCONFIG_FILE=${PROJECT_BINARY_DIR}/tests/ui/fonts/dejavu.conf")
+  endif()
+  add_test(NAME "${name}"
+    COMMAND "${PROJECT_SOURCE_DIR}/tests/support/world.sh" ${fonts} ${ARGN})
 endfunction()
 
 # The fonts that windows are tested with, see tests/ui/fonts/. The first is what programs use where

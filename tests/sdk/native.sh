@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # Installs the native build, moves what was installed, and builds a host with it:
-# native.sh WORK BUILD CONFIG VERSION SAMPLE_DATA CXX_FLAGS
+# native.sh WORK BUILD CONFIG VERSION SAMPLE_DATA [CXX_FLAGS]
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 # shellcheck source=tests/sdk/lib.sh
 source "$here/lib.sh"
 
-work=$1 build=$2 config=${3:-noconfig} version=$4 data=$5 flags=$6
+work=$1 build=$2 config=$3 version=$4 data=$5 flags=${6-}
 major=${version%%.*}
 
 empty_folder "$work"

@@ -14,6 +14,7 @@ stand_in wineserver 'exit 0'
 stand_in Xvfb 'echo 77 >&3; exec sleep "$LONG_SCREEN"'
 stand_in wine 'case "$1" in
   wait.exe) exec sleep "$LONG" ;;
+  environment.exe) env | grep -E "^(LANG|LC_|TZ|TMP|TEMP|XDG_|FONTCONFIG_)"; exit ;;
 esac
 echo "$*, display ${DISPLAY-none}, locale $LC_ALL, input $(cat)"
 cat "$WINEPREFIX"/*.reg
@@ -75,6 +76,11 @@ for _ in 1 2; do
     "${run[@]}" program.exe 'an argument'
 done
 [[ ! -e $HOME/left-behind ]] || fail 'written into the home folder'
+
+# Nothing of the caller's language, time and folders.
+says 0 'LC_ALL=zh_CN.UTF-8' env LANG=C LANGUAGE=tr LC_CTYPE=C TZ=Pacific/Kiritimati \
+  TMPDIR=/tmp TMP=/tmp TEMP=/tmp XDG_CACHE_HOME="$folder/none" FONTCONFIG_FILE=none \
+  "${run[@]}" environment.exe
 
 # With a screen, which ends with the program.
 says 7 $'program.exe, display :77, locale zh_CN.UTF-8, input typed\nregistry\n

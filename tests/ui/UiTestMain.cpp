@@ -6,6 +6,7 @@
 #include <QStyleFactory>
 
 #include "platform/Export.h"
+#include "tests/support/World.h"
 #include "tests/ui/UiTest.h"
 #include "tests/ui/fonts/TestFonts.h"
 
@@ -24,12 +25,8 @@ class Fonts : public testing::Environment {
 }  // namespace
 
 int main(int argc, char** argv) {
+  brennet::test::leaveTheCallersWorld();
   testing::InitGoogleTest(&argc, argv);
-  for (const char* const variable :
-       {"QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS",
-        "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_FONT_DPI"}) {
-    qunsetenv(variable);
-  }
   const QByteArray platform = qgetenv("BRENNET_TEST_PLATFORM");
   qputenv("QT_QPA_PLATFORM", platform.isEmpty() ? "offscreen" : platform);
   brennet::test::useFontSetOfTheEnvironment();

@@ -71,7 +71,7 @@ run_in_root() {
     [[ -z ${BRENNET_SCREEN-} ]] ||
       start_screen "$root$home/prefix" "$root/tmp" chroot "$root" Xvfb
     status=0
-    chroot "$root" env -u "BASH_FUNC_start_screen%%" -u LANG -u LANGUAGE -u TMPDIR -u TMP -u TEMP --chdir="$PWD" \
+    chroot "$root" env -u "BASH_FUNC_start_screen%%" --chdir="$PWD" \
       HOME="$home" WINEPREFIX="$home/prefix" LC_ALL="$locale" PATH=/usr/bin:/bin \
       wine "$@" || status=$?
     exit $status' run_in_root "$wine_dir" "$wine_home" "$wine_locale" "$@"
@@ -93,8 +93,19 @@ run_with_installed_wine() {
   stoppable env LC_ALL="$wine_locale" wine "$@"
 }
 
+# Wine hands on what it finds in the environment, and programs ask it for the language and the time.
+leave_callers_world() {
+  local name
+  for name in $(compgen -e); do
+    case $name in
+      LANG | LANGUAGE | LC_* | TZ | TMPDIR | TMP | TEMP | XDG_* | FONTCONFIG_*) unset "$name" ;;
+    esac
+  done
+}
+
 main() {
   [[ $# -gt 0 ]] || { echo "usage: tools/windows/run.sh PROGRAM.exe ARGUMENT..." >&2 && exit 2; }
+  leave_callers_world
   # Wine is silent but for the DLLs that it does not find.
   export WINEDEBUG=${WINEDEBUG:--all,err+module} checkout toolchain_dir
   if [[ -d $wine_dir/root ]]; then

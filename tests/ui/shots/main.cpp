@@ -13,6 +13,7 @@
 
 #include <cstdio>
 
+#include "tests/support/World.h"
 #include "tests/ui/fonts/TestFonts.h"
 #include "tests/ui/screens/TestScreens.h"
 #include "tests/ui/shots/Shots.h"
@@ -77,6 +78,7 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: brennet-shots FOLDER\n");
     return 2;
   }
+  brennet::test::leaveTheCallersWorld();
   qputenv("QT_QPA_PLATFORM", "offscreen");
   // They are to show Chinese letters.
   if (qEnvironmentVariableIsEmpty("BRENNET_TEST_FONTS")) qputenv("BRENNET_TEST_FONTS", "wqy");

@@ -1,0 +1,92 @@
+// The world of test programs: nothing of the caller's, and the same as that of scripts.
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <memory>
+#include <set>
+#include <string>
+
+#include "tests/support/TestData.h"
+#include "tests/support/World.h"
+
+extern char** environ;
+
+namespace brennet::test {
+namespace {
+
+// What somebody may have set, and what must not reach a test.
+constexpr const char* kCallers[] = {"LANG",
+                                    "LANGUAGE",
+                                    "LC_CTYPE",
+                                    "LC_NUMERIC",
+                                    "QT_SCALE_FACTOR",
+                                    "QT_STYLE_OVERRIDE",
+                                    "QT_LOGGING_RULES",
+                                    "XDG_CACHE_HOME",
+                                    "XDG_CONFIG_HOME",
+                                    "XDG_RUNTIME_DIR",
+                                    "FONTCONFIG_FILE",
+                                    "FONTCONFIG_PATH",
+                                    "BRENNET_REGISTRY"};
+
+std::set<std::string> ownWorld() {
+  std::set<std::string> world;
+  for (char** entry = environ; *entry != nullptr; ++entry) world.insert(*entry);
+  return world;
+}
+
+std::set<std::string> worldOfScripts() {
+  const std::string command = "\"" + testData("../support/world.sh") + "\" env --null";
+  const std::unique_ptr<FILE, int (*)(FILE*)> output(popen(command.c_str(), "r"), pclose);
+  std::set<std::string> world;
+  std::string entry;
+  for (int byte = 0; (byte = std::fgetc(output.get())) != EOF;) {
+    if (byte != 0) {
+      entry += static_cast<char>(byte);
+      continue;
+    }
+    // Of the tools of the scripts alone.
+    if (!entry.starts_with("BRENNET_TOOLCHAIN_DIR=")) world.insert(entry);
+    entry.clear();
+  }
+  return world;
+}
+
+TEST(TheWorldOfTheTests, IsThereFromTheStart) {
+  EXPECT_STREQ(std::getenv("HOME"), "/nonexistent");
+  EXPECT_FALSE(std::filesystem::exists("/nonexistent"));
+  EXPECT_STREQ(std::getenv("LC_ALL"), "C.UTF-8");
+  EXPECT_EQ(std::filesystem::temp_directory_path(), "/tmp");
+  for (const char* const name : kCallers) EXPECT_EQ(std::getenv(name), nullptr) << name;
+}
+
+TEST(TheWorldOfTheTests, HasNothingOfTheCallersAndIsThatOfScripts) {
+  for (const char* const name : kCallers) setenv(name, "/the/callers", 1);
+  for (const char* const name : {"HOME", "TMPDIR"}) setenv(name, "/the/callers", 1);
+  setenv("LC_ALL", "tr_TR.UTF-8", 1);
+  setenv("TZ", "Pacific/Kiritimati", 1);
+  setenv("SOMETHING_ELSE", "two\nlines", 1);
+  setenv("BRENNET_TEST_ANYTHING", "two\nlines", 1);
+  setenv("GTEST_ANYTHING", "a value", 1);
+  const std::set<std::string> scripts = worldOfScripts();
+  leaveTheCallersWorld();
+  const std::set<std::string> own = ownWorld();
+  EXPECT_EQ(scripts, own);
+  for (const char* const entry : {"HOME=/nonexistent", "LC_ALL=C.UTF-8", "TZ=UTC0",
+                                  "BRENNET_TEST_ANYTHING=two\nlines", "GTEST_ANYTHING=a value"}) {
+    EXPECT_EQ(own.count(entry), 1U) << entry;
+  }
+  for (const std::string& entry : own) EXPECT_EQ(entry.find("/the/callers"), std::string::npos);
+}
+
+TEST(TheWorldOfTheTests, HasTheTimeOfGreenwich) {
+  const std::time_t noon = 12 * 60 * 60;
+  EXPECT_EQ(std::localtime(&noon)->tm_hour, 12);
+}
+
+}  // namespace
+}  // namespace brennet::test
