@@ -31,9 +31,9 @@ std::size_t bytesOfAllHeaps() {
 }
 
 // Pens, bitmaps, fonts and so on. Wine counts none, but knows each by the lower half of its handle.
-unsigned long drawingObjects() {
+std::size_t drawingObjects() {
   constexpr std::uintptr_t kLastObject = 0xFFFF;
-  unsigned long count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  std::size_t count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
   for (std::uintptr_t object = 1; object <= kLastObject; ++object) {
     if (GetObjectType(reinterpret_cast<HGDIOBJ>(object)) != 0) ++count;
   }
@@ -41,13 +41,13 @@ unsigned long drawingObjects() {
 }
 
 BOOL CALLBACK countWindow(HWND /*window*/, LPARAM count) {
-  ++*reinterpret_cast<unsigned long*>(count);
+  ++*reinterpret_cast<std::size_t*>(count);
   return TRUE;
 }
 
 // Of this thread, and what else of that kind the system counts.
-unsigned long windowObjects() {
-  unsigned long count = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+std::size_t windowObjects() {
+  std::size_t count = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
   EnumThreadWindows(GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&count));
   return count;
 }

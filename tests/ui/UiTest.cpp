@@ -25,11 +25,15 @@ class UnansweredBoxes : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     auto* const box = qobject_cast<QMessageBox*>(watched);
     if (box != nullptr && event->type() == QEvent::Show) {
-      QTimer::singleShot(kPatienceMs, box, [box] {
+      // It goes with the box, and is not left behind until its time is over.
+      auto* const patience = new QTimer(box);
+      patience->setSingleShot(true);
+      QObject::connect(patience, &QTimer::timeout, box, [box] {
         if (!box->isVisible()) return;
         ADD_FAILURE() << "nobody answers: " << qUtf8Printable(box->text());
         box->done(0);
       });
+      patience->start(kPatienceMs);
     }
     return QObject::eventFilter(watched, event);
   }
