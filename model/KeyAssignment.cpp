@@ -20,13 +20,7 @@ bool assignRemap(const HotkeyScheme& scheme, KeyRemap& field, const KeyRemap& re
 }
 
 bool assignCombo(HotkeyScheme& scheme, const ComboKeys& keys) {
-  const auto isFreeAndSent = [&](KeyWord pressed) {
-    return pressed.sameKey(keys.Key_D) && isKeyFree(scheme, pressed);
-  };
-  if (isFreeAndSent(keys.Key_B) || isFreeAndSent(keys.Key_C)) return false;
-  if (!scheme.ComboKey.Key_D.sameKey(keys.Key_D) && !isKeyAssignable(scheme, keys.Key_D)) {
-    return false;
-  }
+  if (conflictOf(scheme, keys)) return false;
   scheme.ComboKey = keys;
   return true;
 }

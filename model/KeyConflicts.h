@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "keys/KeyWord.h"
 #include "model/HotkeyScheme.h"
+#include "model/KeySlot.h"
 
 namespace brennet {
 
@@ -22,6 +24,37 @@ namespace brennet {
 
 // Free, no item preset key and no quick-chat key: what a new binding must pass.
 [[nodiscard]] bool isKeyAssignable(const HotkeyScheme& scheme, KeyWord key);
+
+// The setting that has `key`, of those whose keys isKeyFree looks at; the first one where several
+// have it, nothing where none has it or it is no key.
+[[nodiscard]] std::optional<KeySlot> holderOf(const HotkeyScheme& scheme, KeyWord key);
+
+// Why a scheme refuses a key.
+struct KeyConflict {
+  enum class Reason : std::uint8_t {
+    CannotBeBound,    // it is no key, or one of Backspace, Delete and Enter
+    Held,             // `holder` has it
+    ItemPresetKey,    // it is key number `holder.index` of the chosen item preset, `choice`
+    QuickChatSetKey,  // it is key number `holder.index` of the chosen quick-chat keys, `choice`
+    SentByItself,     // the combination would send `holder`, a key that is pressed for it
+  };
+
+  Reason reason = Reason::CannotBeBound;
+  KeySlot holder{};         // for the keys of a choice its setting is the choice itself
+  std::uint8_t choice = 0;  // item preset 0 to 2, quick-chat key set 0 or 1
+
+  friend constexpr bool operator==(const KeyConflict&, const KeyConflict&) = default;
+};
+
+// Why `scheme` would refuse `key` in `slot`; nothing when it would take it (KeyAssignment.h). The
+// key that stands there already is taken, and so is any key that is only pressed: the source of a
+// remap, and A, B and C of a combination unless it sends them. Nothing for a slot that is none.
+[[nodiscard]] std::optional<KeyConflict> conflictOf(const HotkeyScheme& scheme, KeySlot slot,
+                                                    KeyWord key);
+
+// The same for all four combination keys at once.
+[[nodiscard]] std::optional<KeyConflict> conflictOf(const HotkeyScheme& scheme,
+                                                    const ComboKeys& keys);
 
 // Whether anything the player can press is bound to the virtual key `vk`, modifiers aside. This is
 // the one question that includes the mouse keys and the sources of remaps.

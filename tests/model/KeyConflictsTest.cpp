@@ -14,23 +14,48 @@ using namespace test;
 struct Place {
   const char* name;
   std::function<void(HotkeyScheme&, KeyWord)> put;
+  KeySlot slot{};
 };
 
 const Place kTakenPlaces[] = {
-    {"first hero skill", [](HotkeyScheme& s, KeyWord k) { s.HeroSkillKey.front() = k; }},
-    {"last hero skill", [](HotkeyScheme& s, KeyWord k) { s.HeroSkillKey.back() = k; }},
-    {"first item", [](HotkeyScheme& s, KeyWord k) { s.ItemKey.front() = k; }},
-    {"last item", [](HotkeyScheme& s, KeyWord k) { s.ItemKey.back() = k; }},
-    {"remap destination", [](HotkeyScheme& s, KeyWord k) { s.HotKey.back().Dest = k; }},
-    {"combination key D", [](HotkeyScheme& s, KeyWord k) { s.ComboKey.Key_D = k; }},
-    {"first Ledger key", [](HotkeyScheme& s, KeyWord k) { s.SecretaryKey.front() = k; }},
-    {"last Ledger key", [](HotkeyScheme& s, KeyWord k) { s.SecretaryKey.back() = k; }},
-    {"ShowFBlood", [](HotkeyScheme& s, KeyWord k) { s.ShowFBlood = k; }},
-    {"ShowEBlood", [](HotkeyScheme& s, KeyWord k) { s.ShowEBlood = k; }},
-    {"HotkeyContrl", [](HotkeyScheme& s, KeyWord k) { s.HotkeyContrl = k; }},
-    {"WinLockMouse", [](HotkeyScheme& s, KeyWord k) { s.WinLockMouse = k; }},
-    {"QuickChatKey", [](HotkeyScheme& s, KeyWord k) { s.QuickChatKey = k; }},
-    {"ChatWheelkey", [](HotkeyScheme& s, KeyWord k) { s.ChatWheelkey = k; }},
+    {"first hero skill",
+     [](HotkeyScheme& s, KeyWord k) { s.HeroSkillKey.front() = k; },
+     {SettingId::HeroSkillKey, 0}},
+    {"last hero skill",
+     [](HotkeyScheme& s, KeyWord k) { s.HeroSkillKey.back() = k; },
+     {SettingId::HeroSkillKey, 11}},
+    {"first item",
+     [](HotkeyScheme& s, KeyWord k) { s.ItemKey.front() = k; },
+     {SettingId::ItemKey, 0}},
+    {"last item",
+     [](HotkeyScheme& s, KeyWord k) { s.ItemKey.back() = k; },
+     {SettingId::ItemKey, 5}},
+    {"remap destination",
+     [](HotkeyScheme& s, KeyWord k) { s.HotKey.back().Dest = k; },
+     {SettingId::HotKey, 11}},
+    {"combination key D",
+     [](HotkeyScheme& s, KeyWord k) { s.ComboKey.Key_D = k; },
+     {SettingId::ComboKey, 3}},
+    {"first Ledger key",
+     [](HotkeyScheme& s, KeyWord k) { s.SecretaryKey.front() = k; },
+     {SettingId::SecretaryKey, 0}},
+    {"last Ledger key",
+     [](HotkeyScheme& s, KeyWord k) { s.SecretaryKey.back() = k; },
+     {SettingId::SecretaryKey, 2}},
+    {"ShowFBlood", [](HotkeyScheme& s, KeyWord k) { s.ShowFBlood = k; }, {SettingId::ShowFBlood}},
+    {"ShowEBlood", [](HotkeyScheme& s, KeyWord k) { s.ShowEBlood = k; }, {SettingId::ShowEBlood}},
+    {"HotkeyContrl",
+     [](HotkeyScheme& s, KeyWord k) { s.HotkeyContrl = k; },
+     {SettingId::HotkeyContrl}},
+    {"WinLockMouse",
+     [](HotkeyScheme& s, KeyWord k) { s.WinLockMouse = k; },
+     {SettingId::WinLockMouse}},
+    {"QuickChatKey",
+     [](HotkeyScheme& s, KeyWord k) { s.QuickChatKey = k; },
+     {SettingId::QuickChatKey}},
+    {"ChatWheelkey",
+     [](HotkeyScheme& s, KeyWord k) { s.ChatWheelkey = k; },
+     {SettingId::ChatWheelkey}},
 };
 
 const Place kIgnoredPlaces[] = {
@@ -67,6 +92,71 @@ TEST(IsKeyFree, IsFalseForKeysThatAreNeverBound) {
     EXPECT_FALSE(isKeyFree(scheme, KeyWord(vk, 0))) << int{vk};
     EXPECT_FALSE(isKeyFree(scheme, KeyWord(vk, KeyWord::kAlt))) << int{vk};
   }
+}
+
+TEST(HolderOf, NamesTheSettingThatHasTheKey) {
+  for (const Place& place : kTakenPlaces) {
+    HotkeyScheme scheme;
+    EXPECT_EQ(holderOf(scheme, kAltQ), std::nullopt) << place.name;
+    place.put(scheme, kAltQ);
+    EXPECT_EQ(holderOf(scheme, kAltQ), place.slot) << place.name;
+    EXPECT_EQ(holderOf(scheme, kQ), std::nullopt) << place.name;
+    EXPECT_EQ(keyAt(scheme, place.slot), kAltQ) << place.name;
+  }
+  for (const Place& place : kIgnoredPlaces) {
+    HotkeyScheme scheme;
+    place.put(scheme, kQ);
+    EXPECT_EQ(holderOf(scheme, kQ), std::nullopt) << place.name;
+  }
+  EXPECT_EQ(holderOf(HotkeyScheme(), kNoKey), std::nullopt);
+}
+
+TEST(ConflictOf, TellsWhyAKeyIsRefused) {
+  using Reason = KeyConflict::Reason;
+  HotkeyScheme scheme;
+  scheme.HeroSkillKey[3] = kQ;
+  scheme.NumComboKeyIndex = 2;
+  scheme.QuickChatIndex = 1;
+  const struct {
+    KeySlot slot;
+    KeyWord key;
+    std::optional<KeyConflict> conflict;
+  } kRows[] = {
+      {{SettingId::ItemKey, 1}, kW, std::nullopt},
+      {{SettingId::ItemKey, 1}, kQ, KeyConflict{Reason::Held, {SettingId::HeroSkillKey, 3}}},
+      {{SettingId::MouseKey, 0}, kQ, KeyConflict{Reason::Held, {SettingId::HeroSkillKey, 3}}},
+      {{SettingId::HeroSkillKey, 3}, kQ, std::nullopt},
+      {remapSource(1), kQ, std::nullopt},
+      {remapDestination(1), kQ, KeyConflict{Reason::Held, {SettingId::HeroSkillKey, 3}}},
+      {kComboTarget, kQ, KeyConflict{Reason::Held, {SettingId::HeroSkillKey, 3}}},
+      {{SettingId::ComboKey3to1, 3}, kQ, KeyConflict{Reason::Held, {SettingId::HeroSkillKey, 3}}},
+      {{SettingId::ComboKey, 0}, kQ, std::nullopt},
+      {{SettingId::ShowFBlood}, KeyWord(0x0D, 0), KeyConflict{Reason::CannotBeBound}},
+      {{SettingId::SecretaryKey},
+       KeyWord('3', KeyWord::kAlt),
+       KeyConflict{Reason::ItemPresetKey, {SettingId::NumComboKeyIndex, 2}, 2}},
+      {{SettingId::SecretaryKey},
+       KeyWord(0x77, KeyWord::kAlt),
+       KeyConflict{Reason::QuickChatSetKey, {SettingId::QuickChatIndex, 7}, 1}},
+      {{SettingId::ZoomValue}, kQ, std::nullopt},
+      {{SettingId::HeroSkillKey, 12}, kQ, std::nullopt},
+  };
+  for (const auto& row : kRows) {
+    EXPECT_EQ(conflictOf(scheme, row.slot, row.key), row.conflict)
+        << static_cast<int>(row.slot.setting) << ' ' << int{row.slot.index};
+  }
+}
+
+TEST(ConflictOf, FindsACombinationThatSendsItself) {
+  using Reason = KeyConflict::Reason;
+  const KeyConflict sendsB{Reason::SentByItself, {SettingId::ComboKey, 1}};
+  const KeyConflict sendsC{Reason::SentByItself, {SettingId::ComboKey, 2}};
+  HotkeyScheme scheme;
+  EXPECT_EQ(conflictOf(scheme, ComboKeys{kQ, kW, kE, kW}), sendsB);
+  EXPECT_EQ(conflictOf(scheme, ComboKeys{kQ, kW, kE, kE}), sendsC);
+  EXPECT_EQ(conflictOf(scheme, ComboKeys{kQ, kW, kE, kQ}), std::nullopt);
+  scheme.ComboKey = {kQ, kW, kNoKey, kNoKey};
+  EXPECT_EQ(conflictOf(scheme, kComboTarget, kW), sendsB);
 }
 
 TEST(IsItemPresetKey, KnowsTheSixKeysOfTheChosenPreset) {
