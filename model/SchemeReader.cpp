@@ -1,11 +1,13 @@
 #include "model/SchemeReader.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "markup/MarkupDocument.h"
 #include "model/DecimalText.h"
 #include "model/KeyAssignment.h"
+#include "model/KeyOffers.h"
 #include "model/SettingTable.h"
 
 namespace brennet {
@@ -14,10 +16,6 @@ namespace {
 // Shift is no modifier of the game's hotkeys; files that carry it lose it here.
 KeyWord keyFromText(std::u16string_view text) {
   return KeyWord(static_cast<std::uint16_t>(parseDecimal(text))).without(KeyWord::kShift);
-}
-
-void takeOrClear(const HotkeyScheme& scheme, KeyWord& field, KeyWord key) {
-  if (!assignKey(scheme, field, key)) field = kNoKey;
 }
 
 // The position of the child's `id` among `ids`; nothing when it is empty or not one of them.
@@ -30,12 +28,12 @@ std::optional<std::size_t> childNumber(const MarkupDocument& document,
   return static_cast<std::size_t>(found - ids.begin());
 }
 
-// Reads the element at the document's main position, by the kind of its setting. Empty text counts
-// as missing.
+// Reads the element of the setting `id` at the document's main position, by the kind of the
+// setting. Empty text counts as missing.
 class SettingReader {
  public:
-  SettingReader(MarkupDocument& document, HotkeyScheme& scheme)
-      : document_(document), scheme_(scheme) {}
+  SettingReader(MarkupDocument& document, HotkeyScheme& scheme, KeyOffers& offers, SettingId id)
+      : document_(document), scheme_(scheme), offers_(offers), id_(id) {}
 
   void operator()(const SwitchSetting& row) const {
     const std::u16string text = document_.getData();
@@ -47,19 +45,19 @@ class SettingReader {
     if (!text.empty()) scheme_.*row.field = static_cast<std::uint8_t>(parseDecimal(text));
   }
 
-  void operator()(const KeySetting& row) const {
+  void operator()(const KeySetting&) const {
     const std::u16string text = document_.getData();
-    if (!text.empty()) takeOrClear(scheme_, scheme_.*row.field, keyFromText(text));
+    if (!text.empty()) offers_.offer(KeySlot{id_}, keyFromText(text));
   }
 
   void operator()(const KeyListSetting& row) const {
-    const std::span<KeyWord> keys = row.keys(scheme_);
     while (document_.findChildElem(u"Key")) {
       const std::optional<std::size_t> n = childNumber(document_, row.ids);
       if (!n) continue;
       if (row.autocast != nullptr) readAutocast(row.autocast(scheme_)[*n]);
       const std::u16string text = document_.getChildData();
-      if (!text.empty()) takeOrClear(scheme_, keys[*n], keyFromText(text));
+      if (text.empty()) continue;
+      offers_.offer(KeySlot{id_, static_cast<std::uint8_t>(*n)}, keyFromText(text));
     }
   }
 
@@ -67,19 +65,20 @@ class SettingReader {
     constexpr std::uint16_t kIds[kKeyRemaps] = {0, 1, 2, 3, 4, 5};
     while (document_.findChildElem(u"Key")) {
       const std::optional<std::size_t> n = childNumber(document_, kIds);
-      if (n) readRemap(scheme_.HotKey[*n]);
+      if (n) readRemap(*n);
     }
   }
 
   void operator()(const ComboSetting&) const {
+    constexpr std::u16string_view kNames[] = {u"Key_A", u"Key_B", u"Key_C", u"Key_D"};
     ComboKeys keys = scheme_.ComboKey;
     document_.intoElem();
-    readKey(u"Key_A", keys.Key_A);
-    readKey(u"Key_B", keys.Key_B);
-    readKey(u"Key_C", keys.Key_C);
-    readKey(u"Key_D", keys.Key_D);
+    bool any = false;
+    for (std::size_t i = 0; i < std::size(kComboKeys); ++i) {
+      any = readKey(kNames[i], keys.*kComboKeys[i]) || any;
+    }
     document_.outOfElem();
-    if (!assignCombo(scheme_, keys)) scheme_.ComboKey = ComboKeys();
+    if (any) offers_.offer(keys);
   }
 
   void operator()(const PresetSetting&) const {
@@ -119,18 +118,20 @@ class SettingReader {
   }
 
   // Reads the remap in the element at the child position. Both of its keys must be there.
-  void readRemap(KeyRemap& field) const {
+  void readRemap(std::size_t n) const {
     KeyRemap remap;
     document_.intoElem();
     document_.intoElem();
     const bool complete = readKey(u"Src", remap.Src) && readKey(u"Dest", remap.Dest);
     document_.outOfElem();
     document_.outOfElem();
-    if (complete && !assignRemap(scheme_, field, remap)) field = KeyRemap();
+    if (complete) offers_.offer(n, remap);
   }
 
   MarkupDocument& document_;
   HotkeyScheme& scheme_;
+  KeyOffers& offers_;
+  SettingId id_;
 };
 
 // Moves to the element of a setting: forward from the one read last, else once from the first
@@ -146,10 +147,12 @@ bool findSetting(MarkupDocument& document, SettingId id) {
 }  // namespace
 
 void readScheme(MarkupDocument& document, HotkeyScheme& scheme) {
-  const SettingReader reader(document, scheme);
+  KeyOffers offers(scheme);
   for (const SettingId id : loadOrder()) {
-    if (findSetting(document, id)) std::visit(reader, setting(id).kind);
+    if (!findSetting(document, id)) continue;
+    std::visit(SettingReader(document, scheme, offers, id), setting(id).kind);
   }
+  offers.offerRefusedAgain();
 }
 
 }  // namespace brennet

@@ -7,7 +7,8 @@ namespace brennet {
 class MarkupDocument;
 
 // Reads the children of the element that `document` has entered into `scheme`. A missing element
-// leaves its members as they are; a key that conflicts with one read before becomes no key.
+// leaves its members as they are; a key that conflicts with another one becomes no key: of two
+// that are the same the one that is read first is kept (KeyOffers.h).
 void readScheme(MarkupDocument& document, HotkeyScheme& scheme);
 
 }  // namespace brennet

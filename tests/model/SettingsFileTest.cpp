@@ -287,6 +287,17 @@ TEST_F(SettingsFile, ReadsEverySettingOfAScheme) {
   }
 }
 
+TEST_F(SettingsFile, GivesBackAKeyOfTheSetThatIsNotChosen) {
+  HotkeyConfig config;
+  ASSERT_TRUE(config.SetQuickChatIndex(0));
+  ASSERT_TRUE(config.SetHeroSkillKey(0, kAltF1, true));
+  ASSERT_TRUE(save(config));
+  HotkeyConfig loaded;
+  ASSERT_TRUE(loaded.Load(file_.u16string()));
+  EXPECT_EQ(loaded.scheme().HeroSkillKey[0], kAltF1);
+  EXPECT_EQ(loaded.scheme().QuickChatIndex, 0U);
+}
+
 TEST_F(SettingsFile, OfTheOlderLayoutHasItsSettingsInTheRoot) {
   const std::string old =
       "<ZoomValue>90</ZoomValue><HeroSkillKey>" + key(0, 20736) + "</HeroSkillKey>";

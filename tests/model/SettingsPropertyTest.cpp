@@ -158,26 +158,12 @@ bool isIn(const QuickChatKeySet& set, KeyWord key) {
   return std::any_of(set.begin(), set.end(), [key](KeyWord k) { return k.sameKey(key); });
 }
 
-// Reading a file goes setting by setting, and until the file's own choice of quick-chat keys is
-// read, the default one is in force. Keys of that set are refused meanwhile, whatever comes later.
-void dropKeysOfDefaultSet(HotkeyScheme& scheme) {
-  const auto drop = [](KeyWord& key) {
-    if (isIn(kQuickChatKeySets[1], key)) key = kNoKey;
-  };
-  for (KeyWord& key : scheme.HeroSkillKey) drop(key);
-  for (KeyWord& key : scheme.ItemKey) drop(key);
-  for (KeyWord& key : scheme.SecretaryKey) drop(key);
-  for (KeyRemap& remap : scheme.HotKey) {
-    if (isIn(kQuickChatKeySets[1], remap.Dest)) remap = KeyRemap();
-  }
-  if (isIn(kQuickChatKeySets[1], scheme.ComboKey.Key_D)) scheme.ComboKey = ComboKeys();
-}
-
 // A mouse key that was bound first may be bound again, as a hero skill key or with a quick-chat
-// set. In a file it comes behind the hero skill keys and finds the default set in force.
+// set. In a file it comes behind the hero skill keys and finds the default set in force; a key of
+// that set is refused at the end too unless another set was chosen.
 void dropRepeatedMouseKeys(HotkeyScheme& scheme) {
   for (KeyWord& mouse : scheme.MouseKey) {
-    if (isIn(kQuickChatKeySets[1], mouse)) mouse = kNoKey;
+    if (scheme.QuickChatIndex == 1 && isIn(kQuickChatKeySets[1], mouse)) mouse = kNoKey;
     for (const KeyWord skill : scheme.HeroSkillKey) {
       if (skill.isSet() && mouse.sameKey(skill)) mouse = kNoKey;
     }
@@ -198,7 +184,6 @@ HotkeyScheme asLoaded(const HotkeyConfig& config, int n) {
   for (auto& mark : scheme.HeroSkillAutocast) mark = mark.value_or(false);
   scheme.ItemAutocast = config.scheme().ItemAutocast;
   for (auto& mark : scheme.ItemAutocast) mark = mark.value_or(false);
-  if (scheme.QuickChatIndex == 0) dropKeysOfDefaultSet(scheme);
   dropRepeatedMouseKeys(scheme);
   dropCombinationOfItself(scheme);
   return scheme;
