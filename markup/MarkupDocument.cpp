@@ -131,6 +131,11 @@ void MarkupDocument::resetMainPos() {
   child_ = 0;
 }
 
+std::optional<std::size_t> MarkupDocument::offsetOf(ElementNumber element) const {
+  if (element == 0) return std::nullopt;
+  return index_[element].start;
+}
+
 std::u16string_view MarkupDocument::startTagOf(ElementNumber element) const {
   const ElementRecord& record = index_[element];
   return std::u16string_view(text_).substr(record.start, record.startTagLength);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -71,6 +72,10 @@ class MarkupDocument {
   // The name of the main element; empty where there is none. Good as long as doc() is.
   [[nodiscard]] std::u16string_view getTagName() const;
 
+  // Where the start tag of the main (child) element begins in doc(); nothing where there is none.
+  [[nodiscard]] std::optional<std::size_t> mainOffset() const { return offsetOf(main_); }
+  [[nodiscard]] std::optional<std::size_t> childOffset() const { return offsetOf(child_); }
+
   // The value of an attribute of the main (child) element, unescaped; empty where there is none.
   [[nodiscard]] std::u16string getAttrib(std::u16string_view name) const;
   [[nodiscard]] std::u16string getChildAttrib(std::u16string_view name) const;
@@ -130,6 +135,7 @@ class MarkupDocument {
 
   bool parse(std::u16string text, ResultLog log, TextForm form);
   [[nodiscard]] ElementNumber findFrom(ElementNumber first, std::u16string_view name) const;
+  [[nodiscard]] std::optional<std::size_t> offsetOf(ElementNumber element) const;
   [[nodiscard]] std::u16string_view startTagOf(ElementNumber element) const;
   [[nodiscard]] std::u16string attributeOf(ElementNumber element, std::u16string_view name) const;
   [[nodiscard]] std::u16string dataOf(ElementNumber element) const;

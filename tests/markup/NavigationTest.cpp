@@ -132,6 +132,20 @@ TEST(GetData, JoinsTheDirectTextOnly) {
   }
 }
 
+TEST(MainAndChildOffset, AreThoseOfTheStartTags) {
+  MarkupDocument document;
+  ASSERT_TRUE(document.setDoc(u"<?x?><a>\n<b/><c>1</c></a>"));
+  EXPECT_EQ(document.mainOffset(), std::nullopt);
+  EXPECT_EQ(document.childOffset(), std::nullopt);
+  ASSERT_TRUE(document.findElem(u"a"));
+  EXPECT_EQ(document.mainOffset(), 5U);
+  ASSERT_TRUE(document.findChildElem(u"c"));
+  EXPECT_EQ(document.childOffset(), 13U);
+  ASSERT_TRUE(document.setChildAttrib(u"d", u"e"));
+  ASSERT_TRUE(document.setAttrib(u"f", u"g"));
+  EXPECT_EQ(document.childOffset(), 19U) << "what stands in front of it has grown";
+}
+
 TEST(GetAttrib, UnescapesTheValue) {
   MarkupDocument document;
   ASSERT_TRUE(document.setDoc(u"<a b=\"&lt;&amp;&quot;&apos;&gt;&nbsp;\" c='\"'/>"));
