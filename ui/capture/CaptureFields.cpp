@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ui/Text.h"
+#include "ui/capture/SlotCapture.h"
 
 namespace brennet {
 
@@ -16,26 +17,26 @@ CaptureFields::CaptureFields(CapturePage page, HotkeyConfig& config)
 
 void CaptureFields::install(const QWidget& window, QObject& page) {
   for (QLineEdit* const field : filter_.install(window, page)) {
-    const auto setting = page_.settingOf(viewOf(field->objectName()));
-    if (setting) fields_.push_back({field, *setting});
+    const auto slot = page_.slotOf(viewOf(field->objectName()));
+    if (slot) fields_.push_back({field, *slot});
   }
 }
 
 void CaptureFields::refresh() {
   filter_.forget();
-  for (const Field& row : fields_) row.field->setText(keyText(keyOf(*config_, row.setting)));
+  for (const Field& row : fields_) row.field->setText(keyText(keyAt(config_->scheme(), row.slot)));
 }
 
-std::optional<KeySetting> CaptureFields::settingOf(const QLineEdit& field) const {
+std::optional<KeySlot> CaptureFields::slotOf(const QLineEdit& field) const {
   const auto row = std::find_if(fields_.begin(), fields_.end(),
                                 [&](const Field& candidate) { return candidate.field == &field; });
   if (row == fields_.end()) return std::nullopt;
-  return row->setting;
+  return row->slot;
 }
 
 void CaptureFields::take(QLineEdit& field, const Capture& capture) {
   if (capture.outcome != Capture::Outcome::Shown) page_.trace(field);
-  const bool isUsed = store(capture, settingOf(field), *config_);
+  const bool isUsed = store(capture, slotOf(field), *config_);
   field.setText(isUsed ? QString() : toQString(capture.text.view()));
   if (isUsed) page_.tellUsed();
 }

@@ -5,8 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "model/HotkeyConfig.h"
+#include "model/KeySlot.h"
 #include "ui/capture/KeyFieldFilter.h"
-#include "ui/capture/KeySetting.h"
 
 namespace brennet {
 
@@ -14,8 +15,8 @@ namespace brennet {
 struct CapturePage {
   CaptureStyle style;
   KeyFieldFilter::Captures captures = [](const QLineEdit&) { return true; };
-  // The setting that a field of this object name edits, if any.
-  std::function<std::optional<KeySetting>(std::u16string_view)> settingOf;
+  // The key that a field of this object name edits, if any.
+  std::function<std::optional<KeySlot>(std::u16string_view)> slotOf;
   // Hears which field a key was pressed in, before the key is stored.
   std::function<void(const QLineEdit&)> trace = [](const QLineEdit&) {};
   // Tells the player that a key is used already. May run an event loop.
@@ -34,7 +35,7 @@ class CaptureFields {
   // See KeyFieldFilter. The fields outlive this object.
   void install(const QWidget& window, QObject& page);
 
-  // Shows the keys of the current scheme in all fields that have a setting. What was begun with a
+  // Shows the keys of the current scheme in all fields that edit one. What was begun with a
   // lone modifier is forgotten.
   void refresh();
 
@@ -44,10 +45,10 @@ class CaptureFields {
  private:
   struct Field {
     QLineEdit* field;
-    KeySetting setting;
+    KeySlot slot;
   };
 
-  [[nodiscard]] std::optional<KeySetting> settingOf(const QLineEdit& field) const;
+  [[nodiscard]] std::optional<KeySlot> slotOf(const QLineEdit& field) const;
   void take(QLineEdit& field, const Capture& capture);
 
   CapturePage page_;

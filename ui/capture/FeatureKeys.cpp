@@ -5,22 +5,19 @@ namespace {
 
 struct FeatureKey {
   std::u16string_view objectName;
-  KeyWord HotkeyScheme::*key;
+  SettingId setting;
 };
 constexpr FeatureKey kFeatureKeys[] = {
-    {u"edtShowFBlood", &HotkeyScheme::ShowFBlood},
-    {u"edtShowEBlood", &HotkeyScheme::ShowEBlood},
-    {u"edtHotkeyContrl", &HotkeyScheme::HotkeyContrl},
-    {u"edtWinLockMouse", &HotkeyScheme::WinLockMouse},
-    {u"edtQuickChatKey", &HotkeyScheme::QuickChatKey},
-    {u"edtChatWheelKey", &HotkeyScheme::ChatWheelkey},
+    {u"edtShowFBlood", SettingId::ShowFBlood},     {u"edtShowEBlood", SettingId::ShowEBlood},
+    {u"edtHotkeyContrl", SettingId::HotkeyContrl}, {u"edtWinLockMouse", SettingId::WinLockMouse},
+    {u"edtQuickChatKey", SettingId::QuickChatKey}, {u"edtChatWheelKey", SettingId::ChatWheelkey},
 };
 
 }  // namespace
 
-std::optional<KeySetting> featureKeyOf(std::u16string_view objectName) {
+std::optional<KeySlot> featureKeyOf(std::u16string_view objectName) {
   for (const FeatureKey& row : kFeatureKeys) {
-    if (objectName == row.objectName) return KeySetting{KeySetting::Kind::Single, 0, row.key};
+    if (objectName == row.objectName) return KeySlot{row.setting};
   }
   return std::nullopt;
 }

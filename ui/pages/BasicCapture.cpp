@@ -6,6 +6,7 @@
 #include "ui/Text.h"
 #include "ui/capture/FeatureKeys.h"
 #include "ui/capture/KeyMessages.h"
+#include "ui/capture/SlotCapture.h"
 
 namespace brennet {
 namespace {
@@ -25,11 +26,11 @@ constexpr Counter kCounters[] = {
     {", nLedgerIndex:", &EditControl::nLedgerIndex},
 };
 
-std::optional<KeySetting> settingOfName(std::u16string_view name, BasicPage kind) {
+std::optional<KeySlot> slotOfName(std::u16string_view name, BasicPage kind) {
   if (const auto feature = featureKeyOf(name)) return feature;
   EditControl control;
   if (!getEditControlTypeByParseName(name, kind, control)) return std::nullopt;
-  return settingOf(control);
+  return slotOf(control);
 }
 
 }  // namespace
@@ -37,7 +38,7 @@ std::optional<KeySetting> settingOfName(std::u16string_view name, BasicPage kind
 CapturePage basicCapturePage(BasicPage kind, QWidget& page) {
   return {
       .style = {.beforeName = u" "},
-      .settingOf = [kind](std::u16string_view name) { return settingOfName(name, kind); },
+      .slotOf = [kind](std::u16string_view name) { return slotOfName(name, kind); },
       .trace =
           [kind](const QLineEdit& field) {
             const QString name = field.objectName();

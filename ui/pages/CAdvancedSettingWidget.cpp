@@ -45,7 +45,7 @@ CAdvancedSettingWidget::CAdvancedSettingWidget(brennet::HotkeyConfig& config, QW
       presets_({ui_->chkGroupKey1, ui_->chkGroupKey2, ui_->chkGroupKey3}, config),
       chatKeys_({ui_->optChatKey_1, ui_->optChatKey_2}, config),
       keys_({.style = {},
-             .settingOf = brennet::featureKeyOf,
+             .slotOf = brennet::featureKeyOf,
              .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
             config) {
   buildTable();

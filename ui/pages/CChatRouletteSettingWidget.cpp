@@ -70,7 +70,7 @@ CChatRouletteSettingWidget::CChatRouletteSettingWidget(brennet::HotkeyConfig& co
       capture_(
           {.style = {},
            .captures = [this](const QLineEdit& field) { return &field == ui_->edtChatWheelKey; },
-           .settingOf = brennet::featureKeyOf,
+           .slotOf = brennet::featureKeyOf,
            .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
           config) {
   makeSlots();

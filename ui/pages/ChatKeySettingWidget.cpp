@@ -34,7 +34,7 @@ ChatKeySettingWidget::ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidge
       ui_(makeForm(*this)),
       keyButtons_({ui_->optChatKey_1, ui_->optChatKey_2}, config),
       capture_({.style = {},
-                .settingOf = [](std::u16string_view) { return std::nullopt; },
+                .slotOf = [](std::u16string_view) { return std::nullopt; },
                 .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
                config) {
   // The labels have numbers only, which say little to who does not see them in a column.

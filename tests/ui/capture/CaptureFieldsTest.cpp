@@ -15,14 +15,15 @@
 #include <memory>
 
 #include "ui/capture/EditControl.h"
+#include "ui/capture/SlotCapture.h"
 
 namespace brennet {
 namespace {
 
-std::optional<KeySetting> basicSetting(std::u16string_view name) {
+std::optional<KeySlot> basicSlot(std::u16string_view name) {
   EditControl control;
   if (!getEditControlTypeByParseName(name, BasicPage::Current, control)) return std::nullopt;
-  return settingOf(control);
+  return slotOf(control);
 }
 
 class Page : public QWidget {
@@ -51,7 +52,7 @@ class Page : public QWidget {
   CaptureFields fields_{
       {.style = {.beforeName = u" "},
        .captures = [](const QLineEdit& field) { return field.objectName() != u"edtText"; },
-       .settingOf = basicSetting,
+       .slotOf = basicSlot,
        .tellUsed = [this] { ++told; }},
       config};
 };
