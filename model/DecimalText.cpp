@@ -32,6 +32,13 @@ std::int32_t parseDecimal(std::u16string_view text) {
   return static_cast<std::int32_t>(negative ? -number : number);
 }
 
+bool isDecimal(std::u16string_view text) {
+  while (!text.empty() && isSpace(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isSpace(text.back())) text.remove_suffix(1);
+  if (!text.empty() && (text.front() == u'-' || text.front() == u'+')) text.remove_prefix(1);
+  return !text.empty() && std::all_of(text.begin(), text.end(), isDigit);
+}
+
 std::u16string decimalText(std::int64_t number) {
   char digits[20];
   const auto result = std::to_chars(digits, digits + sizeof(digits), number);

@@ -10,6 +10,9 @@ namespace brennet {
 // digits; 0 where there are none. What exceeds 32 bits saturates at the limits.
 [[nodiscard]] std::int32_t parseDecimal(std::u16string_view text);
 
+// Whether `text` is a decimal number and nothing else, but for white space around it.
+[[nodiscard]] bool isDecimal(std::u16string_view text);
+
 [[nodiscard]] std::u16string decimalText(std::int64_t number);
 
 }  // namespace brennet

@@ -81,6 +81,7 @@ void HotkeyConfig::Reset() {
   enable_ = false;
   index_ = 0;
   for (HotkeyScheme& scheme : schemes_) scheme.reset();
+  loadReport_ = {};
   blockBuilt_ = false;
   blockBuffer_ = HotkeyBlock{};
 }

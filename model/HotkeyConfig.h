@@ -7,6 +7,7 @@
 #include "keys/KeyWord.h"
 #include "model/HotkeyBlock.h"
 #include "model/HotkeyScheme.h"
+#include "model/LoadReport.h"
 
 namespace brennet {
 
@@ -37,7 +38,7 @@ class HotkeyConfig {
   // Reset(), then assignment: no key of the old state can refuse a choice that `main` holds.
   void ResetAndCopyFrom(const HotkeyConfig& main);
 
-  // Exchanges everything with `other`.
+  // Exchanges everything with `other` but the report of the load.
   void swap(HotkeyConfig& other) noexcept;
 
   // Reads the settings file at `path`. Defaults first; returns false, with the defaults in place,
@@ -50,6 +51,11 @@ class HotkeyConfig {
   // failure the old file stands. The game's preference file follows in either case, because it
   // follows what is in memory.
   bool Save(std::u16string_view path, std::uint32_t lastSaveTime);
+
+  // What the last load of this object had to drop. Empty before the first load, after one that
+  // failed and after a reset; a save leaves it as it is. It belongs to the load and not to the
+  // settings: copies and assignments leave it out, and swap leaves each object its own.
+  [[nodiscard]] const LoadReport& loadReport() const { return loadReport_; }
 
   // Reads or writes one scheme, 0 to 2; false for any other number. The document's position is
   // inside the element that holds the scheme, before its first child, or on that element when
@@ -122,6 +128,7 @@ class HotkeyConfig {
   bool enable_ = false;
   std::uint32_t index_ = 0;
   Schemes schemes_;
+  LoadReport loadReport_;
   bool blockBuilt_ = false;
   HotkeyBlock blockBuffer_{};
 };

@@ -1,8 +1,10 @@
 #include "model/SchemeReader.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <string>
+#include <utility>
 
 #include "markup/MarkupDocument.h"
 #include "model/DecimalText.h"
@@ -46,8 +48,10 @@ class SettingReader {
   }
 
   void operator()(const KeySetting&) const {
-    const std::u16string text = document_.getData();
-    if (!text.empty()) offers_.offer(KeySlot{id_}, keyFromText(text));
+    KeyEntry entry{id_, document_.getData(), *document_.mainOffset()};
+    if (entry.text.empty()) return;
+    const KeyWord key = keyFromText(entry.text);
+    offers_.offer(KeySlot{id_}, key, std::move(entry));
   }
 
   void operator()(const KeyListSetting& row) const {
@@ -55,9 +59,10 @@ class SettingReader {
       const std::optional<std::size_t> n = childNumber(document_, row.ids);
       if (!n) continue;
       if (row.autocast != nullptr) readAutocast(row.autocast(scheme_)[*n]);
-      const std::u16string text = document_.getChildData();
-      if (text.empty()) continue;
-      offers_.offer(KeySlot{id_, static_cast<std::uint8_t>(*n)}, keyFromText(text));
+      KeyEntry entry{id_, document_.getChildData(), *document_.childOffset()};
+      if (entry.text.empty()) continue;
+      const KeyWord key = keyFromText(entry.text);
+      offers_.offer(KeySlot{id_, static_cast<std::uint8_t>(*n)}, key, std::move(entry));
     }
   }
 
@@ -73,12 +78,13 @@ class SettingReader {
     constexpr std::u16string_view kNames[] = {u"Key_A", u"Key_B", u"Key_C", u"Key_D"};
     ComboKeys keys = scheme_.ComboKey;
     document_.intoElem();
+    std::array<KeyEntry, std::size(kNames)> entries;
     bool any = false;
-    for (std::size_t i = 0; i < std::size(kComboKeys); ++i) {
-      any = readKey(kNames[i], keys.*kComboKeys[i]) || any;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      any = readKey(kNames[i], keys.*kComboKeys[i], entries[i]) || any;
     }
     document_.outOfElem();
-    if (any) offers_.offer(keys);
+    if (any) offers_.offer(keys, std::move(entries));
   }
 
   void operator()(const PresetSetting&) const {
@@ -109,12 +115,12 @@ class SettingReader {
   }
 
   // Reads the child `name` of the entered element, wherever it stands; false where it is missing.
-  bool readKey(std::u16string_view name, KeyWord& key) const {
+  bool readKey(std::u16string_view name, KeyWord& key, KeyEntry& entry) const {
     document_.resetMainPos();
     if (!document_.findElem(name)) return false;
-    const std::u16string text = document_.getData();
-    if (!text.empty()) key = keyFromText(text);
-    return !text.empty();
+    entry = {id_, document_.getData(), *document_.mainOffset()};
+    if (!entry.text.empty()) key = keyFromText(entry.text);
+    return !entry.text.empty();
   }
 
   // Reads the remap in the element at the child position. Both of its keys must be there.
@@ -122,10 +128,13 @@ class SettingReader {
     KeyRemap remap;
     document_.intoElem();
     document_.intoElem();
-    const bool complete = readKey(u"Src", remap.Src) && readKey(u"Dest", remap.Dest);
+    KeyEntry source;
+    KeyEntry destination;
+    const bool complete =
+        readKey(u"Src", remap.Src, source) && readKey(u"Dest", remap.Dest, destination);
     document_.outOfElem();
     document_.outOfElem();
-    if (complete) offers_.offer(n, remap);
+    if (complete) offers_.offer(n, remap, std::move(source), std::move(destination));
   }
 
   MarkupDocument& document_;
@@ -146,13 +155,22 @@ bool findSetting(MarkupDocument& document, SettingId id) {
 
 }  // namespace
 
-void readScheme(MarkupDocument& document, HotkeyScheme& scheme) {
+std::vector<DroppedKey> readScheme(MarkupDocument& document, HotkeyScheme& scheme) {
   KeyOffers offers(scheme);
   for (const SettingId id : loadOrder()) {
     if (!findSetting(document, id)) continue;
     std::visit(SettingReader(document, scheme, offers, id), setting(id).kind);
   }
-  offers.offerRefusedAgain();
+  std::vector<DroppedKey> dropped;
+  for (KeyOffers::Dropped& key : offers.settle()) {
+    dropped.push_back({.slot = key.slot,
+                       .element = key.entry.element,
+                       .key = key.key,
+                       .text = std::move(key.entry.text),
+                       .conflict = key.conflict,
+                       .position = positionAt(document.doc(), key.entry.offset)});
+  }
+  return dropped;
 }
 
 }  // namespace brennet

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "markup/MarkupDocument.h"
 #include "model/DecimalText.h"
@@ -82,7 +84,12 @@ bool HotkeyConfig::loadFrom(MarkupDocument& document) {
 
 bool HotkeyConfig::LoadScheme(int scheme, MarkupDocument& document) {
   if (scheme < 0 || scheme >= kSchemes) return false;
-  readScheme(document, schemes_[static_cast<std::size_t>(scheme)]);
+  std::vector<DroppedKey>& keys = loadReport_.droppedKeys;
+  std::erase_if(keys, [scheme](const DroppedKey& key) { return key.scheme == scheme; });
+  for (DroppedKey& key : readScheme(document, schemes_[static_cast<std::size_t>(scheme)])) {
+    key.scheme = scheme;
+    keys.push_back(std::move(key));
+  }
   return true;
 }
 

@@ -43,6 +43,15 @@ TEST(ParseDecimal, FollowsTheRuleOfStrtol) {
   }
 }
 
+TEST(IsDecimal, IsTrueForNumbersAlone) {
+  for (const char16_t* const text : {u"0", u"20740", u" 7 ", u"-1", u"+7", u"99999999999999999"}) {
+    EXPECT_TRUE(isDecimal(text)) << testing::PrintToString(text);
+  }
+  for (const char16_t* const text : {u"", u" ", u"-", u"Q", u"12abc", u"1 2", u"0x10", u"\uFF11"}) {
+    EXPECT_FALSE(isDecimal(text)) << testing::PrintToString(text);
+  }
+}
+
 TEST(DecimalText, WritesNumbers) {
   EXPECT_EQ(decimalText(0), u"0");
   EXPECT_EQ(decimalText(-1), u"-1");
