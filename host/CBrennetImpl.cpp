@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "gameside/Dota7KeyInfoManager.h"
+#include "host/LoadTrace.h"
 #include "host/ProcessConfigs.h"
 #include "host/WideText.h"
 #include "model/BlockFiller.h"
@@ -70,11 +71,17 @@ bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
   }
   settingsPath_ = std::move(name);
   try {
-    return config_->Load(settingsPath_);
+    if (!config_->Load(settingsPath_)) return false;
   } catch (const std::exception&) {
     config_->Reset();
     return false;
   }
+  try {
+    trace(config_->loadReport());
+  } catch (const std::exception&) {
+    // The settings are there; what is missing is a line for whoever looks after them.
+  }
+  return true;
 }
 
 void CBrennetImpl::SetDataFolder(const wchar_t* folder) noexcept {

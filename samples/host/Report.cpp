@@ -164,6 +164,7 @@ QString textReport(const Report& report, bool withBlock) {
   text += line(QStringLiteral("File"), report.settings);
   text += line(QStringLiteral("Loaded"),
                report.loaded ? QStringLiteral("yes") : QStringLiteral("no, defaults are in place"));
+  for (const QString& key : report.notUsed) text += line(QStringLiteral("Not used"), key);
   text += line(QStringLiteral("Save time"), QString::number(report.lastSaveTime));
   text += QStringLiteral("\nActive scheme\n") + schemeInWords(report.block);
   if (withBlock) text += blockTable(report.block);
@@ -187,6 +188,7 @@ QByteArray jsonReport(const Report& report) {
   const QJsonObject root{
       {QStringLiteral("settings"), report.settings},
       {QStringLiteral("loaded"), report.loaded},
+      {QStringLiteral("notUsed"), QJsonArray::fromStringList(report.notUsed)},
       {QStringLiteral("lastSaveTime"), static_cast<double>(report.lastSaveTime)},
       {QStringLiteral("enabled"), isEnabled(report.block)},
       {QStringLiteral("capsLockUsed"), report.capsLockUsed},

@@ -12,6 +12,7 @@
 struct Report {
   QString settings;
   bool loaded = false;
+  QStringList notUsed;   // the keys of the settings file that were dropped, in words
   QStringList refusals;  // what the library said no to, in words
   brennet::HotkeyBlock block{};
   std::uint32_t lastSaveTime = 0;

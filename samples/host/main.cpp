@@ -14,6 +14,7 @@
 #include "Catalogue.h"
 #include "Dialog.h"
 #include "Library.h"
+#include "LoadMessages.h"
 #include "Options.h"
 #include "PlatformPlugin.h"
 #include "Report.h"
@@ -49,7 +50,9 @@ void load(brennet::IBrennet& brennet, const Options& options, Report& report) {
   const QString data = options.data;
   brennet.SetDataFolder(data.toStdWString().c_str());
   report.settings = options.settings;
+  const LoadMessages messages;
   report.loaded = brennet.LoadSettings(options.settings.toStdWString().c_str());
+  report.notUsed = messages.lines();
   if (!report.loaded) report.refusals += QStringLiteral("the settings file could not be loaded");
 }
 

@@ -107,6 +107,16 @@ for field in report["block"]:
 assert end == 1807, end
 PYTHON
 
+# What the file holds and cannot be used.
+printf '%s' '<KeyInfo><LastSaveTime>5</LastSaveTime>
+<HeroSkillKey><Key id="0">20736</Key>
+ <Key id="7">20736</Key></HeroSkillKey></KeyInfo>' >"$folder/twice.xml"
+run 0 --settings "$folder/twice.xml"
+says 'Not used         line 3, column 2: setting group 1, hero skill 8: Q is hero skill 1'
+grep -q 'hero skill 8' "$folder/err" && fail 'what the load tells comes twice'
+run 0 --settings "$folder/twice.xml" --json
+says '"line 3, column 2: setting group 1, hero skill 8: Q is hero skill 1"'
+
 # Handing a block back: unchanged, then with another zoom value (offset 68).
 run 1 --settings "$folder/KeyInfo.xml" --apply-block "$folder/block"
 complains 'nothing in it differs'
