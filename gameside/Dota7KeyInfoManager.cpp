@@ -1,5 +1,7 @@
 #include "gameside/Dota7KeyInfoManager.h"
 
+#include <new>
+
 namespace brennet {
 
 using platform::RegistryKey;
@@ -51,18 +53,31 @@ void Dota7KeyInfoManager::acceptChanges() {
 
 void Dota7KeyInfoManager::cancelChanges() {
   records_.clear();
-  // What cannot be given back now is kept for the next time.
-  std::erase_if(before_, [](const auto& entry) {
-    const auto& [place, value] = entry;
-    RegistryKey key(place.first);
-    return value ? key.write(place.second, *value) : key.remove(place.second);
-  });
+  // What cannot be given back is not kept either: it would come back in the middle of a later run.
+  const Before before = std::exchange(before_, {});
+  for (const auto& [place, value] : before) giveBack(place, value);
   settings_.load();
 }
 
+void Dota7KeyInfoManager::giveBack(const Place& place, const std::optional<RegistryValue>& value) {
+  try {
+    RegistryKey key(place.first);
+    if (value) {
+      key.write(place.second, *value);
+    } else {
+      key.remove(place.second);
+    }
+  } catch (const std::bad_alloc&) {
+    // The other values are given back all the same.
+  }
+}
+
+bool Dota7KeyInfoManager::PlaceOrder::operator()(const Place& a, const Place& b) const {
+  const int path = platform::compareRegistryNames(a.first, b.first);
+  return path != 0 ? path < 0 : platform::compareRegistryNames(a.second, b.second) < 0;
+}
+
 void Dota7KeyInfoManager::refresh() {
-  // The import of the first keys may have ended only after they were made.
-  writeRecords();
   records_.clear();
   settings_.load();
 }

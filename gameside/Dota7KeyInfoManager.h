@@ -55,11 +55,12 @@ class Dota7KeyInfoManager : public QObject {
   void acceptChanges();
 
   // The player wants none of it: forgets the recorded changes, gives the registry back what stood
-  // there before, or its absence, and reads the settings again.
+  // there before, or its absence, and reads the settings again. What stood there is forgotten in
+  // any case, also where it could not be given back.
   void cancelChanges();
 
-  // Writes the recorded changes once more, where that was not possible when they were made; forgets
-  // them and reads the settings again. The changes can still be cancelled.
+  // Forgets the recorded changes, which were written when they were made, and reads the settings
+  // again. The changes can still be cancelled.
   void refresh();
 
   // Writes all recorded changes.
@@ -67,13 +68,19 @@ class Dota7KeyInfoManager : public QObject {
 
  private:
   using Place = std::pair<std::u16string, std::u16string>;  // path of a key, name of a value
+  // By the registry's own rule: names that differ in their case alone are one place.
+  struct PlaceOrder {
+    bool operator()(const Place& a, const Place& b) const;
+  };
+  // What stood in each place before its first change; nothing: no value.
+  using Before = std::map<Place, std::optional<platform::RegistryValue>, PlaceOrder>;
 
+  static void giveBack(const Place& place, const std::optional<platform::RegistryValue>& value);
   void put(platform::RegistryKey& key, Place place, const platform::RegistryValue& value);
 
   Dota7KeyNames names_;
   std::map<std::u16string, Dota7Change, std::less<>> records_;
-  // What stood in each place before its first change; nothing: no value.
-  std::map<Place, std::optional<platform::RegistryValue>> before_;
+  Before before_;
   Dota7Settings settings_{*this};
 };
 

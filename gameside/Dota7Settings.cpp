@@ -23,9 +23,10 @@ std::size_t sideOf(const Dota7KeyField& field, Dota7Cast cast) {
   return cast == Dota7Cast::Quick && field.followsCast() ? 1 : 0;
 }
 
+// The number in four bytes, whatever type they are said to have; 0 where there are not four.
 std::uint32_t readNumber(const platform::RegistryKey& source, std::u16string_view name) {
   const platform::RegistryKey::Reading reading = source.read(name);
-  return reading.value ? platform::numberIn(*reading.value).value_or(0) : 0;
+  return reading.value ? platform::fourBytesIn(*reading.value).value_or(0) : 0;
 }
 
 // The bytes of a text; nothing where there is no text, or one that is too long to be one of ours.
@@ -189,10 +190,10 @@ const std::u16string& Dota7Settings::phrase(const Dota7Phrase& row) const {
   return phrases_[indexOf(row, dota7Phrases())];
 }
 
-void Dota7Settings::setPhrase(const Dota7Phrase& row, std::u16string_view text) {
+void Dota7Settings::setPhrase(const Dota7Phrase& row, std::u16string_view text, bool isTyped) {
   const std::size_t index = indexOf(row, dota7Phrases());
   const std::u16string stored = asStored(text);
-  if (unreadable_[index] && stored == phrases_[index]) return;
+  if (unreadable_[index] && !isTyped && stored == phrases_[index]) return;
   phrases_[index] = stored;
   unreadable_[index] = false;
   Dota7Change change = changeOf(kDota7PhrasesPath, row.valueName, stored);

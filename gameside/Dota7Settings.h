@@ -28,9 +28,10 @@ struct Dota7Key {
 // The values that the DotA 7 pages show and edit. Each change is handed to the manager, which
 // records it and writes it at once.
 //
-// What the registry lacks, or holds in another type or length than it should, reads as its default:
-// no key, a switch that is off, an empty phrase. The cast mode is no value of the registry; it is
-// normal at first. All rows come from the tables of Dota7Values.h.
+// What the registry lacks, or holds in another length than it should, reads as its default: no key,
+// a switch that is off, an empty phrase. A number is what its four bytes say, whatever their type;
+// a phrase of another type is an empty one. The cast mode is no value of the registry; it is normal
+// at first. All rows come from the tables of Dota7Values.h.
 class Dota7Settings {
  public:
   // `manager` outlives this object, and is not used before load() or a change.
@@ -61,8 +62,9 @@ class Dota7Settings {
 
   [[nodiscard]] const std::u16string& phrase(const Dota7Phrase& row) const;
   // Stores a phrase; what goes beyond 260 bytes of UTF-8 is cut off, between characters. The phrase
-  // of a value that could not be read as one is not written unless it has changed.
-  void setPhrase(const Dota7Phrase& row, std::u16string_view text);
+  // of a value that could not be read as one is not written unless it has changed or the player has
+  // typed it, be it the same.
+  void setPhrase(const Dota7Phrase& row, std::u16string_view text, bool isTyped = false);
 
   // Gives every value its default, in both cast modes, and sets the normal one, also where the
   // registry holds what could not be read. Values that are not there are not made.

@@ -17,14 +17,6 @@ constexpr std::array<std::u16string_view, 5> kRoots = {u"hkey_classes_root", u"h
                                                        u"hkey_current_user", u"hkey_local_machine",
                                                        u"hkey_users"};
 
-std::u16string lowered(std::u16string_view text) {
-  std::u16string result(text);
-  for (char16_t& unit : result) {
-    if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit - u'A' + u'a');
-  }
-  return result;
-}
-
 bool hasLineBreak(std::u16string_view text) {
   return text.find_first_of(u"\r\n") != std::u16string_view::npos;
 }
@@ -91,6 +83,14 @@ void appendValue(const RegistryValue& value, std::u16string& out) {
 }
 
 }  // namespace
+
+std::u16string RegFile::lowered(std::u16string_view name) {
+  std::u16string result(name);
+  for (char16_t& unit : result) {
+    if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit - u'A' + u'a');
+  }
+  return result;
+}
 
 std::string RegFile::serialize() const {
   std::u16string text = u"\xFEFF";

@@ -43,6 +43,9 @@ class RegFile {
   // Removes a value, if it is there.
   void remove(std::u16string_view path, std::u16string_view name);
 
+  // A name as it is told apart from others.
+  [[nodiscard]] static std::u16string lowered(std::u16string_view name);
+
   friend bool operator==(const RegFile&, const RegFile&) = default;
 
  private:

@@ -8,6 +8,12 @@
 
 namespace brennet::platform {
 
+// The order of names of keys and values in which the registry tells them apart: the case of letters
+// does not count. Negative, zero or positive, as `a` comes before `b`, is the same name, or comes
+// behind. On Windows it is the system's own; elsewhere that of RegFile.h, which knows ASCII
+// letters.
+[[nodiscard]] int compareRegistryNames(std::u16string_view a, std::u16string_view b);
+
 // A key below the current user's root of the registry, open for reading and writing.
 //
 // On Windows this is the registry. Elsewhere it is the .reg file (RegFile.h) that the environment

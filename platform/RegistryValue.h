@@ -26,14 +26,19 @@ struct RegistryValue {
   return value;
 }
 
-// The number in `value`; nothing where type or length are not those of a number.
-[[nodiscard]] inline std::optional<std::uint32_t> numberIn(const RegistryValue& value) {
-  if (value.type != kRegistryDword || value.data.size() != 4) return std::nullopt;
+// The number in the four bytes of `value`, lowest first; nothing where there are not four.
+[[nodiscard]] inline std::optional<std::uint32_t> fourBytesIn(const RegistryValue& value) {
+  if (value.data.size() != 4) return std::nullopt;
   std::uint32_t number = 0;
   for (unsigned i = 0; i < 4; ++i) {
     number |= std::uint32_t{static_cast<unsigned char>(value.data[i])} << 8 * i;
   }
   return number;
+}
+
+// The number in `value`; nothing where type or length are not those of a number.
+[[nodiscard]] inline std::optional<std::uint32_t> numberIn(const RegistryValue& value) {
+  return value.type == kRegistryDword ? fourBytesIn(value) : std::nullopt;
 }
 
 }  // namespace brennet::platform

@@ -23,6 +23,10 @@ bool load(const Path& file, RegFile& content) {
 
 }  // namespace
 
+int compareRegistryNames(std::u16string_view a, std::u16string_view b) {
+  return RegFile::lowered(a).compare(RegFile::lowered(b));
+}
+
 struct RegistryKey::Body {
   Path file;
   std::u16string path;

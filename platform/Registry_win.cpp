@@ -13,6 +13,14 @@ std::wstring wide(std::u16string_view text) {
 
 }  // namespace
 
+int compareRegistryNames(std::u16string_view a, std::u16string_view b) {
+  const std::wstring first = wide(a);
+  const std::wstring second = wide(b);
+  const int order = CompareStringOrdinal(first.data(), static_cast<int>(first.size()),
+                                         second.data(), static_cast<int>(second.size()), TRUE);
+  return order - CSTR_EQUAL;
+}
+
 struct RegistryKey::Body {
   HKEY handle;
 };

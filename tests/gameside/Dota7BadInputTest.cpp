@@ -22,16 +22,29 @@ TEST_F(Dota7BadInput, AKeyWhoseCodeIsNoneReadsAsNoKey) {
   for (const RegistryValue& bad :
        {RegistryValue{platform::kRegistryDword, "Q\0"s},
         RegistryValue{platform::kRegistryDword, ""},
-        RegistryValue{platform::kRegistryDword, "Q\0\0\0\0"s}, bytesValue("Q\0\0\0"s),
-        RegistryValue{platform::kRegistryText, "Q\0\0\0"s}, RegistryValue{11, "Q\0\0\0"s},
-        dwordValue(0), dwordValue(0x100), dwordValue(0x80000051), dwordValue(0xFFFFFFFF),
-        bytesValue(std::string(70000, 'Q'))}) {
+        RegistryValue{platform::kRegistryDword, "Q\0\0\0\0"s}, bytesValue("Q\0\0"s),
+        RegistryValue{platform::kRegistryText, "Q\0\0\0\0"s}, RegistryValue{11, "Q\0\0\0\0\0\0\0"s},
+        bytesValue("QQ\0\0"s), dwordValue(0), dwordValue(0x100), dwordValue(0x80000051),
+        dwordValue(0xFFFFFFFF), bytesValue(std::string(70000, 'Q'))}) {
     registry.set(hold.keyPath, hold.normal.code, bad);
     const platform::RegFile before = registry.content();
     settings.load();
     EXPECT_EQ(settings.key(hold), Dota7Key());
     manager.acceptChanges();
     EXPECT_EQ(registry.content(), before);
+  }
+}
+
+TEST_F(Dota7BadInput, ANumberOfAnotherTypeIsWhatItsFourBytesSay) {
+  for (const std::uint32_t type : {0U, 1U, 3U, 4U, 5U, 11U, 77U}) {
+    registry.set(kDota7ControlPath, u"HHoldKeyCode", {type, "Q\0\0\0"s});
+    registry.set(kDota7ControlPath, u"SLegacyKeys", {type, "\0\0\0\1"s});
+    const platform::RegFile before = registry.content();
+    settings.load();
+    EXPECT_EQ(settings.key(field(u"edt_HHoldKey")), key(kQ)) << type;
+    EXPECT_TRUE(settings.isOn(*findDota7Switch(u"chk_SLegacyKeys"))) << type;
+    manager.acceptChanges();
+    EXPECT_EQ(registry.content(), before) << type;
   }
 }
 
@@ -55,7 +68,7 @@ TEST_F(Dota7BadInput, ASwitchThatIsNoNumberIsOff) {
     registry.set(kDota7ControlPath, row.valueName, {platform::kRegistryDword, "\1\0"s});
     settings.load();
     EXPECT_FALSE(settings.isOn(row));
-    registry.set(kDota7ControlPath, row.valueName, bytesValue("\1\0\0\0"s));
+    registry.set(kDota7ControlPath, row.valueName, bytesValue("\1\0\0\0\0"s));
     settings.load();
     EXPECT_FALSE(settings.isOn(row));
   }
@@ -82,6 +95,11 @@ TEST_P(Dota7BadPhrases, AreLeftAloneUntilThePlayerChangesThem) {
   settings.load();
   EXPECT_EQ(settings.phrase(phrase), row.shown);
   settings.setPhrase(phrase, settings.phrase(phrase));
+  EXPECT_EQ(registry.content(), before);
+
+  settings.setPhrase(phrase, settings.phrase(phrase), true);
+  EXPECT_EQ(phrases(phrase.valueName), bytesValue(dota7TextBytes(row.shown))) << "typed";
+  manager.cancelChanges();
   EXPECT_EQ(registry.content(), before);
 
   settings.setPhrase(phrase, u"gg");

@@ -131,6 +131,23 @@ TEST_F(Dota7Manager, GivesBackWhatStoodThere) {
   EXPECT_TRUE(manager.records().empty());
 }
 
+TEST_F(Dota7Manager, GivesBackWhatStoodThereUnderANameInAnyCase) {
+  registry.set(kDota7ControlPath, u"Code", dwordValue(9));
+  const platform::RegFile before = registry.content();
+  manager.writeValue(numberChange(u"CODE", 1));
+  manager.writeValue(numberChange(u"Code", 2));
+  manager.writeValue(numberChange(u"code", 3));
+  EXPECT_EQ(control(u"Code"), dwordValue(3));
+  manager.cancelChanges();
+  EXPECT_EQ(control(u"Code"), dwordValue(9));
+  EXPECT_EQ(registry.content(), before);
+  // The absence of a value as well.
+  manager.writeValue(numberChange(u"new", 1));
+  manager.writeValue(numberChange(u"NEW", 2));
+  manager.cancelChanges();
+  EXPECT_EQ(registry.content(), before);
+}
+
 TEST_F(Dota7Manager, AcceptsOnceAndForAll) {
   manager.record(u"a", numberChange(u"N", 1));
   manager.writeValue(numberChange(u"M", 1));

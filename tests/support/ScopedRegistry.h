@@ -29,6 +29,8 @@ class ScopedRegistry {
 
   // Leaves of all rights to the key (elsewhere than on Windows: to all keys) that of reading.
   void denyWriting(std::u16string_view path);
+  // Takes that back.
+  void allowWriting(std::u16string_view path);
 
  private:
   TempFolder folder_;

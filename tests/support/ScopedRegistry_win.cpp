@@ -78,6 +78,19 @@ void addKey(const std::wstring& path, platform::RegFile& content) {
   }
 }
 
+// Gives a key the rights that stand in `description`.
+void setRights(const std::wstring& path, const wchar_t* description) {
+  const OpenKey key(path, WRITE_DAC);
+  PSECURITY_DESCRIPTOR rights = nullptr;
+  if (ConvertStringSecurityDescriptorToSecurityDescriptorW(description, SDDL_REVISION_1, &rights,
+                                                           nullptr) == FALSE) {
+    throw std::runtime_error("the rights cannot be made");
+  }
+  const LSTATUS status = RegSetKeySecurity(key.get(), DACL_SECURITY_INFORMATION, rights);
+  LocalFree(rights);
+  require(status, "the rights cannot be set");
+}
+
 }  // namespace
 
 ScopedRegistry::ScopedRegistry() {
@@ -110,16 +123,11 @@ void ScopedRegistry::set(std::u16string_view path, std::u16string_view name,
 
 void ScopedRegistry::denyWriting(std::u16string_view path) {
   // Everybody may read the key, change these rights and delete the key.
-  constexpr wchar_t kRights[] = L"D:P(A;;KRWDSD;;;WD)";
-  const OpenKey key(wide(path), WRITE_DAC);
-  PSECURITY_DESCRIPTOR rights = nullptr;
-  if (ConvertStringSecurityDescriptorToSecurityDescriptorW(kRights, SDDL_REVISION_1, &rights,
-                                                           nullptr) == FALSE) {
-    throw std::runtime_error("the rights cannot be made");
-  }
-  const LSTATUS status = RegSetKeySecurity(key.get(), DACL_SECURITY_INFORMATION, rights);
-  LocalFree(rights);
-  require(status, "the rights cannot be set");
+  setRights(wide(path), L"D:P(A;;KRWDSD;;;WD)");
+}
+
+void ScopedRegistry::allowWriting(std::u16string_view path) {
+  setRights(wide(path), L"D:P(A;;KA;;;WD)");
 }
 
 }  // namespace brennet::test
