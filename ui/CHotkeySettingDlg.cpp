@@ -63,7 +63,7 @@ CHotkeySettingDlg::~CHotkeySettingDlg() {
   try {
     manager_->cancelChanges();
   } catch (const std::bad_alloc&) {
-    // What is kept is given back the next time that a dialog is cancelled.
+    // The registry has back what it had; what the pages show is read again by the next dialog.
   }
 }
 
@@ -72,9 +72,9 @@ void CHotkeySettingDlg::createPages() {
   olderBasic_ = new CBasicSettingWidget(*config_, this);
   basic_ = new CBasicSetting7Widget(*config_, this);
   chatWheel_ = new CChatRouletteSettingWidget(*config_, this);
-  dota7_ = new CDotA7BasicSetting(*manager_, this);
+  dota7_ = new CDotA7BasicSetting(*manager_, this, config_);
   quickChat_ = new ChatKeySettingWidget(*config_, this);
-  dota7Chat_ = new Dota7ChatKeySettingWidget(*manager_, this);
+  dota7Chat_ = new Dota7ChatKeySettingWidget(*manager_, this, config_);
 
   stack_ = new QStackedLayout(form_->pageArea);
   stack_->addWidget(basic_);

@@ -92,6 +92,15 @@ TEST_F(AnswersToTheDialog, LetEditsOutliveASwitchOfModes) {
   EXPECT_EQ(registry.content(), before);
 }
 
+// The chat wheel of the settings is edited in the other mode, by the same dialog.
+TEST_F(AnswersToTheDialog, TakeTheChatWheelsKeyAwayForAPasteInTheOtherMode) {
+  config.editableScheme()->ChatWheelkey = KeyWord('W', 0);
+  ASSERT_NO_FATAL_FAILURE(changeAKey());
+  const auto box = whenBoxIsShown([](QMessageBox& shown) { shown.accept(); });
+  pressKey(stopKey(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(config.scheme().ChatWheelkey, kNoKey);
+}
+
 TEST_F(AnswersToTheDialog, TakeTheRegistryBackWithAModifierStillDown) {
   ASSERT_NO_FATAL_FAILURE(holdControlDown());
   find<QPushButton>("btnCancel").click();

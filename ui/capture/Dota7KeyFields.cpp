@@ -5,6 +5,7 @@
 
 #include "gameside/Dota7KeyInfoManager.h"
 #include "ui/Text.h"
+#include "ui/capture/SlotCapture.h"
 
 namespace brennet {
 namespace {
@@ -29,8 +30,10 @@ Dota7Key toDota7Key(KeyWord key) {
 
 }  // namespace
 
-Dota7KeyFields::Dota7KeyFields(Dota7KeyInfoManager& manager, std::function<void()> tellUsed)
+Dota7KeyFields::Dota7KeyFields(Dota7KeyInfoManager& manager, HotkeyConfig* config,
+                               std::function<void()> tellUsed)
     : manager_(&manager),
+      config_(config),
       tellUsed_(std::move(tellUsed)),
       filter_(
           kStyle, [](const QLineEdit& field) { return rowOf(field) != nullptr; },
@@ -52,15 +55,18 @@ void Dota7KeyFields::refresh() {
 void Dota7KeyFields::take(QLineEdit& field, const Capture& capture) {
   Dota7Settings& settings = manager_->settings();
   const Dota7KeyField& row = *rowOf(field);
-  const bool isStored = capture.outcome == Capture::Outcome::Captured &&
-                        settings.storeKey(row, toDota7Key(capture.key));
-  if (isStored) {
+  const bool isCaptured = capture.outcome == Capture::Outcome::Captured;
+  const bool isStored = isCaptured && settings.storeKey(row, toDota7Key(capture.key));
+  if (!isStored) settings.clearKey(row);
+  const bool isPasted = isCaptured && isPaste(capture.key);
+  if (isStored && !isPasted) {
     field.setText(textOf(capture.key));
     return;
   }
-  settings.clearKey(row);
+  // A paste is kept where it is free, as in all fields; what is shown and told is the same.
+  if (isPasted && config_ != nullptr) makeRoomForPaste(*config_);
   field.clear();
-  if (capture.outcome == Capture::Outcome::Captured) tellUsed_();
+  if (isCaptured) tellUsed_();
 }
 
 QString Dota7KeyFields::textOf(KeyWord key) const {

@@ -12,13 +12,16 @@ class QString;
 namespace brennet {
 
 class Dota7KeyInfoManager;
+class HotkeyConfig;
 
 // The fields of a DotA 7 page for keys. Each key is in the registry at once.
 class Dota7KeyFields {
  public:
-  // `tellUsed` tells the player that a key is used already; it may run an event loop. `manager`
-  // outlives this object.
-  Dota7KeyFields(Dota7KeyInfoManager& manager, std::function<void()> tellUsed);
+  // `tellUsed` tells the player that a key is used already; it may run an event loop. `config` has
+  // the key of the chat wheel, which a paste takes away; null where there is none. Both `manager`
+  // and `config` outlive this object.
+  Dota7KeyFields(Dota7KeyInfoManager& manager, HotkeyConfig* config,
+                 std::function<void()> tellUsed);
   Dota7KeyFields(const Dota7KeyFields&) = delete;
   Dota7KeyFields& operator=(const Dota7KeyFields&) = delete;
   ~Dota7KeyFields() = default;
@@ -43,6 +46,7 @@ class Dota7KeyFields {
   [[nodiscard]] QString textOf(KeyWord key) const;
 
   Dota7KeyInfoManager* manager_;
+  HotkeyConfig* config_;
   std::function<void()> tellUsed_;
   KeyFieldFilter filter_;
   std::vector<Field> fields_;

@@ -42,11 +42,15 @@ bool isRefused(HotkeyConfig& config, KeySlot slot, KeyWord key) {
   return true;
 }
 
+}  // namespace
+
 bool isPaste(KeyWord key) {
   return key.virtualKey() == kV && (key.modifiers() & KeyWord::kCtrl) != 0;
 }
 
-}  // namespace
+void makeRoomForPaste(HotkeyConfig& config) {
+  if (HotkeyScheme* const scheme = config.editableScheme()) scheme->ChatWheelkey = kNoKey;
+}
 
 std::optional<KeySlot> slotOf(const EditControl& control) {
   if (control.nGoodsIndex != 0) {
@@ -69,7 +73,7 @@ bool store(const Capture& capture, const std::optional<KeySlot>& slot, HotkeyCon
   if (capture.outcome != Capture::Outcome::Captured) return false;
   const bool refused = slot && isRefused(config, *slot, capture.key);
   if (!isPaste(capture.key)) return refused;
-  if (HotkeyScheme* const scheme = config.editableScheme()) scheme->ChatWheelkey = kNoKey;
+  makeRoomForPaste(config);
   return true;
 }
 

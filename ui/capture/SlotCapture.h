@@ -12,11 +12,18 @@ namespace brennet {
 // The key of a scheme that the field of a basic page edits; nothing when its name selected nothing.
 [[nodiscard]] std::optional<KeySlot> slotOf(const EditControl& control);
 
+// Ctrl+V is a paste everywhere in the game's chat, where the key of the chat wheel would open that
+// instead.
+[[nodiscard]] bool isPaste(KeyWord key);
+
+// Takes the key of the chat wheel away from the current scheme: a paste was captured for a field.
+void makeRoomForPaste(HotkeyConfig& config);
+
 // Stores in the current scheme what was captured for a field, which may edit no slot.
 //
 // No key is stored as it is. Another key is stored where it may be bound (KeyAssignment.h); else
-// the slot has no key afterwards. Ctrl+V is a paste everywhere in the game's chat: it also takes
-// the key of the chat wheel away. Returns whether the player is to be told that the key is used.
+// the slot has no key afterwards. A paste also takes the key of the chat wheel away. Returns
+// whether the player is to be told that the key is used.
 bool store(const Capture& capture, const std::optional<KeySlot>& slot, HotkeyConfig& config);
 
 }  // namespace brennet

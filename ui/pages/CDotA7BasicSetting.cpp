@@ -82,14 +82,16 @@ void addSkills(QGridLayout& grid, int row, Dota7Cast cast, const QString& what) 
 
 }  // namespace
 
-CDotA7BasicSetting::CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QWidget* parent)
+CDotA7BasicSetting::CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QWidget* parent,
+                                       brennet::HotkeyConfig* config)
     : QWidget(parent),
       manager_(&manager),
       form_(brennet::formOn<Ui::CDotA7BasicSetting>(*this)),
-      fields_(manager, [this] { brennet::tellKeyIsUsed(this); }) {
+      fields_(manager, config, [this] { brennet::tellKeyIsUsed(this); }) {
   buildRows();
   connectButtons();
   fields_.install(*this, *this);
+  manager.settings().setCast(Dota7Cast::Normal);
   load();
 }
 

@@ -19,8 +19,10 @@ class CDotA7BasicSetting : public QWidget {
   Q_OBJECT
 
  public:
-  // `manager` outlives the page. Reads the registry.
-  CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QWidget* parent);
+  // `manager` outlives the page, as does `config`, whose chat wheel loses its key to a paste; null
+  // where there is none. Reads the registry; the cast mode is the normal one.
+  CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QWidget* parent,
+                     brennet::HotkeyConfig* config = nullptr);
   ~CDotA7BasicSetting() override;
 
   // Reads the registry again and shows what it holds.

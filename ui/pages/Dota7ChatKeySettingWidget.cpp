@@ -39,11 +39,11 @@ QLineEdit* newPhraseField(const QString& objectName, const QString& accessibleNa
 }  // namespace
 
 Dota7ChatKeySettingWidget::Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManager& manager,
-                                                     QWidget* parent)
+                                                     QWidget* parent, brennet::HotkeyConfig* config)
     : MovableDialog(parent),
       manager_(&manager),
       form_(brennet::formOn<Ui::Dota7ChatKeySettingWidget>(*this)),
-      keys_(manager, [this] { brennet::tellKeyIsUsed(this); }) {
+      keys_(manager, config, [this] { brennet::tellKeyIsUsed(this); }) {
   buildRows();
   connect(form_->btnCancel, &QPushButton::clicked, this,
           &Dota7ChatKeySettingWidget::onClickedCancelBtn);
@@ -94,7 +94,7 @@ void Dota7ChatKeySettingWidget::savePhrases() {
   for (const brennet::Dota7Phrase& row : brennet::dota7Phrases()) {
     const auto* const field = findChild<QLineEdit*>(brennet::toQString(row.objectName));
     const QString text = field->text();
-    manager_->settings().setPhrase(row, brennet::viewOf(text));
+    manager_->settings().setPhrase(row, brennet::viewOf(text), field->isModified());
   }
 }
 

@@ -16,8 +16,10 @@ class Dota7ChatKeySettingWidget : public brennet::MovableDialog {
   Q_OBJECT
 
  public:
-  // `manager` outlives the dialog. Reads the registry.
-  Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManager& manager, QWidget* parent);
+  // `manager` outlives the dialog, as does `config`, whose chat wheel loses its key to a paste;
+  // null where there is none. Reads the registry.
+  Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManager& manager, QWidget* parent,
+                            brennet::HotkeyConfig* config = nullptr);
   ~Dota7ChatKeySettingWidget() override;
 
   // Reads the phrases and their keys from the registry again and shows them.

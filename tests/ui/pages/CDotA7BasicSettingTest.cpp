@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QSignalSpy>
 
+#include "model/HotkeyConfig.h"
 #include "tests/gameside/Dota7Test.h"
 #include "tests/ui/UiTest.h"
 #include "tests/ui/pages/PageChecks.h"
@@ -222,6 +223,41 @@ TEST_F(Dota7Page, StoresItsOptions) {
     button(row.box).click();
     EXPECT_EQ(number(row.value), 0U) << row.box;
   }
+}
+
+TEST_F(Dota7Page, BeginsWithNormalCast) {
+  button("chk_QuickUse").click();
+  EXPECT_EQ(settings.cast(), Dota7Cast::Quick);
+  page = std::make_unique<CDotA7BasicSetting>(manager, nullptr);
+  EXPECT_TRUE(button("chk_Normal").isChecked());
+  EXPECT_FALSE(button("chk_QuickUse").isChecked());
+  pressKey(fieldOf(u"edt_HMoveKeyC"), Qt::Key_X);
+  EXPECT_EQ(number(u"HMoveKeyCodeC"), 'X');
+  EXPECT_EQ(number(u"HMoveKeyCodeQC"), std::nullopt);
+}
+
+// Ctrl+V is a paste in the chat of the game.
+TEST_F(Dota7Page, TakesTheKeyOfTheChatWheelAwayForAPaste) {
+  HotkeyConfig config;
+  page = std::make_unique<CDotA7BasicSetting>(manager, nullptr, &config);
+  const Qt::KeyboardModifiers both = Qt::ControlModifier | Qt::AltModifier;
+  for (const Qt::KeyboardModifiers modifiers : {Qt::KeyboardModifiers(Qt::ControlModifier), both}) {
+    config.editableScheme()->ChatWheelkey = KeyWord('W', 0);
+    // The second time another field has the key, and the edited one gives its own up.
+    for (const char16_t* const name : {u"edt_HStopKey", u"edt_HHoldKey"}) {
+      const auto box = whenBoxIsShown([&](QMessageBox& shown) {
+        EXPECT_EQ(shown.text(), QStringLiteral("IDS_KEY_USED"));
+        shown.accept();
+      });
+      pressKey(fieldOf(name), Qt::Key_V, modifiers);
+      EXPECT_EQ(fieldOf(name).text(), QString());
+      EXPECT_EQ(config.scheme().ChatWheelkey, kNoKey);
+    }
+    EXPECT_EQ(number(u"HStopKeyCode"), 'V') << "stored all the same";
+    EXPECT_EQ(number(u"HHoldKeyCode"), 0U);
+  }
+  pressKey(fieldOf(u"edt_HHoldKey"), Qt::Key_V);
+  EXPECT_EQ(fieldOf(u"edt_HHoldKey").text(), QStringLiteral(" V"));
 }
 
 TEST_F(Dota7Page, ShowsWhatTheRegistryHolds) {

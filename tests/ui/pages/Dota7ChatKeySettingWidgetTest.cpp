@@ -9,7 +9,9 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QTest>
 
+#include "model/HotkeyConfig.h"
 #include "tests/gameside/Dota7Test.h"
 #include "tests/ui/UiTest.h"
 #include "tests/ui/pages/PageChecks.h"
@@ -75,6 +77,34 @@ TEST_F(Dota7ChatDialog, WritesPhrasesOnlyWhenItIsTold) {
   EXPECT_EQ(phrases(u"SQuickChatString0"), bytesValue(utf8(u8"谢谢")));
   EXPECT_EQ(phrases(u"SOnStartString14"), bytesValue("glhf"));
   EXPECT_EQ(phrases(u"HQuickChatHot0Key"), std::nullopt) << "key fields are no phrases";
+}
+
+TEST_F(Dota7ChatDialog, LeavesAPhraseThatItCannotReadUntilThePlayerTypesIt) {
+  const auto unreadable = bytesValue("gg\xFF");
+  registry.set(kDota7PhrasesPath, u"SOnStartString0", unreadable);
+  dialog->load();
+  atStart(1).setText(QStringLiteral("glhf"));
+  dialog->savePhrases();
+  EXPECT_EQ(phrases(u"SOnStartString0"), unreadable);
+  QTest::keyClick(&atStart(0), Qt::Key_A);
+  QTest::keyClick(&atStart(0), Qt::Key_Backspace);
+  dialog->savePhrases();
+  EXPECT_EQ(phrases(u"SOnStartString0"), bytesValue("gg\xEF\xBF\xBD")) << "as it is shown";
+}
+
+// Ctrl+V is a paste in the chat of the game.
+TEST_F(Dota7ChatDialog, TakesTheKeyOfTheChatWheelAwayForAPaste) {
+  HotkeyConfig config;
+  config.editableScheme()->ChatWheelkey = KeyWord('W', 0);
+  dialog = std::make_unique<Dota7ChatKeySettingWidget>(manager, nullptr, &config);
+  const auto box = whenBoxIsShown([&](QMessageBox& shown) {
+    EXPECT_EQ(shown.text(), QStringLiteral("IDS_KEY_USED"));
+    shown.accept();
+  });
+  pressKey(keyField(4), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(keyField(4).text(), QString());
+  EXPECT_EQ(config.scheme().ChatWheelkey, kNoKey);
+  EXPECT_EQ(phrases(u"HQuickChatHot4KeyCode"), platform::dwordValue('V')) << "stored all the same";
 }
 
 TEST_F(Dota7ChatDialog, ForgetsPhrasesAndKeepsKeysWhenItIsCancelled) {
