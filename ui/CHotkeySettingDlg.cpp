@@ -331,11 +331,11 @@ bool CHotkeySettingDlg::nativeEvent(const QByteArray& eventType, void* message, 
 
 void CHotkeySettingDlg::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  // Windows shows tool windows without giving them the keyboard.
-  activateWindow();
   const bool isSkinned = !isFirstShow_ || applySkin();
   isFirstShow_ = false;
   fit_->comeUp();
+  // Windows shows tool windows without giving them the keyboard.
+  activateWindow();
   if (isSkinned) return;
   CMsgBox::showMessage(this, QMessageBox::Critical, QStringLiteral("error"),
                        QStringLiteral("failed to read qss file"));

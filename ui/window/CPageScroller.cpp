@@ -4,6 +4,12 @@
 #include <QEvent>
 #include <QScrollBar>
 
+namespace {
+
+constexpr int kBeside = 12;  // pixels of what is around, so that one sees that there is more
+
+}  // namespace
+
 CPageScroller::CPageScroller(QWidget* parent) : QScrollArea(parent) {
   setFrameShape(QFrame::NoFrame);
   setWidgetResizable(true);
@@ -48,5 +54,8 @@ bool CPageScroller::eventFilter(QObject* watched, QEvent* event) {
 void CPageScroller::showFocus(QWidget* focus) {
   if (focus == nullptr || !isAncestorOf(focus)) return;
   if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
-  ensureWidgetVisible(focus);
+  // All of it: for Qt the cursor of a field is enough.
+  const QRect place(focus->mapTo(widget(), QPoint()), focus->size());
+  ensureVisible(place.center().x(), place.center().y(), place.width() / 2 + kBeside,
+                place.height() / 2 + kBeside);
 }

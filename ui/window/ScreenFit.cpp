@@ -21,6 +21,12 @@ int inside(int place, int size, int start, int areaSize) {
   return std::max(std::min(place, start + areaSize - size), start);
 }
 
+// The one that its middle is on.
+QScreen& screenOf(const QWidget& window) {
+  QScreen* const screen = QGuiApplication::screenAt(window.frameGeometry().center());
+  return screen == nullptr ? *window.windowHandle()->screen() : *screen;
+}
+
 // Lets the window know that a widget inside has another size. A layout tells the one around it only
 // when events are handled, which would be too late for the place of the window.
 void renewSizes(QWidget& inner, const QWidget& window) {
@@ -43,13 +49,14 @@ ScreenFit::ScreenFit(QWidget& window)
 
 void ScreenFit::comeUp() {
   if (!window_.isWindow()) return;  // somebody has put it into another one
-  const HostPlace host = hostPlaceOf(window_);
-  const QRect area = host.screen->availableGeometry();
-  limitTo(area.size());
-  // Who has moved the window wants it there; the attribute must not stay from what is done here.
+  // Who has moved the window wants it there.
   const bool isMoved = window_.testAttribute(Qt::WA_Moved);
-  if (!isMoved) window_.move(host.centre - window_.rect().center());
-  keepInside(isMoved ? window_.windowHandle()->screen()->availableGeometry() : area);
+  const HostPlace host = hostPlaceOf(window_);
+  const QRect area = (isMoved ? screenOf(window_) : *host.screen).availableGeometry();
+  limitTo(area.size());
+  const QPoint corner = isMoved ? window_.pos() : host.centre - window_.rect().center();
+  // In one step: on its way the window would be counted to a screen of another scale.
+  window_.move(cornerInside(area, window_.size(), corner));
   window_.setAttribute(Qt::WA_Moved, isMoved);
   watch();
 }
@@ -69,11 +76,10 @@ void ScreenFit::watch() {
 }
 
 void ScreenFit::fitAgain(bool moves) {
-  const QWindow* const handle = window_.windowHandle();
-  if (!window_.isVisible() || handle == nullptr || handle->screen() == nullptr) return;
-  const QRect area = handle->screen()->availableGeometry();
+  if (!window_.isVisible()) return;
+  const QRect area = screenOf(window_).availableGeometry();
   limitTo(area.size());
-  if (moves) keepInside(area);
+  if (moves) window_.move(cornerInside(area, window_.size(), window_.pos()));
 }
 
 void ScreenFit::limitTo(QSize available) const {
@@ -85,10 +91,6 @@ void ScreenFit::limitTo(QSize available) const {
   content_->setLimit(available - around.expandedTo({0, 0}));
   renewSizes(*content_, window_);
   window_.resize(layout.totalSizeHint());
-}
-
-void ScreenFit::keepInside(const QRect& area) const {
-  window_.move(cornerInside(area, window_.size(), window_.pos()));
 }
 
 }  // namespace brennet

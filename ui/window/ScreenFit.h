@@ -31,7 +31,6 @@ class ScreenFit : public QObject {
  private:
   void watch();
   void limitTo(QSize available) const;
-  void keepInside(const QRect& area) const;
   void fitAgain(bool moves);
 
   QWidget& window_;

@@ -2,9 +2,12 @@
 
 #include <private/qhighdpiscaling_p.h>
 #include <qpa/qplatformscreen.h>
+#include <qpa/qplatformwindow.h>
 #include <qpa/qwindowsysteminterface.h>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWidget>
+#include <QWindow>
 
 namespace brennet::test {
 namespace {
@@ -61,6 +64,14 @@ TestScreens::~TestScreens() {
 
 QScreen& TestScreens::at(int number) const {
   return *screens_[number];
+}
+
+QRect TestScreens::pixelsOf(const QWidget& window) {
+  return window.windowHandle()->handle()->geometry();
+}
+
+QRect TestScreens::availablePixels(int number) const {
+  return screens_[number]->handle()->availableGeometry();
 }
 
 void TestScreens::unplug(int number) {

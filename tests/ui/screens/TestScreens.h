@@ -5,6 +5,7 @@
 #include <QVector>
 
 class QScreen;
+class QWidget;
 
 namespace brennet::test {
 
@@ -21,6 +22,9 @@ struct ScreenShape {
 // Puts screens in the place of the one that the platform without a screen has, as long as it lives;
 // the first one is the primary screen. What `percent` says is done by Qt as for a host that lets it
 // scale.
+//
+// That platform does not tell Qt which screen a window has come to. So Qt counts on in the units of
+// the first one; where a window is in truth, say its pixels.
 class TestScreens {
  public:
   explicit TestScreens(const QVector<ScreenShape>& shapes);
@@ -29,6 +33,10 @@ class TestScreens {
   TestScreens& operator=(const TestScreens&) = delete;
 
   [[nodiscard]] QScreen& at(int number) const;
+  // The place of a window in the pixels of all screens together.
+  [[nodiscard]] static QRect pixelsOf(const QWidget& window);
+  // The part of the screen that is free for windows, likewise.
+  [[nodiscard]] QRect availablePixels(int number) const;
   // Somebody pulls the plug: what was on it goes where Qt puts it.
   void unplug(int number);
   // Another task bar or another resolution leaves this part of the screen, in units, from its

@@ -1,0 +1,119 @@
+// All windows on the screens that players have: inside, with their buttons, and nothing is out of
+// reach.
+
+#include <QApplication>
+#include <QPushButton>
+#include <QScreen>
+
+#include "tests/ui/fit/FitWindows.h"
+#include "tests/ui/pages/PageChecks.h"
+#include "ui/CHotkeySettingDlg.h"
+#include "ui/pages/COrrerySettingDlg.h"
+#include "ui/pages/ChatKeySettingWidget.h"
+#include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/window/CMsgBox.h"
+
+namespace brennet::test {
+namespace {
+
+// What the settings take at the most at 100 %: a laptop leaves that beside its task bar.
+constexpr QSize kMost(1240, 660);
+
+const std::vector<const char*> kEnds = {"btnOK", "btnCancel"};
+
+TEST_P(FitWindows, TakesNoMoreThanALaptopLeaves) {
+  const TestScreens screens({{{1920, 1080}}});
+  QSize sizes[2];
+  for (const bool isDota7 : {false, true}) {
+    SCOPED_TRACE(isDota7 ? "DotA 7" : "platform");
+    const auto dialog = showDialog(isDota7);
+    sizes[isDota7] = dialog->size();
+    EXPECT_LE(dialog->width(), kMost.width());
+    EXPECT_LE(dialog->height(), kMost.height());
+    EXPECT_FALSE(isScrolled(*dialog));
+    expectNothingIsCut(*dialog);
+  }
+  EXPECT_EQ(sizes[0], sizes[1]) << "nothing jumps from one mode to the other";
+}
+
+TEST_P(FitWindows, ComesUpWholeOnEachScreen) {
+  for (const ScreenRow& row : playersScreens()) {
+    SCOPED_TRACE(row.name);
+    const TestScreens screens({row.shape});
+    for (const bool isDota7 : {false, true}) {
+      SCOPED_TRACE(isDota7 ? "DotA 7" : "platform");
+      const auto dialog = showDialog(isDota7);
+      EXPECT_EQ(screens.at(0).availableGeometry().size(), row.shape.available());
+      expectInside(*dialog, screens.at(0).availableGeometry(), kEnds);
+      expectNothingIsCut(*dialog);
+      if (isScrolled(*dialog)) expectFocusIsShown(*dialog);
+    }
+  }
+}
+
+// A host that lets Qt scale nothing has larger letters in more pixels.
+TEST_P(FitWindows, ComesUpWholeWithLargeLetters) {
+  const TestScreens screens({{{1366, 768}}});
+  for (const int percent : {150, 250}) {
+    SCOPED_TRACE(percent);
+    QFont font = QApplication::font();
+    font.setPointSizeF(9.0 * percent / 100);
+    QApplication::setFont(font);
+    for (const bool isDota7 : {false, true}) {
+      const auto dialog = showDialog(isDota7);
+      expectInside(*dialog, screens.at(0).availableGeometry(), kEnds);
+      expectFocusIsShown(*dialog);
+    }
+  }
+}
+
+TEST_P(FitWindows, ComesUpWholeInEachOtherWindow) {
+  for (const ScreenRow& row : playersScreens()) {
+    SCOPED_TRACE(row.name);
+    const TestScreens screens({row.shape});
+    const QRect available = screens.at(0).availableGeometry();
+    const auto check = [&](QWidget& window, const std::vector<const char*>& buttons) {
+      SCOPED_TRACE(window.metaObject()->className());
+      showWindow(window);
+      expectInside(window, available, buttons);
+      expectNothingIsCut(window);
+      window.hide();
+    };
+    // In the corner, where its windows have no room around its middle.
+    const auto dialog = showDialog(false);
+    dialog->move(available.bottomRight() - QPoint(20, 20));
+    check(*dialog->findChild<ChatKeySettingWidget*>(), kEnds);
+    check(*dialog->findChild<Dota7ChatKeySettingWidget*>(), kEnds);
+    COrrerySettingDlg orrery;
+    check(orrery, {"btnClose"});
+    CMsgBox box(QMessageBox::Warning, QCoreApplication::translate("QObject", "IDS_TITLE"),
+                QCoreApplication::translate("QObject", "IDS_GROUP_KEY_USED"), QMessageBox::Ok,
+                dialog.get());
+    box.setButtonTexts();
+    box.button(QMessageBox::Ok)->setObjectName(QStringLiteral("btnOK"));
+    check(box, {"btnClose", "btnOK"});
+  }
+}
+
+TEST_P(FitWindows, ScrollsTheChatWindowsWhereTheirLettersAreLarge) {
+  const TestScreens screens({{{1024, 768}}});
+  QFont font = QApplication::font();
+  font.setPointSizeF(26);
+  QApplication::setFont(font);
+  const auto dialog = showDialog(false);
+  for (QWidget* const window :
+       std::initializer_list<QWidget*>{dialog->findChild<ChatKeySettingWidget*>(),
+                                       dialog->findChild<Dota7ChatKeySettingWidget*>()}) {
+    SCOPED_TRACE(window->metaObject()->className());
+    showWindow(*window);
+    expectInside(*window, screens.at(0).availableGeometry(), kEnds);
+    EXPECT_TRUE(isScrolled(*window));
+    expectFocusIsShown(*window);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Fit, FitWindows, testing::Values("en", "zh_CN"),
+                         [](const auto& language) { return std::string(language.param); });
+
+}  // namespace
+}  // namespace brennet::test

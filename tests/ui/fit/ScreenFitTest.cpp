@@ -1,0 +1,184 @@
+// On which screen a window comes up, and what becomes of it when screens change.
+
+#include "ui/window/ScreenFit.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
+#include <QWindow>
+
+#include "tests/ui/SettingsDialogTest.h"
+#include "tests/ui/screens/TestScreens.h"
+
+namespace brennet::test {
+namespace {
+
+TEST(TheCornerOfAWindow, StaysWhereItIsInside) {
+  const QRect area(100, 50, 800, 600);
+  EXPECT_EQ(cornerInside(area, {200, 100}, {300, 300}), QPoint(300, 300));
+  EXPECT_EQ(cornerInside(area, {200, 100}, {100, 50}), QPoint(100, 50));
+  EXPECT_EQ(cornerInside(area, {200, 100}, {700, 550}), QPoint(700, 550));
+}
+
+TEST(TheCornerOfAWindow, IsMovedAsLittleAsPossible) {
+  const QRect area(100, 50, 800, 600);
+  EXPECT_EQ(cornerInside(area, {200, 100}, {701, 551}), QPoint(700, 550));
+  EXPECT_EQ(cornerInside(area, {200, 100}, {99, 49}), QPoint(100, 50));
+  EXPECT_EQ(cornerInside(area, {200, 100}, {-5000, 300}), QPoint(100, 300));
+}
+
+TEST(TheCornerOfAWindow, ShowsTheTitleOfAWindowThatIsTooLarge) {
+  const QRect area(100, 50, 800, 600);
+  EXPECT_EQ(cornerInside(area, {900, 700}, {300, 300}), QPoint(100, 50));
+  EXPECT_EQ(cornerInside(area, {800, 600}, {300, 300}), QPoint(100, 50));
+}
+
+// A desk with three screens side by side.
+class OnADesk : public SettingsDialog {
+ protected:
+  enum Place { kMiddle, kRight, kLeft };
+
+  explicit OnADesk(const QVector<ScreenShape>& shapes = {{{1920, 1080}},
+                                                         {{1366, 768}, 100, {1920, 100}},
+                                                         {{1280, 1024}, 100, {-1280, -80}}})
+      : screens(shapes) {
+    dialog.reset();
+  }
+
+  // The window of a host, whose middle is on that screen.
+  void showHost(Place place) {
+    host.resize(600, 400);
+    host.move(screens.at(place).geometry().center() - host.rect().center());
+    host.show();
+    QApplication::setActiveWindow(&host);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
+    dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
+  }
+  [[nodiscard]] QRect available(Place place) const { return screens.at(place).availableGeometry(); }
+  void expectDialogIn(const QRect& area) const {
+    EXPECT_TRUE(area.contains(dialog->frameGeometry()))
+        << dialog->x() << ", " << dialog->y() << ": " << dialog->width() << " x "
+        << dialog->height();
+  }
+
+  TestScreens screens;
+  QWidget host{nullptr, Qt::FramelessWindowHint};
+};
+
+TEST_F(OnADesk, ComesUpOverTheHost) {
+  for (const Place place : {kMiddle, kRight, kLeft}) {
+    SCOPED_TRACE(place);
+    showHost(place);
+    dialog->show();
+    expectDialogIn(available(place));
+    const QPoint aside = dialog->geometry().center() - host.geometry().center();
+    EXPECT_LE(aside.manhattanLength(), 50) << "in the middle of the host, but for the task bar";
+    dialog.reset();
+    host.hide();
+  }
+}
+
+TEST_F(OnADesk, ComesUpInsideThoughTheHostIsInTheCorner) {
+  showHost(kRight);
+  host.move(screens.at(kRight).geometry().bottomRight() - host.rect().center());
+  dialog->show();
+  expectDialogIn(available(kRight));
+}
+
+TEST_F(OnADesk, ComesUpInTheMiddleOfTheScreenOfAHostThatIsMinimized) {
+  showHost(kMiddle);
+  host.move(screens.at(kMiddle).geometry().topLeft());
+  host.showMinimized();
+  QApplication::setActiveWindow(&host);
+  dialog->show();
+  expectDialogIn(available(kMiddle));
+  const QPoint aside = dialog->geometry().center() - available(kMiddle).center();
+  EXPECT_LE(aside.manhattanLength(), 2);
+}
+
+TEST_F(OnADesk, ComesUpSomewhereWithoutAHost) {
+  dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
+  dialog->show();
+  expectDialogIn(available(kMiddle));
+}
+
+TEST_F(OnADesk, StaysWhereThePlayerHasPutIt) {
+  showHost(kMiddle);
+  dialog->move(available(kRight).topLeft() + QPoint(7, 0));
+  dialog->show();
+  EXPECT_EQ(dialog->pos(), available(kRight).topLeft() + QPoint(7, 0));
+}
+
+TEST_F(OnADesk, GoesToAScreenThatIsThereWhenItsOwnIsTakenAway) {
+  showHost(kRight);
+  dialog->show();
+  expectDialogIn(available(kRight));
+  screens.unplug(kRight);
+  QTest::qWait(1);
+  ASSERT_TRUE(dialog->isVisible());
+  expectDialogIn(available(kMiddle));
+}
+
+TEST_F(OnADesk, GivesWayToALargerTaskBar) {
+  showHost(kRight);
+  dialog->show();
+  screens.setAvailable(kRight, {60, 0, 900, 500});
+  QCoreApplication::processEvents();
+  const QRect left(screens.at(kRight).geometry().topLeft() + QPoint(60, 0), QSize(900, 500));
+  ASSERT_EQ(available(kRight), left);
+  expectDialogIn(left);
+  screens.setAvailable(kRight, {0, 0, 1366, 720});
+  QCoreApplication::processEvents();
+  EXPECT_EQ(dialog->size(), dialog->sizeHint()) << "and has its whole size again";
+  EXPECT_GT(dialog->height(), 500);
+}
+
+TEST_F(OnADesk, OpensItsBoxesBesideIt) {
+  showHost(kLeft);
+  dialog->show();
+  const auto box = whenBoxIsShown([&](QMessageBox& shown) {
+    EXPECT_TRUE(available(kLeft).contains(shown.frameGeometry()));
+    shown.reject();
+  });
+  emit dialog->resetSetting();
+}
+
+TEST_F(OnADesk, KeepsAClickWhereItIs) {
+  showHost(kRight);
+  screens.setAvailable(kRight, {0, 0, 1024, 400});
+  dialog->show();
+  QApplication::setActiveWindow(dialog.get());
+  ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+  auto& box = on<CBasicSetting7Widget, QAbstractButton>("chkHideUI");
+  const QPoint before = box.mapToGlobal({});
+  QTest::mousePress(&box, Qt::LeftButton);
+  EXPECT_TRUE(box.hasFocus());
+  EXPECT_EQ(box.mapToGlobal({}), before) << "the page must not move under the mouse";
+  QTest::mouseRelease(&box, Qt::LeftButton);
+}
+
+// A dense screen in the middle, one of a laptop on its right, one of another scale on its left.
+class OnADeskOfManyScales : public OnADesk {
+ protected:
+  OnADeskOfManyScales()
+      : OnADesk({{{3840, 2160}, 200},
+                 {{1366, 768}, 100, {3840, 100}},
+                 {{1920, 1080}, 125, {-1920, -80}}}) {}
+};
+
+TEST_F(OnADeskOfManyScales, ComesUpInsideTheScreenOfTheHost) {
+  for (const Place place : {kMiddle, kRight, kLeft}) {
+    SCOPED_TRACE(place);
+    showHost(place);
+    dialog->show();
+    const QRect pixels = TestScreens::pixelsOf(*dialog);
+    EXPECT_TRUE(screens.availablePixels(place).contains(pixels))
+        << pixels.x() << ", " << pixels.y() << ": " << pixels.width() << " x " << pixels.height();
+    dialog.reset();
+    host.hide();
+  }
+}
+
+}  // namespace
+}  // namespace brennet::test
