@@ -1,18 +1,49 @@
 #include "ui/window/StyleSheet.h"
 
+#include <QCheckBox>
 #include <QCoreApplication>
 #include <QFile>
+#include <QFontMetricsF>
 #include <QString>
+#include <QTextLayout>
 #include <QWidget>
 
 namespace brennet {
+
+namespace {
+
+// How far below the middle of its line a text is seen. Fonts for Chinese leave more room above
+// their characters than below, and it is their line that a Latin font gets with Chinese in it.
+int dropOf(const QString& text, const QFont& font) {
+  QTextLayout layout(text, font);
+  layout.beginLayout();
+  const QTextLine line = layout.createLine();
+  layout.endLayout();
+  if (!line.isValid()) return 0;
+  const qreal middleOfLine = (line.ascent() - line.descent()) / 2;  // above the base line
+  const QRectF seen = QFontMetricsF(font).tightBoundingRect(text);
+  return qRound(middleOfLine + seen.center().y());
+}
+
+// The squares of check boxes stand in the middle of the line: lets them go down to their texts. All
+// texts of a window are of one language, so that of one box tells how far.
+QString indicatorRule(const QWidget& window) {
+  const auto* const box = window.findChild<QCheckBox*>();
+  const int drop = box == nullptr ? 0 : dropOf(box->text(), box->font());
+  if (drop <= 0) return {};
+  return QStringLiteral(
+             "QCheckBox::indicator, QRadioButton::indicator { position: relative; top: %1px; }")
+      .arg(drop);
+}
+
+}  // namespace
 
 bool loadStyleSheet(QWidget& widget, const QString& name) {
   QFile file(name);
   if (!file.open(QIODevice::ReadOnly)) return false;
   const QByteArray text = file.readAll();
   if (!text.isEmpty() && QCoreApplication::instance() != nullptr) {
-    widget.setStyleSheet(QString::fromUtf8(text));
+    widget.setStyleSheet(QString::fromUtf8(text) + indicatorRule(widget));
     widget.update();
   }
   return true;

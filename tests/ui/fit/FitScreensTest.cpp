@@ -2,8 +2,12 @@
 // reach.
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QImage>
 #include <QPushButton>
 #include <QScreen>
+
+#include <algorithm>
 
 #include "tests/ui/fit/FitWindows.h"
 #include "tests/ui/pages/PageChecks.h"
@@ -109,6 +113,38 @@ TEST_P(FitWindows, ScrollsTheChatWindowsWhereTheirLettersAreLarge) {
     expectInside(*window, screens.at(0).availableGeometry(), kEnds);
     EXPECT_TRUE(isScrolled(*window));
     expectFocusIsShown(*window);
+  }
+}
+
+// The rows of a picture, from the first to the last, in which something is much lighter than its
+// background; counted from the middle of the picture.
+double middleOfLight(const QImage& picture) {
+  int first = picture.height();
+  int last = -1;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (qGray(picture.pixel(x, y)) < 90) continue;
+      first = std::min(first, y);
+      last = y;
+    }
+  }
+  EXPECT_LE(first, last) << "there is nothing";
+  return (first + last - picture.height() + 1) / 2.0;
+}
+
+TEST_P(FitWindows, HasItsSquaresOnTheLineOfTheirTexts) {
+  const TestScreens screens({{{1920, 1080}}});
+  const auto dialog = showDialog(false);
+  dialog->findChild<QWidget*>(QStringLiteral("titleWidget"))->setFocus();
+  for (const char* const name : {"chkLockMouse", "chkHideUI", "chkSkillHero"}) {
+    const auto& box = *dialog->findChild<QCheckBox*>(QLatin1String(name));
+    const QImage picture =
+        dialog->grab(QRect(box.mapTo(dialog.get(), QPoint()), box.size())).toImage();
+    constexpr int kSquare = 17;  // and a little more
+    const QImage square = picture.copy(0, 0, kSquare, picture.height());
+    const QImage text =
+        picture.copy(kSquare + 1, 0, picture.width() - kSquare - 1, picture.height());
+    EXPECT_NEAR(middleOfLight(square), middleOfLight(text), 1.5) << name;
   }
 }
 
