@@ -6,6 +6,7 @@
 
 #include <initializer_list>
 #include <new>
+#include <utility>
 
 #include "gameside/Dota7KeyInfoManager.h"
 #include "gameside/RegistryImport.h"
@@ -211,8 +212,6 @@ bool CHotkeySettingDlg::isConfirmed(int icon, const QString& title, const QStrin
   const int answer =
       CMsgBox::showMessage(this, static_cast<QMessageBox::Icon>(icon), title, question,
                            QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
-  // A key that answers goes down in the box and up here.
-  isKeyDownElsewhere_ = true;
   return answer == QMessageBox::Ok;
 }
 
@@ -292,20 +291,34 @@ void CHotkeySettingDlg::onShowDota7HotKeySettingDlg() {
   }
 }
 
+// A link is a button for the keyboard: a key clicks it that goes down and up on it.
+bool CHotkeySettingDlg::isLinkClicked(const QLabel& link, const QEvent& event) {
+  const auto isItsKey = [&event] {
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Space || key == Qt::Key_Enter;
+  };
+  switch (event.type()) {
+    case QEvent::MouseButtonRelease:
+      return link.rect().contains(static_cast<const QMouseEvent&>(event).pos());
+    case QEvent::KeyPress:
+      keyIsDownOn_ = isItsKey() ? &link : nullptr;
+      return false;
+    case QEvent::FocusOut:
+      keyIsDownOn_ = nullptr;
+      return false;
+    case QEvent::KeyRelease:
+      return std::exchange(keyIsDownOn_, nullptr) == &link && isItsKey();
+    default:
+      return false;
+  }
+}
+
 bool CHotkeySettingDlg::eventFilter(QObject* watched, QEvent* event) {
   const auto* const link = qobject_cast<const QLabel*>(watched);
-  bool isClicked = false;
-  if (link != nullptr && event->type() == QEvent::MouseButtonRelease) {
-    isClicked = link->rect().contains(static_cast<QMouseEvent*>(event)->pos());
-  } else if (link != nullptr && event->type() == QEvent::KeyPress) {
-    isKeyDownElsewhere_ = false;
-  } else if (link != nullptr && event->type() == QEvent::KeyRelease) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    isClicked = (key == Qt::Key_Space || key == Qt::Key_Enter) && !isKeyDownElsewhere_;
-    isKeyDownElsewhere_ = false;
+  if (link != nullptr && isLinkClicked(*link, *event)) {
+    if (link == form_->lblResetToDefaultSetting) emit resetSetting();
+    if (link == form_->lblUseRecommendedSetting) emit useRecommendedSetting();
   }
-  if (isClicked && link == form_->lblResetToDefaultSetting) emit resetSetting();
-  if (isClicked && link == form_->lblUseRecommendedSetting) emit useRecommendedSetting();
   return QDialog::eventFilter(watched, event);
 }
 

@@ -81,6 +81,7 @@ class CHotkeySettingDlg : public QDialog {
   void setMode(Mode mode);
   void refreshDota7();
   void leaveField();
+  [[nodiscard]] bool isLinkClicked(const QLabel& link, const QEvent& event);
   [[nodiscard]] bool applySkin();
   void fitToSkin();
   void resetChat();
@@ -102,5 +103,5 @@ class CHotkeySettingDlg : public QDialog {
   Dota7ChatKeySettingWidget* dota7Chat_ = nullptr;
   Mode mode_ = Mode::Platform;
   bool isFirstShow_ = true;
-  bool isKeyDownElsewhere_ = false;  // what goes up next on a link did not go down there
+  const QLabel* keyIsDownOn_ = nullptr;  // the link on which Space or Enter was pressed
 };

@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTranslator>
 
 #include "model/RecommendedScheme.h"
 #include "tests/ui/SettingsDialogTest.h"
@@ -72,6 +73,37 @@ TEST_F(BoxesOfTheDialog, AskBeforeTheyAct) {
     });
     emit(dialog.get()->*row.question)();
   }
+}
+
+// A catalogue with a text of its own for the question in the DotA 7 mode.
+class Dota7Question : public QTranslator {
+ public:
+  [[nodiscard]] bool isEmpty() const override { return false; }
+  [[nodiscard]] QString translate(const char* context, const char* /*text*/, const char* comment,
+                                  int /*number*/) const override {
+    const bool isMeant =
+        qstrcmp(context, "CHotkeySettingDlg") == 0 && qstrcmp(comment, "DotA 7") == 0;
+    return isMeant ? QStringLiteral("the DotA 7 keys?") : QString();
+  }
+};
+
+TEST_F(BoxesOfTheDialog, CanSpeakOfTheKeysOfTheirMode) {
+  Dota7Question catalogue;
+  QCoreApplication::installTranslator(&catalogue);
+  const auto asked = [this] {
+    QString text;
+    const auto box = whenBoxIsShown([&text](QMessageBox& shown) {
+      text = shown.text();
+      shown.reject();
+    });
+    emit dialog->resetSetting();
+    return text;
+  };
+  EXPECT_TRUE(asked().startsWith(QLatin1String("After resetting")));
+  dialog->onSwitchDota7KeySettingDlg();
+  EXPECT_EQ(asked(), QStringLiteral("the DotA 7 keys?"));
+  QCoreApplication::removeTranslator(&catalogue);
+  EXPECT_TRUE(asked().startsWith(QLatin1String("After resetting"))) << "as without a catalogue";
 }
 
 TEST_F(BoxesOfTheDialog, ResetTheSchemeWhenThePlayerIsSure) {
@@ -183,8 +215,28 @@ TEST_F(LinksOfTheDialog, AreUsedByTheKeyboard) {
     clicks += row.clicks;
     EXPECT_EQ(resets.count(), clicks) << row.key;
   }
+}
+
+TEST_F(LinksOfTheDialog, AreClickedByNoKeyThatWentDownElsewhere) {
+  const QSignalSpy resets(dialog.get(), &CHotkeySettingDlg::resetSetting);
   QTest::keyRelease(&resetLink(), Qt::Key_Space);
-  EXPECT_EQ(resets.count(), clicks + 1) << "it went down somewhere, and no box was between";
+  EXPECT_EQ(resets.count(), 0) << "nothing went down";
+  auto& recommended = find<QLabel>("lblUseRecommendedSetting");
+  QTest::keyPress(&recommended, Qt::Key_Space);
+  QTest::keyRelease(&resetLink(), Qt::Key_Space);
+  EXPECT_EQ(resets.count(), 0) << "it went down on the other link";
+  QTest::keyPress(&resetLink(), Qt::Key_Space);
+  QFocusEvent leaves(QEvent::FocusOut);
+  QCoreApplication::sendEvent(&resetLink(), &leaves);
+  QTest::keyRelease(&resetLink(), Qt::Key_Space);
+  EXPECT_EQ(resets.count(), 0) << "the focus was away";
+  QTest::keyPress(&resetLink(), Qt::Key_A);
+  QTest::keyRelease(&resetLink(), Qt::Key_Space);
+  EXPECT_EQ(resets.count(), 0) << "another key went down";
+  QTest::keyPress(&resetLink(), Qt::Key_Space);
+  QTest::keyRelease(&resetLink(), Qt::Key_A);
+  QTest::keyRelease(&resetLink(), Qt::Key_Space);
+  EXPECT_EQ(resets.count(), 0) << "another key went up between";
 }
 
 // Keys as a system sends them: to what has the focus when they go down, and when they go up.
