@@ -17,6 +17,27 @@ class ModesOfTheDialog : public SettingsDialog {
  protected:
   QComboBox& selector() { return find<QComboBox>("cmbHotkeySetting"); }
   int pageShown() { return dialog->findChild<QStackedLayout*>()->currentIndex(); }
+  // What edits the scheme can be used, or cannot; the ways out of there always can.
+  void expectEdits(bool areEnabled) {
+    for (const char* const name :
+         {"edtSkill_1", "edtGoodsKey_7", "edt_skillex_L_1", "edtMouseWheelUpKey", "edtWinLockMouse",
+          "chkHideUI", "chkGroupKey1", "chkSkillHero", "btn_skillcast_1", "btn_SetAll_AutoCast",
+          "btnTalkSetting"}) {
+      EXPECT_EQ(find<QWidget>(name).isEnabled(), areEnabled) << name;
+    }
+    for (const char* const name : {"cmbHotkeySetting", "btnDota7Setting", "btnOrrerySetting",
+                                   "btnOK", "btnCancel", "lblResetToDefaultSetting"}) {
+      EXPECT_TRUE(find<QWidget>(name).isEnabled()) << name;
+    }
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+      if (window->objectName() != QLatin1String("COrrerySettingDlg")) continue;
+      EXPECT_EQ(window->findChild<QWidget*>(QStringLiteral("edtOpenCloseLedger"))->isEnabled(),
+                areEnabled);
+      EXPECT_EQ(window->findChild<QWidget*>(QStringLiteral("chkShowFriendsMana"))->isEnabled(),
+                areEnabled);
+      EXPECT_TRUE(window->findChild<QWidget*>(QStringLiteral("btnClose"))->isEnabled());
+    }
+  }
 };
 
 TEST_F(ModesOfTheDialog, SwitchSchemesOnAllPages) {
@@ -44,6 +65,7 @@ TEST_F(ModesOfTheDialog, KnowThreeSchemes) {
   EXPECT_EQ(config.index(), 2U);
 }
 
+// What is typed where there is no scheme would be lost.
 TEST_F(ModesOfTheDialog, ShowNoSchemeWhereTheFileNamesNone) {
   config.editableScheme(0)->HeroSkillKey[0] = KeyWord('Q', 0);
   for (std::uint32_t index = HotkeyConfig::kSchemes; index <= HotkeyConfig::kLargestIndex;
@@ -56,7 +78,9 @@ TEST_F(ModesOfTheDialog, ShowNoSchemeWhereTheFileNamesNone) {
     EXPECT_EQ(selector().currentText(), QString());
     EXPECT_EQ(skill(1).text(), QString());
     EXPECT_EQ(config.index(), index) << "a look changes nothing";
+    expectEdits(false);
     selector().setCurrentIndex(0);
+    expectEdits(true);
     EXPECT_EQ(config.index(), 0U);
     EXPECT_EQ(skill(1).text(), QStringLiteral("Q"));
   }

@@ -93,6 +93,7 @@ void CChatRouletteSettingWidget::makeSlots() {
     field->setObjectName(QStringLiteral("edtChatWheel_%1").arg(n));
     field->setAccessibleName(tr("轮盘短语 %1").arg(n));
     field->setReadOnly(true);
+    field->setContextMenuPolicy(Qt::PreventContextMenu);  // nothing can be typed here
     field->setAttribute(Qt::WA_InputMethodEnabled, false);
     field->setAcceptDrops(true);
     field->setFocusPolicy(Qt::StrongFocus);

@@ -38,6 +38,8 @@ TEST(VirtualKey, FollowsFromTheKeyOfAUnitedStatesKeyboard) {
       {Qt::Key_Control, false, 0x11},
       {Qt::Key_Alt, false, 0x12},
       {Qt::Key_Shift, false, 0x10},
+      {Qt::Key_Print, false, 0x2C},
+      {Qt::Key_SysReq, false, 0x2C},
       {Qt::Key_Backtab, false, 0x09},
       {Qt::Key_AsciiTilde, false, 0xC0},
       {Qt::Key_F25, false, 0},

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "ui/window/CMsgBox.h"
 
@@ -182,6 +183,43 @@ TEST_F(ADraggedBox, TakesALeftPressInItsTopStripAlone) {
   EXPECT_TRUE(isTaken(box_, {20, 30}, Qt::LeftButton));
   EXPECT_FALSE(isTaken(box_, {20, 31}, Qt::LeftButton));
   EXPECT_FALSE(isTaken(box_, {20, 10}, Qt::RightButton));
+}
+
+// What is sent to a window while the left button is held, or not.
+void sendMouse(QWidget& window, QEvent::Type type, QPoint place, Qt::MouseButtons held) {
+  const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+  QMouseEvent event(type, place, window.mapToGlobal(place), button, held, Qt::NoModifier);
+  QCoreApplication::sendEvent(&window, &event);
+}
+
+// Waits for the mouse: a drag that has begun waits for nothing any more.
+bool waits(const QWidget& window) {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  return !window.windowHandle()
+              ->findChildren<QObject*>(QString(), Qt::FindDirectChildrenOnly)
+              .isEmpty();
+}
+
+TEST_F(ADraggedBox, GoesWithTheMouseWhenThatMoves) {
+  const QPoint place(20, 10);
+  ASSERT_FALSE(waits(box_));
+  sendMouse(box_, QEvent::MouseButtonPress, place, Qt::LeftButton);
+  EXPECT_TRUE(waits(box_)) << "a press alone moves nothing";
+  sendMouse(box_, QEvent::MouseMove, place + QPoint(1, 1), Qt::LeftButton);
+  EXPECT_TRUE(waits(box_)) << "a hand shakes";
+  sendMouse(box_, QEvent::MouseMove, place + QPoint(30, 0), Qt::LeftButton);
+  EXPECT_FALSE(waits(box_));
+}
+
+TEST_F(ADraggedBox, StaysAfterAClick) {
+  const QPoint place(20, 10);
+  sendMouse(box_, QEvent::MouseButtonPress, place, Qt::LeftButton);
+  sendMouse(box_, QEvent::MouseButtonRelease, place, Qt::NoButton);
+  EXPECT_FALSE(waits(box_));
+  // The release may have gone to another program.
+  sendMouse(box_, QEvent::MouseButtonPress, place, Qt::LeftButton);
+  sendMouse(box_, QEvent::MouseMove, place + QPoint(30, 0), Qt::NoButton);
+  EXPECT_FALSE(waits(box_));
 }
 
 TEST_F(ADraggedBox, AnswersWindowsLikewise) {
