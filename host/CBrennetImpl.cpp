@@ -70,6 +70,7 @@ bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
     return false;
   }
   settingsPath_ = std::move(name);
+  isLoadTold_ = false;
   try {
     if (!config_->Load(settingsPath_)) return false;
   } catch (const std::exception&) {
@@ -109,6 +110,7 @@ bool CBrennetImpl::runDialog() {
   workingCopy().ResetAndCopyFrom(*config_);
   CHotkeySettingDlg dialog(workingCopy(), Dota7KeyInfoManager::instance());
   dialog.setDataFolder(dataFolder_);
+  if (!std::exchange(isLoadTold_, true)) dialog.tellDroppedKeys(config_->loadReport());
   return runModal(dialog) == QDialog::Accepted;
 }
 

@@ -43,6 +43,7 @@ class CBrennetImpl final : public IBrennet {
   std::u16string settingsPath_;
   std::u16string dataFolder_;
   bool isDialogOpen_ = false;  // which edits the working copy
+  bool isLoadTold_ = true;     // the player has seen what the last load could not use
   HotkeyConfig* config_;       // the main configuration, not owned
 };
 

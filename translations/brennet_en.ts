@@ -628,6 +628,18 @@ Are you sure to continue?</source>
         <translation>All DotA 7 keys, options and phrases will be cleared.
 Do you want to go on?</translation>
     </message>
+    <message>
+        <source>%1；%2</source>
+        <translation>%1; %2</translation>
+    </message>
+    <message>
+        <source>您的设置中有 1 个按键无法使用：%1</source>
+        <translation>1 key of your settings could not be used: %1</translation>
+    </message>
+    <message>
+        <source>您的设置中有 %1 个按键无法使用：%2</source>
+        <translation>%1 keys of your settings could not be used: %2</translation>
+    </message>
 </context>
 <context>
     <name>CHotkeySettingPage</name>
@@ -796,6 +808,13 @@ Do you want to go on?</translation>
     </message>
 </context>
 <context>
+    <name>CNoticeStrip</name>
+    <message>
+        <source>关闭提示</source>
+        <translation>Close this note</translation>
+    </message>
+</context>
+<context>
     <name>COrrerySettingDlg</name>
     <message>
         <source>Orrery设置</source>
@@ -922,6 +941,37 @@ Do you want to go on?</translation>
     <message>
         <source>开局喊话 %1</source>
         <translation>Message %1 at the start</translation>
+    </message>
+</context>
+<context>
+    <name>KeyConflict</name>
+    <message>
+        <source>%1 已用于%2</source>
+        <translation>%1 is %2</translation>
+    </message>
+    <message>
+        <source>%1 已用于小键盘组合快捷键</source>
+        <translation>%1 is a key of the keypad preset</translation>
+    </message>
+    <message>
+        <source>%1 已用于快捷喊话</source>
+        <translation>%1 sends a quick-chat phrase</translation>
+    </message>
+    <message>
+        <source>%1 不能用作快捷键</source>
+        <translation>%1 cannot be a hotkey</translation>
+    </message>
+    <message>
+        <source>“%1”不是按键</source>
+        <translation>&quot;%1&quot; is no key</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>方案%1，%2：%3</source>
+        <translation>Group %1, %2: %3</translation>
     </message>
 </context>
 <context>

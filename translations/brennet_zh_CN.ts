@@ -627,6 +627,18 @@ Are you sure to continue?</source>
         <translation>清空后，DotA7.0专用改键的所有按键、选项和喊话都将丢失。
 确定要继续吗？</translation>
     </message>
+    <message>
+        <source>%1；%2</source>
+        <translation>%1；%2</translation>
+    </message>
+    <message>
+        <source>您的设置中有 1 个按键无法使用：%1</source>
+        <translation>您的设置中有 1 个按键无法使用：%1</translation>
+    </message>
+    <message>
+        <source>您的设置中有 %1 个按键无法使用：%2</source>
+        <translation>您的设置中有 %1 个按键无法使用：%2</translation>
+    </message>
 </context>
 <context>
     <name>CHotkeySettingPage</name>
@@ -795,6 +807,13 @@ Are you sure to continue?</source>
     </message>
 </context>
 <context>
+    <name>CNoticeStrip</name>
+    <message>
+        <source>关闭提示</source>
+        <translation>关闭提示</translation>
+    </message>
+</context>
+<context>
     <name>COrrerySettingDlg</name>
     <message>
         <source>Orrery设置</source>
@@ -921,6 +940,37 @@ Are you sure to continue?</source>
     <message>
         <source>开局喊话 %1</source>
         <translation>开局喊话 %1</translation>
+    </message>
+</context>
+<context>
+    <name>KeyConflict</name>
+    <message>
+        <source>%1 已用于%2</source>
+        <translation>%1 已用于%2</translation>
+    </message>
+    <message>
+        <source>%1 已用于小键盘组合快捷键</source>
+        <translation>%1 已用于小键盘组合快捷键</translation>
+    </message>
+    <message>
+        <source>%1 已用于快捷喊话</source>
+        <translation>%1 已用于快捷喊话</translation>
+    </message>
+    <message>
+        <source>%1 不能用作快捷键</source>
+        <translation>%1 不能用作快捷键</translation>
+    </message>
+    <message>
+        <source>“%1”不是按键</source>
+        <translation>“%1”不是按键</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>方案%1，%2：%3</source>
+        <translation>方案%1，%2：%3</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,8 @@
 #include "gameside/Dota7KeyInfoManager.h"
 #include "gameside/RegistryImport.h"
 #include "model/HotkeyConfig.h"
+#include "model/LoadReport.h"
+#include "ui/capture/SlotText.h"
 #include "ui/capture/VirtualKey.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
@@ -20,6 +22,7 @@
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
 #include "ui/window/CMsgBox.h"
+#include "ui/window/CNoticeStrip.h"
 #include "ui/window/ScreenFit.h"
 #include "ui/window/StyleSheet.h"
 #include "ui/window/TabOrder.h"
@@ -32,6 +35,8 @@ constexpr unsigned kReturn = 0x0D;
 constexpr unsigned kEscape = 0x1B;
 
 // The pages of the stack.
+constexpr int kMostToldKeys = 4;  // of those that a load could not use; a tool tip has all
+
 constexpr int kBasicPage = 0;
 constexpr int kDota7Page = 1;
 
@@ -148,6 +153,24 @@ void CHotkeySettingDlg::connectPages() {
 void CHotkeySettingDlg::setDataFolder(std::u16string_view folder) {
   const bool canHaveDota7 = brennet::importDefaultRegistry(folder);
   basic_->setDota7Offered(canHaveDota7);
+}
+
+void CHotkeySettingDlg::tellDroppedKeys(const brennet::LoadReport& report) {
+  QStringList keys;
+  for (const brennet::DroppedKey& dropped : report.droppedKeys) {
+    keys += brennet::droppedKeyText(dropped, static_cast<int>(config_->index()));
+  }
+  if (keys.isEmpty()) return;
+  QString list = keys.constFirst();
+  for (const QString& key : keys.mid(1, kMostToldKeys - 1)) list = tr("%1；%2").arg(list, key);
+  if (keys.size() > kMostToldKeys) list = tr("%1；%2").arg(list, QStringLiteral("..."));
+  const QString text = keys.size() == 1
+                           ? tr("您的设置中有 1 个按键无法使用：%1").arg(list)
+                           : tr("您的设置中有 %1 个按键无法使用：%2").arg(keys.size()).arg(list);
+  auto* const strip = new CNoticeStrip(text, keys.join(QLatin1Char('\n')), this);
+  form_->layDialog->insertWidget(form_->layDialog->indexOf(form_->titleWidget) + 1, strip);
+  connect(strip, &CNoticeStrip::closed, this, [this] { fit_->refit(); });
+  brennet::setTabOrderOfLayouts(*this);
 }
 
 void CHotkeySettingDlg::setMode(Mode mode) {

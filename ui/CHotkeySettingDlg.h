@@ -12,6 +12,7 @@ namespace brennet {
 class Dota7KeyInfoManager;
 struct DraggableWindow;
 class HotkeyConfig;
+struct LoadReport;
 class ScreenFit;
 }  // namespace brennet
 class CAdvancedSettingWidget;
@@ -40,6 +41,10 @@ class CHotkeySettingDlg : public QDialog {
   // They are imported if the registry has none. If that cannot be, the way into the DotA 7 mode is
   // closed.
   void setDataFolder(std::u16string_view folder);
+
+  // Tells the player, in a strip below the title that he can close, which keys of his settings
+  // could not be used; nothing where there are none.
+  void tellDroppedKeys(const brennet::LoadReport& report);
 
   // The registry gets back what it had. So it does where the dialog is gone without an answer.
   void reject() override;

@@ -5,8 +5,10 @@
 #include <QComboBox>
 #include <QTimer>
 
+#include <algorithm>
 #include "gameside/Dota7Values.h"
 #include "keys/KeyWord.h"
+
 #include "tests/host/DialogFixture.h"
 #include "tests/support/ScopedRegistry.h"
 #include "tests/ui/UiTest.h"
@@ -74,6 +76,36 @@ TEST_F(DialogSession, KeepsTheOldSettingsWithoutAFileToSaveThemIn) {
   EXPECT_FALSE(saved_);
   const HotkeyBlock after = filled();
   EXPECT_EQ(std::memcmp(&block, &after, sizeof(block)), 0);
+}
+
+// The windows may be those of the library that is loaded, so its class is known by name alone.
+bool tellsOfTheLoad(const QDialog& dialog) {
+  const auto widgets = dialog.findChildren<QWidget*>();
+  return std::any_of(widgets.begin(), widgets.end(), [](const QWidget* widget) {
+    return qstrcmp(widget->metaObject()->className(), "CNoticeStrip") == 0;
+  });
+}
+
+TEST_F(DialogSession, TellsOnceWhatALoadCouldNotUse) {
+  // Two hero skills with one key.
+  const std::string text =
+      "<KeyInfo enable=\"1\" index=\"0\"><LastSaveTime>77</LastSaveTime><KeyInfo_0><HeroSkillKey>"
+      "<Key id=\"0\">20736</Key><Key id=\"1\">20736</Key></HeroSkillKey></KeyInfo_0></KeyInfo>";
+  bool isTold = true;
+  const auto look = [&isTold](QDialog& dialog) { isTold = tellsOfTheLoad(dialog); };
+  open("btnCancel", look);
+  EXPECT_FALSE(isTold) << "a load that used everything";
+  for (int loads = 0; loads < 2; ++loads) {
+    ASSERT_TRUE(loadText(text));
+    open("btnCancel", look);
+    EXPECT_TRUE(isTold);
+    open("btnCancel", look);
+    EXPECT_FALSE(isTold) << "the player has seen it";
+  }
+  ASSERT_TRUE(loadText(text));
+  EXPECT_FALSE(brennet_.LoadSettings(L"no such file"));
+  open("btnCancel", look);
+  EXPECT_FALSE(isTold) << "nothing is kept of a load before one that fails";
 }
 
 TEST_F(DialogSession, NeedsAPlaceForItsAnswer) {

@@ -28,6 +28,9 @@ class ScreenFit : public QObject {
   // when the screen changes or is taken away.
   void comeUp();
 
+  // To be called when the window has got another content while it is shown.
+  void refit() { fitAgain(true); }
+
  private:
   void watch();
   void limitTo(QSize available) const;

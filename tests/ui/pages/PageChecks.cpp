@@ -54,6 +54,12 @@ int neededWidth(const QWidget& widget) {
   return hasText ? widget.sizeHint().width() : 0;
 }
 
+// The height without which it would be cut; of what wraps its text at the width that it has.
+int neededHeight(const QWidget& widget) {
+  return widget.hasHeightForWidth() ? widget.heightForWidth(widget.width())
+                                    : widget.minimumSizeHint().height();
+}
+
 // For a fault to say where it is.
 QString nameOf(const QWidget& widget) {
   const QString name = widget.objectName();
@@ -167,8 +173,7 @@ void expectNothingIsCut(QWidget& window) {
     if (qobject_cast<const QAbstractScrollArea*>(widget->parentWidget()) != nullptr) continue;
     if (!isPicture(*widget)) {
       EXPECT_LE(neededWidth(*widget), widget->width()) << qPrintable(nameOf(*widget));
-      EXPECT_GE(widget->height(), widget->minimumSizeHint().height())
-          << qPrintable(nameOf(*widget));
+      EXPECT_GE(widget->height(), neededHeight(*widget)) << qPrintable(nameOf(*widget));
     }
     if (widget->parentWidget() == nullptr || widget->isWindow() || isScrolled(*widget)) continue;
     EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()))

@@ -1,0 +1,96 @@
+// What the settings dialog tells of keys that a load could not use.
+
+#include <QPushButton>
+#include <QTranslator>
+
+#include "model/LoadReport.h"
+#include "tests/ui/SettingsDialogTest.h"
+#include "tests/ui/screens/TestScreens.h"
+#include "ui/window/CNoticeStrip.h"
+
+namespace brennet::test {
+namespace {
+
+class NoticeOfTheDialog : public SettingsDialog {
+ protected:
+  NoticeOfTheDialog() {
+    EXPECT_TRUE(
+        english_.load(QStringLiteral("brennet_en.qm"), QStringLiteral(BRENNET_TRANSLATIONS)));
+    QCoreApplication::installTranslator(&english_);
+    dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
+  }
+
+  static LoadReport reportOf(int count) {
+    LoadReport report;
+    for (int i = 0; i < count; ++i) {
+      DroppedKey dropped;
+      dropped.slot = {SettingId::MouseKey, static_cast<std::uint8_t>(i % 3)};
+      dropped.key = KeyWord('A', 0);
+      dropped.conflict = KeyConflict{KeyConflict::Reason::Held, {SettingId::HeroSkillKey, 0}};
+      report.droppedKeys.push_back(dropped);
+    }
+    return report;
+  }
+  CNoticeStrip* strip() { return dialog->findChild<CNoticeStrip*>(); }
+  QLabel& notice() { return find<QLabel>("lblNotice"); }
+
+ private:
+  QTranslator english_;
+  TestScreens screens_{{{{1920, 1080}}}};
+};
+
+TEST_F(NoticeOfTheDialog, IsNotThereWhereAllKeysAreUsed) {
+  dialog->tellDroppedKeys({});
+  ASSERT_NO_FATAL_FAILURE(show());
+  EXPECT_EQ(strip(), nullptr);
+}
+
+TEST_F(NoticeOfTheDialog, TellsTheKeysAndWhoHoldsThem) {
+  dialog->tellDroppedKeys(reportOf(1));
+  EXPECT_EQ(notice().text(), QStringLiteral("1 key of your settings could not be used: Wheel up: A "
+                                            "is Hero skill 1"));
+  dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
+  dialog->tellDroppedKeys(reportOf(2));
+  EXPECT_EQ(notice().text(),
+            QStringLiteral("2 keys of your settings could not be used: Wheel up: A is Hero skill "
+                           "1; Wheel click: A is Hero skill 1"));
+}
+
+TEST_F(NoticeOfTheDialog, HasRoomForTheFirstFewAndAllInItsToolTip) {
+  dialog->tellDroppedKeys(reportOf(40));
+  EXPECT_TRUE(notice().text().startsWith(QLatin1String("40 keys")));
+  EXPECT_TRUE(notice().text().endsWith(QLatin1String("; ...")));
+  EXPECT_EQ(notice().text().count(QLatin1String("Hero skill 1")), 4);
+  EXPECT_EQ(notice().toolTip().count(QLatin1Char('\n')), 39);
+  EXPECT_EQ(notice().accessibleDescription(), notice().toolTip());
+}
+
+TEST_F(NoticeOfTheDialog, StandsBelowTheTitleAndCutsNothing) {
+  ASSERT_NO_FATAL_FAILURE(show());
+  const QSize without = dialog->size();
+  dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
+  dialog->tellDroppedKeys(reportOf(40));
+  ASSERT_NO_FATAL_FAILURE(show());
+  EXPECT_EQ(strip()->geometry().top(), find<QWidget>("titleWidget").geometry().bottom() + 1);
+  EXPECT_EQ(dialog->width(), without.width()) << "it has as many lines as it takes";
+  EXPECT_GE(notice().height(), notice().heightForWidth(notice().width()));
+  EXPECT_EQ(dialog->height(), without.height() + strip()->height());
+  expectNothingIsCut(*dialog);
+}
+
+TEST_F(NoticeOfTheDialog, GoesWhenItIsClosed) {
+  dialog->tellDroppedKeys(reportOf(2));
+  ASSERT_NO_FATAL_FAILURE(show());
+  const QSize with = dialog->size();
+  EXPECT_TRUE(tabOrder(*dialog).contains(QStringLiteral("btnCloseNotice")));
+  find<QPushButton>("btnCloseNotice").click();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(strip()->isVisible());
+  EXPECT_LT(dialog->height(), with.height());
+  dialog->hide();
+  dialog->show();
+  EXPECT_FALSE(strip()->isVisible());
+}
+
+}  // namespace
+}  // namespace brennet::test

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+#include "model/KeyConflicts.h"
+#include "model/KeySlot.h"
+#include "model/LoadReport.h"
+
+namespace brennet {
+
+// What the windows call a key of a scheme, in the player's language: "Hero skill 1", "Wheel up".
+[[nodiscard]] QString slotText(KeySlot slot);
+
+// Why `key` is refused, in the player's language: "A is Hero skill 1".
+[[nodiscard]] QString conflictText(KeyWord key, const KeyConflict& conflict);
+
+// What became of a key of the settings file, in the player's language: "Wheel up: A is Hero skill
+// 1". The setting group is named where it is not `currentScheme` (0 to 2, others count as none).
+[[nodiscard]] QString droppedKeyText(const DroppedKey& dropped, int currentScheme);
+
+}  // namespace brennet
