@@ -26,6 +26,8 @@ std::u16string_view kindName(MarkupToken::Kind kind) {
       return u"processing_instruction";
     case MarkupToken::Kind::DocumentType:
       return u"document_type";
+    case MarkupToken::Kind::Exclamation:
+      return u"exclamation_tag";
     default:
       return u"start_tag";
   }
@@ -58,6 +60,11 @@ MarkupToken MarkupTokenizer::unterminated(Kind intended, std::size_t start, Offs
   return result;
 }
 
+// What is wrong with a token whose ">" is never found is that, whatever else is.
+MarkupToken MarkupTokenizer::wrong(Kind intended, LogEvent problem, std::size_t start, Offset end) {
+  return end ? malformed(problem, start, end) : unterminated(intended, start);
+}
+
 // ">" inside a quoted string does not end a start tag.
 MarkupToken MarkupTokenizer::startTag(std::size_t start) {
   std::size_t stop = scanner_.findTagStop(start + 2);
@@ -83,31 +90,35 @@ MarkupToken MarkupTokenizer::exclamation(std::size_t start) {
     case u'D':
       return documentType(start);
     default:
-      return malformed(LogEvent::ExclamationTagSyntax, start, behindGreater(start));
+      return wrong(Kind::Exclamation, LogEvent::ExclamationTagSyntax, start, behindGreater(start));
   }
 }
 
+// A comment and a CDATA section that are begun as they should have an entry for a missing end.
 MarkupToken MarkupTokenizer::comment(std::size_t start) {
-  const bool proper = hasAt(start, kCommentStart);
-  const auto end =
-      proper ? behindDelimiter(start + kCommentStart.size(), u"-->") : behindGreater(start);
-  if (proper && end) return token(Kind::Comment, start, *end);
-  return malformed(LogEvent::CommentTagSyntax, start, end);
+  constexpr auto kProblem = LogEvent::CommentTagSyntax;
+  if (!hasAt(start, kCommentStart)) {
+    return wrong(Kind::Comment, kProblem, start, behindGreater(start));
+  }
+  const auto end = behindDelimiter(start + kCommentStart.size(), u"-->");
+  return end ? token(Kind::Comment, start, *end) : malformed(kProblem, start, end);
 }
 
 MarkupToken MarkupTokenizer::cdata(std::size_t start) {
-  const bool proper = hasAt(start, kCDataStart);
-  const auto end =
-      proper ? behindDelimiter(start + kCDataStart.size(), u"]]>") : behindGreater(start);
-  if (proper && end) return token(Kind::CData, start, *end);
-  return malformed(LogEvent::CDataSectionSyntax, start, end);
+  constexpr auto kProblem = LogEvent::CDataSectionSyntax;
+  if (!hasAt(start, kCDataStart)) {
+    return wrong(Kind::CData, kProblem, start, behindGreater(start));
+  }
+  const auto end = behindDelimiter(start + kCDataStart.size(), u"]]>");
+  return end ? token(Kind::CData, start, *end) : malformed(kProblem, start, end);
 }
 
 // The declarations between "[" and "]" are looked through for quoted strings, comments and
 // instructions only, which may hold brackets and ">".
 MarkupToken MarkupTokenizer::documentType(std::size_t start) {
+  constexpr auto kProblem = LogEvent::DoctypeTagSyntax;
   if (!hasAt(start, kDocumentTypeStart)) {
-    return malformed(LogEvent::DoctypeTagSyntax, start, behindGreater(start));
+    return wrong(Kind::DocumentType, kProblem, start, behindGreater(start));
   }
   std::size_t depth = 0;
   Offset at = start + kDocumentTypeStart.size();
@@ -122,15 +133,14 @@ MarkupToken MarkupTokenizer::documentType(std::size_t start) {
     } else if (unit == u'>' && depth == 0) {
       return token(Kind::DocumentType, start, *at + 1);
     } else if (unit == u']' && depth == 0) {
-      return malformed(LogEvent::DoctypeTagSyntax, start, behindGreater(*at));
+      return wrong(Kind::DocumentType, kProblem, start, behindGreater(*at));
     } else {
       depth += unit == u'[' ? 1U : 0U;
       depth -= unit == u']' ? 1U : 0U;
       ++*at;
     }
   }
-  return depth > 0 ? malformed(LogEvent::DoctypeTagSyntax, start, std::nullopt)
-                   : unterminated(Kind::DocumentType, start);
+  return unterminated(Kind::DocumentType, start);
 }
 
 MarkupTokenizer::Offset MarkupTokenizer::behindGreater(std::size_t from) {

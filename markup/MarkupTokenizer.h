@@ -22,6 +22,7 @@ struct MarkupToken {
     Instruction,   // <? ... ?>
     DocumentType,  // <!DOCTYPE ...>
     Literal,       // a "<" that starts no token and belongs to the text around it
+    Exclamation,   // any other <! ...>; such a token is always malformed
     Malformed,     // any other token with a syntax error
     EndOfText,     // nothing is left; start and end are where the last token ends
   };
@@ -84,6 +85,7 @@ class MarkupTokenizer {
     return token(kind, start, greater + 1);
   }
   MarkupToken malformed(LogEvent problem, std::size_t start, Offset end);
+  MarkupToken wrong(Kind intended, LogEvent problem, std::size_t start, Offset end);
   MarkupToken unterminated(Kind intended, std::size_t start, Offset end = std::nullopt);
 
   MarkupToken startTag(std::size_t start);
