@@ -76,13 +76,14 @@ Utf8Check checkUtf8(std::string_view bytes) {
 }
 
 // Whether `bytes` hold a pair outside the rows A1 to F7, columns A1 to FE, where the characters of
-// the national standards stand.
-bool hasPairOutsideStandardRows(const DoubleByteCodec& codec, std::string_view bytes) {
+// the national standards stand. The first half of a longer sequence is such a pair.
+template <class IsLeadByte>
+bool hasPairOutsideStandardRows(std::string_view bytes, IsLeadByte isLeadByte) {
   for (;;) {
     bytes.remove_prefix(countAscii(bytes));
     if (bytes.size() < 2) return false;
     const auto lead = static_cast<unsigned char>(bytes[0]);
-    if (!codec.isLeadByte(lead)) {
+    if (!isLeadByte(lead)) {
       bytes.remove_prefix(1);
       continue;
     }
@@ -97,12 +98,58 @@ bool isDoubleByte(CodePage codePage) {
          platform::codePageShape(codePage) == platform::CodePageShape::DoubleByte;
 }
 
+// GB18030 has the pairs of code page 936 and sequences of four bytes: no system tells of its
+// characters one by one, but their form says enough.
+constexpr CodePage kGb18030 = 54936;
+
+bool isBetween(char byte, unsigned first, unsigned last) {
+  const auto value = static_cast<unsigned char>(byte);
+  return value >= first && value <= last;
+}
+bool isGb18030Lead(char byte) {
+  return isBetween(byte, 0x81, 0xFE);
+}
+bool isGb18030Digit(char byte) {
+  return isBetween(byte, 0x30, 0x39);
+}
+
+// The length of the character at the front of `bytes`; 0 where there is no whole one.
+std::size_t gb18030Length(std::string_view bytes) {
+  if (bytes.size() < 2 || !isGb18030Lead(bytes[0])) return 0;
+  if (isBetween(bytes[1], 0x40, 0x7E) || isBetween(bytes[1], 0x80, 0xFE)) return 2;
+  const bool isLong = bytes.size() >= 4 && isGb18030Digit(bytes[1]) && isGb18030Lead(bytes[2]) &&
+                      isGb18030Digit(bytes[3]);
+  return isLong ? 4 : 0;
+}
+
+bool isGb18030(std::string_view bytes) {
+  for (;;) {
+    bytes.remove_prefix(countAscii(bytes));
+    if (bytes.empty()) return true;
+    const std::size_t length = gb18030Length(bytes);
+    if (length == 0) return false;
+    bytes.remove_prefix(length);
+  }
+}
+
+// Whether valid UTF-8 may be text of the code page by accident: it decodes there, and nothing says
+// that it is not what it is declared to be.
+bool isLikelyIn(CodePage codePage, std::string_view bytes, const Utf8Check& check) {
+  if (codePage == kGb18030) {
+    const auto isLead = [](unsigned char byte) { return isGb18030Lead(static_cast<char>(byte)); };
+    return isGb18030(bytes) &&
+           !(check.hasLongSequence && hasPairOutsideStandardRows(bytes, isLead));
+  }
+  if (!isDoubleByte(codePage)) return false;
+  DoubleByteCodec& codec = DoubleByteCodec::of(codePage);
+  const auto isLead = [&codec](unsigned char byte) { return codec.isLeadByte(byte); };
+  return codec.canDecode(bytes) &&
+         !(check.hasLongSequence && hasPairOutsideStandardRows(bytes, isLead));
+}
+
 bool isUtf8Text(std::string_view bytes, CodePage declared) {
   const Utf8Check check = checkUtf8(bytes);
-  if (!check.isValid || !isDoubleByte(declared)) return check.isValid;
-  DoubleByteCodec& codec = DoubleByteCodec::of(declared);
-  if (!codec.canDecode(bytes)) return true;
-  return check.hasLongSequence && hasPairOutsideStandardRows(codec, bytes);
+  return check.isValid && !isLikelyIn(declared, bytes, check);
 }
 
 }  // namespace
@@ -119,6 +166,8 @@ DetectedEncoding detectEncoding(std::string_view bytes) {
   if (auto encoding = encodingOfSignature(bytes)) return *std::move(encoding);
   std::u16string name = declaredEncodingOfBytes(bytes);
   CodePage declared = encodingToCodePage(name);
+  // What a name that nobody knows stands for was written in the system's own code page.
+  if (declared == 0 && !name.empty()) declared = platform::ansiCodePage();
   // A declaration that was read byte for byte, without zeros in between, is not in wide units.
   if (unitSize(declared) > 1 && bytes.substr(0, 4).find('\0') == std::string_view::npos) {
     declared = 0;

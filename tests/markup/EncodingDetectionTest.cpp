@@ -87,6 +87,7 @@ TEST(DeclaredEncoding, IsTheSameForBytesAndForText) {
 
 TEST(EncodingDetection, WeighsMarksSignaturesBytesAndDeclarations) {
   const platform::CodePage ansi = platform::ansiCodePage();
+  const platform::CodePage gb18030 = convertibleCodePage(54936);  // some systems lack it
   const DetectionCase kCases[] = {
       {"UTF-8 mark", "\xEF\xBB\xBF<a/>", Source::Mark, 65001, u"UTF-8"},
       {"UTF-16 mark", "\xFF\xFE<\0"sv, Source::Mark, 1200, u"UTF-16LE"},
@@ -126,6 +127,27 @@ TEST(EncodingDetection, WeighsMarksSignaturesBytesAndDeclarations) {
       {"UTF-8 that the code page cannot read",
        "<?xml encoding='gb2312'?><a>\xC3\xA9\xE8\xB0\xA2</a>", Source::Utf8Detection, 65001,
        u"UTF-8"},
+      // Of GB18030 each system knows the form at least, and what has an unknown name was written in
+      // the system's code page.
+      {"accidental two-byte sequences in GB18030",
+       "<?xml encoding='gb18030'?><a>\xD0\xBB\xD0\xBB</a>", Source::Declaration, gb18030,
+       u"gb18030"},
+      {"accidental three-byte sequences in GB18030",
+       "<?xml encoding='GB18030'?><a>\xE8\xB0\xA2\xE8\xB0\xA2</a>", Source::Declaration, gb18030,
+       u"GB18030"},
+      {"GB18030, plain", "<?xml encoding='gb18030'?><a/>", Source::Declaration, gb18030,
+       u"gb18030"},
+      {"UTF-8 that reads as rare pairs of GB18030",
+       "<?xml encoding='gb18030'?><a>\xE4\xBD\xA0\xE4\xBD\xA0</a>", Source::Utf8Detection, 65001,
+       u"UTF-8"},
+      {"UTF-8 of an odd number of bytes in GB18030",
+       "<?xml encoding='gb18030'?><a>\xE8\xB0\xA2</a>", Source::Utf8Detection, 65001, u"UTF-8"},
+      {"accidental sequences under an unknown name",
+       "<?xml encoding='bogus'?><a>\xD0\xBB\xD0\xBB</a>", Source::Declaration, ansi, u"bogus"},
+      {"UTF-8 under an unknown name", "<?xml encoding='bogus'?><a>\xE4\xBD\xA0\xE4\xBD\xA0</a>",
+       Source::Utf8Detection, 65001, u"UTF-8"},
+      {"accidental sequences without a declaration", "<a>\xD0\xBB\xD0\xBB</a>",
+       Source::Utf8Detection, 65001, u"UTF-8"},
       {"short UTF-8 that the code page cannot read", "<?xml encoding='shift_jis'?><a>\xC2\x85</a>",
        Source::Utf8Detection, 65001, u"UTF-8"},
   };
