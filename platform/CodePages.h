@@ -6,8 +6,17 @@
 namespace brennet::platform {
 
 // A Windows code page number. The conversions are kernel32's on Windows and ICU's converters
-// elsewhere: of the same table for code page 936, which the settings are written in, and of the
-// nearest one for others. Some rare code pages are supported on one system only.
+// elsewhere. What the two make of a text:
+//
+// - 936, which the settings are written in: the same, in both directions, for everything.
+// - 932: the same for single bytes; ICU's table of pairs is the nearest match. It lacks the best
+//   fits of kernel32, which writes letters with accents without them, for example.
+// - 874, 949 and 950: ICU's tables are those of Windows 2000, best fits included.
+// - 1250 to 1258 and ISO 8859: the same for what the code page has. Of kernel32's best fits ICU has
+//   those of full-width letters, and in 1256 of Arabic forms; any other such character becomes the
+//   default one, and is lost.
+// - all others: nearest matches. The stateful ones differ in where they switch. Some rare code
+//   pages are supported on one system only.
 using CodePage = unsigned;
 
 inline constexpr CodePage kGb2312 = 936;

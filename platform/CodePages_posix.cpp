@@ -47,6 +47,24 @@ constexpr CodePageName kConverterNames[] = {
     {65000, "UTF-7"},
 };
 
+constexpr CodePage kShiftJis = 932;
+constexpr CodePage kHz = 52936;
+
+// ICU switches to ASCII, which is in force, before the first character of a text in HZ: this is what
+// becomes of a blank.
+constexpr std::string_view kFirstHzBlank = "~} ";
+
+// Bytes of code page 932 that are characters by themselves and other ones in ICU's table, which
+// permutes three control characters and has nothing for the last five.
+struct ShiftJisByte {
+  unsigned char byte;
+  char16_t unit;
+};
+constexpr ShiftJisByte kShiftJisBytes[] = {
+    {0x1A, 0x1A}, {0x1C, 0x1C},   {0x7F, 0x7F},   {0x80, 0x80},
+    {0xA0, 0xA0}, {0xFD, 0xF8F1}, {0xFE, 0xF8F2}, {0xFF, 0xF8F3},
+};
+
 // kernel32 drops the top bit of a byte there.
 constexpr CodePage kAscii = 20127;
 
@@ -203,6 +221,9 @@ bool isLeadByte(CodePage codePage, unsigned char byte) {
 }
 
 char16_t byteToUtf16(CodePage codePage, unsigned char byte) {
+  for (const ShiftJisByte& row : kShiftJisBytes) {
+    if (codePage == kShiftJis && row.byte == byte) return row.unit;
+  }
   std::u16string unit;
   const char text = static_cast<char>(byte);
   converterOf(codePage).decode({&text, 1}, unit);
@@ -218,6 +239,9 @@ char16_t pairToUtf16(CodePage codePage, unsigned char lead, unsigned char trail)
 }
 
 EncodedUnit utf16ToBytes(CodePage codePage, char16_t unit) {
+  for (const ShiftJisByte& row : kShiftJisBytes) {
+    if (codePage == kShiftJis && row.unit == unit) return {{row.byte, 0}, 1, false};
+  }
   std::string bytes;
   const bool lost = converterOf(codePage).encode({&unit, 1}, bytes);
   if (lost || bytes.empty() || bytes.size() > 2 || isConsoleArrow(unit, bytes)) {
@@ -229,13 +253,47 @@ EncodedUnit utf16ToBytes(CodePage codePage, char16_t unit) {
           false};
 }
 
+namespace {
+
+void decodePairs(CodePage codePage, std::string_view bytes, std::u16string& out) {
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(bytes[i]);
+    if (!isLeadByte(codePage, byte)) {
+      out.push_back(byteToUtf16(codePage, byte));
+    } else if (i + 1 == bytes.size()) {
+      out.push_back(defaultUnit(codePage));
+    } else {
+      out.push_back(pairToUtf16(codePage, byte, static_cast<unsigned char>(bytes[++i])));
+    }
+  }
+}
+
+bool encodePairs(CodePage codePage, std::u16string_view text, std::string& out) {
+  bool lost = false;
+  for (const char16_t unit : text) {
+    const EncodedUnit encoded = utf16ToBytes(codePage, unit);
+    for (int i = 0; i < encoded.length; ++i) out.push_back(static_cast<char>(encoded.bytes[i]));
+    lost = lost || encoded.lost;
+  }
+  return lost;
+}
+
+}  // namespace
+
 void decode(CodePage codePage, std::string_view bytes, std::u16string& out) {
+  if (isDoubleByte(codePage)) return decodePairs(codePage, bytes, out);
   if (codePage != kAscii) return converterOf(codePage).decode(bytes, out);
   for (const char byte : bytes) out.push_back(static_cast<char16_t>(byte & 0x7F));
 }
 
 bool encode(CodePage codePage, std::u16string_view text, std::string& out) {
-  return converterOf(codePage).encode(text, out);
+  if (isDoubleByte(codePage)) return encodePairs(codePage, text, out);
+  if (codePage != kHz) return converterOf(codePage).encode(text, out);
+  const std::size_t start = out.size();
+  const bool lost = converterOf(codePage).encode(std::u16string(u" ").append(text), out);
+  const bool hasSwitch = std::string_view(out).substr(start).starts_with(kFirstHzBlank);
+  out.erase(start, hasSwitch ? kFirstHzBlank.size() : 1);
+  return lost;
 }
 
 }  // namespace brennet::platform

@@ -80,6 +80,28 @@ TEST(CodePage936, ReadsBackEveryPairThatStandsForSomething) {
   }
 }
 
+TEST(CodePage932, HasTheSingleBytesOfKernel32) {
+  constexpr PairRow kRows[] = {
+      {0x1A, 0, 0x1A},   {0x1C, 0, 0x1C},   {0x7F, 0, 0x7F},   {0x5C, 0, u'\\'},
+      {0x7E, 0, u'~'},   {0x80, 0, 0x80},   {0xA0, 0, 0xA0},   {0xA1, 0, 0xFF61},
+      {0xDF, 0, 0xFF9F}, {0xFD, 0, 0xF8F1}, {0xFE, 0, 0xF8F2}, {0xFF, 0, 0xF8F3},
+  };
+  for (const PairRow& row : kRows) {
+    EXPECT_EQ(byteToUtf16(932, row.lead), row.unit) << std::hex << int{row.lead};
+    const EncodedUnit back = utf16ToBytes(932, row.unit);
+    EXPECT_FALSE(back.lost) << std::hex << int{row.lead};
+    EXPECT_EQ(back.length, 1) << std::hex << int{row.lead};
+    EXPECT_EQ(back.bytes[0], row.lead);
+  }
+  const std::string bytes = "\x1A\x82\xA0\xFD\x7F";
+  std::u16string text;
+  decode(932, bytes, text);
+  EXPECT_EQ(text, u"\x1A\u3042\xF8F1\x7F");
+  std::string again;
+  EXPECT_FALSE(encode(932, text, again));
+  EXPECT_EQ(again, bytes);
+}
+
 TEST(WholeTexts, LoseTheTopBitInAscii) {
   std::u16string text;
   decode(20127, "a\xE9\x80", text);

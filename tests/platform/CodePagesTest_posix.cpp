@@ -22,5 +22,24 @@ TEST(Gb18030, SurvivesLongBuffers) {
   EXPECT_EQ(back, text);
 }
 
+// ICU begins a text with a switch to ASCII, which is in force already.
+TEST(Hz, BeginsWithItsText) {
+  struct Row {
+    std::u16string_view text;
+    std::string_view bytes;
+  };
+  constexpr Row kRows[] = {
+      {u"", ""}, {u"<a>", "<a>"}, {u"a\u8C22b", "a~{P;~}b"}, {u"\u8C22", "~{P;"}, {u"~}", "~~}"},
+  };
+  for (const Row& row : kRows) {
+    std::string bytes = "~}";
+    EXPECT_FALSE(encode(52936, row.text, bytes));
+    EXPECT_EQ(bytes, "~}" + std::string(row.bytes));
+    std::u16string back;
+    decode(52936, row.bytes, back);
+    EXPECT_EQ(back, row.text);
+  }
+}
+
 }  // namespace
 }  // namespace brennet::platform
