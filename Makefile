@@ -5,7 +5,7 @@ FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run run-windows test asan windows test-windows sdk bench bench-build fuzz shots translations format lint lint-windows clean
+.PHONY: help run run-windows test asan odr windows test-windows sdk bench bench-build fuzz shots translations format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -27,6 +27,11 @@ asan: ## build and run the native tests under the address and undefined-behaviou
 	@cmake --preset asan
 	@cmake --build --preset asan -j $(JOBS)
 	@ctest --preset asan -j $(JOBS)
+
+odr: ## look for two definitions of one name in the library and in test programs
+	@tools/setup.sh build test
+	@cmake --preset odr
+	@cmake --build --preset odr -j $(JOBS) --target brennet host_tests model_tests ui_tests
 
 windows: ## build the 32-bit Windows library, the sample host and all test programs
 	@tools/setup.sh build windows

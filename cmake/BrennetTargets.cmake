@@ -24,6 +24,16 @@ if(BRENNET_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+# The linker compares the types of all sources, which no compiler sees together.
+set(BRENNET_ODR_FLAGS -flto=auto -Werror=odr -Werror=lto-type-mismatch)
+if(BRENNET_ODR)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    message(FATAL_ERROR "BRENNET_ODR takes GCC")
+  endif()
+  add_compile_options(${BRENNET_ODR_FLAGS})
+  add_link_options(${BRENNET_ODR_FLAGS})
+endif()
+
 # Compiler settings of our own code; other people's headers are included as system headers.
 function(brennet_target_defaults target)
   target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}")
