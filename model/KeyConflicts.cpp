@@ -1,5 +1,6 @@
 #include "model/KeyConflicts.h"
 
+#include <algorithm>
 #include <span>
 #include <utility>
 
@@ -57,10 +58,10 @@ void lookAtGuardedKeys(const HotkeyScheme& scheme, Look look) {
 // The place of `key` among `keys`, a fixed set; nothing when it is none of them.
 template <class Keys>
 std::optional<std::uint8_t> placeAmong(const Keys& keys, KeyWord key) {
-  for (std::uint8_t i = 0; i < keys.size(); ++i) {
-    if (keys[i].sameKey(key)) return i;
-  }
-  return std::nullopt;
+  const auto found =
+      std::find_if(keys.begin(), keys.end(), [key](KeyWord one) { return one.sameKey(key); });
+  if (found == keys.end()) return std::nullopt;
+  return static_cast<std::uint8_t>(found - keys.begin());
 }
 
 // Why `key` is not assignable; nothing when it is.

@@ -50,8 +50,8 @@ constexpr CodePageName kConverterNames[] = {
 constexpr CodePage kShiftJis = 932;
 constexpr CodePage kHz = 52936;
 
-// ICU switches to ASCII, which is in force, before the first character of a text in HZ: this is what
-// becomes of a blank.
+// ICU switches to ASCII, which is in force, before the first character of a text in HZ: this is
+// what becomes of a blank.
 constexpr std::string_view kFirstHzBlank = "~} ";
 
 // Bytes of code page 932 that are characters by themselves and other ones in ICU's table, which

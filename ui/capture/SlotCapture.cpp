@@ -26,7 +26,7 @@ constexpr CounterRow kCounters[] = {
     {&EditControl::nLedgerIndex, SettingId::SecretaryKey, 0, 1},
 };
 
-KeySlot slotAt(SettingId setting, std::size_t index) {
+KeySlot slotAt(SettingId setting, int index) {
   return {setting, static_cast<std::uint8_t>(index)};
 }
 
@@ -55,12 +55,12 @@ void makeRoomForPaste(HotkeyConfig& config) {
 std::optional<KeySlot> slotOf(const EditControl& control) {
   if (control.nGoodsIndex != 0) {
     const auto item = itemSlotIndex(kNumpad0 + control.nGoodsIndex);
-    return item ? std::optional(slotAt(SettingId::ItemKey, *item)) : std::nullopt;
+    return item ? std::optional(slotAt(SettingId::ItemKey, static_cast<int>(*item))) : std::nullopt;
   }
   for (const CounterRow& row : kCounters) {
     const int counter = control.*row.counter;
     if (counter == 0) continue;
-    return slotAt(row.setting, static_cast<std::size_t>(row.first + (counter - 1) * row.step));
+    return slotAt(row.setting, row.first + (counter - 1) * row.step);
   }
   return std::nullopt;
 }
