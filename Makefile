@@ -2,10 +2,12 @@
 
 SETTINGS ?=
 FUZZ_SECONDS ?= 60
+CTEST_ARGS ?=
+ROWS ?=
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run run-windows test asan odr windows test-windows sdk bench bench-build fuzz shots translations format lint lint-windows clean
+.PHONY: help run run-windows test test-anywhere asan odr windows test-windows sdk bench bench-build fuzz shots translations format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -20,7 +22,11 @@ test: ## build everything and run all tests
 	@tools/setup.sh build test
 	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
 	@cmake --build --preset native -j $(JOBS)
-	@ctest --preset native -j $(JOBS)
+	@ctest --preset native -j $(JOBS) $(CTEST_ARGS)
+
+test-anywhere: ## run all tests as others would, elsewhere (ROWS="path random" for some of it)
+	@tools/setup.sh build test anywhere
+	@tools/test_anywhere.sh $(ROWS)
 
 asan: ## build and run the native tests under the address and undefined-behaviour sanitizers
 	@tools/setup.sh build test

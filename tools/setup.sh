@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the given needs take, as far as it is missing: tools/setup.sh build test ...
 #
-# Needs: build, test, bench, fuzz, lint, windows, wine, cache. On Debian and its relatives packages are looked up with
+# Needs: build, test, anywhere, bench, fuzz, lint, windows, wine, cache. On Debian and its relatives packages are looked up with
 # dpkg and installed with apt-get, as root or where sudo asks for no password; otherwise the line
 # to run is printed and the exit status is 1. On other systems only the commands are checked.
 set -euo pipefail
@@ -11,6 +11,7 @@ declare -A packages=(
            qttools5-dev-tools"
   [test]="qtbase5-private-dev libgtest-dev libgmock-dev clang python3 make patch xz-utils
           fonts-dejavu-core fonts-wqy-microhei fonts-noto-cjk"
+  [anywhere]="locales tzdata util-linux"
   [bench]="libbenchmark-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libexpat1-dev
            libxml2-dev python3"
   [fuzz]="clang libclang-rt-14-dev"
@@ -24,6 +25,7 @@ declare -A packages=(
 declare -A commands=(
   [build]="g++ cmake ninja lrelease lupdate"
   [test]="ctest python3 make patch xz"
+  [anywhere]="localedef setpriv"
   [bench]="python3"
   [fuzz]="clang++"
   [lint]="clang-format clang-tidy"
@@ -34,7 +36,7 @@ declare -A commands=(
 )
 
 usage() {
-  echo "usage: tools/setup.sh {build|test|bench|fuzz|lint|windows|wine|cache}..." >&2
+  echo "usage: tools/setup.sh {build|test|anywhere|bench|fuzz|lint|windows|wine|cache}..." >&2
   exit 2
 }
 
