@@ -36,9 +36,11 @@ class WholeSession : public DialogFixture {
     writeBytes(preferences_, sample("War3Preferences.txt"));
     EXPECT_TRUE(loadText(sample("KeyInfo.xml")));
     writeBytes(folder_ / "Tollamere.reg", sample("Tollamere.reg"));
-    const std::wstring data = (folder_ / "").wstring();
+    const std::wstring data = folder_.path().wstring();  // without a separator at its end
     brennet_.SetDataFolder(data.c_str());
-    EXPECT_FALSE(open("btnCancel", [](QDialog&) {}));
+    EXPECT_FALSE(open("btnCancel", [](QDialog& dialog) {
+      EXPECT_TRUE(button(dialog, "btnDota7Setting").isVisible());
+    }));
     EXPECT_TRUE(registry_.content().hasKey(below(kDota7ControlPath))) << "imported";
   }
   ~WholeSession() override { brennet_.SetDataFolder(nullptr); }

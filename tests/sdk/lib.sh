@@ -59,3 +59,23 @@ expect_refused() { # MESSAGE BUILD_FOLDER ARGUMENT...
   # CMake breaks its messages into lines.
   tr -s '\n ' ' ' <refused | grep -qF -- "$message" || fail "no \"$message\" in: $(cat refused)"
 }
+
+# Builds the host that the contract links, with the contract's lines for CMake: contract/my-host.
+build_contract_host() { # CMAKE_ARGUMENT...
+  local checkout=$here/../..
+  local block=("$checkout/tests/docs/block.sh" "$checkout/sdk/CONTRACT.md")
+  mkdir contract-sources
+  {
+    echo '#include <brennet/IBrennet.h>'
+    "${block[@]}" cpp 1
+    echo 'int main() { return GetBrennetPtr() == GetBrennetPtr() ? 0 : 1; }'
+  } >contract-sources/host.cpp
+  {
+    echo 'cmake_minimum_required(VERSION 3.22)'
+    echo 'project(Contract LANGUAGES CXX)'
+    echo 'add_executable(my-host host.cpp)'
+    "${block[@]}" cmake 1
+  } >contract-sources/CMakeLists.txt
+  quietly cmake -G Ninja -S contract-sources -B contract -DCMAKE_CXX_STANDARD=11 "$@"
+  quietly cmake --build contract
+}

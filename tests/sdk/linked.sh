@@ -26,10 +26,13 @@ cp "$package/samples/data/KeyInfo.xml" .
 run 0 "$emulator" linked/linked.exe
 says 'loaded: 1, save time: 1404738022, filled: 1' out
 
+build_contract_host "${windows[@]}" "${found[@]}"
+cp "$package"/bin/*.dll contract/
+run 0 "$emulator" contract/my-host.exe
+rm contract/*.dll
+
 # The whole host of the contract, in the oldest language that the headers promise.
-mkdir contract
-awk '/^## A whole host/ { here = 1 } here && /^```$/ { exit } code { print }
-  here && /^```cpp$/ { code = 1 }' "$package/CONTRACT.md" >contract/host.cpp
+"$here/../docs/block.sh" "$package/CONTRACT.md" cpp 2 >contract/host.cpp
 quietly i686-w64-mingw32-g++-posix -std=c++11 -Wall -Wextra -Werror -static \
   -I "$package/include" contract/host.cpp -o contract/host.exe
 run 2 "$emulator" contract/host.exe

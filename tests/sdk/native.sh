@@ -26,6 +26,9 @@ quietly cmake --build host
 [[ $(cat host/library.txt) == "$package/lib/libbrennet.so.$version" ]] ||
   fail "another library was found: $(cat host/library.txt)"
 
+build_contract_host -DCMAKE_PREFIX_PATH="$package" -DCMAKE_CXX_FLAGS="$flags"
+run 0 contract/my-host
+
 # The profile is one of the test's own, and so is the game's preference file in it.
 game="home/Documents/Warcraft III"
 mkdir -p "$game" run
