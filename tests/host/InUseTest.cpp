@@ -36,7 +36,8 @@ TEST_F(WhatIsInUse, IsNoMoreWhereEachRoundGivesAllBack) {
 
 TEST_F(WhatIsInUse, IsMoreWhereARoundLeavesALittle) {
   memory_.reserve(kRounds);
-  for (const std::size_t bytes : {64, 100, 1024}) {
+  constexpr std::size_t kSizes[] = {64, 100, 1024};
+  for (const std::size_t bytes : kSizes) {
     const auto leak = [&](int) { leakMemory(bytes); };
     EXPECT_NONFATAL_FAILURE(expectNothingIsLeft(kRounds, leak), "after.memory");
     EXPECT_NONFATAL_FAILURE(expectNothingIsLeft(kRounds, leak, bytes / 2), "after.memory");
