@@ -9,7 +9,8 @@ use_ccache() { # CHECKOUT
     "$1/tools/setup.sh" cache; then
     export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
     export CCACHE_DIR=$cache CCACHE_MAXSIZE=4G CCACHE_COMPILERCHECK=content
-    export CCACHE_BASEDIR=$1 CCACHE_NOHASHDIR=1
+    # Whose language the compiler speaks makes no difference: nothing with a warning is kept.
+    export CCACHE_BASEDIR=$1 CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=locale
   else
     say "Everything is compiled anew: $cache cannot be used"
     return 1
