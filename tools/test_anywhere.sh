@@ -146,7 +146,8 @@ clear_up() {
   trap '' HUP INT QUIT TERM
   stop_job
   stop_loops
-  [[ -z $user ]] || userdel "$user" || true
+  # Qt makes the folder for whoever has none of the kind.
+  [[ -z $user ]] || { userdel "$user" && rm -rf "/tmp/runtime-$user"; } || true
   rm -rf --one-file-system "$work_dir"
 }
 
