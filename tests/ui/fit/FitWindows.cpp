@@ -1,7 +1,6 @@
 #include "tests/ui/fit/FitWindows.h"
 
 #include <QApplication>
-#include <QScrollBar>
 #include <QTest>
 
 #include "ui/CHotkeySettingDlg.h"
@@ -24,22 +23,6 @@ bool isSeenAsFarAsItCanBe(const QWidget& widget, const QWidget& window) {
 }
 
 }  // namespace
-
-const std::vector<ScreenRow>& playersScreens() {
-  static const std::vector<ScreenRow> kRows = {
-      {"1024x768", {{1024, 768}}},
-      {"1280x720", {{1280, 720}}},
-      {"1366x768", {{1366, 768}}},
-      {"1920x1080", {{1920, 1080}}},
-      {"1920x1080 at 125 %", {{1920, 1080}, 125}},
-      {"1920x1080 at 150 %", {{1920, 1080}, 150}},
-      {"1920x1080 at 175 %", {{1920, 1080}, 175}},
-      {"2560x1440 at 150 %", {{2560, 1440}, 150}},
-      {"3840x2160 at 200 %", {{3840, 2160}, 200}},
-      {"3840x2160 at 250 %", {{3840, 2160}, 250}},
-  };
-  return kRows;
-}
 
 FitWindows::FitWindows() : font_(QApplication::font()) {
   QFont font = font_;
@@ -65,13 +48,7 @@ void FitWindows::showWindow(QWidget& window) {
   window.show();
   QApplication::setActiveWindow(&window);
   EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-  // Scroll bars come when layouts inside each other have told each other of their sizes.
-  for (int layouts = 0; layouts < 4; ++layouts) QCoreApplication::processEvents();
-}
-
-bool isScrolled(const QWidget& window) {
-  const auto& scroller = *window.findChild<CPageScroller*>();
-  return scroller.horizontalScrollBar()->isVisible() || scroller.verticalScrollBar()->isVisible();
+  settleLayouts();
 }
 
 void expectInside(const QWidget& window, const QRect& available,

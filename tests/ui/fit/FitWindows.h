@@ -10,19 +10,12 @@
 
 #include "model/HotkeyConfig.h"
 #include "tests/gameside/Dota7Test.h"
-#include "tests/ui/screens/TestScreens.h"
+#include "tests/ui/screens/PlayersScreens.h"
 
 class CHotkeySettingDlg;
 class QWidget;
 
 namespace brennet::test {
-
-// A screen that players have.
-struct ScreenRow {
-  const char* name;
-  ScreenShape shape;
-};
-[[nodiscard]] const std::vector<ScreenRow>& playersScreens();
 
 // Windows in each of the two languages, with letters of the size that a host has: 9 points.
 class FitWindows : public Dota7Test, public testing::WithParamInterface<const char*> {
@@ -40,9 +33,6 @@ class FitWindows : public Dota7Test, public testing::WithParamInterface<const ch
   QFont font_;
   QTranslator catalogue_;
 };
-
-// Whether the page of the window has a scroll bar.
-[[nodiscard]] bool isScrolled(const QWidget& window);
 
 // Fails where a part of the window is outside the part of its screen that is free, or where one of
 // the buttons of those names is not wholly in sight.

@@ -2,6 +2,7 @@
 
 #include "gameside/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
+#include "model/LoadReport.h"
 #include "model/RecommendedScheme.h"
 #include "tests/ui/shots/Shots.h"
 #include "ui/CHotkeySettingDlg.h"
@@ -25,16 +26,50 @@ HotkeyConfig& settings() {
 }
 
 template <bool IsDota7>
-std::unique_ptr<QWidget> makeDialog() {
+std::unique_ptr<CHotkeySettingDlg> makeDialog() {
   static Dota7KeyInfoManager manager;
   auto dialog = std::make_unique<CHotkeySettingDlg>(settings(), manager);
   if (IsDota7) dialog->onSwitchDota7KeySettingDlg();
   return dialog;
 }
 
+// After a load that could not use two keys.
+std::unique_ptr<QWidget> makeDialogWithNotice() {
+  using Reason = KeyConflict::Reason;
+  LoadReport report;
+  DroppedKey wheel;
+  wheel.slot = {SettingId::MouseKey, 0};
+  wheel.key = KeyWord('A', 0);
+  wheel.conflict = KeyConflict{Reason::Held, {SettingId::HeroSkillKey, 0}};
+  DroppedKey skill;
+  skill.scheme = 1;
+  skill.slot = {SettingId::HeroSkillKey, 3};
+  skill.key = KeyWord('3', KeyWord::kAlt);
+  skill.conflict = KeyConflict{Reason::QuickChatSetKey, {SettingId::QuickChatIndex, 2}};
+  report.droppedKeys = {wheel, skill};
+  auto dialog = makeDialog<false>();
+  dialog->tellDroppedKeys(report);
+  return dialog;
+}
+
+// Where the settings file names a setting group that there is not.
+std::unique_ptr<QWidget> makeDialogWithoutGroup() {
+  static HotkeyConfig config;
+  static Dota7KeyInfoManager manager;
+  config.setIndex(HotkeyConfig::kSchemes);
+  return std::make_unique<CHotkeySettingDlg>(config, manager);
+}
+
 }  // namespace
 
 QList<Shot> dialogShots() {
+  return {{QStringLiteral("dialog"), makeDialog<false>},
+          {QStringLiteral("dialog-dota7"), makeDialog<true>},
+          {QStringLiteral("dialog-notice"), makeDialogWithNotice},
+          {QStringLiteral("dialog-no-group"), makeDialogWithoutGroup}};
+}
+
+QList<Shot> scrolledShots() {
   return {{QStringLiteral("dialog"), makeDialog<false>},
           {QStringLiteral("dialog-dota7"), makeDialog<true>}};
 }

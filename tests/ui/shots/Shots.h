@@ -18,6 +18,9 @@ struct Shot {
 // A page on the background of the settings dialog, in the skin.
 [[nodiscard]] std::unique_ptr<QWidget> inDialog(const std::function<QWidget*(QWidget*)>& makePage);
 
+// The settings dialog, for screens on which its page scrolls.
+[[nodiscard]] QList<Shot> scrolledShots();
+
 // One function for each kind of window; main.cpp calls all of them.
 [[nodiscard]] QList<Shot> basicShots();
 [[nodiscard]] QList<Shot> boxShots();

@@ -1,7 +1,8 @@
 // Takes pictures of the windows, without a screen: brennet-shots FOLDER
 // Each is taken in each language as screens of three densities show it: NAME.zh_CN.png,
 // NAME.zh_CN@1.5x.png, NAME.zh_CN@2x.png, NAME.en.png and so on. The fonts are those of the set
-// "wqy", unless BRENNET_TEST_FONTS names another.
+// "wqy", unless BRENNET_TEST_FONTS names another. Where the page of the settings scrolls on a
+// screen that players have, there is a picture of that too: dialog-1024x768.en.png.
 
 #include <QApplication>
 #include <QDir>
@@ -15,21 +16,41 @@
 
 #include "tests/support/World.h"
 #include "tests/ui/fonts/TestFonts.h"
-#include "tests/ui/screens/TestScreens.h"
+#include "tests/ui/screens/PlayersScreens.h"
 #include "tests/ui/shots/Shots.h"
 
 namespace {
 
 using brennet::shots::Shot;
 
-bool take(const Shot& shot, const QString& file) {
-  const std::unique_ptr<QWidget> window = shot.make();
+std::unique_ptr<QWidget> show(const Shot& shot) {
+  std::unique_ptr<QWidget> window = shot.make();
   window->show();
   QApplication::setActiveWindow(window.get());
-  QCoreApplication::processEvents();
-  if (window->grab().save(file)) return true;
+  brennet::test::settleLayouts();
+  return window;
+}
+
+bool save(QWidget& window, const QString& file) {
+  if (window.grab().save(file)) return true;
   std::fprintf(stderr, "cannot write %s\n", qUtf8Printable(file));
   return false;
+}
+
+// The windows on each screen on which they scroll. Units count, so
+// the screens are of as many pixels as they have units.
+bool takeWhatScrolls(const QDir& folder, const QString& language) {
+  for (const brennet::test::ScreenRow& row : brennet::test::playersScreens()) {
+    const brennet::test::TestScreens screens({{row.shape.pixels * 100 / row.shape.percent}});
+    for (const Shot& shot : brennet::shots::scrolledShots()) {
+      const std::unique_ptr<QWidget> window = show(shot);
+      if (!brennet::test::isScrolled(*window)) continue;
+      const QString file =
+          QStringLiteral("%1-%2.%3.png").arg(shot.name, QLatin1String(row.name), language);
+      if (!save(*window, folder.filePath(file))) return false;
+    }
+  }
+  return true;
 }
 
 bool takeAll(const QList<Shot>& shots, const QDir& folder, const QString& language,
@@ -42,9 +63,9 @@ bool takeAll(const QList<Shot>& shots, const QDir& folder, const QString& langua
   QCoreApplication::installTranslator(&catalogue);
   for (const Shot& shot : shots) {
     const QString file = QStringLiteral("%1.%2%3.png").arg(shot.name, language, suffix);
-    if (!take(shot, folder.filePath(file))) return false;
+    if (!save(*show(shot), folder.filePath(file))) return false;
   }
-  return true;
+  return !suffix.isEmpty() || takeWhatScrolls(folder, language);
 }
 
 // Qt looks at the density when an application starts, so each has one of its own.
