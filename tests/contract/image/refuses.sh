@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # Builds a library that is wrong in one way, and fails unless check.py tells just the given facts to
-# be broken: refuses.sh CASE FACTS RESOURCE_SCRIPT VERSION
-# FACTS are names with blanks between them, in the order of check.py; there are none for "sound".
+# be broken: refuses.sh CASE RESOURCE_SCRIPT VERSION [FACT...]
+# Facts are named in the order of check.py; there are none for "sound".
 set -euo pipefail
 
 case=$1
-expected=$2
-resource_script=$3
-version=$4
+resource_script=$2
+version=$3
+expected=${*:4}
 
 here=$(cd "$(dirname "$0")" && pwd)
 folder=$(mktemp -d)
