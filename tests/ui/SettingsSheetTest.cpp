@@ -148,15 +148,38 @@ TEST_F(TheSettingsSheet, ShowsWhichPictureHasTheFocus) {
 TEST_F(TheSettingsSheet, KeepsTheStateOfASmallPictureWithTheFocus) {
   QApplication::setActiveWindow(&window_);
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
-  for (const char* const name : {"btn_skillcast_12", "btn_goods_cast_7"}) {
-    auto* const button = make<QPushButton>(name);
+  struct {
+    const char* name;
+    const char* picture;
+    int size;
+    int checkedAt;
+    int gap;  // between it and the frame
+    QRgb frame;
+  } const kRows[] = {{"btn_skillcast_12", "auto", 13, 13, 0, 0xFFFFFFFF},
+                     {"btn_goods_cast_7", "auto", 13, 13, 0, 0xFFFFFFFF},
+                     {"btnClose", "closebtn_4s", 10, 0, 1, 0xFF97B6E9},
+                     {"btnCloseNotice", "closebtn_4s", 10, 0, 1, 0xFF97B6E9}};
+  for (const auto& row : kRows) {
+    auto* const button = make<QPushButton>(row.name);
     button->setCheckable(true);
     button->setFocus();
-    EXPECT_EQ(middleOf(*button, {15, 15}).pixel(7, 0), 0xFFFFFFFF);
     for (const bool isChecked : {false, true}) {
+      SCOPED_TRACE(std::string(row.name) + (isChecked ? " checked" : ""));
       button->setChecked(isChecked);
-      EXPECT_TRUE(middleOf(*button, {13, 13}) == state("auto", isChecked ? 13 : 0, 13))
-          << name << (isChecked ? " checked" : "");
+      const QSize size(row.size, row.size);
+      EXPECT_TRUE(middleOf(*button, size) ==
+                  state(row.picture, isChecked ? row.checkedAt : 0, row.size));
+      const int end = row.size + 2 * row.gap + 1;  // of the frame
+      const QImage framed = middleOf(*button, {end + 1, end + 1});
+      const QImage around = middleOf(*button, {end + 3, end + 3});
+      for (int i = 2; i < end - 1; ++i) {
+        EXPECT_EQ(framed.pixel(i, 0), row.frame);
+        EXPECT_EQ(framed.pixel(i, end), row.frame);
+        EXPECT_EQ(framed.pixel(0, i), row.frame);
+        EXPECT_EQ(framed.pixel(end, i), row.frame);
+        EXPECT_EQ(around.pixel(i, 0), kBelow) << "nothing of the picture is outside";
+        EXPECT_EQ(around.pixel(i, end + 2), kBelow);
+      }
     }
     delete button;
   }
