@@ -6,7 +6,8 @@
 # and nothing of Wine is left running when it ends. It sees this checkout, the toolchain folder and
 # the working folder under their own names (drive Z: is the root), unless Wine has one of that name.
 # DLLs are looked for beside the program and in the folders of WINEPATH. With BRENNET_SCREEN=1 there
-# is a screen of its own, which nobody sees; else windows are made without one.
+# is a screen of its own, which nobody sees, with BRENNET_SCREEN=1024x768 one of that size; else
+# windows are made without one.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 # shellcheck source=tools/windows/lib.sh
@@ -27,10 +28,11 @@ stoppable() {
 
 # Starts a screen that nobody sees, and lets DISPLAY name it.
 start_screen() { # PREFIX LOG_FOLDER COMMAND...
-  local prefix=$1 log=$2 number tries=0
+  local prefix=$1 log=$2 number tries=0 size=1280x1024
   shift 2
+  if [[ $BRENNET_SCREEN == *x* ]]; then size=$BRENNET_SCREEN; fi
   # The number is one that no other program has at the moment.
-  "$@" -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$log/screen" >"$log/screen.log" 2>&1 &
+  "$@" -displayfd 3 -screen 0 "${size}x24" -nolisten tcp 3>"$log/screen" >"$log/screen.log" 2>&1 &
   until read -r number 2>/dev/null <"$log/screen"; do
     if ((++tries == 300)); then
       cat "$log/screen.log" >&2
