@@ -46,11 +46,11 @@ class ADraggedDialog : public SettingsDialog {
   // Between two groups of the page that is shown.
   QPoint emptyPlace() {
     const auto& one = on<CBasicSetting7Widget, QGroupBox>("grpHeroSkill");
-    const auto& other = on<CBasicSetting7Widget, QGroupBox>("grpNumKeypad");
-    const QPoint end = one.mapTo(dialog.get(), one.rect().topRight());
+    const auto& other = on<CBasicSetting7Widget, QGroupBox>("grpKeyModify");
+    const QPoint end = one.mapTo(dialog.get(), one.rect().bottomLeft());
     const QPoint start = other.mapTo(dialog.get(), other.rect().topLeft());
-    EXPECT_GT(start.x() - end.x(), 2) << "there is room between them";
-    return {(end.x() + start.x()) / 2, end.y() + 20};
+    EXPECT_GT(start.y() - end.y(), 2) << "there is room between them";
+    return {end.x() + 20, (end.y() + start.y()) / 2};
   }
 };
 

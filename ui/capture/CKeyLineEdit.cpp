@@ -7,18 +7,26 @@
 #include <QStyleOptionFrame>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kBesideText = 2;  // as a line edit keeps free on each side of its text
 constexpr int kAroundText = 3 * kBesideText;
+
+// What is always shown whole: a short key with its modifiers, and the name of a long one.
+constexpr const char16_t* kShown[] = {u"CTRL + Alt + W", u"\u2026 PRINT SCREEN"};
 
 }  // namespace
 
 QSize CKeyLineEdit::sizeHint() const {
   ensurePolished();
   const QFontMetrics metrics(font());
-  const QSize text(metrics.horizontalAdvance(QStringLiteral("CTRL + Alt + W")) + kAroundText,
-                   metrics.height());
+  int width = 0;
+  for (const char16_t* const shown : kShown) {
+    width = std::max(width, metrics.horizontalAdvance(QString::fromUtf16(shown)));
+  }
+  const QSize text(width + kAroundText, metrics.height());
   QStyleOptionFrame option;
   initStyleOption(&option);
   return style()
