@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QScrollBar>
 
+#include <utility>
+
 namespace {
 
 constexpr int kBeside = 12;  // pixels of what is around, so that one sees that there is more
@@ -27,16 +29,19 @@ void CPageScroller::setLimit(QSize limit) {
 
 QSize CPageScroller::sizeHint() const {
   if (widget() == nullptr) return {};
-  const QSize page = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
-  bool isTall = page.height() > limit_.height();
-  const int width = page.width() + (isTall ? verticalScrollBar()->sizeHint().width() : 0);
-  const bool isWide = width > limit_.width();
-  int height = page.height() + (isWide ? horizontalScrollBar()->sizeHint().height() : 0);
-  // The bar below may be what is too much.
-  const bool isTallByTheBar = !isTall && height > limit_.height();
-  const QSize whole(isTallByTheBar ? width + verticalScrollBar()->sizeHint().width() : width,
-                    height);
-  return whole.boundedTo(limit_);
+  QSize size = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+  // A bar takes room away in the other direction, where that may be what is too much.
+  bool isTall = false;
+  bool isWide = false;
+  for (int bars = 0; bars < 2; ++bars) {
+    if (size.height() > limit_.height() && !std::exchange(isTall, true)) {
+      size.rwidth() += verticalScrollBar()->sizeHint().width();
+    }
+    if (size.width() > limit_.width() && !std::exchange(isWide, true)) {
+      size.rheight() += horizontalScrollBar()->sizeHint().height();
+    }
+  }
+  return size.boundedTo(limit_);
 }
 
 bool CPageScroller::event(QEvent* event) {

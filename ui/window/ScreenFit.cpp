@@ -62,9 +62,14 @@ void ScreenFit::comeUp() {
 }
 
 void ScreenFit::watch() {
+  // Other flags give a window another handle.
+  const QWindow* const handle = window_.windowHandle();
+  if (handle != handle_) {
+    handle_ = handle;
+    // Somebody drags the window there: it stays in his hand.
+    connect(handle, &QWindow::screenChanged, this, [this] { fitAgain(false); });
+  }
   if (std::exchange(isWatching_, true)) return;
-  // Somebody drags the window there: it stays in his hand.
-  connect(window_.windowHandle(), &QWindow::screenChanged, this, [this] { fitAgain(false); });
   const auto watchScreen = [this](QScreen* screen) {
     connect(screen, &QScreen::availableGeometryChanged, this, [this] { fitAgain(true); });
   };

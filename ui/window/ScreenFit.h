@@ -2,11 +2,12 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QPointer>
 #include <QRect>
 
 class CPageScroller;
-class QScreen;
 class QWidget;
+class QWindow;
 
 namespace brennet {
 
@@ -38,7 +39,8 @@ class ScreenFit : public QObject {
 
   QWidget& window_;
   CPageScroller* content_;
-  bool isWatching_ = false;
+  QPointer<const QWindow> handle_;  // whose screen is watched
+  bool isWatching_ = false;         // the screens
 };
 
 }  // namespace brennet

@@ -1,0 +1,85 @@
+// How large a page that may scroll asks to be.
+
+#include "ui/window/CPageScroller.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace brennet::test {
+namespace {
+
+constexpr int kBar = 8;
+
+class APageThatMayScroll : public testing::Test {
+ protected:
+  APageThatMayScroll() {
+    scroller.setStyleSheet(QStringLiteral(
+        "QScrollBar:vertical { width: 8px; } QScrollBar:horizontal { height: 8px; }"));
+    auto* const page = new QWidget;
+    auto* const layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* const content = new QWidget;
+    content->setFixedSize(100, 60);
+    layout->addWidget(content);
+    scroller.setWidget(page);
+    scroller.ensurePolished();
+    scroller.verticalScrollBar()->ensurePolished();
+    scroller.horizontalScrollBar()->ensurePolished();
+  }
+
+  CPageScroller scroller;
+};
+
+TEST_F(APageThatMayScroll, IsAsLargeAsItsPageWithinTheLimit) {
+  struct {
+    QSize limit, size;
+  } const kRows[] = {
+      {{1000, 1000}, {100, 60}},
+      {{100, 60}, {100, 60}},
+      {{1000, 59}, {100 + kBar, 59}},
+      {{99, 1000}, {99, 60 + kBar}},
+      {{100 + kBar, 30}, {100 + kBar, 30}},
+      // The one bar makes the other one necessary.
+      {{100 + kBar - 1, 59}, {100 + kBar - 1, 59}},
+      {{99, 60 + kBar - 1}, {99, 60 + kBar - 1}},
+      {{99, 60 + kBar}, {99, 60 + kBar}},
+      {{30, 20}, {30, 20}},
+      {{0, 0}, {0, 0}},
+  };
+  for (const auto& row : kRows) {
+    scroller.setLimit(row.limit);
+    EXPECT_EQ(scroller.sizeHint(), row.size) << row.limit.width() << " x " << row.limit.height();
+    EXPECT_EQ(scroller.minimumSizeHint(), row.size) << "nothing makes it smaller";
+  }
+}
+
+// What is asked for is enough: in it the page has no bar that its limit does not force.
+TEST_F(APageThatMayScroll, HasTheBarsThatItsLimitAsksFor) {
+  struct {
+    QSize limit;
+    bool isTall, isWide;
+  } const kRows[] = {
+      {{1000, 1000}, false, false},       {{1000, 59}, true, false}, {{99, 1000}, false, true},
+      {{100 + kBar - 1, 59}, true, true}, {{30, 20}, true, true},
+  };
+  for (const auto& row : kRows) {
+    scroller.setLimit(row.limit);
+    scroller.resize(scroller.sizeHint());
+    scroller.show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(scroller.verticalScrollBar()->isVisible(), row.isTall) << row.limit.height();
+    EXPECT_EQ(scroller.horizontalScrollBar()->isVisible(), row.isWide) << row.limit.width();
+    scroller.hide();
+  }
+}
+
+TEST(AnEmptyScroller, AsksForNothing) {
+  const CPageScroller scroller;
+  EXPECT_FALSE(scroller.sizeHint().isValid());
+}
+
+}  // namespace
+}  // namespace brennet::test
