@@ -185,6 +185,29 @@ TEST_F(TheSettingsSheet, KeepsTheStateOfASmallPictureWithTheFocus) {
   }
 }
 
+// What is around a small picture is room to be hit, and stays empty.
+TEST_F(TheSettingsSheet, DrawsNothingAroundSmallPicturesWithTheFocus) {
+  QApplication::setActiveWindow(&window_);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+  struct {
+    const char* name;
+    int size;  // with the frame of the focus
+  } const kRows[] = {{"btnClose", 14}, {"btnCloseNotice", 14}, {"btn_skillcast_1", 15}};
+  for (const auto& row : kRows) {
+    auto* const button = make<QPushButton>(row.name);
+    button->setFocus();
+    const QImage picture = pictureOf(*button);
+    QRegion drawn;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) {
+        if (picture.pixel(x, y) != kBelow) drawn += QRect(x, y, 1, 1);
+      }
+    }
+    EXPECT_EQ(drawn.boundingRect().size(), QSize(row.size, row.size)) << row.name;
+    delete button;
+  }
+}
+
 // Nobody has to aim: what can be clicked is 24 pixels high at the least.
 TEST_F(TheSettingsSheet, MakesEverythingLargeEnoughToBeHit) {
   constexpr int kLeast = 24;
