@@ -1,6 +1,7 @@
 // What the settings dialog tells of keys that a load could not use.
 
 #include <QPushButton>
+#include <QTextDocument>
 #include <QTranslator>
 
 #include "model/LoadReport.h"
@@ -33,6 +34,17 @@ class NoticeOfTheDialog : public SettingsDialog {
   }
   CNoticeStrip* strip() { return dialog->findChild<CNoticeStrip*>(); }
   QLabel& notice() { return find<QLabel>("lblNotice"); }
+  // The lines of its tool tip, as Qt shows it.
+  QStringList toolTipText() {
+    QTextDocument document;
+    const QString toolTip = notice().toolTip();
+    if (Qt::mightBeRichText(toolTip)) {
+      document.setHtml(toolTip);
+    } else {
+      document.setPlainText(toolTip);
+    }
+    return document.toPlainText().split(QLatin1Char('\n'));
+  }
 
  private:
   QTranslator english_;
@@ -61,8 +73,21 @@ TEST_F(NoticeOfTheDialog, HasRoomForTheFirstFewAndAllInItsToolTip) {
   EXPECT_TRUE(notice().text().startsWith(QLatin1String("40 keys")));
   EXPECT_TRUE(notice().text().endsWith(QLatin1String("; ...")));
   EXPECT_EQ(notice().text().count(QLatin1String("Hero skill 1")), 4);
-  EXPECT_EQ(notice().toolTip().count(QLatin1Char('\n')), 39);
-  EXPECT_EQ(notice().accessibleDescription(), notice().toolTip());
+  EXPECT_EQ(toolTipText().size(), 40);
+  EXPECT_EQ(notice().accessibleDescription().split(QLatin1Char('\n')), toolTipText());
+}
+
+// Whoever wrote the file wrote that text: it is no markup, which could name files to be read.
+TEST_F(NoticeOfTheDialog, ShowsMarkupOfTheFileAsText) {
+  LoadReport report;
+  report.droppedKeys.emplace_back().slot = {SettingId::MouseKey, 0};
+  report.droppedKeys.back().text = u"<b>&amp;<img src=x>";
+  report.droppedKeys.push_back(report.droppedKeys.back());
+  dialog->tellDroppedKeys(report);
+  const QString line = QStringLiteral("Wheel up: \"<b>&amp;<img src=x>\" is no key");
+  EXPECT_EQ(toolTipText(), QStringList({line, line}));
+  EXPECT_EQ(notice().accessibleDescription(), line + QLatin1Char('\n') + line);
+  EXPECT_EQ(notice().textFormat(), Qt::PlainText);
 }
 
 TEST_F(NoticeOfTheDialog, StandsBelowTheTitleAndCutsNothing) {

@@ -5,6 +5,18 @@
 
 #include "ui/window/CPictureButton.h"
 
+namespace {
+
+// A tool tip shows what looks like markup as that, whoever has written it, and reads the pictures
+// that it names.
+QString plainToolTip(const QString& text) {
+  QString markup = text.toHtmlEscaped();
+  markup.replace(QLatin1Char('\n'), QLatin1String("<br>"));
+  return QStringLiteral("<p style='white-space: pre'>%1</p>").arg(markup);
+}
+
+}  // namespace
+
 CNoticeStrip::CNoticeStrip(const QString& text, const QString& details, QWidget* parent)
     : QWidget(parent) {
   setAttribute(Qt::WA_StyledBackground);
@@ -14,7 +26,7 @@ CNoticeStrip::CNoticeStrip(const QString& text, const QString& details, QWidget*
   label->setWordWrap(true);
   // As wide as the window is without it.
   label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
-  label->setToolTip(details);
+  label->setToolTip(plainToolTip(details));
   label->setAccessibleDescription(details);
 
   auto* const close = new CPictureButton;

@@ -11,7 +11,7 @@ class CNoticeStrip : public QWidget {
 
  public:
   // `text` is shown in as many lines as it takes; `details` are the tool tip, and what assistive
-  // technology reads.
+  // technology reads. Both are plain text, whatever they look like.
   CNoticeStrip(const QString& text, const QString& details, QWidget* parent);
 
  signals:
