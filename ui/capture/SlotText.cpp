@@ -111,7 +111,9 @@ QString keyText(KeyWord key) {
 QString shortened(const std::u16string& text) {
   constexpr int kLongest = 24;
   const QString line = QString::fromStdU16String(text).simplified();
-  return line.size() <= kLongest ? line : line.left(kLongest) + QChar(u'\u2026');
+  if (line.size() <= kLongest) return line;
+  const int whole = line.at(kLongest - 1).isHighSurrogate() ? kLongest - 1 : kLongest;
+  return line.left(whole) + QChar(u'\u2026');
 }
 
 }  // namespace

@@ -96,6 +96,13 @@ TEST_F(SlotTexts, TellWhatBecameOfAKeyOfAFile) {
   dropped.text = u"  twelve\r\nhundred and some more of that  ";
   EXPECT_EQ(droppedKeyText(dropped, 2),
             QStringLiteral(u"Wheel up: \"twelve hundred and some \u2026\" is no key"));
+  dropped.text = u"twelve hundred and some\U0001F600\U0001F600";
+  EXPECT_EQ(droppedKeyText(dropped, 2),
+            QStringLiteral(u"Wheel up: \"twelve hundred and some\u2026\" is no key"))
+      << "no half of a character";
+  dropped.text = u"twelve hundred and som\U0001F600!!";
+  EXPECT_EQ(droppedKeyText(dropped, 2),
+            QStringLiteral(u"Wheel up: \"twelve hundred and som\U0001F600\u2026\" is no key"));
 }
 
 }  // namespace
