@@ -369,7 +369,7 @@ void CHotkeySettingDlg::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   const bool isSkinned = !isFirstShow_ || applySkin();
   isFirstShow_ = false;
-  fit_->comeUp();
+  fit_->comeUp(*event);
   // Windows shows tool windows without giving them the keyboard.
   activateWindow();
   if (isSkinned) return;

@@ -34,5 +34,5 @@ bool COrrerySettingDlg::nativeEvent(const QByteArray& eventType, void* message, 
 
 void COrrerySettingDlg::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  fit_->comeUp();
+  fit_->comeUp(*event);
 }

@@ -161,7 +161,7 @@ brennet::DraggableWindow CMsgBox::dragged() const {
 void CMsgBox::showEvent(QShowEvent* event) {
   layout()->setMenuBar(titleStrip());
   QMessageBox::showEvent(event);
-  fit_->comeUp();
+  fit_->comeUp(*event);
 }
 
 // The panel of the buttons goes on to the edges of the box, as far as its border.

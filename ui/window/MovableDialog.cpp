@@ -26,7 +26,7 @@ void MovableDialog::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   isDragged_ = false;  // what hid the window may have kept the release
   if (fit_ == nullptr) fit_ = new ScreenFit(*this);
-  fit_->comeUp();
+  fit_->comeUp(*event);
 }
 
 }  // namespace brennet

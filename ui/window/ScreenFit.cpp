@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QLayout>
 #include <QScreen>
+#include <QShowEvent>
 #include <QTimer>
 #include <QWidget>
 #include <QWindow>
@@ -47,8 +48,11 @@ QPoint cornerInside(const QRect& area, QSize size, QPoint corner) {
 ScreenFit::ScreenFit(QWidget& window)
     : QObject(&window), window_(window), content_(window.findChild<CPageScroller*>()) {}
 
-void ScreenFit::comeUp() {
+void ScreenFit::comeUp(const QShowEvent& shown) {
   if (!window_.isWindow()) return;  // somebody has put it into another one
+  // The system shows it again, after it was minimized: where the player had it. The system has
+  // dragged it there, so that Qt does not know it as moved.
+  if (shown.spontaneous()) return fitAgain(true);
   // Who has moved the window wants it there.
   const bool isMoved = window_.testAttribute(Qt::WA_Moved);
   const HostPlace host = hostPlaceOf(window_);

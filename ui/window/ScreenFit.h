@@ -6,6 +6,7 @@
 #include <QRect>
 
 class CPageScroller;
+class QShowEvent;
 class QWidget;
 class QWindow;
 
@@ -23,11 +24,12 @@ class ScreenFit : public QObject {
   // the window keeps its size.
   explicit ScreenFit(QWidget& window);
 
-  // To be called when the window is shown and has its final look. A window that nobody has moved
-  // comes up in the middle of the one that it belongs to: its parent's, its transient parent or the
-  // one that the player has before him. All come up on the screen of that window, and stay inside
-  // when the screen changes or is taken away.
-  void comeUp();
+  // To be called when the window gets the event `shown` and has its final look. A window that
+  // nobody has moved comes up in the middle of the one that it belongs to: its parent's, its
+  // transient parent or the one that the player has before him. All come up on the screen of that
+  // window, and stay inside when the screen changes or is taken away. What was minimized comes back
+  // where it was.
+  void comeUp(const QShowEvent& shown);
 
   // To be called when the window has got another content while it is shown.
   void refit() { fitAgain(true); }

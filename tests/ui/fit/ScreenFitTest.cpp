@@ -110,6 +110,22 @@ TEST_F(OnADesk, StaysWhereThePlayerHasPutIt) {
   EXPECT_EQ(dialog->pos(), available(kRight).topLeft() + QPoint(7, 0));
 }
 
+// The system drags it, and Qt does not count that as a move.
+TEST_F(OnADesk, StaysWhereItWasDraggedToWhenItIsMinimizedMeanwhile) {
+  showHost(kMiddle);
+  dialog->show();
+  QCoreApplication::processEvents();
+  const QPoint place = available(kMiddle).topLeft() + QPoint(7, 9);
+  dialog->windowHandle()->setPosition(place);
+  QCoreApplication::processEvents();
+  ASSERT_EQ(dialog->pos(), place);
+  dialog->showMinimized();
+  QCoreApplication::processEvents();
+  dialog->showNormal();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(dialog->pos(), place);
+}
+
 TEST_F(OnADesk, GoesToAScreenThatIsThereWhenItsOwnIsTakenAway) {
   showHost(kRight);
   dialog->show();
