@@ -96,9 +96,12 @@ void ScreenFit::limitTo(QSize available) const {
   QLayout& layout = *window_.layout();
   content_->setLimit({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
   renewSizes(*content_, window_);
-  const QSize around = layout.totalSizeHint() - content_->sizeHint();
-  content_->setLimit(available - around.expandedTo({0, 0}));
-  renewSizes(*content_, window_);
+  // Twice: a notice takes more lines, and with them height, where its window becomes narrower.
+  for (int pass = 0; pass < 2; ++pass) {
+    const QSize around = layout.totalSizeHint() - content_->sizeHint();
+    content_->setLimit(available - around.expandedTo({0, 0}));
+    renewSizes(*content_, window_);
+  }
   window_.resize(layout.totalSizeHint());
 }
 

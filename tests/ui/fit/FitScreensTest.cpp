@@ -4,11 +4,13 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QImage>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 
 #include <algorithm>
 
+#include "model/LoadReport.h"
 #include "tests/ui/fit/FitWindows.h"
 #include "tests/ui/pages/PageChecks.h"
 #include "ui/CHotkeySettingDlg.h"
@@ -68,6 +70,29 @@ TEST_P(FitWindows, ComesUpWholeWithLargeLetters) {
       expectInside(*dialog, screens.at(0).availableGeometry(), kEnds);
       expectFocusIsShown(*dialog);
     }
+  }
+}
+
+// What is told below the title takes more lines where the window is narrow.
+TEST_P(FitWindows, ComesUpWholeWithANotice) {
+  LoadReport report;
+  for (int i = 0; i < 4; ++i) {
+    DroppedKey& dropped = report.droppedKeys.emplace_back();
+    dropped.scheme = 1;
+    dropped.slot = {SettingId::SecretaryKey, static_cast<std::uint8_t>(i % 3)};
+    dropped.key = KeyWord('A', KeyWord::kAlt);
+    dropped.conflict = KeyConflict{KeyConflict::Reason::Held, dropped.slot};
+  }
+  constexpr int kHeight = 500;
+  for (int width = 560; width <= 1280; width += 40) {
+    SCOPED_TRACE(width);
+    const TestScreens screens({{{width, kHeight}}});
+    CHotkeySettingDlg dialog(config, manager);
+    dialog.tellDroppedKeys(report);
+    showWindow(dialog);
+    expectInside(dialog, screens.at(0).availableGeometry(), kEnds);
+    const auto& notice = *dialog.findChild<QLabel*>(QStringLiteral("lblNotice"));
+    EXPECT_GE(notice.height(), notice.heightForWidth(notice.width()));
   }
 }
 
