@@ -101,6 +101,11 @@ TEST_F(NoticeOfTheDialog, StandsBelowTheTitleAndCutsNothing) {
   EXPECT_GE(notice().height(), notice().heightForWidth(notice().width()));
   EXPECT_EQ(dialog->height(), without.height() + strip()->height());
   expectNothingIsCut(*dialog);
+  const auto rightOf = [&](const char* name) {
+    auto& button = find<QPushButton>(name);
+    return button.mapTo(dialog.get(), button.rect().topRight()).x();
+  };
+  EXPECT_EQ(rightOf("btnCloseNotice"), rightOf("btnClose")) << "below each other";
 }
 
 TEST_F(NoticeOfTheDialog, GoesWhenItIsClosed) {

@@ -40,7 +40,7 @@ CNoticeStrip::CNoticeStrip(const QString& text, const QString& details, QWidget*
   });
 
   auto* const row = new QHBoxLayout(this);
-  row->setContentsMargins(10, 4, 6, 4);
+  row->setContentsMargins(10, 4, 10, 4);  // as the title above has
   row->addWidget(label, 1);
   row->addWidget(close, 0, Qt::AlignTop);
 }
