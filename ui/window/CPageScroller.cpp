@@ -17,8 +17,13 @@ CPageScroller::CPageScroller(QWidget* parent) : QScrollArea(parent) {
   setWidgetResizable(true);
   setFocusPolicy(Qt::NoFocus);
   viewport()->setAutoFillBackground(false);
-  connect(qApp, &QApplication::focusChanged, this,
-          [this](QWidget* /*old*/, QWidget* now) { showFocus(now); });
+  focus_ = connect(qApp, &QApplication::focusChanged, this,
+                   [this](QWidget* /*old*/, QWidget* now) { showFocus(now); });
+}
+
+// What is inside goes later, and may have the focus still: nobody must be told of that any more.
+CPageScroller::~CPageScroller() {
+  disconnect(focus_);
 }
 
 void CPageScroller::setLimit(QSize limit) {

@@ -10,6 +10,7 @@ class CPageScroller : public QScrollArea {
 
  public:
   explicit CPageScroller(QWidget* parent = nullptr);
+  ~CPageScroller() override;
 
   // The largest size that it may ask for, scroll bars included, in pixels.
   void setLimit(QSize limit);
@@ -26,4 +27,5 @@ class CPageScroller : public QScrollArea {
   void showFocus(QWidget* focus);
 
   QSize limit_{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+  QMetaObject::Connection focus_;  // to what tells where the focus is
 };
