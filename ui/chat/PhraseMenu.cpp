@@ -19,9 +19,9 @@ bool hasText(const QLineEdit& field) {
 
 struct Entry {
   const char* text;
-  QKeySequence::StandardKey key;
   void (*act)(QLineEdit& field);
   bool (*isPossible)(const QLineEdit& field);
+  QKeySequence::StandardKey key;
   bool opensGroup = false;  // a line stands above it
 };
 
@@ -37,20 +37,20 @@ void done(QLineEdit& field) {
 
 // The texts are Qt's, so that a catalogue of Qt's own serves as well as one of this component.
 constexpr Entry kEntries[] = {
-    {QT_TRANSLATE_NOOP("QLineEdit", "&Undo"), QKeySequence::Undo, done<&QLineEdit::undo>,
-     asked<&QLineEdit::isUndoAvailable>},
-    {QT_TRANSLATE_NOOP("QLineEdit", "&Redo"), QKeySequence::Redo, done<&QLineEdit::redo>,
-     asked<&QLineEdit::isRedoAvailable>},
-    {QT_TRANSLATE_NOOP("QLineEdit", "Cu&t"), QKeySequence::Cut, done<&QLineEdit::cut>,
-     asked<&QLineEdit::hasSelectedText>, true},
-    {QT_TRANSLATE_NOOP("QLineEdit", "&Copy"), QKeySequence::Copy, done<&QLineEdit::copy>,
-     asked<&QLineEdit::hasSelectedText>},
-    {QT_TRANSLATE_NOOP("QLineEdit", "&Paste"), QKeySequence::Paste, done<&QLineEdit::paste>,
-     canPaste},
-    {QT_TRANSLATE_NOOP("QLineEdit", "Delete"), QKeySequence::UnknownKey, done<&QLineEdit::del>,
-     asked<&QLineEdit::hasSelectedText>},
-    {QT_TRANSLATE_NOOP("QLineEdit", "Select All"), QKeySequence::SelectAll,
-     done<&QLineEdit::selectAll>, hasText, true},
+    {QT_TRANSLATE_NOOP("QLineEdit", "&Undo"), done<&QLineEdit::undo>,
+     asked<&QLineEdit::isUndoAvailable>, QKeySequence::Undo},
+    {QT_TRANSLATE_NOOP("QLineEdit", "&Redo"), done<&QLineEdit::redo>,
+     asked<&QLineEdit::isRedoAvailable>, QKeySequence::Redo},
+    {QT_TRANSLATE_NOOP("QLineEdit", "Cu&t"), done<&QLineEdit::cut>,
+     asked<&QLineEdit::hasSelectedText>, QKeySequence::Cut, true},
+    {QT_TRANSLATE_NOOP("QLineEdit", "&Copy"), done<&QLineEdit::copy>,
+     asked<&QLineEdit::hasSelectedText>, QKeySequence::Copy},
+    {QT_TRANSLATE_NOOP("QLineEdit", "&Paste"), done<&QLineEdit::paste>, canPaste,
+     QKeySequence::Paste},
+    {QT_TRANSLATE_NOOP("QLineEdit", "Delete"), done<&QLineEdit::del>,
+     asked<&QLineEdit::hasSelectedText>, QKeySequence::UnknownKey},
+    {QT_TRANSLATE_NOOP("QLineEdit", "Select All"), done<&QLineEdit::selectAll>, hasText,
+     QKeySequence::SelectAll, true},
 };
 
 void showMenu(QLineEdit& field, QPoint place) {

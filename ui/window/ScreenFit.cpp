@@ -4,7 +4,6 @@
 #include <QLayout>
 #include <QScreen>
 #include <QShowEvent>
-#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -80,8 +79,9 @@ void ScreenFit::watch() {
   for (QScreen* const screen : QGuiApplication::screens()) watchScreen(screen);
   connect(qGuiApp, &QGuiApplication::screenAdded, this, watchScreen);
   // Qt moves the window to another screen when all have been told.
-  connect(qGuiApp, &QGuiApplication::screenRemoved, this,
-          [this] { QTimer::singleShot(0, this, [this] { fitAgain(true); }); });
+  connect(
+      qGuiApp, &QGuiApplication::screenRemoved, this, [this] { fitAgain(true); },
+      Qt::QueuedConnection);
 }
 
 void ScreenFit::fitAgain(bool moves) {
