@@ -110,7 +110,7 @@ QString keyText(KeyWord key) {
 // Files hold texts of any length.
 QString shortened(const std::u16string& text) {
   constexpr int kLongest = 24;
-  const QString line = QString::fromStdU16String(text).simplified();
+  QString line = QString::fromStdU16String(text).simplified();
   if (line.size() <= kLongest) return line;
   const int whole = line.at(kLongest - 1).isHighSurrogate() ? kLongest - 1 : kLongest;
   return line.left(whole) + QChar(u'\u2026');
@@ -122,7 +122,7 @@ QString slotText(KeySlot slot) {
   for (const SlotName& row : kNames) {
     const auto number = numberIn(row, slot);
     if (!number) continue;
-    const QString text = translated(row.text);
+    QString text = translated(row.text);
     if (row.count == 1) return text;
     return text.arg(slot.setting == SettingId::ItemKey ? itemDigit(*number)
                                                        : QString::number(*number + 1));
