@@ -31,7 +31,6 @@ QScreen& screenOf(const QWidget& window) {
 // when events are handled, which would be too late for the place of the window.
 void renewSizes(QWidget& inner, const QWidget& window) {
   for (QWidget* widget = &inner; widget != &window; widget = widget->parentWidget()) {
-    if (widget->layout() != nullptr) widget->layout()->activate();
     widget->updateGeometry();
   }
   window.layout()->activate();
@@ -59,9 +58,15 @@ void ScreenFit::comeUp(const QShowEvent& shown) {
   limitTo(area.size());
   const QPoint corner = isMoved ? window_.pos() : host.centre - window_.rect().center();
   // In one step: on its way the window would be counted to a screen of another scale.
-  window_.move(cornerInside(area, window_.size(), corner));
-  window_.setAttribute(Qt::WA_Moved, isMoved);
+  moveTo(cornerInside(area, window_.size(), corner));
   watch();
+}
+
+// That is no move by somebody.
+void ScreenFit::moveTo(QPoint corner) const {
+  const bool isMoved = window_.testAttribute(Qt::WA_Moved);
+  window_.move(corner);
+  window_.setAttribute(Qt::WA_Moved, isMoved);
 }
 
 void ScreenFit::watch() {
@@ -88,7 +93,7 @@ void ScreenFit::fitAgain(bool moves) {
   if (!window_.isVisible()) return;
   const QRect area = screenOf(window_).availableGeometry();
   limitTo(area.size());
-  if (moves) window_.move(cornerInside(area, window_.size(), window_.pos()));
+  if (moves) moveTo(cornerInside(area, window_.size(), window_.pos()));
 }
 
 void ScreenFit::limitTo(QSize available) const {
@@ -99,7 +104,7 @@ void ScreenFit::limitTo(QSize available) const {
   // Twice: a notice takes more lines, and with them height, where its window becomes narrower.
   for (int pass = 0; pass < 2; ++pass) {
     const QSize around = layout.totalSizeHint() - content_->sizeHint();
-    content_->setLimit(available - around.expandedTo({0, 0}));
+    content_->setLimit((available - around).expandedTo({0, 0}));
     renewSizes(*content_, window_);
   }
   window_.resize(layout.totalSizeHint());

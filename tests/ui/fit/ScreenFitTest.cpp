@@ -130,6 +130,7 @@ TEST_F(OnADesk, GoesToAScreenThatIsThereWhenItsOwnIsTakenAway) {
   showHost(kRight);
   dialog->show();
   expectDialogIn(available(kRight));
+  screens.setAvailable(kMiddle, {60, 40, 1000, 500});
   screens.unplug(kRight);
   QTest::qWait(1);
   ASSERT_TRUE(dialog->isVisible());
@@ -148,6 +149,53 @@ TEST_F(OnADesk, GivesWayToALargerTaskBar) {
   QCoreApplication::processEvents();
   EXPECT_EQ(dialog->size(), dialog->sizeHint()) << "and has its whole size again";
   EXPECT_GT(dialog->height(), 500);
+}
+
+TEST_F(OnADesk, ComesUpOverTheHostEachTime) {
+  showHost(kRight);
+  dialog->show();
+  // What makes room for a task bar is no move by the player.
+  screens.setAvailable(kRight, {0, 0, 1366, 500});
+  QCoreApplication::processEvents();
+  dialog->hide();
+  screens.setAvailable(kRight, {0, 0, 1366, 700});
+  QCoreApplication::processEvents();
+  host.move(available(kMiddle).center() - host.rect().center());
+  QApplication::setActiveWindow(&host);
+  dialog->show();
+  expectDialogIn(available(kMiddle));
+}
+
+TEST_F(OnADesk, StaysInTheHandThatDragsItToASmallerScreen) {
+  screens.setAvailable(kRight, {0, 0, 900, 500});
+  showHost(kMiddle);
+  dialog->show();
+  const QPoint corner = available(kRight).topLeft() + QPoint(200, 100);
+  screens.drag(*dialog, kRight, corner);
+  EXPECT_EQ(dialog->pos(), corner);
+  EXPECT_LE(dialog->width(), 900);
+  EXPECT_LE(dialog->height(), 500);
+}
+
+TEST_F(OnADesk, KnowsScreensThatArePluggedInLater) {
+  showHost(kMiddle);
+  dialog->show();
+  screens.plug({{1366, 768}, 100, {0, 1080}});
+  constexpr int kNew = 3;
+  screens.drag(*dialog, kNew, {20, 1090});
+  screens.setAvailable(kNew, {0, 0, 900, 500});
+  QCoreApplication::processEvents();
+  expectDialogIn(QRect(0, 1080, 900, 500));
+}
+
+TEST_F(OnADesk, KeepsItsTitleAndItsButtonsOnAScreenThatIsTooSmallForMore) {
+  screens.setAvailable(kMiddle, {0, 0, 500, 60});
+  showHost(kMiddle);
+  dialog->show();
+  const QRect title = find<QWidget>("titleWidget").geometry();
+  EXPECT_EQ(dialog->pos(), available(kMiddle).topLeft());
+  EXPECT_GT(find<QWidget>("btnOK").geometry().top(), title.bottom());
+  EXPECT_TRUE(dialog->rect().contains(find<QWidget>("btnOK").geometry()));
 }
 
 TEST_F(OnADesk, OpensItsBoxesBesideIt) {

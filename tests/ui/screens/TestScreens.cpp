@@ -48,14 +48,23 @@ QSize ScreenShape::available() const {
 }
 
 TestScreens::TestScreens(const QVector<ScreenShape>& shapes) {
-  for (const ScreenShape& shape : shapes) {
-    auto* const screen = new TestScreen(shape);
-    QWindowSystemInterface::handleScreenAdded(screen, screens_.isEmpty());
-    screens_ += screen->screen();
-    if (shape.percent != 100) {
-      QHighDpiScaling::setScreenFactor(screen->screen(), shape.percent / 100.0);
-    }
+  for (const ScreenShape& shape : shapes) plug(shape);
+}
+
+void TestScreens::plug(const ScreenShape& shape) {
+  auto* const screen = new TestScreen(shape);
+  QWindowSystemInterface::handleScreenAdded(screen, screens_.isEmpty());
+  screens_ += screen->screen();
+  if (shape.percent != 100) {
+    QHighDpiScaling::setScreenFactor(screen->screen(), shape.percent / 100.0);
   }
+}
+
+void TestScreens::drag(QWidget& window, int number, QPoint corner) const {
+  window.windowHandle()->setPosition(corner);
+  QCoreApplication::processEvents();
+  QWindowSystemInterface::handleWindowScreenChanged(window.windowHandle(), screens_[number]);
+  QCoreApplication::processEvents();
 }
 
 TestScreens::~TestScreens() {

@@ -37,6 +37,10 @@ class TestScreens {
   [[nodiscard]] static QRect pixelsOf(const QWidget& window);
   // The part of the screen that is free for windows, likewise.
   [[nodiscard]] QRect availablePixels(int number) const;
+  // Somebody plugs another one in.
+  void plug(const ScreenShape& shape);
+  // The system moves the window there, as when the player drags it, and tells Qt the screen.
+  void drag(QWidget& window, int number, QPoint corner) const;
   // Somebody pulls the plug: what was on it goes where Qt puts it.
   void unplug(int number);
   // Another task bar or another resolution leaves this part of the screen, in units, from its
