@@ -106,6 +106,7 @@ TEST_F(NoticeOfTheDialog, StandsBelowTheTitleAndCutsNothing) {
     return button.mapTo(dialog.get(), button.rect().topRight()).x();
   };
   EXPECT_EQ(rightOf("btnCloseNotice"), rightOf("btnClose")) << "below each other";
+  EXPECT_EQ(strip()->grab().toImage().pixel(2, strip()->height() / 2), 0xFF2F384E) << "in the skin";
 }
 
 TEST_F(NoticeOfTheDialog, GoesWhenItIsClosed) {
@@ -113,7 +114,13 @@ TEST_F(NoticeOfTheDialog, GoesWhenItIsClosed) {
   ASSERT_NO_FATAL_FAILURE(show());
   const QSize with = dialog->size();
   EXPECT_TRUE(tabOrder(*dialog).contains(QStringLiteral("btnCloseNotice")));
-  find<QPushButton>("btnCloseNotice").click();
+  auto& close = find<QPushButton>("btnCloseNotice");
+  EXPECT_EQ(close.accessibleName(), close.toolTip());
+  EXPECT_FALSE(close.toolTip().isEmpty());
+  close.setFocus();
+  QTest::keyClick(&close, Qt::Key_Return);
+  EXPECT_TRUE(strip()->isVisible()) << "Return is no click in this dialog";
+  QTest::keyClick(&close, Qt::Key_Space);
   QCoreApplication::processEvents();
   EXPECT_FALSE(strip()->isVisible());
   EXPECT_LT(dialog->height(), with.height());

@@ -104,7 +104,7 @@ void ScreenFit::limitTo(QSize available) const {
   // Twice: a notice takes more lines, and with them height, where its window becomes narrower.
   for (int pass = 0; pass < 2; ++pass) {
     const QSize around = layout.totalSizeHint() - content_->sizeHint();
-    content_->setLimit((available - around).expandedTo({0, 0}));
+    content_->setLimit(available - around);
     renewSizes(*content_, window_);
   }
   window_.resize(layout.totalSizeHint());

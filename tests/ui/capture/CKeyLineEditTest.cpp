@@ -56,6 +56,12 @@ TEST_F(ANarrowKeyField, ShowsTheEndOfAKeyThatIsTooLong) {
   EXPECT_EQ(field.text(), QStringLiteral("CTRL +Alt + PAGEDOWN")) << "all of it for who reads it";
 }
 
+TEST_F(ANarrowKeyField, IsAsHighAsAFieldForText) {
+  QLineEdit other(&window);
+  other.show();
+  EXPECT_EQ(field.sizeHint().height(), other.sizeHint().height());
+}
+
 TEST_F(ANarrowKeyField, DrawsWhatItShows) {
   show("CTRL +Alt + PAGEDOWN");
   const QImage cut = picture();

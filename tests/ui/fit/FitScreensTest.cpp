@@ -93,6 +93,10 @@ TEST_P(FitWindows, ComesUpWholeWithANotice) {
     expectInside(dialog, screens.at(0).availableGeometry(), kEnds);
     const auto& notice = *dialog.findChild<QLabel*>(QStringLiteral("lblNotice"));
     EXPECT_GE(notice.height(), notice.heightForWidth(notice.width()));
+    dialog.findChild<QPushButton*>(QStringLiteral("btnCloseNotice"))->click();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(dialog.height(), screens.at(0).availableGeometry().height())
+        << "the page has the room that becomes free";
   }
 }
 

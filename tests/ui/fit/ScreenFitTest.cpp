@@ -10,6 +10,8 @@
 
 #include "tests/ui/SettingsDialogTest.h"
 #include "tests/ui/screens/TestScreens.h"
+#include "ui/pages/COrrerySettingDlg.h"
+#include "ui/pages/ChatKeySettingWidget.h"
 
 namespace brennet::test {
 namespace {
@@ -220,6 +222,40 @@ TEST_F(OnADesk, KeepsAClickWhereItIs) {
   EXPECT_TRUE(box.hasFocus());
   EXPECT_EQ(box.mapToGlobal({}), before) << "the page must not move under the mouse";
   QTest::mouseRelease(&box, Qt::LeftButton);
+}
+
+// Whichever window is active: what belongs to the dialog comes up over it.
+TEST_F(OnADesk, OpensItsWindowsOverIt) {
+  showHost(kMiddle);
+  dialog->move(available(kRight).topLeft());
+  dialog->show();
+  QCoreApplication::processEvents();
+  auto& chat = *dialog->findChild<ChatKeySettingWidget*>();
+  const auto expectOverTheDialog = [&](const QWidget& window) {
+    EXPECT_TRUE(available(kRight).contains(window.frameGeometry()));
+  };
+  QApplication::setActiveWindow(&host);
+  chat.show();
+  expectOverTheDialog(chat);
+  chat.hide();
+
+  page<CBasicSetting7Widget>().onClickedOrrerySettingBtn();
+  for (const QWidget* const window : QApplication::topLevelWidgets()) {
+    if (qobject_cast<const COrrerySettingDlg*>(window) != nullptr) expectOverTheDialog(*window);
+  }
+}
+
+TEST_F(OnADesk, OpensTheWindowsOfOneThatIsHiddenInTheMiddleOfItsScreen) {
+  showHost(kMiddle);
+  dialog->move(available(kRight).topLeft());
+  dialog->show();
+  QCoreApplication::processEvents();
+  dialog->hide();
+  dialog->windowHandle()->setPosition(available(kRight).topLeft() - QPoint(300, 0));
+  auto& chat = *dialog->findChild<ChatKeySettingWidget*>();
+  chat.show();
+  const QPoint middle = dialog->windowHandle()->screen()->availableGeometry().center();
+  EXPECT_LE((chat.geometry().center() - middle).manhattanLength(), 2);
 }
 
 // A dense screen in the middle, one of a laptop on its right, one of another scale on its left.
