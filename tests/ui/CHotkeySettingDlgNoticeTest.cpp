@@ -106,7 +106,9 @@ TEST_F(NoticeOfTheDialog, StandsBelowTheTitleAndCutsNothing) {
     return button.mapTo(dialog.get(), button.rect().topRight()).x();
   };
   EXPECT_EQ(rightOf("btnCloseNotice"), rightOf("btnClose")) << "below each other";
-  EXPECT_EQ(strip()->grab().toImage().pixel(2, strip()->height() / 2), 0xFF2F384E) << "in the skin";
+  const QImage picture = strip()->grab().toImage();
+  EXPECT_EQ(picture.pixel(2, 0), 0xFF6886B4) << "its border";
+  EXPECT_EQ(picture.pixel(2, picture.height() / 2), 0xFF2F384E) << "its background";
 }
 
 TEST_F(NoticeOfTheDialog, GoesWhenItIsClosed) {

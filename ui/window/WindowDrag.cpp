@@ -10,8 +10,6 @@
 #include <QWidget>
 #include <QWindow>
 
-#include "ui/window/CPageScroller.h"
-
 namespace brennet {
 namespace {
 
@@ -27,7 +25,6 @@ QPoint pointOf(std::intptr_t lParam) {
 
 // What only holds other controls, and shows nothing of its own between them.
 bool isEmptyArea(const QWidget& widget) {
-  if (qobject_cast<const CPageScroller*>(widget.parentWidget()) != nullptr) return true;
   return widget.layout() != nullptr && qobject_cast<const QGroupBox*>(&widget) == nullptr;
 }
 

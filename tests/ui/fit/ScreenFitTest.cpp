@@ -239,10 +239,16 @@ TEST_F(OnADesk, OpensItsWindowsOverIt) {
   expectOverTheDialog(chat);
   chat.hide();
 
+  QApplication::setActiveWindow(&host);
+  ASSERT_EQ(QApplication::activeWindow(), &host);
   page<CBasicSetting7Widget>().onClickedOrrerySettingBtn();
+  int orreries = 0;
   for (const QWidget* const window : QApplication::topLevelWidgets()) {
-    if (qobject_cast<const COrrerySettingDlg*>(window) != nullptr) expectOverTheDialog(*window);
+    if (qobject_cast<const COrrerySettingDlg*>(window) == nullptr || !window->isVisible()) continue;
+    expectOverTheDialog(*window);
+    ++orreries;
   }
+  EXPECT_EQ(orreries, 1);
 }
 
 TEST_F(OnADesk, OpensTheWindowsOfOneThatIsHiddenInTheMiddleOfItsScreen) {

@@ -48,6 +48,17 @@ TEST_F(ChatDialogEvents, IsMovedWithTheLeftButton) {
   EXPECT_EQ(dialog().pos(), QPoint(95, 93));
 }
 
+// What hides it may keep the release.
+TEST_F(ChatDialogEvents, IsNotMovedAnyMoreWhenItWasHiddenMeanwhile) {
+  dialog().show();
+  const QPoint corner = dialog().pos();
+  sendMouse(dialog(), kPress, Qt::LeftButton, corner + QPoint(5, 5));
+  dialog().hide();
+  dialog().show();
+  sendMouse(dialog(), kMove, Qt::NoButton, corner + QPoint(25, 25));
+  EXPECT_EQ(dialog().pos(), corner);
+}
+
 TEST_F(ChatDialogEvents, IsNotMovedWithOtherButtonsButTheyTakeItElsewhere) {
   dialog().move(100, 100);
   sendMouse(dialog(), kPress, Qt::RightButton, {105, 107});
