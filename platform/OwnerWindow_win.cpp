@@ -74,7 +74,8 @@ OwnerWindows disableOwnerWindows() {
 }
 
 std::optional<WindowFrame> ownerFrame() {
-  HWND const owner = rootOf(withoutChildren(findOwner()));
+  // Not its root: that may stand elsewhere, or be a window that is never seen.
+  HWND const owner = withoutChildren(findOwner());
   RECT frame = {};
   if (owner == nullptr || IsIconic(owner) != FALSE || GetWindowRect(owner, &frame) == FALSE) {
     return std::nullopt;

@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -19,6 +20,7 @@
 #include "ui/CHotkeySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/window/ModalRun.h"
+#include "ui/window/ScreenFit.h"
 
 namespace brennet::test {
 namespace {
@@ -238,6 +240,57 @@ TEST_F(SettingsBeforeAHost, GiveTheKeyboardToTheirOwnWindows) {
     });
     dialog.onShowHotKeySettingDlg();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog)) << "and have it again";
+  });
+}
+
+platform::WindowFrame frameOf(const HostWindow& window) {
+  RECT frame{};
+  GetWindowRect(window.handle(), &frame);
+  return {frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top};
+}
+
+void expectPlaceOf(const HostWindow& window) {
+  const auto place = platform::ownerFrame();
+  ASSERT_TRUE(place.has_value());
+  const platform::WindowFrame frame = frameOf(window);
+  EXPECT_EQ(place->left, frame.left);
+  EXPECT_EQ(place->top, frame.top);
+  EXPECT_EQ(place->width, frame.width);
+  EXPECT_EQ(place->height, frame.height);
+}
+
+void moveTo(const HostWindow& window, int x, int y) {
+  SetWindowPos(window.handle(), nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+TEST(ThePlaceOfTheHost, IsThatOfTheWindowThatThePlayerHasBeforeHim) {
+  const HostWindow root;
+  moveTo(root, 30, 20);
+  expectPlaceOf(root);
+  const HostWindow popup(popupOf(root));
+  moveTo(popup, 300, 200);
+  ASSERT_EQ(GetActiveWindow(), popup.handle());
+  expectPlaceOf(popup);
+}
+
+TEST(ThePlaceOfTheHost, IsNoneWithoutAWindowThatIsSeen) {
+  EXPECT_FALSE(platform::ownerFrame().has_value());
+  const HostWindow host;
+  ShowWindow(host.handle(), SW_MINIMIZE);
+  SetActiveWindow(host.handle());
+  EXPECT_FALSE(platform::ownerFrame().has_value());
+}
+
+TEST_F(SettingsBeforeAHost, ComeUpInTheMiddleOfIt) {
+  moveTo(host, 250, 300);
+  runSettings([&] {
+    const QScreen& screen = *dialog.screen();
+    const platform::WindowFrame frame = frameOf(host);
+    const QPoint middle(frame.left + frame.width / 2, frame.top + frame.height / 2);
+    const QPoint corner = middle / screen.devicePixelRatio() - dialog.rect().center();
+    EXPECT_LE((dialog.pos() - cornerInside(screen.availableGeometry(), dialog.size(), corner))
+                  .manhattanLength(),
+              2);
   });
 }
 
