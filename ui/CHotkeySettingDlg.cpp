@@ -34,9 +34,9 @@ namespace {
 constexpr unsigned kReturn = 0x0D;
 constexpr unsigned kEscape = 0x1B;
 
-// The pages of the stack.
 constexpr int kMostToldKeys = 4;  // of those that a load could not use; a tool tip has all
 
+// The pages of the stack.
 constexpr int kBasicPage = 0;
 constexpr int kDota7Page = 1;
 
