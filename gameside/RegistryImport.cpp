@@ -1,5 +1,6 @@
 #include "gameside/RegistryImport.h"
 
+#include <cstdint>
 #include <string>
 
 #include "gameside/Dota7Values.h"
@@ -12,9 +13,16 @@ namespace {
 
 constexpr std::u16string_view kFileName = u"Tollamere.reg";
 
+// The keys of DotA 7 take some 20 KiB. The editor would read any file into memory as a whole.
+constexpr std::uint64_t kLargestImport = 16U << 20U;
+
+platform::Path pathIn(const std::u16string& directory) {
+  return platform::pathFromUtf16(directory + std::u16string(kFileName));
+}
+
 // Whether that is the folder of the file, written so that the file's name can follow.
 bool hasFile(const std::u16string& directory) {
-  return platform::pathExists(platform::pathFromUtf16(directory + std::u16string(kFileName)));
+  return platform::pathExists(pathIn(directory));
 }
 
 }  // namespace
@@ -26,7 +34,8 @@ bool importDefaultRegistry(std::u16string_view directory) {
   if (!hasFile(folder) && !folder.empty()) {
     folder += static_cast<char16_t>(platform::Path::preferred_separator);
   }
-  return hasFile(folder) && platform::importRegFile(folder, kFileName);
+  return hasFile(folder) && !platform::isFileLarger(pathIn(folder), kLargestImport) &&
+         platform::importRegFile(folder, kFileName);
 }
 
 }  // namespace brennet

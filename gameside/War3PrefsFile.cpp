@@ -80,8 +80,12 @@ std::size_t valueStart(std::string_view line, std::string_view key) {
 War3PrefsFile::War3PrefsFile() : War3PrefsFile(gamePreferencesPath()) {}
 
 War3PrefsFile::War3PrefsFile(platform::Path path) : path_(std::move(path)) {
+  if (path_.empty()) return;
   std::string bytes;
-  if (path_.empty() || platform::readFile(path_, bytes)) return;
+  if (const std::error_code error = platform::readFile(path_, bytes, kLargestFile)) {
+    if (!platform::isMissing(error)) path_.clear();
+    return;
+  }
   parseText(textOfFile(bytes));
   fileBytes_ = std::move(bytes);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,8 +18,9 @@ namespace brennet {
 // their headers and pairs byte for byte. Writing puts the hotkey sections that were added first and
 // the plain sections behind them.
 //
-// Nothing is thrown but std::bad_alloc, and nothing is shown: what cannot be read is an empty file,
-// what cannot be written stays as it is. Texts are bytes; the game's encoding does not matter here.
+// Nothing is thrown but std::bad_alloc, and nothing is shown: what is not there is an empty file;
+// what is there and cannot be read at this moment, or cannot be written, stays as it is. Texts are
+// bytes; the game's encoding does not matter here.
 class War3PrefsFile {
  public:
   // A section while its lines are being read. `pairs` holds "key=value" lines, each closed by LF.
@@ -31,7 +33,11 @@ class War3PrefsFile {
   // folder, there is nothing to read and save() does nothing.
   War3PrefsFile();
 
-  // Reads the file at `path`. An empty path stands for no file.
+  // The largest file that is read, in bytes. The game's own has some 10 KiB.
+  static constexpr std::uint64_t kLargestFile = 256U << 20U;
+
+  // Reads the file at `path`. An empty path stands for no file. A file that is there and cannot be
+  // read, or is larger than kLargestFile, leaves nothing to be saved: save() does nothing.
   explicit War3PrefsFile(platform::Path path);
 
   // The content of a file without the file: save() does nothing.
@@ -63,8 +69,8 @@ class War3PrefsFile {
   void parseText(std::string_view text);
   void closeSection(PlainSection& section);
 
-  platform::Path path_;
-  // What the file held when it was last read or written; empty where it could not be read.
+  platform::Path path_;  // empty where there is nothing to write to
+  // What the file held when it was last read or written; empty where there was none.
   std::optional<std::string> fileBytes_;
   std::vector<War3HotkeySection> hotkeySections_;
   // The plain sections as they are written: header, pairs, blank line, each closed by LF. One text

@@ -44,12 +44,12 @@ bool MarkupDocument::parse(std::u16string text, ResultLog log, TextForm form) {
   return root != 0 && index_[root].next == 0 && !index_[root].has(ElementRecord::kError);
 }
 
-bool MarkupDocument::save(std::u16string_view path) {
+bool MarkupDocument::save(std::u16string_view path, platform::OldContent old) {
   if ((docFlags_ & (kReading | kWriting)) != 0) return false;
   std::u16string_view encoding = declaredEncoding(text_);
   if (encoding.empty() && !text_.empty()) encoding = u"UTF-8";
   ResultLog log;
-  const bool written = writeTextFile(path, text_, encoding, log, form_);
+  const bool written = writeTextFile(path, text_, encoding, log, form_, old);
   log_ = std::move(log);
   return written;
 }

@@ -10,6 +10,7 @@
 #include "markup/ResultLog.h"
 #include "markup/TextDecoding.h"
 #include "markup/TextForm.h"
+#include "platform/Files.h"
 
 namespace brennet {
 
@@ -56,8 +57,9 @@ class MarkupDocument {
   // Writes the document to the file at `path`, in the encoding it declares, or in UTF-8 when it
   // declares none. The result log starts afresh. A document that was loaded keeps its byte-order
   // mark and byte order. Returns whether the file was written; characters that the encoding lacks
-  // do not count. Refuses while a file mode flag is set.
-  bool save(std::u16string_view path);
+  // do not count. Refuses while a file mode flag is set. `old` tells what becomes of the file that
+  // is replaced.
+  bool save(std::u16string_view path, platform::OldContent old = platform::OldContent::Drop);
 
   // Moves the main position to the next sibling called `name` (any, if empty), from the first
   // child of the parent position when there is no main position; clears the child position.

@@ -27,7 +27,8 @@ void logError(const std::error_code& error, ResultLog& log) {
 bool readTextFile(std::u16string_view path, std::u16string& text, ResultLog& log,
                   std::size_t blockSize, TextForm* form) {
   std::string bytes;
-  if (const std::error_code error = platform::readFile(platform::pathFromUtf16(path), bytes)) {
+  const platform::Path file = platform::pathFromUtf16(path);
+  if (const std::error_code error = platform::readFile(file, bytes, kLargestTextFile)) {
     logError(error, log);
     return false;
   }
@@ -38,9 +39,10 @@ bool readTextFile(std::u16string_view path, std::u16string& text, ResultLog& log
 }
 
 bool writeTextFile(std::u16string_view path, std::u16string_view text, std::u16string_view encoding,
-                   ResultLog& log, const TextForm& form) {
+                   ResultLog& log, const TextForm& form, platform::OldContent old) {
   const std::string bytes = encodeText(text, encoding, log, form);
-  if (const std::error_code error = platform::replaceFile(platform::pathFromUtf16(path), bytes)) {
+  const platform::Path file = platform::pathFromUtf16(path);
+  if (const std::error_code error = platform::replaceFile(file, bytes, old)) {
     logError(error, log);
     return false;
   }

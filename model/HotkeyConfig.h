@@ -8,6 +8,7 @@
 #include "model/HotkeyBlock.h"
 #include "model/HotkeyScheme.h"
 #include "model/LoadReport.h"
+#include "platform/Files.h"
 
 namespace brennet {
 
@@ -50,7 +51,9 @@ class HotkeyConfig {
   // A missing folder is created, one level. Returns whether the file was written whole; after a
   // failure the old file stands. The game's preference file follows in either case, because it
   // follows what is in memory.
-  bool Save(std::u16string_view path, std::uint32_t lastSaveTime);
+  // `old` tells what becomes of the file that is replaced.
+  bool Save(std::u16string_view path, std::uint32_t lastSaveTime,
+            platform::OldContent old = platform::OldContent::Drop);
 
   // What the last load of this object had to drop. Empty before the first load, after one that
   // failed and after a reset; a save leaves it as it is. It belongs to the load and not to the

@@ -93,10 +93,12 @@ bool HotkeyConfig::LoadScheme(int scheme, MarkupDocument& document) {
   return true;
 }
 
-bool HotkeyConfig::Save(std::u16string_view path, std::uint32_t lastSaveTime) {
+bool HotkeyConfig::Save(std::u16string_view path, std::uint32_t lastSaveTime,
+                        platform::OldContent old) {
   MarkupDocument document;
   if (!saveTo(document, lastSaveTime)) return false;
-  const bool written = document.save(path) || (createFolderOf(path) && document.save(path));
+  const bool written =
+      document.save(path, old) || (createFolderOf(path) && document.save(path, old));
   loaded_ = loaded_ || written;
   writeGamePreferences(*this);
   return written;

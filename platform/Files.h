@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -8,41 +9,67 @@
 
 namespace brennet::platform {
 
-// The whole content of the file at `path`, replacing `bytes`.
-// Returns the system's error, or an empty one. Folders are refused like unreadable files; on any
-// error `bytes` is empty. Throws std::bad_alloc where the file does not fit into memory.
-[[nodiscard]] std::error_code readFile(const Path& path, std::string& bytes);
+// For files of any size.
+inline constexpr std::uint64_t kAnySize = ~std::uint64_t{0};
+
+// The whole content of the file at `path`, replacing `bytes`. A file that another program holds is
+// waited for, a fifth of a second.
+// Returns the system's error, or an empty one; isMissing tells whether it says that there is no
+// file. Folders are refused like unreadable files, and so are files of more than `limit` bytes
+// (isTooLarge); on any error `bytes` is empty. Throws std::bad_alloc where the file does not fit
+// into memory.
+[[nodiscard]] std::error_code readFile(const Path& path, std::string& bytes, std::uint64_t limit);
+
+// What an error of the functions here says.
+[[nodiscard]] bool isMissing(const std::error_code& error);
+[[nodiscard]] bool isTooLarge(const std::error_code& error);
+
+// What becomes of the content that is replaced.
+enum class OldContent {
+  Drop,
+  // It stays beside the new one, as NAME.kept-YYYYMMDD-HHMMSS by the local time. Three such files
+  // stay, the oldest goes. Where that fails, the replacement goes on all the same.
+  Keep,
+};
 
 // Makes `bytes` the content of the file at `path`, creating it where it is missing.
 //
 // At every moment the disk holds the whole old or the whole new content: the bytes go to a
 // temporary file in the same folder, are flushed, and the temporary file takes the target's place.
-// A file that is there keeps its permissions, as far as this process may set them, a symbolic link
-// stays one, and a file that could not be opened for writing is left alone. Where the folder takes
-// no temporary file, or the temporary file cannot take the target's place, the target is written in
-// place: room is made sure of first, and the old content is written back when the new one cannot be
-// written.
+// The temporary file is the owner's alone until it gets the rights of the old one, its group, lists
+// of access and attributes, as far as this process may set them; what cannot be set makes them
+// fewer, never more. A symbolic link stays one, and a file that could not be opened for writing is
+// left alone.
+//
+// A file that has other names (hard links), that stands in a folder that takes no temporary file,
+// or whose place the temporary file cannot take, is written in place. Its old content is kept in
+// the user's own folder meanwhile, and both functions put it back that find a file there which was
+// not finished. Where it cannot be kept or not be read, the file is not written.
 //
 // On Windows a file that is replaced has another name for a moment, "NAME.brennet-old"; both
 // functions wait for it, put back what a process left there that ended half-way, and wait for
 // programs that hold the file, up to a fifth of a second at each step. Where the old content can
 // neither be replaced nor get its name back, it keeps that one until the next call.
 //
-// Temporary files that a process left are removed when they are an hour old.
+// Temporary files of processes that have ended are removed.
 //
-// Returns the first error of any step, a failing flush or close included, or an empty one.
-// After an error the old content stands and no temporary file is left; only a file that was written
-// in place and whose closing failed has the new content. Throws std::bad_alloc, and
-// then has changed nothing.
-[[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes);
+// Returns the first error of any step, a failing flush included, or an empty one. After an error
+// the old content stands, or is put back by the next call, and no temporary file is left. Throws
+// std::bad_alloc, and then has changed nothing.
+[[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes,
+                                          OldContent old = OldContent::Drop);
 
 // Whether anything stands at `path`, a file or a folder.
 [[nodiscard]] bool pathExists(const Path& path);
 
+// Whether a file stands at `path` that has more than `size` bytes.
+[[nodiscard]] bool isFileLarger(const Path& path, std::uint64_t size);
+
 // Whether a folder stands at `path`.
 [[nodiscard]] bool folderExists(const Path& path);
 
-// Creates the folder `path`, one level only. Returns whether the folder was created.
+// Creates the folder `path`, one level only, and brings its name to the disk. Returns whether the
+// folder was created.
 bool createFolder(const Path& path);
 
 }  // namespace brennet::platform

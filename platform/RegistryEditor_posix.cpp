@@ -12,12 +12,13 @@ namespace brennet::platform {
 bool importRegFile(std::u16string_view folder, std::u16string_view name) {
   const Path registry = registryPath();
   std::string bytes;
-  if (registry.empty() || readFile(pathFromUtf16(std::u16string(folder).append(name)), bytes)) {
+  if (registry.empty() ||
+      readFile(pathFromUtf16(std::u16string(folder).append(name)), bytes, kAnySize)) {
     return false;
   }
   RegFile content;
   std::string oldBytes;
-  const std::error_code error = readFile(registry, oldBytes);
+  const std::error_code error = readFile(registry, oldBytes, kAnySize);
   if (error && error != std::errc::no_such_file_or_directory) return false;
   if (!error && !content.merge(oldBytes)) return false;
   if (!content.merge(bytes)) return true;

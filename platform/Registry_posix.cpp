@@ -18,7 +18,7 @@ bool mayChange(const Path& file) {
 
 bool load(const Path& file, RegFile& content) {
   std::string bytes;
-  return !readFile(file, bytes) && content.merge(bytes);
+  return !readFile(file, bytes, kAnySize) && content.merge(bytes);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <string>
 
 namespace brennet::platform {
@@ -29,6 +30,18 @@ bool isNumber(NameView text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), isDigit);
 }
 
+// No process has a larger one.
+unsigned long numberOf(NameView digits) {
+  constexpr unsigned long kLargest = std::numeric_limits<unsigned long>::max();
+  unsigned long number = 0;
+  for (const Path::value_type digit : digits) {
+    const auto value = static_cast<unsigned long>(digit - '0');
+    if (number > (kLargest - value) / 10) return kLargest;
+    number = number * 10 + value;
+  }
+  return number;
+}
+
 }  // namespace
 
 Path temporaryName(const Path& path, unsigned long process, int number) {
@@ -39,14 +52,17 @@ Path temporaryName(const Path& path, unsigned long process, int number) {
   return name;
 }
 
-bool isTemporaryEnding(NameView text) {
-  if (text.size() < kStart.size() + kEnd.size()) return false;
-  if (!text.starts_with(view(kStart)) || !text.ends_with(view(kEnd))) return false;
-  text.remove_prefix(kStart.size());
-  text.remove_suffix(kEnd.size());
-  const std::size_t dash = text.find('-');
-  return dash != NameView::npos && isNumber(text.substr(0, dash)) &&
-         isNumber(text.substr(dash + 1));
+std::optional<unsigned long> temporaryProcess(NameView ending) {
+  if (ending.size() < kStart.size() + kEnd.size()) return {};
+  if (!ending.starts_with(view(kStart)) || !ending.ends_with(view(kEnd))) return {};
+  ending.remove_prefix(kStart.size());
+  ending.remove_suffix(kEnd.size());
+  const std::size_t dash = ending.find('-');
+  if (dash == NameView::npos || !isNumber(ending.substr(0, dash)) ||
+      !isNumber(ending.substr(dash + 1))) {
+    return {};
+  }
+  return numberOf(ending.substr(0, dash));
 }
 
 }  // namespace brennet::platform

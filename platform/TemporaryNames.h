@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/Paths.h"
 
 // The names beside a file under which its new content stands until it takes the file's place: the
@@ -9,7 +11,8 @@ namespace brennet::platform {
 // The name of the process with the given number; `number` tells files of one process apart.
 [[nodiscard]] Path temporaryName(const Path& path, unsigned long process, int number);
 
-// Whether `text` is what stands behind the file's name there.
-[[nodiscard]] bool isTemporaryEnding(std::basic_string_view<Path::value_type> text);
+// The process whose number `ending` has, where that is what stands behind a file's name there.
+[[nodiscard]] std::optional<unsigned long> temporaryProcess(
+    std::basic_string_view<Path::value_type> ending);
 
 }  // namespace brennet::platform

@@ -95,6 +95,16 @@ TEST(PrefsOnDisk, StayTheSameHoweverOftenTheyAreWritten) {
   }
 }
 
+TEST(PrefsOnDisk, AreLeftAloneWhereTheyAreTooLarge) {
+  const TempFolder folder;
+  writeBytes(folder / kName, kOffFile);
+  std::filesystem::resize_file(folder / kName, War3PrefsFile::kLargestFile + 1);
+  War3PrefsFile file(folder / kName);
+  file.addHotkeySection({});
+  EXPECT_FALSE(file.save());
+  EXPECT_EQ(std::filesystem::file_size(folder / kName), War3PrefsFile::kLargestFile + 1);
+}
+
 TEST(PrefsOnDisk, FailQuietlyWhereAFolderStandsInTheirPlace) {
   const TempFolder folder;
   std::filesystem::create_directory(folder / kName);

@@ -87,11 +87,12 @@ TEST(PrefsPermissions, ProtectAFileThatMayNotBeOpenedAtAll) {
   EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
-TEST(PrefsPermissions, MakeAFileThatMayOnlyBeWrittenAnEmptyOne) {
+// What it holds is not known, so nothing can be put in its place.
+TEST(PrefsPermissions, ProtectAFileThatMayOnlyBeWritten) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
-  EXPECT_TRUE(trySwitchOn(folder, 0777, 0222));
-  EXPECT_EQ(readBytes(folder / kName), "");
+  EXPECT_FALSE(trySwitchOn(folder, 0777, 0222));
+  EXPECT_EQ(readBytes(folder / kName), kOffFile);
   EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 

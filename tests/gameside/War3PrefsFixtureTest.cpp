@@ -55,7 +55,7 @@ class APrefsFile : public testing::TestWithParam<const char*> {};
 TEST_P(APrefsFile, GetsTheHotkeysOfTheScheme) {
   const std::string name = GetParam();
   std::string in;
-  ASSERT_FALSE(platform::readFile(fixture(name + ".in.txt"), in));
+  ASSERT_FALSE(platform::readFile(fixture(name + ".in.txt"), in, platform::kAnySize));
   const std::string actual = withScheme(in);
   test::expectGolden("gameside/" + name + ".out.txt", actual);
   EXPECT_EQ(withScheme(actual), actual) << "a second run must change nothing";

@@ -68,7 +68,8 @@ TEST_F(AddressSpace, RefusesMoreBytesThanASizeCounts) {
   writeBytes(settings_, kDefaults);
   std::filesystem::resize_file(settings_, kSizes + std::string_view(kDefaults).size());
   std::string bytes;
-  EXPECT_TRUE(platform::readFile(settings_, bytes)) << "an error, and no lack of memory";
+  EXPECT_TRUE(platform::readFile(settings_, bytes, platform::kAnySize))
+      << "an error, and no lack of memory";
   EXPECT_FALSE(brennet_.LoadSettings(settings_.wstring().c_str()));
   EXPECT_EQ(brennet_.GetLastSaveTime(), 0U);
 }

@@ -41,7 +41,7 @@ TEST_F(FileFaults, LeaveTheWholeOldOrTheWholeNewContent) {
     const std::error_code error = replaceWithFailure(call);
     // What could not be removed then goes with the next read.
     std::string read;
-    EXPECT_FALSE(readFile(path(), read));
+    EXPECT_FALSE(readFile(path(), read, kAnySize));
     EXPECT_EQ(read, error ? kOld : kNew) << "failing call " << call;
     EXPECT_EQ(folder_.listing(), "f\n") << "failing call " << call;
     failures += error ? 1 : 0;
@@ -138,7 +138,7 @@ TEST_F(FileFaults, OfAReadGiveNoBytes) {
   for (int call = 0; call < kMoreCallsThanAnyWrite; ++call) {
     faults.callsUntilFailure = call;
     std::string bytes = "before";
-    const std::error_code error = readFile(path(), bytes);
+    const std::error_code error = readFile(path(), bytes, kAnySize);
     EXPECT_EQ(bytes, error ? "" : kOld) << "failing call " << call;
     failures += error ? 1 : 0;
   }

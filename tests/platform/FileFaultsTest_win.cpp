@@ -69,12 +69,12 @@ TEST_F(HalfReplacement, ThatCannotBeMadeGoodLeavesTheOldFileUnderItsBackupName) 
 
   // As long as it cannot be put back, the file counts as unreadable, not as missing.
   std::string read;
-  EXPECT_EQ(readFile(path(), read).value(), ERROR_INVALID_NAME);
+  EXPECT_EQ(readFile(path(), read, kAnySize).value(), ERROR_INVALID_NAME);
   EXPECT_EQ(replaceFile(path(), kNew).value(), ERROR_INVALID_NAME);
   EXPECT_EQ(readBytes(folder_ / kBackup), kOld);
 
   halfwayFaults = {};
-  EXPECT_FALSE(readFile(path(), read));
+  EXPECT_FALSE(readFile(path(), read, kAnySize));
   EXPECT_EQ(read, kOld);
   EXPECT_EQ(folder_.listing(), "f\n");
 }
@@ -135,17 +135,17 @@ TEST_F(PassingFault, OfReadingIsWaitedForWhereSomebodyHasTheFile) {
   for (const DWORD error : {ERROR_SHARING_VIOLATION, ERROR_LOCK_VIOLATION}) {
     passingFaults = {.error = error, .opening = kAFew};
     std::string read;
-    EXPECT_FALSE(readFile(path(), read)) << error;
+    EXPECT_FALSE(readFile(path(), read, kAnySize)) << error;
     EXPECT_EQ(read, kOld) << error;
   }
 }
 
 TEST_F(PassingFault, ThatIsNoneIsNotWaitedFor) {
   writeBytes(path(), kOld);
-  passingFaults = {.error = ERROR_PATH_NOT_FOUND, .opening = kAFew};
+  passingFaults = {.error = ERROR_NOT_SUPPORTED, .opening = kAFew};
   EXPECT_TRUE(replaceFile(path(), kNew));
   EXPECT_EQ(passingFaults.opening, kAFew - 1);
-  passingFaults = {.error = ERROR_PATH_NOT_FOUND, .replacing = kAFew};
+  passingFaults = {.error = ERROR_NOT_SUPPORTED, .replacing = kAFew};
   EXPECT_FALSE(replaceFile(path(), kNew)) << "written in place";
   EXPECT_EQ(passingFaults.replacing, kAFew - 1);
 }
@@ -199,7 +199,7 @@ TEST_F(Interruption, ThatLetsAFileGrowIsReadToItsEnd) {
   writeBytes(path(), kOld);
   interruptions.afterSizing = [&] { writeBytes(path(), kNew); };
   std::string read;
-  EXPECT_FALSE(readFile(path(), read));
+  EXPECT_FALSE(readFile(path(), read, kAnySize));
   EXPECT_EQ(read, kNew);
 }
 
@@ -207,7 +207,7 @@ TEST_F(Interruption, ThatCutsAFileIsReadToItsEnd) {
   writeBytes(path(), kOld);
   interruptions.afterSizing = [&] { writeBytes(path(), kShort); };
   std::string read;
-  EXPECT_FALSE(readFile(path(), read));
+  EXPECT_FALSE(readFile(path(), read, kAnySize));
   EXPECT_EQ(read, kShort);
 }
 

@@ -30,8 +30,10 @@ int failWith(int error) {
 extern "C" {
 
 int __real_open(const char* path, int flags, ...);
-ssize_t __real_write(int file, const void* bytes, size_t size);
-int __real_posix_fallocate(int file, off_t start, off_t size);
+ssize_t __real_pread(int file, void* bytes, size_t size, off_t offset);
+ssize_t __real_pwrite(int file, const void* bytes, size_t size, off_t offset);
+int __real_ftruncate(int file, off_t size);
+int __real_fallocate(int file, int mode, off_t start, off_t size);
 int __real_fsync(int file);
 int __real_close(int file);
 int __real_rename(const char* from, const char* to);
@@ -48,14 +50,21 @@ int __wrap_open(const char* path, int flags, ...) {
   return __real_open(path, flags, mode);
 }
 // A full disk takes a part before it refuses the rest.
-ssize_t __wrap_write(int file, const void* bytes, size_t size) {
-  if (!faults.diskFull && !faults.failsNow()) return __real_write(file, bytes, size);
+ssize_t __wrap_pwrite(int file, const void* bytes, size_t size, off_t offset) {
+  if (!faults.diskFull && !faults.failsNow()) return __real_pwrite(file, bytes, size, offset);
   if (size == 1) return failWith(ENOSPC);
   faults.callsUntilFailure = 0;
-  return __real_write(file, bytes, size / 2);
+  return __real_pwrite(file, bytes, size / 2, offset);
 }
-int __wrap_posix_fallocate(int file, off_t start, off_t size) {
-  return faults.diskFull ? ENOSPC : __real_posix_fallocate(file, start, size);
+ssize_t __wrap_pread(int file, void* bytes, size_t size, off_t offset) {
+  return faults.failsNow() ? failWith(EIO) : __real_pread(file, bytes, size, offset);
+}
+int __wrap_ftruncate(int file, off_t size) {
+  return faults.failsNow() ? failWith(EIO) : __real_ftruncate(file, size);
+}
+int __wrap_fallocate(int file, int mode, off_t start, off_t size) {
+  if (faults.diskFull || faults.failsNow()) return failWith(ENOSPC);
+  return __real_fallocate(file, mode, start, size);
 }
 int __wrap_fsync(int file) {
   return faults.flushing || faults.failsNow() ? failWith(EIO) : __real_fsync(file);

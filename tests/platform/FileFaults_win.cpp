@@ -57,7 +57,7 @@ HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD sharing, SECURITY_ATT
   if ((!isNew || !faults.newFiles) && !faults.failsNow()) {
     return real(name, access, sharing, security, creation, flags, like);
   }
-  SetLastError(ERROR_PATH_NOT_FOUND);
+  SetLastError(isNew ? ERROR_ACCESS_DENIED : ERROR_IO_DEVICE);
   return INVALID_HANDLE_VALUE;
 }
 
@@ -91,10 +91,11 @@ BOOL WINAPI setEnd(HANDLE file) {
   return fails ? failWith(ERROR_DISK_FULL) : real(file);
 }
 
-BOOL WINAPI sizeOfFile(HANDLE file, LARGE_INTEGER* size) {
-  static auto* const real = systems<decltype(GetFileSizeEx)>("GetFileSizeEx");
+BOOL WINAPI factsOfFile(HANDLE file, BY_HANDLE_FILE_INFORMATION* facts) {
+  static auto* const real =
+      systems<decltype(GetFileInformationByHandle)>("GetFileInformationByHandle");
   if (faults.failsNow()) return failWith(ERROR_IO_DEVICE);
-  const BOOL isDone = real(file, size);
+  const BOOL isDone = real(file, facts);
   interrupt(interruptions.afterSizing);
   return isDone;
 }
@@ -170,7 +171,7 @@ STAND_BEFORE(CreateFileW, "CreateFileW@28", createFile);
 STAND_BEFORE(WriteFile, "WriteFile@20", writeFile);
 STAND_BEFORE(FlushFileBuffers, "FlushFileBuffers@4", flushFile);
 STAND_BEFORE(SetEndOfFile, "SetEndOfFile@4", setEnd);
-STAND_BEFORE(GetFileSizeEx, "GetFileSizeEx@8", sizeOfFile);
+STAND_BEFORE(GetFileInformationByHandle, "GetFileInformationByHandle@8", factsOfFile);
 STAND_BEFORE(ReadFile, "ReadFile@20", readBytes);
 STAND_BEFORE(DeleteFileW, "DeleteFileW@4", deleteFile);
 STAND_BEFORE(GetFileAttributesW, "GetFileAttributesW@4", attributesOf);

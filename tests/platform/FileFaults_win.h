@@ -32,7 +32,7 @@ extern PassingFaults passingFaults;
 struct Interruptions {
   std::function<void()> beforeMoving;     // MoveFileExW
   std::function<void()> beforeReplacing;  // ReplaceFileW
-  std::function<void()> afterSizing;      // GetFileSizeEx
+  std::function<void()> afterSizing;      // GetFileInformationByHandle
 };
 
 extern Interruptions interruptions;

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <string>
 
+#include "platform/FileSystem.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {
@@ -19,7 +20,7 @@ TEST(ReadFile, GivesTheBytesAsTheyAre) {
   const std::string bytes("a\r\n\0\x1A\xFFz", 7);
   writeBytes(folder / "f", bytes);
   std::string read = "old";
-  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
   EXPECT_EQ(read, bytes);
 }
 
@@ -27,7 +28,7 @@ TEST(ReadFile, GivesNothingForAnEmptyFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "");
   std::string read = "old";
-  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
   EXPECT_EQ(read, "");
 }
 
@@ -35,7 +36,7 @@ TEST(ReadFile, RefusesWhatIsNoFile) {
   const TempFolder folder;
   for (const Path& path : {folder / "missing", folder / "missing/f", folder.path(), Path()}) {
     std::string read = "old";
-    EXPECT_TRUE(readFile(path, read)) << path;
+    EXPECT_TRUE(readFile(path, read, kAnySize)) << path;
     EXPECT_EQ(read, "") << path;
   }
 }
@@ -98,9 +99,18 @@ TEST(ReplaceFile, RemovesThemFromTheWorkingFolderToo) {
 
 TEST(ReplaceFile, LeavesTemporaryFilesAloneThatMayBeInUse) {
   const TempFolder folder;
-  writeBytes(folder / "f.brennet-1-0.tmp", "somebody is writing this");
+  const std::string name = "f.brennet-" + std::to_string(fileSystem().process()) + "-0.tmp";
+  writeBytes(folder / name, "somebody is writing this");
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
-  EXPECT_EQ(folder.listing(), "f\nf.brennet-1-0.tmp\n");
+  EXPECT_EQ(folder.listing(), "f\n" + name + "\n");
+}
+
+// Its process has ended, so nobody waits for it to become old.
+TEST(ReplaceFile, RemovesTemporaryFilesOfProcessesThatAreNone) {
+  const TempFolder folder;
+  writeBytes(folder / "f.brennet-4294967290-0.tmp", "half");
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(folder.listing(), "f\n");
 }
 
 TEST(ReplaceFile, LeavesFilesAloneThatAreNotItsOwn) {

@@ -45,7 +45,7 @@ std::thread holdForAMoment(const Path& path) {
 
 TEST(Reading, RefusesADevice) {
   std::string read = "old";
-  EXPECT_TRUE(readFile(L"NUL", read));
+  EXPECT_TRUE(readFile(L"NUL", read, kAnySize));
   EXPECT_EQ(read, "");
 }
 
@@ -55,7 +55,7 @@ TEST(Reading, ReadsWhatAnotherProgramIsWritingOrRenaming) {
   for (const DWORD access : {DWORD{GENERIC_WRITE}, DWORD{DELETE}}) {
     const Holder holder(folder / "f", access, FILE_SHARE_READ);
     std::string read;
-    EXPECT_FALSE(readFile(folder / "f", read)) << access;
+    EXPECT_FALSE(readFile(folder / "f", read, kAnySize)) << access;
     EXPECT_EQ(read, "bytes") << access;
   }
 }
@@ -65,7 +65,7 @@ TEST(Reading, WaitsForAProgramThatHoldsTheFileForAMoment) {
   writeBytes(folder / "f", "bytes");
   std::thread scanner = holdForAMoment(folder / "f");
   std::string read;
-  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
   scanner.join();
   EXPECT_EQ(read, "bytes");
 }
@@ -123,7 +123,7 @@ TEST(Reading, FindsTheFileThatWasBeingReplaced) {
   const TempFolder folder;
   writeBytes(folder / kBackup, "old");
   std::string read;
-  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
   EXPECT_EQ(read, "old");
   EXPECT_EQ(folder.listing(), "f\n");
 }
@@ -136,7 +136,7 @@ TEST(Reading, WaitsForAReplacementUnderWay) {
     writeBytes(folder / "f", "new");
   });
   std::string read;
-  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
   writer.join();
   EXPECT_EQ(read, "new");
 }
@@ -154,7 +154,7 @@ TEST(Replacing, DoesNotTakeAnOldBackupForTheFile) {
   writeBytes(folder / "f", "new");
   writeBytes(folder / kBackup, "old");
   std::string read;
-  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
   EXPECT_EQ(read, "new");
   writeBytes(folder / kBackup, "old");
   EXPECT_FALSE(replaceFile(folder / "f", "newer"));
@@ -167,9 +167,9 @@ TEST(Reading, DoesNotBringAFileBackThatThePlayerHasDeleted) {
   writeBytes(folder / "f", "new");
   writeBytes(folder / kBackup, "old");
   std::string read;
-  EXPECT_FALSE(readFile(folder / "f", read));
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
   std::filesystem::remove(folder / "f");
-  EXPECT_TRUE(readFile(folder / "f", read));
+  EXPECT_TRUE(readFile(folder / "f", read, kAnySize));
   EXPECT_EQ(folder.listing(), "");
 }
 
@@ -180,7 +180,7 @@ TEST(Replacing, DoesNotForgetABackupThatIsHeld) {
   {
     const Holder holder(folder / kBackup, GENERIC_READ, 0);
     std::string read;
-    EXPECT_EQ(readFile(folder / "f", read).value(), ERROR_SHARING_VIOLATION);
+    EXPECT_EQ(readFile(folder / "f", read, kAnySize).value(), ERROR_SHARING_VIOLATION);
     EXPECT_EQ(replaceFile(folder / "f", "new").value(), ERROR_SHARING_VIOLATION);
     EXPECT_EQ(folder.listing(), std::string(kBackup) + "\n");
   }
@@ -203,7 +203,7 @@ TEST(Replacing, LeavesAFolderWithTheNameOfABackupAlone) {
   const TempFolder folder;
   EXPECT_TRUE(createFolder(folder / kBackup));
   std::string read;
-  EXPECT_TRUE(readFile(folder / "f", read));
+  EXPECT_TRUE(readFile(folder / "f", read, kAnySize));
   for (const char* const bytes : {"first", "second"}) {
     EXPECT_FALSE(replaceFile(folder / "f", bytes));
     EXPECT_EQ(readBytes(folder / "f"), bytes);
@@ -221,7 +221,7 @@ TEST(Replacing, IsNotNoticedByAReader) {
   });
   for (int i = 0; i < 200; ++i) {
     std::string read;
-    EXPECT_FALSE(readFile(folder / "f", read));
+    EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
     EXPECT_TRUE(read == contents[0] || read == contents[1]) << read.size();
   }
   writer.join();
@@ -233,7 +233,7 @@ TEST(Replacing, TakesNamesOutsideTheAnsiCodePage) {
   for (const char* const bytes : {"first", "second"}) {
     EXPECT_FALSE(replaceFile(name, bytes));
     std::string read;
-    EXPECT_FALSE(readFile(name, read));
+    EXPECT_FALSE(readFile(name, read, kAnySize));
     EXPECT_EQ(read, bytes);
   }
   const Path inner = folder.path() / pathFromUtf16(u"\u0E01\u0E02");

@@ -20,7 +20,7 @@ inline void expectGolden(const std::string& name, const std::string& actual) {
     return;
   }
   std::string expected;
-  ASSERT_FALSE(platform::readFile(file, expected)) << name;
+  ASSERT_FALSE(platform::readFile(file, expected, platform::kAnySize)) << name;
   EXPECT_EQ(actual, expected) << name;
 }
 

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Paths.h"
+
+namespace brennet::platform {
+
+// The user of this process, and rights for him alone.
+class OwnRights {
+ public:
+  // Throws std::bad_alloc.
+  OwnRights();
+  ~OwnRights();
+  OwnRights(const OwnRights&) = delete;
+  OwnRights& operator=(const OwnRights&) = delete;
+
+  // For whatever is created (SECURITY_ATTRIBUTES); null where the user cannot be found out, which
+  // gives it the rights of its folder.
+  [[nodiscard]] void* attributes() const;
+
+  // Whether the folder at `path` belongs to the user of this process.
+  [[nodiscard]] bool isOwnerOf(const Path& path) const;
+
+ private:
+  struct Body;
+  std::unique_ptr<Body> body_;
+};
+
+// Gives the open file (HANDLE) the access list of the file at `path`. Where that cannot be, it
+// keeps its own.
+void copyFileRights(const Path& path, void* file);
+
+}  // namespace brennet::platform

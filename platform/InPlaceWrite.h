@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/FileSystem.h"
+
+// Writing over the content of a file. Before the first byte, what the file holds and what it is to
+// hold are kept as a file in the user's own folder (FileSystem::privateFolder). That the kept file
+// is gone again is what makes the new content the file's; until then, whoever opens the file next
+// puts the old one back. So a file that was torn by a process or a machine that ended is whole
+// again before anyone of ours reads it.
+namespace brennet::platform {
+
+// Makes `bytes` the content of the file at `path`, which is created where it is missing. An error
+// means that the old content stands, or is put back by undoTornWrite; a file that cannot be read is
+// not written, nor one whose content cannot be kept.
+[[nodiscard]] FileError writeInPlace(FileSystem& system, const Path& path, std::string_view bytes);
+
+// Puts the old content back if a write in place was not finished; waits for one that is under way.
+[[nodiscard]] FileError undoTornWrite(FileSystem& system, const Path& path);
+
+}  // namespace brennet::platform

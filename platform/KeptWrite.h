@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/OpenFile.h"
+#include "platform/TornWrite.h"
+
+namespace brennet::platform {
+
+// The kept file of a write in place, while this process has it for itself. Where it was not yet
+// written when it goes out of scope, it is removed.
+class KeptWrite {
+ public:
+  // For the file at `path`. Throws std::bad_alloc.
+  KeptWrite(FileSystem& system, const Path& path);
+  ~KeptWrite();
+  KeptWrite(const KeptWrite&) = delete;
+  KeptWrite& operator=(const KeptWrite&) = delete;
+
+  // Whether there can be a kept file for any file at all; as a rule there is none.
+  [[nodiscard]] static bool isAnyThere(FileSystem& system);
+  // Whether there is one; nobody has to be waited for where there is none.
+  [[nodiscard]] bool isThere() const;
+  // Opens the kept file, waiting for whoever has it; creates it and its folder where they are
+  // missing. Exists where it tells of another file. Throws std::bad_alloc.
+  FileError open();
+  // The write that the file told of when it was opened, which nobody has finished.
+  [[nodiscard]] const std::optional<TornWrite>& found() const { return found_; }
+  // Brings `old` and `bytes` to the disk. Throws std::bad_alloc.
+  FileError write(const std::optional<std::string>& old, std::string_view bytes);
+  // Makes the open file say nothing any more, on the disk too, and removes it. After an error it
+  // may still say what it said.
+  FileError discard();
+
+ private:
+  FileError openFile();
+
+  FileSystem& system_;
+  Path folder_;
+  Path parent_;  // of the folder
+  Path name_;
+  std::string file_;  // the file that is written, by the bytes of its identity
+  OpenFile opened_;
+  std::optional<TornWrite> found_;
+  bool saysSomething_ = false;
+};
+
+}  // namespace brennet::platform

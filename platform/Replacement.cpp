@@ -1,0 +1,250 @@
+#include "platform/Replacement.h"
+
+#include "platform/InPlaceWrite.h"
+#include "platform/KeptFiles.h"
+#include "platform/Leftovers.h"
+#include "platform/OpenFile.h"
+#include "platform/Patience.h"
+#include "platform/TemporaryNames.h"
+
+namespace brennet::platform {
+namespace {
+
+constexpr int kTemporaryNames = 100;
+
+bool isFile(FileSystem& system, const Path& path) {
+  return system.look(path).kind == FileFacts::Kind::File;
+}
+
+bool exists(FileSystem& system, const Path& path) {
+  return system.look(path).kind != FileFacts::Kind::Nothing;
+}
+
+// Removes the backup of a file that has its own name again, once that name is on the disk.
+FileError dropBackup(FileSystem& system, const Path& backup, const Path& path, const Path& folder) {
+  const FileError error = system.flushFolder(folder);
+  return error ? error : system.removeBackup(backup, path);
+}
+
+// What stands at the name before it is replaced.
+struct Target {
+  bool isThere = false;
+  bool isShared = false;  // has other names, which would keep the old content
+  bool isLink = false;
+};
+
+// Finds out whether a file can be written at `path`, and what is there.
+FileError inspect(FileSystem& system, const Path& path, Target& target) {
+  OpenFile file(system);
+  const FileError error = retried(system, [&] { return file.open(path, OpenFor::Writing); });
+  if (error && error.obstacle != Obstacle::Missing) return error;
+  target.isThere = !error;
+  target.isShared = target.isThere && file.facts().links > 1;
+  target.isLink = system.look(path).kind == FileFacts::Kind::Link;
+  return {};
+}
+
+// A temporary file that is removed again unless it takes the place of another.
+class TemporaryFile {
+ public:
+  TemporaryFile(FileSystem& system, const Path& name)
+      : system_(system), name_(name), file_(system) {}
+  ~TemporaryFile() {
+    if (!isThere_) return;
+    static_cast<void>(file_.close());
+    static_cast<void>(retried(system_, [&] { return system_.remove(name_); }));
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  FileError open(OpenFor purpose) {
+    const FileError error = file_.open(name_, purpose);
+    isThere_ = !error;
+    return error;
+  }
+  [[nodiscard]] OpenFile& file() { return file_; }
+  void hasTakenPlace() { isThere_ = false; }
+
+ private:
+  FileSystem& system_;
+  const Path& name_;
+  OpenFile file_;
+  bool isThere_ = false;
+};
+
+enum class Way {
+  Gone,      // to the end, well or not
+  Closed,    // there is none through a temporary file; nothing has changed
+  TryAgain,  // somebody took the temporary file away
+};
+
+struct Outcome {
+  Way way = Way::Gone;
+  FileError error;
+};
+
+// A file that is replaced through a temporary one. All names are made first: once something has
+// changed, no memory is taken.
+class Replacement {
+ public:
+  Replacement(FileSystem& system, const Path& path, const Target& target, std::string_view bytes)
+      : system_(system),
+        path_(path),
+        folder_(path.parent_path()),
+        backup_(backupName(path)),
+        target_(target),
+        bytes_(bytes) {}
+
+  Outcome run() {
+    for (int number = 0; number < kTemporaryNames; ++number) {
+      temporary_ = temporaryName(path_, system_.process(), number);
+      TemporaryFile temporary(system_, temporary_);
+      const FileError error =
+          temporary.open(target_.isThere ? OpenFor::NewAndPrivate : OpenFor::New);
+      if (error.obstacle == Obstacle::Exists) continue;
+      // Without a folder there is no other way either.
+      if (error) return {error.obstacle == Obstacle::Missing ? Way::Gone : Way::Closed, error};
+      const Outcome outcome = fillAndPlace(temporary);
+      if (outcome.way != Way::TryAgain) return outcome;
+    }
+    return {Way::Closed, {}};
+  }
+
+ private:
+  Outcome fillAndPlace(TemporaryFile& temporary) {
+    if (const FileError error = fill(temporary.file())) return {Way::Gone, error};
+    const FileError error = takePlace();
+    if (!error) {
+      temporary.hasTakenPlace();
+      // So that the new name is on the disk too. The file's content is safe either way.
+      static_cast<void>(system_.flushFolder(folder_));
+      return {};
+    }
+    // Where the old content has no other place than the backup, nothing is written in place, so
+    // that nobody takes that for the file and removes the backup.
+    if (isMovedAway()) return {Way::Gone, error};
+    // A file that has come meanwhile has rights, which another temporary file will get.
+    const bool hasCome = !target_.isThere && error.obstacle == Obstacle::Exists;
+    target_.isThere = target_.isThere || hasCome;
+    return {hasCome || !exists(system_, temporary_) ? Way::TryAgain : Way::Closed, error};
+  }
+
+  // Writes, flushes and closes; the first failure counts.
+  FileError fill(OpenFile& file) {
+    FileError error = file.writeAll(bytes_);
+    if (!error && target_.isThere) system_.copyRights(path_, file.handle());
+    if (!error) error = file.flush();
+    return error ? error : file.close();
+  }
+
+  // Gives the temporary file the place of the other, which may go under way.
+  FileError takePlace() {
+    for (int i = 1; target_.isThere; ++i) {
+      const FileError error = exchange();
+      const bool hasGone = error.obstacle == Obstacle::Missing && exists(system_, temporary_);
+      if (!hasGone || i == kTries) return error;
+      // Another process is replacing the file at this moment, or it is gone for good.
+      if (isMovedAway()) {
+        system_.pause();
+      } else {
+        target_.isThere = false;
+      }
+    }
+    return moveTo(path_);
+  }
+
+  FileError exchange() {
+    FileError error =
+        retried(system_, [&] { return system_.exchange(temporary_, path_, backup_); });
+    if (error.obstacle == Obstacle::Halfway) {
+      error = moveTo(path_);
+      if (error) {
+        static_cast<void>(retried(system_, [&] { return system_.move(backup_, path_); }));
+      }
+    }
+    // What cannot be removed now goes another time.
+    if (isFile(system_, backup_)) {
+      static_cast<void>(
+          retried(system_, [&] { return dropBackup(system_, backup_, path_, folder_); }));
+    }
+    return error;
+  }
+
+  FileError moveTo(const Path& name) {
+    return retried(system_, [&] { return system_.move(temporary_, name); });
+  }
+
+  // Whether the old file has the backup's name and nothing its own.
+  bool isMovedAway() { return isFile(system_, backup_) && !exists(system_, path_); }
+
+  FileSystem& system_;
+  const Path& path_;
+  Path folder_;
+  Path backup_;
+  Path temporary_;
+  Target target_;
+  std::string_view bytes_;
+};
+
+FileError awaitReplacement(FileSystem& system, const Path& path) {
+  const Path backup = backupName(path);
+  for (int i = 0; i < kTries; ++i) {
+    if (!isFile(system, backup)) return {};
+    if (exists(system, path)) {
+      static_cast<void>(dropBackup(system, backup, path, path.parent_path()));
+      return {};
+    }
+    system.pause();
+  }
+  const FileError error = retried(system, [&] { return system.move(backup, path); });
+  // Somebody else did it.
+  const bool isDone = error.obstacle == Obstacle::Missing || error.obstacle == Obstacle::Exists;
+  return isDone ? FileError() : error;
+}
+
+// `path` is no link, and nothing else has to be put right.
+FileError replaceAt(FileSystem& system, const Path& path, std::string_view bytes,
+                    const Target& target) {
+  if (!target.isLink && !target.isShared) {
+    const Outcome outcome = Replacement(system, path, target, bytes).run();
+    if (outcome.way == Way::Gone) return outcome.error;
+  }
+  return writeInPlace(system, path, bytes);
+}
+
+}  // namespace
+
+Path backupName(const Path& path) {
+  Path name = path;
+  name += ".brennet-old";
+  return name;
+}
+
+FileError settle(FileSystem& system, const Path& path) {
+  const FileError error = awaitReplacement(system, path);
+  return error ? error : undoTornWrite(system, path);
+}
+
+bool isBeingReplaced(FileSystem& system, const Path& path, const FileError& error) {
+  return error.obstacle == Obstacle::Missing &&
+         (isFile(system, backupName(path)) || exists(system, path));
+}
+
+FileError replaceFileOn(FileSystem& system, const Path& name, std::string_view bytes,
+                        OldContent old) {
+  if (name.empty()) {
+    return {Obstacle::Missing, std::make_error_code(std::errc::no_such_file_or_directory)};
+  }
+  const Path path = system.resolved(name);
+  if (const FileError error = settle(system, path)) return error;
+  Target target;
+  if (const FileError error = inspect(system, path, target)) return error;
+  removeLeftovers(system, path);
+  Path kept;
+  if (old == OldContent::Keep) kept = keepFile(system, path);
+  const FileError error = replaceAt(system, path, bytes, target);
+  if (error && !kept.empty()) static_cast<void>(system.remove(kept));
+  return error;
+}
+
+}  // namespace brennet::platform

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "tests/faults/ModelFileSystem.h"
+
+namespace brennet::test {
+
+// What happens to one call.
+enum class Fault {
+  None,
+  Fails,         // with an error; the call does nothing
+  FailsForGood,  // and so do all after it
+  EndsBefore,    // the process ends before the call,
+  EndsAfter,     // after it,
+  EndsInside,    // or when it has done a part: half of a write, the first step of an exchange
+  Short,         // a write or a read that does one byte only
+};
+
+// Passes calls on to another file system, but for the one that has the fault. After the process has
+// ended, calls do nothing and fail.
+class FaultyFileSystem final : public FileSystem {
+ public:
+  explicit FaultyFileSystem(ModelFileSystem& system) : system_(system) {}
+
+  // The call with that number, from 0 on, has the fault; `error` is the one it fails with.
+  void plan(int call, Fault fault, Obstacle error = Obstacle::Other);
+  // How many calls there were since.
+  [[nodiscard]] int calls() const { return calls_; }
+  [[nodiscard]] bool hasEnded() const { return hasEnded_; }
+  // The name of the call that had the fault; empty where it was not reached.
+  [[nodiscard]] const std::string& faulty() const { return faulty_; }
+
+  FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override;
+  FileError read(FileHandle file, std::uint64_t offset, char* bytes, std::size_t size,
+                 std::size_t& count) override;
+  FileError write(FileHandle file, std::uint64_t offset, std::string_view bytes,
+                  std::size_t& count) override;
+  FileError resize(FileHandle file, std::uint64_t size) override;
+  FileError reserve(FileHandle file, std::uint64_t size) override;
+  FileError flush(FileHandle file) override;
+  FileError close(FileHandle file) override;
+  void copyRights(const Path& path, FileHandle file) override;
+  FileFacts look(const Path& path) override;
+  FileError move(const Path& from, const Path& to) override;
+  FileError exchange(const Path& replacement, const Path& path, const Path& backup) override;
+  FileError link(const Path& path, const Path& second) override;
+  FileError remove(const Path& path) override;
+  FileError removeKept(FileHandle file, const Path& path) override;
+  FileError removeBackup(const Path& backup, const Path& path) override;
+  FileError createFolder(const Path& path) override;
+  FileError createPrivateFolder(const Path& path) override;
+  void removeFolder(const Path& path) override;
+  FileError flushFolder(const Path& path) override;
+  void list(const Path& folder, const std::function<void(const Path& name)>& visit) override;
+  bool isSameName(std::basic_string_view<Path::value_type> a,
+                  std::basic_string_view<Path::value_type> b) override;
+  Path resolved(const Path& path) override { return system_.resolved(path); }
+  Path identity(const Path& path) override { return system_.identity(path); }
+  Path privateFolder() override { return system_.privateFolder(); }
+  unsigned long process() override { return system_.process(); }
+  bool isRunning(unsigned long process) override { return system_.isRunning(process); }
+  std::int64_t wallTime() override { return system_.wallTime(); }
+  void pause() override { system_.pause(); }
+
+ private:
+  // The fault of the next call.
+  Fault next(const char* name);
+  // Does the call, whose middle is `part`, as `fault` has it.
+  template <class Call>
+  FileError passed(const char* name, Call call);
+  template <class Call, class Part>
+  FileError passed(const char* name, Call call, Part part);
+
+  ModelFileSystem& system_;
+  int planned_ = -1;
+  Fault fault_ = Fault::None;
+  Obstacle error_ = Obstacle::Other;
+  int calls_ = 0;
+  bool hasEnded_ = false;
+  std::string faulty_;
+};
+
+}  // namespace brennet::test

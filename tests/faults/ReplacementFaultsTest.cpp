@@ -1,0 +1,243 @@
+// Every call that replacing a file makes fails, or is the last one of its process, or of the
+// machine. Whatever happens, the next session finds the whole old or the whole new content, the
+// result has told the truth, and nothing is left lying about.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "platform/Files.h"
+#include "tests/faults/FaultyFileSystem.h"
+
+namespace brennet {
+
+namespace {
+
+test::FaultyFileSystem* current = nullptr;
+
+}  // namespace
+
+// The functions of Files.h stand on this one here.
+platform::FileSystem& platform::fileSystem() {
+  return *current;
+}
+
+namespace test {
+namespace {
+
+using platform::kAnySize;
+using platform::readFile;
+using platform::replaceFile;
+
+constexpr char kFolder[] = "/folder";
+constexpr char kFile[] = "/folder/f";
+constexpr char kOld[] = "the old content, of which each part counts";
+constexpr char kNew[] =
+    "the new one, which is much longer than the other has ever been, and ends here";
+constexpr char kShort[] = "short";
+constexpr char kNone[] = "(none)";
+
+// Where a file is replaced.
+struct Setting {
+  const char* name;
+  void (*prepare)(ModelFileSystem& system);
+  const char* before;  // the content, kNone where there is no file
+};
+
+const Setting kSettings[] = {
+    {"AFile", [](ModelFileSystem& s) { s.makeFile(kFile, kOld); }, kOld},
+    {"NoFile", [](ModelFileSystem&) {}, kNone},
+    {"InTwoSteps",
+     [](ModelFileSystem& s) {
+       s.makeFile(kFile, kOld);
+       s.nature.twoSteps = true;
+     },
+     kOld},
+    {"InAFolderThatTakesNoFile",
+     [](ModelFileSystem& s) {
+       s.makeFile(kFile, kOld);
+       s.nature.closedFolders.insert(kFolder);
+     },
+     kOld},
+    {"OnItsOwnMount",
+     [](ModelFileSystem& s) {
+       s.makeFile(kFile, kOld);
+       s.nature.mounts.insert(kFile);
+     },
+     kOld},
+    {"WithTwoNames",
+     [](ModelFileSystem& s) {
+       s.makeFile(kFile, kOld);
+       s.makeSecondName(kFile, "/folder/other");
+     },
+     kOld},
+    {"ThroughALink",
+     [](ModelFileSystem& s) {
+       s.makeFolder("/elsewhere");
+       s.makeFile("/elsewhere/g", kOld);
+       s.makeLink(kFile, "/elsewhere/g");
+     },
+     kOld},
+    {"BusyForAMoment",
+     [](ModelFileSystem& s) {
+       s.makeFile(kFile, kOld);
+       s.nature.busy[kFile] = 3;
+     },
+     kOld},
+    {"InPlaceBusyForAMoment",
+     [](ModelFileSystem& s) {
+       s.makeFile(kFile, kOld);
+       s.nature.mounts.insert(kFile);
+       s.nature.busy[kFile] = 3;
+     },
+     kOld},
+    {"WithLeftovers",
+     [](ModelFileSystem& s) {
+       s.makeFile(kFile, kOld);
+       s.makeFile("/folder/f.brennet-77-0.tmp", "half");
+       s.makeFile("/folder/f.brennet-old", "older");
+     },
+     kOld},
+};
+
+class ReplacementFaults : public testing::TestWithParam<Setting> {
+ protected:
+  void begin() {
+    faulty_.reset();
+    model_.emplace();
+    current = &faulty_.emplace(*model_);
+    model_->makeFolder(kFolder);
+    GetParam().prepare(*model_);
+  }
+
+  std::string listing() { return model_->listing(kFolder) + model_->listing("/private"); }
+
+  [[nodiscard]] std::string content() { return model_->contentOf(model_->resolved(kFile)); }
+
+  // A session that has nothing against it. What it reads is what is there.
+  void runCleanSession(std::initializer_list<std::string> allowed, const std::string& what) {
+    model_->endPrograms();
+    faulty_->plan(-1, Fault::None);
+    std::string read;
+    const std::error_code error = readFile(kFile, read, kAnySize);
+    const std::string found = platform::isMissing(error) ? kNone : error ? error.message() : read;
+    EXPECT_TRUE(std::find(allowed.begin(), allowed.end(), found) != allowed.end())
+        << what << ": found " << found;
+    EXPECT_EQ(content(), found) << what;
+    EXPECT_FALSE(replaceFile(kFile, kShort)) << what;
+    EXPECT_EQ(content(), kShort) << what;
+    EXPECT_EQ(listing(), cleanListing_) << what;
+  }
+
+  // How many calls a replacement makes without a fault.
+  int countCalls(const char* bytes) {
+    begin();
+    faulty_->plan(-1, Fault::None);
+    EXPECT_FALSE(replaceFile(kFile, bytes));
+    EXPECT_EQ(content(), bytes);
+    const int calls = faulty_->calls();
+    cleanListing_ = listing();
+    return calls;
+  }
+
+  std::optional<ModelFileSystem> model_;
+  std::optional<FaultyFileSystem> faulty_;
+  std::string cleanListing_;
+};
+
+std::string described(const char* what, int call, const std::string& name, const char* bytes) {
+  return std::string(what) + " " + std::to_string(call) + " (" + name + "), " +
+         std::to_string(std::string(bytes).size()) + " bytes";
+}
+
+constexpr Obstacle kErrors[] = {Obstacle::Other,   Obstacle::Denied, Obstacle::Held,
+                                Obstacle::Missing, Obstacle::Exists, Obstacle::Halfway};
+
+TEST_P(ReplacementFaults, OfOneCallOrAllLeaveTheOldContentAfterAnError) {
+  for (const char* const bytes : {kNew, kShort}) {
+    const int calls = countCalls(bytes);
+    for (const Fault fault : {Fault::Fails, Fault::FailsForGood}) {
+      for (const Obstacle obstacle : kErrors) {
+        for (int call = 0; call < calls; ++call) {
+          begin();
+          faulty_->plan(call, fault, obstacle);
+          const std::error_code error = replaceFile(kFile, bytes);
+          const std::string what = described("call", call, faulty_->faulty(), bytes) + ", error " +
+                                   std::to_string(static_cast<int>(obstacle)) +
+                                   (fault == Fault::Fails ? " once" : " for good");
+          runCleanSession({error ? GetParam().before : bytes}, what);
+          if (HasFailure()) return;
+        }
+      }
+    }
+  }
+}
+
+TEST_P(ReplacementFaults, OfShortWritesAndReadsAreNone) {
+  const int calls = countCalls(kNew);
+  for (int call = 0; call < calls; ++call) {
+    begin();
+    faulty_->plan(call, Fault::Short);
+    EXPECT_FALSE(replaceFile(kFile, kNew)) << call << ": " << faulty_->faulty();
+    EXPECT_EQ(content(), kNew) << call << ": " << faulty_->faulty();
+  }
+}
+
+TEST_P(ReplacementFaults, ThatEndTheProcessLeaveOneContentWhole) {
+  for (const char* const bytes : {kNew, kShort}) {
+    const int calls = countCalls(bytes);
+    for (const Fault fault : {Fault::EndsBefore, Fault::EndsInside, Fault::EndsAfter}) {
+      for (int call = 0; call < calls; ++call) {
+        begin();
+        faulty_->plan(call, fault);
+        static_cast<void>(replaceFile(kFile, bytes));
+        runCleanSession({GetParam().before, bytes},
+                        described("ended at", call, faulty_->faulty(), bytes));
+        if (HasFailure()) return;
+      }
+    }
+  }
+}
+
+constexpr unsigned kPowerLosses = 7 * 64;
+
+TEST_P(ReplacementFaults, ThatTakeThePowerAwayLeaveOneContentWhole) {
+  for (const char* const bytes : {kNew, kShort}) {
+    const int calls = countCalls(bytes);
+    for (int call = 0; call < calls; ++call) {
+      for (unsigned way = 0; way < kPowerLosses; ++way) {
+        begin();
+        faulty_->plan(call, Fault::EndsInside);
+        static_cast<void>(replaceFile(kFile, bytes));
+        model_->losePower(way);
+        runCleanSession({GetParam().before, bytes},
+                        described("power lost at", call, faulty_->faulty(), bytes) + ", way " +
+                            std::to_string(way));
+        if (HasFailure()) return;
+      }
+    }
+  }
+}
+
+// What was told as done is on the disk.
+TEST_P(ReplacementFaults, LeaveWhatWasDoneAfterAPowerLoss) {
+  for (const char* const bytes : {kNew, kShort}) {
+    static_cast<void>(countCalls(bytes));
+    for (unsigned way = 0; way < kPowerLosses; ++way) {
+      begin();
+      faulty_->plan(-1, Fault::None);
+      EXPECT_FALSE(replaceFile(kFile, bytes));
+      model_->losePower(way);
+      runCleanSession({bytes}, "way " + std::to_string(way));
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(, ReplacementFaults, testing::ValuesIn(kSettings),
+                         [](const auto& setting) { return std::string(setting.param.name); });
+
+}  // namespace
+}  // namespace test
+}  // namespace brennet
