@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 #include <exception>
+#include <limits>
 #include <utility>
 
 #include "gameside/Dota7KeyInfoManager.h"
@@ -20,6 +21,8 @@
 
 namespace brennet {
 namespace {
+
+using platform::Writability;
 
 constexpr std::uint8_t kVirtualKeyShift = 0x10;
 constexpr std::uint8_t kVirtualKeyCapsLock = 0x14;
@@ -38,8 +41,12 @@ std::size_t sharedSize(std::uint32_t announced) {
   return std::min<std::size_t>(announced, sizeof(HotkeyBlock));
 }
 
-bool isSizeWritable(HotkeyBlock* block) {
-  return block != nullptr && platform::isWritable(block, sizeof(std::uint32_t));
+// Whether the announced bytes of a record can be written, the first `most` of them, and its size.
+Writability probeBlock(HotkeyBlock* block, std::size_t most) {
+  if (block == nullptr) return Writability::NotWritable;
+  const Writability size = platform::probeMemory(block, sizeof(std::uint32_t));
+  if (size != Writability::Writable) return size;
+  return platform::probeMemory(block, std::min<std::size_t>(announcedSize(block), most));
 }
 
 // Nothing is thrown across the interface: what memory runs out for fails like the rest.
@@ -71,12 +78,14 @@ bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
   }
   settingsPath_ = std::move(name);
   isLoadTold_ = false;
+  unreadFile_ = platform::OldContent::Keep;
   try {
     if (!config_->Load(settingsPath_)) return false;
   } catch (const std::exception&) {
     config_->Reset();
     return false;
   }
+  unreadFile_ = platform::OldContent::Drop;
   try {
     trace(config_->loadReport());
   } catch (const std::exception&) {
@@ -115,9 +124,8 @@ bool CBrennetImpl::runDialog() {
 }
 
 bool CBrennetImpl::FillHotkeyBlock(HotkeyBlock* block) noexcept {
-  if (!isSizeWritable(block)) return false;
+  if (probeBlock(block, sizeof(HotkeyBlock)) != Writability::Writable) return false;
   const std::uint32_t size = announcedSize(block);
-  if (!platform::isWritable(block, sharedSize(size))) return false;
 
   HotkeyBlock filled;
   fillBlock(*config_, filled);
@@ -137,7 +145,7 @@ std::uint32_t CBrennetImpl::GetLastSaveTime() noexcept {
 bool CBrennetImpl::SetEnabled(bool enable, std::uint32_t saveTime) noexcept {
   if (enable == config_->enable()) return false;
   config_->setEnable(enable);
-  return orElse(false, [&] { return config_->Save(settingsPath_, saveTime); });
+  return orElse(false, [&] { return save(*config_, saveTime); });
 }
 
 std::uint8_t CBrennetImpl::GetViewNoDragFlag() noexcept {
@@ -153,9 +161,12 @@ bool CBrennetImpl::IsShiftUsed() noexcept {
 }
 
 std::int32_t CBrennetImpl::ApplyHotkeyBlock(HotkeyBlock* block, std::uint32_t saveTime) noexcept {
-  if (!isSizeWritable(block)) return kApplied;
+  constexpr std::size_t kWhole = std::numeric_limits<std::uint32_t>::max();
+  const Writability writability = probeBlock(block, kWhole);
+  // Zero says as well that there was nothing to be applied: no record, or none that can be written.
+  if (writability == Writability::NotWritable) return kApplied;
+  if (writability == Writability::Unknown) return kNotApplied;
   const std::uint32_t size = announcedSize(block);
-  if (!platform::isWritable(block, size)) return kApplied;
   // The player's own changes are being made in the working copy, and would be lost.
   if (isDialogOpen_) return kNotApplied;
 
@@ -177,11 +188,17 @@ std::uint8_t CBrennetImpl::GetStartJSQFlag() noexcept {
   return config_->scheme().StartJSQFlag;
 }
 
+bool CBrennetImpl::save(HotkeyConfig& config, std::uint32_t saveTime) {
+  if (!config.Save(settingsPath_, saveTime, unreadFile_)) return false;
+  unreadFile_ = platform::OldContent::Drop;
+  return true;
+}
+
 bool CBrennetImpl::saveWorkingCopy(std::uint32_t saveTime) {
   // The copy is made first: once the file is written, nothing may fail any more.
   HotkeyConfig saved = *config_;
   saved.ResetAndCopyFrom(workingCopy());
-  if (!workingCopy().Save(settingsPath_, saveTime)) return false;
+  if (!save(workingCopy(), saveTime)) return false;
   config_->swap(saved);
   return true;
 }

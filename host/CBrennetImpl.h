@@ -4,6 +4,7 @@
 
 #include "host/IBrennet.h"
 #include "model/HotkeyConfig.h"
+#include "platform/Files.h"
 
 namespace brennet {
 
@@ -38,10 +39,14 @@ class CBrennetImpl final : public IBrennet {
   bool runDialog();
 
   // Saves the working copy and, when that succeeded, makes it the main configuration.
+  // Saves `config` to the settings file.
+  bool save(HotkeyConfig& config, std::uint32_t saveTime);
   bool saveWorkingCopy(std::uint32_t saveTime);
 
   std::u16string settingsPath_;
   std::u16string dataFolder_;
+  // What was not read is not overwritten unseen.
+  platform::OldContent unreadFile_ = platform::OldContent::Drop;
   bool isDialogOpen_ = false;  // which edits the working copy
   bool isLoadTold_ = true;     // the player has seen what the last load could not use
   HotkeyConfig* config_;       // the main configuration, not owned

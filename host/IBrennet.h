@@ -52,7 +52,7 @@ class IBrennet {
   // Slot 3. Fills `block` with the active bindings. The caller writes the number of bytes it
   // provides into `block->size` first: a shorter, older record gets its prefix, a longer one keeps
   // its tail, and `size` itself is left as it was.
-  // Returns false when `block` is null or its memory is not writable.
+  // Returns false when `block` is null or its memory is not known to be writable.
   virtual bool BRENNET_CALL FillHotkeyBlock(HotkeyBlock* block) = 0;
 
   // Slot 4. 1 when the left Windows key is disabled in game, else 0.
@@ -80,7 +80,8 @@ class IBrennet {
   // Slot 10. Takes back a block that was changed in game, merges what differs into the settings
   // and saves them with `saveTime`. Reads `block->size` bytes, at most one record.
   // Returns 0 after a successful save, and 0 when `block` is null or any of its `size` bytes is
-  // not writable; -1 when nothing differs, the save fails, or the settings dialog is open.
+  // not writable; -1 when nothing differs, the save fails, the settings dialog is open, or whether
+  // the memory is writable cannot be found out.
   virtual std::int32_t BRENNET_CALL ApplyHotkeyBlock(HotkeyBlock* block,
                                                      std::uint32_t saveTime) = 0;
 

@@ -24,21 +24,19 @@ class ProbePipe {
 
   [[nodiscard]] bool isOpen() const { return open_; }
 
-  bool roundTrip(void* byte) {
-    if (!retried([&] { return write(ends_[1], byte, 1); })) return false;
-    if (retried([&] { return read(ends_[0], byte, 1); })) return true;
-    // A byte that could not be put back is still in the pipe, and would be the next one's.
-    char rest = 0;
-    retried([&] { return read(ends_[0], &rest, 1); });
-    return false;
+  Writability roundTrip(void* byte) {
+    const Writability readable = moved([&] { return write(ends_[1], byte, 1); });
+    return readable == Writability::Writable ? moved([&] { return read(ends_[0], byte, 1); })
+                                             : readable;
   }
 
  private:
   template <class Call>
-  static bool retried(Call call) {
-    ssize_t moved = call();
-    while (moved < 0 && errno == EINTR) moved = call();
-    return moved == 1;
+  static Writability moved(Call call) {
+    ssize_t count = call();
+    while (count < 0 && errno == EINTR) count = call();
+    if (count == 1) return Writability::Writable;
+    return count < 0 && errno == EFAULT ? Writability::NotWritable : Writability::Unknown;
   }
 
   int ends_[2] = {-1, -1};
@@ -47,21 +45,21 @@ class ProbePipe {
 
 }  // namespace
 
-bool isWritable(void* address, std::size_t size) {
-  if (size == 0) return true;
+Writability probeMemory(void* address, std::size_t size) {
+  if (size == 0) return Writability::Writable;
   const auto first = reinterpret_cast<std::uintptr_t>(address);
-  if (first == 0 || first + (size - 1) < first) return false;
+  if (first == 0 || first + (size - 1) < first) return Writability::NotWritable;
 
-  // Kept open: later there may be no free descriptor left to ask with.
-  static ProbePipe pipe;
-  if (!pipe.isOpen()) return false;
+  ProbePipe pipe;
+  if (!pipe.isOpen()) return Writability::Unknown;
   const auto pageSize = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
   auto* const bytes = static_cast<char*>(address);
   // The first byte, then the first one of every further page.
   for (std::size_t at = 0; at < size; at += pageSize - (first + at) % pageSize) {
-    if (!pipe.roundTrip(bytes + at)) return false;
+    const Writability byte = pipe.roundTrip(bytes + at);
+    if (byte != Writability::Writable) return byte;
   }
-  return true;
+  return Writability::Writable;
 }
 
 }  // namespace brennet::platform

@@ -26,12 +26,14 @@ bool hasGuardPage(const char* first, const char* last) {
 
 // IsBadWritePtr is obsolete for good reasons, but it is the contract with the host: an answer, not
 // a fault, for memory that is not there. It does not look at ranges that wrap around.
-bool isWritable(void* address, std::size_t size) {
-  if (size == 0) return true;
+Writability probeMemory(void* address, std::size_t size) {
+  if (size == 0) return Writability::Writable;
   const auto first = reinterpret_cast<std::uintptr_t>(address);
-  if (first + (size - 1) < first) return false;
+  if (first + (size - 1) < first) return Writability::NotWritable;
   const auto* const bytes = static_cast<const char*>(address);
-  return !hasGuardPage(bytes, bytes + (size - 1)) && IsBadWritePtr(address, size) == FALSE;
+  const bool isWritable =
+      !hasGuardPage(bytes, bytes + (size - 1)) && IsBadWritePtr(address, size) == FALSE;
+  return isWritable ? Writability::Writable : Writability::NotWritable;
 }
 
 }  // namespace brennet::platform

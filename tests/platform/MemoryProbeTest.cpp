@@ -12,6 +12,12 @@ namespace {
 using test::Access;
 using test::GuardedPages;
 
+bool isWritable(void* address, std::size_t size) {
+  const Writability writability = probeMemory(address, size);
+  EXPECT_NE(writability, Writability::Unknown);
+  return writability == Writability::Writable;
+}
+
 TEST(IsWritable, AcceptsOwnMemoryAndLeavesItAlone) {
   char bytes[] = "abcdefgh";
   EXPECT_TRUE(isWritable(bytes, sizeof(bytes)));

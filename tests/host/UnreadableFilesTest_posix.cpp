@@ -1,0 +1,86 @@
+// Files that cannot be read at this moment, and memory of which that cannot be found out.
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "tests/host/HostFixture.h"
+
+namespace brennet {
+namespace {
+
+using namespace test;
+
+// Whoever may read everything is somebody else meanwhile.
+class AnOrdinaryUser {
+ public:
+  explicit AnOrdinaryUser(const std::filesystem::path& folder) {
+    if (geteuid() != 0) return;
+    constexpr uid_t kNobody = 65534;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+      EXPECT_EQ(chown(entry.path().c_str(), kNobody, kNobody), 0);
+    }
+    EXPECT_EQ(chown(folder.c_str(), kNobody, kNobody), 0);
+    EXPECT_EQ(seteuid(kNobody), 0);
+  }
+  ~AnOrdinaryUser() {
+    if (getuid() == 0) {
+      EXPECT_EQ(seteuid(0), 0);
+    }
+  }
+  AnOrdinaryUser(const AnOrdinaryUser&) = delete;
+  AnOrdinaryUser& operator=(const AnOrdinaryUser&) = delete;
+};
+
+using UnreadableFiles = HostFixture;
+
+TEST_F(UnreadableFiles, OfTheGameStayAsTheyAre) {
+  const AnOrdinaryUser user(folder_.path());
+  writeBytes(preferences_, "[Mine]\r\nkept=1\r\n\r\n");
+  ASSERT_EQ(chmod(preferences_.c_str(), 0222), 0);
+  EXPECT_TRUE(brennet_.LoadSettings(settings_.wstring().c_str()));
+  EXPECT_TRUE(brennet_.SetEnabled(false, 5));
+  ASSERT_EQ(chmod(preferences_.c_str(), 0644), 0);
+  EXPECT_EQ(readBytes(preferences_), "[Mine]\r\nkept=1\r\n\r\n");
+}
+
+TEST_F(UnreadableFiles, OfSettingsArePutAsideWhereTheyCannotBeCopied) {
+  const AnOrdinaryUser user(folder_.path());
+  const std::string before = readBytes(settings_);
+  ASSERT_EQ(chmod(settings_.c_str(), 0200), 0);
+  EXPECT_FALSE(brennet_.LoadSettings(settings_.wstring().c_str()));
+  EXPECT_TRUE(brennet_.SetEnabled(true, 5) || brennet_.SetEnabled(false, 5));
+  struct stat status {};
+  ASSERT_EQ(stat(settings_.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777U, 0200U) << "the new file is as private as the old";
+  const std::string listing = folder_.listing();
+  const std::size_t name = listing.find("KeyInfo.xml.kept-");
+  ASSERT_NE(name, std::string::npos);
+  const std::filesystem::path kept =
+      folder_ / listing.substr(name, listing.find('\n', name) - name);
+  ASSERT_EQ(chmod(kept.c_str(), 0600), 0);
+  EXPECT_EQ(readBytes(kept), before);
+}
+
+// Whether memory can be written is asked by way of a pipe.
+TEST_F(UnreadableFiles, LeaveARecordUnknownAsLongAsThereAreNoDescriptors) {
+  HotkeyBlock block = filled();
+  block.flags ^= 1U;
+  rlimit before{};
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+  const rlimit none{0, before.rlim_max};
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+  const std::int32_t applied = brennet_.ApplyHotkeyBlock(&block, 5);
+  HotkeyBlock other = block;
+  const bool isFilled = brennet_.FillHotkeyBlock(&other);
+  const std::int32_t nothing = brennet_.ApplyHotkeyBlock(nullptr, 5);
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
+  EXPECT_EQ(applied, -1);
+  EXPECT_FALSE(isFilled);
+  EXPECT_EQ(nothing, 0);
+  EXPECT_EQ(brennet_.ApplyHotkeyBlock(&block, 5), 0);
+  EXPECT_TRUE(brennet_.FillHotkeyBlock(&other));
+}
+
+}  // namespace
+}  // namespace brennet
