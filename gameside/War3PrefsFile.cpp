@@ -163,7 +163,10 @@ std::string War3PrefsFile::serialize() const {
 bool War3PrefsFile::save() {
   if (path_.empty()) return false;
   std::string bytes = serialize();
-  if (fileBytes_ == bytes) return true;
+  if (fileBytes_ == bytes) {
+    platform::removeLeftovers(path_);
+    return true;
+  }
   if (platform::replaceFile(path_, bytes)) return false;
   fileBytes_ = std::move(bytes);
   return true;

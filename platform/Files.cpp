@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include "platform/FileSystem.h"
+#include "platform/Leftovers.h"
 #include "platform/OpenFile.h"
 #include "platform/Patience.h"
 #include "platform/Replacement.h"
@@ -28,6 +29,11 @@ bool isTooLarge(const std::error_code& error) {
 
 std::error_code replaceFile(const Path& path, std::string_view bytes, OldContent old) {
   return replaceFileOn(fileSystem(), path, bytes, old).code;
+}
+
+void removeLeftovers(const Path& path) {
+  FileSystem& system = fileSystem();
+  removeLeftovers(system, system.resolved(path));
 }
 
 bool pathExists(const Path& path) {

@@ -59,6 +59,10 @@ enum class OldContent {
 [[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes,
                                           OldContent old = OldContent::Drop);
 
+// Removes temporary files of replaceFile beside `path` whose processes have ended, as replaceFile
+// does; for a file that needs no replacement. Throws std::bad_alloc.
+void removeLeftovers(const Path& path);
+
 // Whether anything stands at `path`, a file or a folder.
 [[nodiscard]] bool pathExists(const Path& path);
 

@@ -9,22 +9,9 @@
 #include <string>
 
 #include "platform/Files.h"
-#include "tests/faults/FaultyFileSystem.h"
+#include "tests/faults/StandIn.h"
 
-namespace brennet {
-
-namespace {
-
-test::FaultyFileSystem* current = nullptr;
-
-}  // namespace
-
-// The functions of Files.h stand on this one here.
-platform::FileSystem& platform::fileSystem() {
-  return *current;
-}
-
-namespace test {
+namespace brennet::test {
 namespace {
 
 using platform::kAnySize;
@@ -105,21 +92,20 @@ const Setting kSettings[] = {
 class ReplacementFaults : public testing::TestWithParam<Setting> {
  protected:
   void begin() {
-    faulty_.reset();
-    model_.emplace();
-    current = &faulty_.emplace(*model_);
-    model_->makeFolder(kFolder);
-    GetParam().prepare(*model_);
+    in_.reset();
+    in_.emplace();
+    in_->model.makeFolder(kFolder);
+    GetParam().prepare(in_->model);
   }
 
-  std::string listing() { return model_->listing(kFolder) + model_->listing("/private"); }
+  std::string listing() { return in_->model.listing(kFolder) + in_->model.listing("/private"); }
 
-  [[nodiscard]] std::string content() { return model_->contentOf(model_->resolved(kFile)); }
+  [[nodiscard]] std::string content() { return in_->model.contentOf(in_->model.resolved(kFile)); }
 
   // A session that has nothing against it. What it reads is what is there.
   void runCleanSession(std::initializer_list<std::string> allowed, const std::string& what) {
-    model_->endPrograms();
-    faulty_->plan(-1, Fault::None);
+    in_->model.endPrograms();
+    in_->faulty.plan(-1, Fault::None);
     std::string read;
     const std::error_code error = readFile(kFile, read, kAnySize);
     const std::string found = platform::isMissing(error) ? kNone : error ? error.message() : read;
@@ -134,23 +120,17 @@ class ReplacementFaults : public testing::TestWithParam<Setting> {
   // How many calls a replacement makes without a fault.
   int countCalls(const char* bytes) {
     begin();
-    faulty_->plan(-1, Fault::None);
+    in_->faulty.plan(-1, Fault::None);
     EXPECT_FALSE(replaceFile(kFile, bytes));
     EXPECT_EQ(content(), bytes);
-    const int calls = faulty_->calls();
+    const int calls = in_->faulty.calls();
     cleanListing_ = listing();
     return calls;
   }
 
-  std::optional<ModelFileSystem> model_;
-  std::optional<FaultyFileSystem> faulty_;
+  std::optional<StandIn> in_;
   std::string cleanListing_;
 };
-
-std::string described(const char* what, int call, const std::string& name, const char* bytes) {
-  return std::string(what) + " " + std::to_string(call) + " (" + name + "), " +
-         std::to_string(std::string(bytes).size()) + " bytes";
-}
 
 constexpr Obstacle kErrors[] = {Obstacle::Other,   Obstacle::Denied, Obstacle::Held,
                                 Obstacle::Missing, Obstacle::Exists, Obstacle::Halfway};
@@ -162,11 +142,11 @@ TEST_P(ReplacementFaults, OfOneCallOrAllLeaveTheOldContentAfterAnError) {
       for (const Obstacle obstacle : kErrors) {
         for (int call = 0; call < calls; ++call) {
           begin();
-          faulty_->plan(call, fault, obstacle);
+          in_->faulty.plan(call, fault, obstacle);
           const std::error_code error = replaceFile(kFile, bytes);
-          const std::string what = described("call", call, faulty_->faulty(), bytes) + ", error " +
+          const std::string what = described(*in_, call) + " fails with " +
                                    std::to_string(static_cast<int>(obstacle)) +
-                                   (fault == Fault::Fails ? " once" : " for good");
+                                   (fault == Fault::Fails ? " once, " : " for good, ") + bytes;
           runCleanSession({error ? GetParam().before : bytes}, what);
           if (HasFailure()) return;
         }
@@ -179,9 +159,9 @@ TEST_P(ReplacementFaults, OfShortWritesAndReadsAreNone) {
   const int calls = countCalls(kNew);
   for (int call = 0; call < calls; ++call) {
     begin();
-    faulty_->plan(call, Fault::Short);
-    EXPECT_FALSE(replaceFile(kFile, kNew)) << call << ": " << faulty_->faulty();
-    EXPECT_EQ(content(), kNew) << call << ": " << faulty_->faulty();
+    in_->faulty.plan(call, Fault::Short);
+    EXPECT_FALSE(replaceFile(kFile, kNew)) << call << ": " << in_->faulty.faulty();
+    EXPECT_EQ(content(), kNew) << call << ": " << in_->faulty.faulty();
   }
 }
 
@@ -191,10 +171,10 @@ TEST_P(ReplacementFaults, ThatEndTheProcessLeaveOneContentWhole) {
     for (const Fault fault : {Fault::EndsBefore, Fault::EndsInside, Fault::EndsAfter}) {
       for (int call = 0; call < calls; ++call) {
         begin();
-        faulty_->plan(call, fault);
+        in_->faulty.plan(call, fault);
         static_cast<void>(replaceFile(kFile, bytes));
         runCleanSession({GetParam().before, bytes},
-                        described("ended at", call, faulty_->faulty(), bytes));
+                        described(*in_, call) + " is the last, " + bytes);
         if (HasFailure()) return;
       }
     }
@@ -209,12 +189,11 @@ TEST_P(ReplacementFaults, ThatTakeThePowerAwayLeaveOneContentWhole) {
     for (int call = 0; call < calls; ++call) {
       for (unsigned way = 0; way < kPowerLosses; ++way) {
         begin();
-        faulty_->plan(call, Fault::EndsInside);
+        in_->faulty.plan(call, Fault::EndsInside);
         static_cast<void>(replaceFile(kFile, bytes));
-        model_->losePower(way);
-        runCleanSession({GetParam().before, bytes},
-                        described("power lost at", call, faulty_->faulty(), bytes) + ", way " +
-                            std::to_string(way));
+        in_->model.losePower(way);
+        runCleanSession({GetParam().before, bytes}, described(*in_, call) + ", power lost, " +
+                                                        bytes + ", way " + std::to_string(way));
         if (HasFailure()) return;
       }
     }
@@ -227,9 +206,9 @@ TEST_P(ReplacementFaults, LeaveWhatWasDoneAfterAPowerLoss) {
     static_cast<void>(countCalls(bytes));
     for (unsigned way = 0; way < kPowerLosses; ++way) {
       begin();
-      faulty_->plan(-1, Fault::None);
+      in_->faulty.plan(-1, Fault::None);
       EXPECT_FALSE(replaceFile(kFile, bytes));
-      model_->losePower(way);
+      in_->model.losePower(way);
       runCleanSession({bytes}, "way " + std::to_string(way));
     }
   }
@@ -239,5 +218,4 @@ INSTANTIATE_TEST_SUITE_P(, ReplacementFaults, testing::ValuesIn(kSettings),
                          [](const auto& setting) { return std::string(setting.param.name); });
 
 }  // namespace
-}  // namespace test
-}  // namespace brennet
+}  // namespace brennet::test

@@ -69,6 +69,16 @@ TEST(PrefsOnDisk, AreLeftAloneWhereNothingChanges) {
   EXPECT_EQ(std::filesystem::last_write_time(folder / kName), before);
 }
 
+TEST(PrefsOnDisk, AreTidiedUpWhereNothingChangesToo) {
+  const TempFolder folder;
+  writeBytes(folder / kName, kOffFile);
+  writeBytes(folder / (std::string(kName) + ".brennet-4294967290-0.tmp"), "half");
+  War3PrefsFile file(folder / kName);
+  file.setCustomKeys(false);
+  EXPECT_TRUE(file.save());
+  EXPECT_EQ(folder.listing(), std::string(kName) + "\n");
+}
+
 TEST(PrefsOnDisk, FollowAChangeAndItsWithdrawal) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);

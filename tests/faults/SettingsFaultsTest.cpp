@@ -1,0 +1,235 @@
+// Whole operations on a player's two files, of which any call of the system fails, is the last one
+// of the process, or the last one of the machine.
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+#include "model/HotkeyConfig.h"
+#include "platform/Files.h"
+#include "platform/Folders.h"
+#include "platform/KeptFiles.h"
+#include "tests/faults/StandIn.h"
+#include "tests/support/FaultPoints.h"
+#include "tests/support/ScopedProfile.h"
+
+namespace brennet::test {
+namespace {
+
+constexpr char kHome[] = "/home";
+constexpr char kSettings[] = "/folder/KeyInfo.xml";
+constexpr char16_t kSettingsName[] = u"/folder/KeyInfo.xml";
+constexpr char kOldPreferences[] = "[Mine]\r\nkept=1\r\n\r\n[Gameplay]\r\ncustomkeys=0\r\n\r\n";
+constexpr std::uint32_t kOldTime = 1;
+constexpr std::uint32_t kNewTime = 2;
+constexpr int kHeroSkill = 3;
+constexpr KeyWord kKey{0x51, 0};
+
+struct Setting {
+  const char* name;
+  void (*prepare)(ModelFileSystem& system, const Path& preferences);
+};
+
+const Setting kPlaces[] = {
+    {"Usual", [](ModelFileSystem&, const Path&) {}},
+    {"InTwoSteps", [](ModelFileSystem& s, const Path&) { s.nature.twoSteps = true; }},
+    {"NothingNew",
+     [](ModelFileSystem& s, const Path& preferences) {
+       s.nature.closedFolders = {"/folder", preferences.parent_path()};
+     }},
+    {"OnMounts",
+     [](ModelFileSystem& s, const Path& preferences) {
+       s.nature.mounts = {kSettings, preferences};
+     }},
+    {"NoPreferences", [](ModelFileSystem& s, const Path& p) { s.removeFile(p); }},
+    {"BusyForAMoment",
+     [](ModelFileSystem& s, const Path& preferences) {
+       s.nature.busy = {{kSettings, 3}, {preferences, 6}};
+     }},
+};
+
+class SettingsFaults : public testing::TestWithParam<Setting> {
+ protected:
+  SettingsFaults() : profile_(kHome) {
+    preferences_ =
+        platform::pathFromNarrow(platform::profileFolder() + platform::gamePreferencesSuffix());
+  }
+
+  // A player's files, one of his keys changed in memory, and the session that is to save it.
+  void begin() {
+    in_.reset();
+    in_.emplace();
+    in_->model.makeFolder("/folder");
+    in_->model.makeFolder(preferences_.parent_path());
+    in_->model.makeFile(preferences_, kOldPreferences);
+    config_ = HotkeyConfig();
+    EXPECT_TRUE(config_.Save(kSettingsName, kOldTime));
+    EXPECT_TRUE(config_.Load(kSettingsName));
+    GetParam().prepare(in_->model, preferences_);
+    old_ = filesOf();
+    EXPECT_TRUE(config_.SetHeroSkillKey(kHeroSkill, kKey, true));
+  }
+
+  struct Files {
+    std::string settings;
+    std::string preferences;
+  };
+
+  Files filesOf() { return {in_->model.contentOf(kSettings), in_->model.contentOf(preferences_)}; }
+
+  // What the files become without a fault.
+  int countCalls() {
+    begin();
+    HotkeyConfig loaded;
+    EXPECT_TRUE(loaded.Load(kSettingsName));
+    followed_ = filesOf().preferences;
+    begin();
+    in_->faulty.plan(-1, Fault::None);
+    EXPECT_TRUE(config_.Save(kSettingsName, kNewTime));
+    new_ = filesOf();
+    EXPECT_NE(new_.settings, old_.settings);
+    EXPECT_NE(new_.preferences, old_.preferences);
+    return in_->faulty.calls();
+  }
+
+  enum class Told { Nothing, Saved, NotSaved };
+
+  void checkNextSession(Told told, const std::string& what) {
+    in_->model.endPrograms();
+    in_->faulty.plan(-1, Fault::None);
+    std::string preferences;
+    const std::error_code error = platform::readFile(preferences_, preferences, platform::kAnySize);
+    if (error) preferences = platform::isMissing(error) ? "(none)" : error.message();
+    EXPECT_TRUE(preferences == old_.preferences || preferences == new_.preferences)
+        << what << ": " << preferences;
+
+    HotkeyConfig next;
+    EXPECT_TRUE(next.Load(kSettingsName)) << what;
+    const bool isNew = next.LastSaveTime() == kNewTime;
+    EXPECT_EQ(next.scheme().HeroSkillKey[kHeroSkill].sameKey(kKey), isNew) << what;
+    if (told == Told::Saved) {
+      EXPECT_TRUE(isNew) << what;
+    }
+    if (told == Told::NotSaved) {
+      EXPECT_FALSE(isNew) << what;
+    }
+    // The game's file follows each load.
+    EXPECT_EQ(in_->model.contentOf(preferences_), isNew ? new_.preferences : followed_) << what;
+    EXPECT_TRUE(next.Save(kSettingsName, next.LastSaveTime())) << what;
+    EXPECT_EQ(in_->model.listing("/folder"), std::string(kSettings) + "\n") << what;
+    EXPECT_EQ(in_->model.listing(preferences_.parent_path()), preferences_.generic_string() + "\n")
+        << what;
+    EXPECT_EQ(in_->model.listing("/private"), "") << what;
+  }
+
+  // The file that was put aside; there is one at most.
+  Path keptFile() { return platform::keptName(kSettings, in_->model.wallTime()); }
+
+  Told save() { return config_.Save(kSettingsName, kNewTime) ? Told::Saved : Told::NotSaved; }
+
+  ScopedProfile profile_;
+  Path preferences_;
+  std::optional<StandIn> in_;
+  HotkeyConfig config_;
+  Files old_;
+  Files new_;
+  std::string followed_;  // the game's file after a load of the old settings
+};
+
+TEST_P(SettingsFaults, OfASaveLeaveItWholeAndTruthful) {
+  const int calls = countCalls();
+  for (const Fault fault : {Fault::Fails, Fault::FailsForGood}) {
+    for (const Obstacle obstacle : {Obstacle::Other, Obstacle::Denied, Obstacle::Held}) {
+      for (int call = 0; call < calls; ++call) {
+        begin();
+        in_->faulty.plan(call, fault, obstacle);
+        const Told told = save();
+        checkNextSession(told, described(*in_, call) + (fault == Fault::Fails ? " once" : " ever"));
+        if (HasFailure()) return;
+      }
+    }
+  }
+}
+
+TEST_P(SettingsFaults, ThatEndTheProcessLeaveBothFilesWhole) {
+  const int calls = countCalls();
+  for (const Fault fault : {Fault::EndsBefore, Fault::EndsInside, Fault::EndsAfter}) {
+    for (int call = 0; call < calls; ++call) {
+      begin();
+      in_->faulty.plan(call, fault);
+      static_cast<void>(save());
+      checkNextSession(Told::Nothing, described(*in_, call));
+      if (HasFailure()) return;
+    }
+  }
+}
+
+constexpr long kPowerLosses = 7 * 64;
+constexpr long kSomePowerLosses = 40;
+
+TEST_P(SettingsFaults, ThatTakeThePowerAwayLeaveBothFilesWhole) {
+  const int calls = countCalls();
+  for (int call = 0; call <= calls; ++call) {
+    for (const long way : faultPoints(kPowerLosses, kSomePowerLosses)) {
+      begin();
+      in_->faulty.plan(call, Fault::EndsAfter);
+      const Told told = save();
+      in_->model.losePower(static_cast<unsigned>(way));
+      checkNextSession(call == calls ? told : Told::Nothing,
+                       described(*in_, call) + ", way " + std::to_string(way));
+      if (HasFailure()) return;
+    }
+  }
+}
+
+TEST_P(SettingsFaults, OfALoadLeaveTheFilesOfThePlayer) {
+  begin();
+  in_->faulty.plan(-1, Fault::None);
+  HotkeyConfig loaded;
+  EXPECT_TRUE(loaded.Load(kSettingsName));
+  const int calls = in_->faulty.calls();
+  static_cast<void>(countCalls());
+  for (const Fault fault : {Fault::Fails, Fault::FailsForGood}) {
+    for (int call = 0; call < calls; ++call) {
+      begin();
+      in_->model.makeFile(preferences_, kOldPreferences);
+      in_->faulty.plan(call, fault, Obstacle::Held);
+      static_cast<void>(loaded.Load(kSettingsName));
+      const std::string after = in_->model.contentOf(preferences_);
+      EXPECT_NE(after.find("kept=1"), std::string::npos) << described(*in_, call);
+      EXPECT_EQ(in_->model.contentOf(kSettings), old_.settings) << described(*in_, call);
+      if (HasFailure()) return;
+    }
+  }
+}
+
+// What could not be loaded is in its place, or put aside, whatever happens while it is saved over.
+TEST_P(SettingsFaults, LoseNothingThatWasNotRead) {
+  static_cast<void>(countCalls());
+  constexpr int kMoreThanAnySave = 200;
+  constexpr char kDamaged[] = "<KeyInfo>damaged";
+  for (const Fault fault : {Fault::EndsBefore, Fault::EndsInside, Fault::EndsAfter}) {
+    for (int call = 0; call < kMoreThanAnySave; ++call) {
+      begin();
+      // Where nothing new can be made, nothing can be put aside.
+      if (in_->model.nature.closedFolders.contains("/folder")) return;
+      in_->model.makeFile(kSettings, kDamaged);
+      in_->faulty.plan(call, fault);
+      static_cast<void>(config_.Save(kSettingsName, kNewTime, platform::OldContent::Keep));
+      in_->model.endPrograms();
+      in_->faulty.plan(-1, Fault::None);
+      std::string content;
+      EXPECT_FALSE(platform::readFile(kSettings, content, platform::kAnySize));
+      const std::string kept = in_->model.contentOf(keptFile());
+      EXPECT_TRUE(content == kDamaged || kept == kDamaged) << described(*in_, call);
+      if (HasFailure()) return;
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(, SettingsFaults, testing::ValuesIn(kPlaces),
+                         [](const auto& place) { return std::string(place.param.name); });
+
+}  // namespace
+}  // namespace brennet::test
