@@ -11,14 +11,9 @@ extern "C" brennet::IBrennet* GetBrennetPtr() noexcept;
 namespace brennet {
 namespace {
 
-using test::allocationsUntilFailure;
-
 TEST(TheFirstCall, NeedsNoMemory) {
-  allocationsUntilFailure = 0;
-  IBrennet* const brennet = GetBrennetPtr();
-  const bool wasAskedFor = allocationsUntilFailure < 0;
-  allocationsUntilFailure = -1;
-  EXPECT_FALSE(wasAskedFor);
+  IBrennet* brennet = nullptr;
+  EXPECT_EQ(test::allocationsOf([&] { brennet = GetBrennetPtr(); }), 0);
   ASSERT_NE(brennet, nullptr);
   HotkeyBlock block{};
   block.size = sizeof(block);

@@ -1,88 +1,168 @@
-// Each allocation on the way fails once, one after the other: the host gets a result, never an
-// exception, and what was saved before stays whole.
+// Each allocation on the way fails, alone and with all that follow: the host gets a result that is
+// true, never an exception, and files and settings are the old ones or the new ones.
 
 #include <gtest/gtest.h>
 
 #include "tests/host/FailingNew.h"
 #include "tests/host/HostFixture.h"
+#include "tests/support/FaultPoints.h"
 
 namespace brennet {
 namespace {
 
 using namespace test;
 
-using OutOfMemory = HostFixture;
+constexpr long kSample = 40;
 
-// Runs `operation` with failing allocations, further and further on, until none fails any more.
-template <class Operation, class Check>
-void failEachAllocation(Operation operation, Check check) {
-  constexpr long kMoreThanAnyOperation = 100000;
-  for (long n = 0; n < kMoreThanAnyOperation; ++n) {
-    allocationsUntilFailure = n;
-    operation();
-    const bool wasReached = allocationsUntilFailure < 0;
-    allocationsUntilFailure = -1;
-    check(n);
-    if (!wasReached) return;
+class OutOfMemory : public HostFixture, public testing::WithParamInterface<Lasts> {
+ protected:
+  OutOfMemory() {
+    std::string text = kDefaults;
+    // The phrase takes memory of its own, beside that of the fields.
+    text.replace(text.find("<Chat id=\"0\"/>"), 14, kPhrase);
+    text_ = text;
+    reset();
+    files_ = folder_.listing();
   }
-  FAIL() << "the operation never ends";
-}
 
-TEST_F(OutOfMemory, WhileLoadingGivesTheDefaultsOrTheFile) {
-  // The phrase is kept last, and takes memory of its own: what came before it is there already.
-  std::string text = kDefaults;
-  text.replace(text.find("<Chat id=\"0\"/>"), 14, "<Chat id=\"0\">a phrase of many letters</Chat>");
-  writeBytes(settings_, text);
+  // The state before each try.
+  void reset() {
+    writeBytes(preferences_, kPreferences);
+    ASSERT_TRUE(loadText(withoutMarks()));
+    ASSERT_TRUE(loadText(text_));
+    preferencesBefore_ = readBytes(preferences_);
+    before_ = filled();
+  }
+
+  // Runs `operation` from that state, with one failing allocation after the other. `check` is told
+  // which one, and finds the state afterwards.
+  template <class Operation, class Check>
+  void failEachAllocation(Operation operation, Check check) {
+    const long count = allocationsOf(operation);
+    EXPECT_GT(count, 0);
+    RecordProperty("allocations", static_cast<int>(count));
+    for (const long point : faultPoints(count, kSample)) {
+      reset();
+      {
+        const FailingAllocation failing(point, GetParam());
+        operation();
+        EXPECT_TRUE(failing.hasFailed()) << point;
+      }
+      check(point);
+      EXPECT_EQ(folder_.listing(), files_) << point;
+      if (HasFailure()) return;
+    }
+  }
+
+  [[nodiscard]] bool isFilledWith(const HotkeyBlock& expected) {
+    const HotkeyBlock now = filled();
+    return std::memcmp(&now, &expected, sizeof(now)) == 0;
+  }
+
+  static constexpr char kPhrase[] = "<Chat id=\"0\">a phrase of many letters</Chat>";
+  std::string text_;
+  std::string files_;
+  std::string preferencesBefore_;
+  HotkeyBlock before_;
+};
+
+// Another settings file than the one that is loaded already.
+TEST_P(OutOfMemory, WhileLoadingGivesTheDefaultsOrTheFile) {
+  std::string other = text_;
+  other.replace(other.find("77<"), 2, "78");
+  other.replace(other.find("20736"), 5, "20992");
+  ASSERT_TRUE(loadText(other));
+  const HotkeyBlock whole = filled();
+  const std::string preferencesAfter = readBytes(preferences_);
   const std::wstring path = settings_.wstring();
   bool loaded = false;
-  failEachAllocation([&] { loaded = brennet_.LoadSettings(path.c_str()); },
-                     [&](long n) {
-                       // The first allocation is that of the path: then nothing changes at all.
-                       const bool hasSettings = loaded || n == 0;
-                       const HotkeyBlock block = filled();
-                       EXPECT_EQ(block.heroSkillKeys0to5[0], hasSettings ? 0x5100 : 0) << n;
-                       EXPECT_EQ(brennet_.GetLastSaveTime(), hasSettings ? 77U : 0U) << n;
-                       EXPECT_EQ(readBytes(settings_), text) << n;
-                     });
-  EXPECT_TRUE(loaded);
-}
-
-TEST_F(OutOfMemory, WhileApplyingABlockChangesAllOrNothing) {
-  HotkeyBlock block = filled();
-  const HotkeyBlock before = block;
-  const std::string fileBefore = readBytes(settings_);
-  const std::string filesBefore = folder_.listing();
-  block.heroSkillKeys0to5[0] = 0x5200;
-  block.quickChat[0] = 'x';
-  std::int32_t applied = -1;
-  failEachAllocation([&] { applied = brennet_.ApplyHotkeyBlock(&block, 5); },
-                     [&](long n) {
-                       const HotkeyBlock now = filled();
-                       const HotkeyBlock& expected = applied == 0 ? block : before;
-                       EXPECT_EQ(std::memcmp(&now, &expected, sizeof(now)), 0) << n;
-                       EXPECT_EQ(readBytes(settings_) == fileBefore, applied != 0) << n;
-                       EXPECT_EQ(folder_.listing(), filesBefore) << n;
-                       if (applied != 0) return;
-                       // From here on the allocations of the game's file fail, silently.
-                       ASSERT_TRUE(loadText(fileBefore));
-                     });
-  EXPECT_EQ(applied, 0);
-}
-
-TEST_F(OutOfMemory, WhileSwitchingLeavesALoadableFile) {
-  bool switched = false;
-  bool enable = true;
   failEachAllocation(
       [&] {
-        enable = !enable;
-        switched = brennet_.SetEnabled(enable, 5);
+        {
+          const WithoutFailures inTheTest;
+          writeBytes(settings_, other);
+        }
+        loaded = brennet_.LoadSettings(path.c_str());
       },
-      [&](long n) {
-        EXPECT_EQ(filled().flags, enable ? 0x80000000U : 0U) << n;
-        EXPECT_NE(readBytes(settings_).find("</KeyInfo>"), std::string::npos) << n;
+      [&](long point) {
+        const std::string preferences = readBytes(preferences_);
+        EXPECT_EQ(readBytes(settings_), other) << point;
+        EXPECT_TRUE(preferences == preferencesAfter || preferences == preferencesBefore_) << point;
+        if (loaded) {
+          EXPECT_TRUE(isFilledWith(whole)) << point;
+          EXPECT_EQ(brennet_.GetLastSaveTime(), 78U) << point;
+          return;
+        }
+        EXPECT_EQ(preferences, preferencesBefore_) << point;
+        // The first allocation is that of the path: then nothing changes at all.
+        EXPECT_EQ(isFilledWith(before_), point == 0) << point;
+        EXPECT_EQ(filled().heroSkillKeys0to5[0], point == 0 ? 0x5100 : 0) << point;
+        EXPECT_EQ(brennet_.GetLastSaveTime(), point == 0 ? 77U : 0U) << point;
       });
-  EXPECT_TRUE(switched);
 }
+
+TEST_P(OutOfMemory, WhileApplyingABlockChangesAllOrNothing) {
+  HotkeyBlock block = filled();
+  block.heroSkillKeys0to5[0] = 0x5200;
+  block.quickChat[0] = 'x';
+  ASSERT_EQ(brennet_.ApplyHotkeyBlock(&block, 5), 0);
+  const std::string after = readBytes(settings_);
+  const std::string preferencesAfter = readBytes(preferences_);
+  ASSERT_NE(after, text_);
+  ASSERT_NE(preferencesAfter, preferencesBefore_);
+  reset();
+  std::int32_t applied = -1;
+  failEachAllocation([&] { applied = brennet_.ApplyHotkeyBlock(&block, 5); },
+                     [&](long point) {
+                       const bool isApplied = applied == 0;
+                       EXPECT_TRUE(isFilledWith(isApplied ? block : before_)) << point;
+                       EXPECT_EQ(readBytes(settings_), isApplied ? after : text_) << point;
+                       const std::string preferences = readBytes(preferences_);
+                       EXPECT_TRUE(preferences == preferencesBefore_ ||
+                                   (isApplied && preferences == preferencesAfter))
+                           << point;
+                     });
+}
+
+TEST_P(OutOfMemory, WhileSwitchingKeepsTheFileOrReplacesIt) {
+  ASSERT_TRUE(brennet_.SetEnabled(false, 5));
+  const std::string after = readBytes(settings_);
+  ASSERT_NE(after, text_);
+  reset();
+  bool isSwitched = false;
+  failEachAllocation([&] { isSwitched = brennet_.SetEnabled(false, 5); },
+                     [&](long point) {
+                       EXPECT_EQ(readBytes(settings_), isSwitched ? after : text_) << point;
+                       EXPECT_EQ(filled().flags, 0U) << "in memory in any case, " << point;
+                       ASSERT_TRUE(brennet_.SetEnabled(true, 6)) << "and can be saved again";
+                       EXPECT_TRUE(isFilledWith(before_)) << point;
+                     });
+}
+
+TEST_P(OutOfMemory, WhileTheFolderIsNamedIsNoFailure) {
+  failEachAllocation([&] { brennet_.SetDataFolder(L"a folder with a name of many letters"); },
+                     [&](long point) { EXPECT_TRUE(isFilledWith(before_)) << point; });
+}
+
+TEST_P(OutOfMemory, DoesNotMatterToWhatTakesNone) {
+  HotkeyBlock block = filled();
+  block.size = sizeof(block);
+  const FailingAllocation failing(0, GetParam());
+  EXPECT_TRUE(brennet_.FillHotkeyBlock(&block));
+  EXPECT_EQ(brennet_.GetDisableLWinFlag(), 0);
+  EXPECT_EQ(brennet_.GetViewNoDragFlag(), 0);
+  EXPECT_EQ(brennet_.GetStartJSQFlag(), 0);
+  EXPECT_EQ(brennet_.GetLastSaveTime(), 77U);
+  EXPECT_FALSE(brennet_.IsCapsLockUsed());
+  EXPECT_FALSE(brennet_.IsShiftUsed());
+  EXPECT_FALSE(brennet_.SetEnabled(true, 1)) << "it is so already";
+  EXPECT_EQ(failing.calls(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, OutOfMemory, testing::Values(Lasts::Once, Lasts::ForEver),
+                         [](const auto& lasts) {
+                           return lasts.param == Lasts::Once ? "Once" : "ForEver";
+                         });
 
 }  // namespace
 }  // namespace brennet
