@@ -23,6 +23,8 @@
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
 #include "ui/window/CMsgBox.h"
 #include "ui/window/CNoticeStrip.h"
+#include "ui/window/EventGuard.h"
+#include "ui/window/ModalRun.h"
 #include "ui/window/ScreenFit.h"
 #include "ui/window/StyleSheet.h"
 #include "ui/window/TabOrder.h"
@@ -46,6 +48,7 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
                                      brennet::Dota7KeyInfoManager& manager)
     : QDialog(nullptr, Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
                            Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
+      guard_(std::make_unique<brennet::EventGuard>(*this)),
       config_(&config),
       manager_(&manager),
       form_(std::make_unique<Ui::CHotkeySettingDlg>()) {
@@ -213,7 +216,10 @@ void CHotkeySettingDlg::leaveField() {
 
 void CHotkeySettingDlg::onClickedOkBtn() {
   leaveField();
+  // What was begun in the field may be lost: then nothing is confirmed.
+  if (guard_->hasFailed()) return;
   manager_->acceptChanges();
+  setResult(Accepted);  // also where the window cannot be closed in order
   accept();
 }
 
@@ -292,7 +298,7 @@ void CHotkeySettingDlg::refreshDota7() {
 
 void CHotkeySettingDlg::onShowHotKeySettingDlg() {
   quickChat_->raise();
-  quickChat_->exec();
+  brennet::runWindow(*quickChat_);
 }
 
 void CHotkeySettingDlg::onSwitchPlatKeySettingDlg() {
@@ -307,7 +313,7 @@ void CHotkeySettingDlg::onSwitchDota7KeySettingDlg() {
 void CHotkeySettingDlg::onShowDota7HotKeySettingDlg() {
   dota7Chat_->load();
   dota7Chat_->raise();
-  if (dota7Chat_->exec() == QDialog::Accepted) {
+  if (brennet::runWindow(*dota7Chat_) == QDialog::Accepted) {
     dota7Chat_->savePhrases();
   } else {
     dota7Chat_->load();
@@ -339,8 +345,10 @@ bool CHotkeySettingDlg::isLinkClicked(const QLabel& link, const QEvent& event) {
 bool CHotkeySettingDlg::eventFilter(QObject* watched, QEvent* event) {
   const auto* const link = qobject_cast<const QLabel*>(watched);
   if (link != nullptr && isLinkClicked(*link, *event)) {
-    if (link == form_->lblResetToDefaultSetting) emit resetSetting();
-    if (link == form_->lblUseRecommendedSetting) emit useRecommendedSetting();
+    brennet::guarded([&] {
+      if (link == form_->lblResetToDefaultSetting) emit resetSetting();
+      if (link == form_->lblUseRecommendedSetting) emit useRecommendedSetting();
+    });
   }
   return QDialog::eventFilter(watched, event);
 }

@@ -11,6 +11,7 @@ class CHotkeySettingDlg;
 namespace brennet {
 class Dota7KeyInfoManager;
 struct DraggableWindow;
+class EventGuard;
 class HotkeyConfig;
 struct LoadReport;
 class ScreenFit;
@@ -93,6 +94,7 @@ class CHotkeySettingDlg : public QDialog {
   [[nodiscard]] bool isConfirmed(int icon, const QString& title, const QString& question);
   [[nodiscard]] brennet::DraggableWindow dragged() const;
 
+  std::unique_ptr<brennet::EventGuard> guard_;
   brennet::HotkeyConfig* config_;
   brennet::Dota7KeyInfoManager* manager_;
   std::unique_ptr<Ui::CHotkeySettingDlg> form_;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "ui/capture/VirtualKey.h"
+#include "ui/window/EventGuard.h"
 
 namespace brennet {
 namespace {
@@ -39,6 +40,10 @@ std::vector<QLineEdit*> KeyFieldFilter::install(const QWidget& window, QObject& 
 }
 
 bool KeyFieldFilter::filter(QObject* watched, QEvent* event) {
+  return guarded([&] { return handle(watched, event); });
+}
+
+bool KeyFieldFilter::handle(QObject* watched, QEvent* event) {
   auto* const field = qobject_cast<QLineEdit*>(watched);
   if (field == nullptr || !captures_(*field)) return false;
   switch (event->type()) {

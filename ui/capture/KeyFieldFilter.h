@@ -35,6 +35,7 @@ class KeyFieldFilter {
   void forget() { static_cast<void>(capture_.leave()); }
 
  private:
+  bool handle(QObject* watched, QEvent* event);
   void pass(QLineEdit& field, const Capture& capture) const;
 
   KeyCapture capture_;

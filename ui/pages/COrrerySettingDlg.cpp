@@ -1,5 +1,6 @@
 #include "ui/pages/COrrerySettingDlg.h"
 
+#include "ui/window/EventGuard.h"
 #include "ui/window/ScreenFit.h"
 #include "ui/window/StyleSheet.h"
 #include "ui/window/TabOrder.h"
@@ -7,9 +8,9 @@
 #include "ui_COrrerySettingDlg.h"
 
 COrrerySettingDlg::COrrerySettingDlg(QWidget* parent)
-    : QDialog(parent),
-      form_(std::make_unique<Ui::COrrerySettingDlg>()),
-      fit_(new brennet::ScreenFit(*this)) {
+    : QDialog(parent), form_(std::make_unique<Ui::COrrerySettingDlg>()) {
+  brennet::EventGuard::guardToo(*this);
+  fit_ = new brennet::ScreenFit(*this);
   form_->setupUi(this);
   brennet::setTabOrderOfLayouts(*this);
   setWindowFlag(Qt::FramelessWindowHint);

@@ -31,5 +31,5 @@ class COrrerySettingDlg : public QDialog {
 
  private:
   std::unique_ptr<Ui::COrrerySettingDlg> form_;
-  brennet::ScreenFit* fit_;  // a child of this
+  brennet::ScreenFit* fit_ = nullptr;  // a child of this
 };

@@ -13,6 +13,7 @@
 
 #include <memory>
 
+#include "ui/window/ModalRun.h"
 #include "ui/window/ScreenFit.h"
 #include "ui/window/StyleSheet.h"
 #include "ui/window/WindowDrag.h"
@@ -93,7 +94,7 @@ CMsgBox::StandardButton CMsgBox::showMessage(QWidget* parent, Icon icon, const Q
                   Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::FramelessWindowHint);
   box->addButtons(buttons, defaultButton);
   box->setButtonTexts();
-  const int result = box->exec();
+  const int result = brennet::runWindow(*box);
   if (box.isNull()) return NoButton;
   const std::unique_ptr<CMsgBox> done(box.data());
   return result == -1 ? Cancel : done->standardButton(done->clickedButton());
@@ -124,7 +125,8 @@ void CMsgBox::setButtonTexts() {
 void CMsgBox::applySkin() {
   if (brennet::loadStyleSheet(*this, QStringLiteral(":/skin/msgbox.qss"))) return;
   // A box of the skin would fail in the same way.
-  QMessageBox::critical(parentWidget(), tr("error"), tr("failed to read qss file"), Ok);
+  QMessageBox plain(Critical, tr("error"), tr("failed to read qss file"), Ok, parentWidget());
+  brennet::runWindow(plain);
 }
 
 void CMsgBox::buildTitleStrip() {

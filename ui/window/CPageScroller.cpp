@@ -6,6 +6,8 @@
 
 #include <utility>
 
+#include "ui/window/EventGuard.h"
+
 namespace {
 
 constexpr int kBeside = 12;  // pixels of what is around, so that one sees that there is more
@@ -17,8 +19,9 @@ CPageScroller::CPageScroller(QWidget* parent) : QScrollArea(parent) {
   setWidgetResizable(true);
   setFocusPolicy(Qt::NoFocus);
   viewport()->setAutoFillBackground(false);
-  focus_ = connect(qApp, &QApplication::focusChanged, this,
-                   [this](QWidget* /*old*/, QWidget* now) { showFocus(now); });
+  focus_ = connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
+    brennet::guarded([&] { showFocus(now); });
+  });
 }
 
 // What is inside goes later, and may have the focus still: nobody must be told of that any more.
@@ -56,7 +59,9 @@ bool CPageScroller::event(QEvent* event) {
 
 // The page asks for another size. Qt tells its viewport of that, and nobody else.
 bool CPageScroller::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+    brennet::guarded([this] { updateGeometry(); });
+  }
   return QScrollArea::eventFilter(watched, event);
 }
 

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "ui/window/CPageScroller.h"
+#include "ui/window/EventGuard.h"
 #include "ui/window/HostPlace.h"
 
 namespace brennet {
@@ -79,7 +80,9 @@ void ScreenFit::watch() {
   }
   if (std::exchange(isWatching_, true)) return;
   const auto watchScreen = [this](QScreen* screen) {
-    connect(screen, &QScreen::availableGeometryChanged, this, [this] { fitAgain(true); });
+    guarded([&] {
+      connect(screen, &QScreen::availableGeometryChanged, this, [this] { fitAgain(true); });
+    });
   };
   for (QScreen* const screen : QGuiApplication::screens()) watchScreen(screen);
   connect(qGuiApp, &QGuiApplication::screenAdded, this, watchScreen);
@@ -90,6 +93,10 @@ void ScreenFit::watch() {
 }
 
 void ScreenFit::fitAgain(bool moves) {
+  guarded([this, moves] { fitNow(moves); });
+}
+
+void ScreenFit::fitNow(bool moves) const {
   if (!window_.isVisible()) return;
   const QRect area = screenOf(window_).availableGeometry();
   limitTo(area.size());

@@ -38,6 +38,7 @@ class ScreenFit : public QObject {
   void watch();
   void limitTo(QSize available) const;
   void fitAgain(bool moves);
+  void fitNow(bool moves) const;
   void moveTo(QPoint corner) const;
 
   QWidget& window_;

@@ -10,6 +10,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "ui/window/EventGuard.h"
+
 namespace brennet {
 namespace {
 
@@ -40,9 +42,15 @@ class DragStart : public QObject {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    switch (event->type()) {
+    guarded([&] { follow(*event); });
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  void follow(const QEvent& event) {
+    switch (event.type()) {
       case QEvent::MouseMove:
-        moved(*static_cast<const QMouseEvent*>(event));
+        moved(static_cast<const QMouseEvent&>(event));
         break;
       case QEvent::MouseButtonRelease:
         end();
@@ -50,10 +58,7 @@ class DragStart : public QObject {
       default:
         break;
     }
-    return QObject::eventFilter(watched, event);
   }
-
- private:
   void moved(const QMouseEvent& move) {
     const bool isHeld = (move.buttons() & Qt::LeftButton) != 0;
     const int distance = (move.globalPos() - pressedAt_).manhattanLength();
