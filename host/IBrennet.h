@@ -45,8 +45,8 @@ class IBrennet {
   // Slot 2. Opens the settings dialog, modal over the host's window, on a copy of the settings.
   // When the player confirms, the copy is saved with `saveTime`, `*saved` tells whether that
   // succeeded, and if so the copy becomes the active configuration.
-  // Returns whether the player confirmed; false when `saved` is null, without a QApplication, and
-  // while the dialog is open already.
+  // Returns whether the player confirmed; false when `saved` is null, without a QApplication, while
+  // the dialog is open already, and when memory runs out, as far as Qt bears that.
   virtual bool BRENNET_CALL ShowSettingsDialog(bool* saved, std::uint32_t saveTime) = 0;
 
   // Slot 3. Fills `block` with the active bindings. The caller writes the number of bytes it

@@ -12,8 +12,8 @@ class QWidget;
 namespace brennet {
 
 // Keeps exceptions out of Qt, which cannot have them in its event loop, and out of the system's
-// window procedures, which end the process. Whatever an event of a guarded window throws ends
-// there: it is taken down as a failure, and the modal runs end. All on the GUI thread.
+// window procedures, which need not let them through. Whatever an event of a guarded window throws
+// ends there: it is taken down as a failure, and the modal runs end. All on the GUI thread.
 //
 // The guard delivers the events itself, so it has to be the last event filter of the receiver,
 // which is the one that was installed first. Whatever comes into a guarded window is guarded from
