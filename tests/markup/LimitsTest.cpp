@@ -93,6 +93,18 @@ TEST(Limits, ADocumentOf64Megabytes) {
   EXPECT_EQ(document.getChildData(), u"1");
 }
 
+// What a document says of entities is passed over: nothing grows, and nothing is fetched.
+TEST(Limits, EntitiesOfADocumentsOwn) {
+  MarkupDocument document;
+  ASSERT_TRUE(
+      document.setDoc(u"<!DOCTYPE r [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;\">"
+                      u"<!ENTITY c SYSTEM \"file:///etc/passwd\"><!ENTITY % d \"&b;\">]>"
+                      u"<r x='&b;'>&a;&b;&c;%d;</r>"));
+  ASSERT_TRUE(document.findElem());
+  EXPECT_EQ(document.getData(), u"&a;&b;&c;%d;");
+  EXPECT_EQ(document.getAttrib(u"x"), u"&b;");
+}
+
 TEST(Limits, AHundredThousandElementsAdded) {
   MarkupDocument document;
   ASSERT_TRUE(document.addElem(u"r"));

@@ -164,6 +164,12 @@ TEST_F(WheelPage, CutsNothingByShowingIt) {
   EXPECT_EQ(stored(4), longPhrase);
 }
 
+TEST_F(WheelPage, ShowsMarkupInAPhraseAsText) {
+  slot(1).setText(QStringLiteral("<img src='//host/a'>"));
+  EXPECT_EQ(slot(1).text(), QStringLiteral("<img src='//host/a'>"));
+  EXPECT_TRUE(slot(1).toolTip().contains(QStringLiteral("&lt;img"))) << "and the tool tip";
+}
+
 TEST_F(WheelPage, HidesTheCheckBoxThatStillWorks) {
   show();
   EXPECT_FALSE(mana().isVisible());
