@@ -180,6 +180,7 @@ TEST_P(DialogOutOfMemory, IsAnAnswerForTheHost) {
     reset();
     bool isConfirmed = true;
     {
+      const ToleratedLeaks ofTheForms;
       const FailingAllocation failing(point, GetParam(), Whose::Ours);
       isConfirmed = play();
     }

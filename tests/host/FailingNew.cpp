@@ -37,17 +37,44 @@ WithoutFailures::~WithoutFailures() {
 
 }  // namespace brennet::test
 
-void* operator new(std::size_t size) {
-  if (brennet::test::FailingAllocation::failsNow(__builtin_return_address(0))) {
-    throw std::bad_alloc();
-  }
-  void* memory = std::malloc(size == 0 ? 1 : size);
+namespace {
+
+// Null where there is none.
+void* allocate(std::size_t size, const void* caller) {
+  if (brennet::test::FailingAllocation::failsNow(caller)) return nullptr;
+  return std::malloc(size == 0 ? 1 : size);
+}
+
+void* allocateOrThrow(std::size_t size, const void* caller) {
+  void* const memory = allocate(size, caller);
   if (memory == nullptr) throw std::bad_alloc();
   return memory;
+}
+
+}  // namespace
+
+// All forms, because the sanitizers want what one of them gave back by its own counterpart.
+void* operator new(std::size_t size) {
+  return allocateOrThrow(size, __builtin_return_address(0));
+}
+void* operator new[](std::size_t size) {
+  return allocateOrThrow(size, __builtin_return_address(0));
+}
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return allocate(size, __builtin_return_address(0));
+}
+void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return allocate(size, __builtin_return_address(0));
 }
 void operator delete(void* memory) noexcept {
   std::free(memory);
 }
-void operator delete(void* memory, std::size_t) noexcept {
+void operator delete[](void* memory) noexcept {
+  std::free(memory);
+}
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+  std::free(memory);
+}
+void operator delete[](void* memory, std::size_t /*size*/) noexcept {
   std::free(memory);
 }
