@@ -2,18 +2,16 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "fuzz/Target.h"
 #include "gameside/War3PrefsFile.h"
 
 namespace brennet {
 namespace {
 
-void require(bool holds) {
-  if (!holds) std::abort();
-}
+using fuzz::require;
 
 // Hotkey sections of the two known kinds, as many as the file has bytes, up to a limit.
 void addHotkeySections(War3PrefsFile& file, std::string_view bytes) {
@@ -50,7 +48,11 @@ void checkPreferences(std::string_view bytes) {
 }  // namespace
 }  // namespace brennet
 
+const brennet::fuzz::Grammar& brennet::fuzz::targetGrammar() {
+  return preferencesGrammar();
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  brennet::checkPreferences({reinterpret_cast<const char*>(data), size});
+  brennet::checkPreferences(brennet::fuzz::bytesOf(data, size));
   return 0;
 }

@@ -5,10 +5,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "fuzz/Target.h"
 #include "markup/DeclaredEncoding.h"
 #include "markup/TextDecoding.h"
 #include "markup/TextEncoding.h"
@@ -16,9 +16,7 @@
 namespace brennet {
 namespace {
 
-void require(bool holds) {
-  if (!holds) std::abort();
-}
+using fuzz::require;
 
 void checkFile(std::string_view input) {
   if (input.empty()) return;
@@ -52,6 +50,6 @@ void checkFile(std::string_view input) {
 }  // namespace brennet
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  brennet::checkFile({reinterpret_cast<const char*>(data), size});
+  brennet::checkFile(brennet::fuzz::bytesOf(data, size));
   return 0;
 }

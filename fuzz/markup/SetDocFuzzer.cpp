@@ -6,21 +6,19 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "fuzz/Target.h"
 #include "markup/MarkupDocument.h"
 
 namespace brennet {
 namespace {
 
+using fuzz::require;
+
 constexpr std::u16string_view kNames[] = {u"a", u"b", u"id", u"xml"};
 constexpr std::u16string_view kValues[] = {u"", u"1", u"<b>&]]>\"'", u" \r\n"};
-
-void require(bool holds) {
-  if (!holds) std::abort();
-}
 
 std::u16string unitsOf(std::string_view bytes) {
   std::u16string text;
@@ -113,6 +111,6 @@ void checkDocument(std::string_view input) {
 }  // namespace brennet
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  brennet::checkDocument({reinterpret_cast<const char*>(data), size});
+  brennet::checkDocument(brennet::fuzz::bytesOf(data, size));
   return 0;
 }

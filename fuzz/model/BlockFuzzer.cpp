@@ -4,19 +4,17 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <string_view>
 
+#include "fuzz/Target.h"
 #include "model/BlockFiller.h"
 #include "model/BlockMerger.h"
 
 namespace brennet {
 namespace {
 
-void require(bool holds) {
-  if (!holds) std::abort();
-}
+using fuzz::require;
 
 // The first byte chooses the current scheme, the rest are records, the last one shorter.
 void checkBlocks(std::string_view bytes) {
@@ -46,7 +44,11 @@ void checkBlocks(std::string_view bytes) {
 }  // namespace
 }  // namespace brennet
 
+const brennet::fuzz::Grammar& brennet::fuzz::targetGrammar() {
+  return recordGrammar();
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  brennet::checkBlocks({reinterpret_cast<const char*>(data), size});
+  brennet::checkBlocks(brennet::fuzz::bytesOf(data, size));
   return 0;
 }

@@ -2,9 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
+#include "fuzz/Target.h"
 #include "markup/MarkupDocument.h"
 #include "markup/TextDecoding.h"
 #include "model/HotkeyConfig.h"
@@ -12,9 +12,7 @@
 namespace brennet {
 namespace {
 
-void require(bool holds) {
-  if (!holds) std::abort();
-}
+using fuzz::require;
 
 bool sameSettings(const HotkeyConfig& left, const HotkeyConfig& right) {
   bool same = left.enable() == right.enable() && left.index() == right.index() &&
@@ -50,7 +48,11 @@ void checkSettings(std::string_view bytes) {
 }  // namespace
 }  // namespace brennet
 
+const brennet::fuzz::Grammar& brennet::fuzz::targetGrammar() {
+  return settingsGrammar();
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  brennet::checkSettings({reinterpret_cast<const char*>(data), size});
+  brennet::checkSettings(brennet::fuzz::bytesOf(data, size));
   return 0;
 }

@@ -3,20 +3,18 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "fuzz/Target.h"
 #include "platform/RegFile.h"
 
 namespace brennet::platform {
 namespace {
 
-constexpr std::u16string_view kKey = u"HKEY_CURRENT_USER\\Software\\Tollamere";
+using fuzz::require;
 
-void require(bool holds) {
-  if (!holds) std::abort();
-}
+constexpr std::u16string_view kKey = u"HKEY_CURRENT_USER\\Software\\Tollamere";
 
 void checkRegFile(std::string_view bytes) {
   RegFile content;
@@ -46,7 +44,11 @@ void checkRegFile(std::string_view bytes) {
 }  // namespace
 }  // namespace brennet::platform
 
+const brennet::fuzz::Grammar& brennet::fuzz::targetGrammar() {
+  return regFileGrammar();
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  brennet::platform::checkRegFile({reinterpret_cast<const char*>(data), size});
+  brennet::platform::checkRegFile(brennet::fuzz::bytesOf(data, size));
   return 0;
 }
