@@ -2,12 +2,13 @@
 
 SETTINGS ?=
 FUZZ_SECONDS ?= 60
+HOURS ?= 4
 CTEST_ARGS ?=
 ROWS ?=
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run run-windows test test-anywhere asan odr windows test-windows sdk bench bench-build fuzz shots translations format lint lint-windows clean
+.PHONY: help run run-windows test test-anywhere asan odr windows test-windows sdk bench bench-build fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage shots translations format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -68,11 +69,25 @@ bench-build:
 bench: bench-build ## measure against other libraries (BENCH_ARGS="--benchmark_filter=setDoc")
 	@tools/bench.sh build/bench
 
-fuzz: ## run each fuzz target for FUZZ_SECONDS (60)
+fuzz-build:
 	@tools/setup.sh build fuzz
 	@cmake --preset fuzz
 	@cmake --build --preset fuzz -j $(JOBS) --target fuzzers
+
+fuzz: fuzz-build ## run each fuzz target for FUZZ_SECONDS (60), two at a time
 	@tools/fuzz.sh build/fuzz build/fuzz-corpus $(FUZZ_SECONDS)
+
+fuzz-long: fuzz-build ## run all fuzz targets for HOURS (4) together, two at a time
+	@tools/fuzz.sh build/fuzz build/fuzz-corpus $(HOURS)h
+
+fuzz-merge: fuzz-build ## bring what runs have found back to fuzz/corpus/
+	@tools/fuzz_merge.sh build/fuzz build/fuzz-corpus
+
+fuzz-coverage: ## tell which lines and branches the inputs in fuzz/corpus/ reach
+	@tools/setup.sh build fuzz
+	@cmake --preset fuzz-coverage
+	@cmake --build --preset fuzz-coverage -j $(JOBS) --target fuzzers
+	@tools/fuzz_coverage.sh build/fuzz-coverage
 
 translations: ## bring the catalogues up to date with the texts of the windows
 	@tools/setup.sh build

@@ -14,7 +14,7 @@ declare -A packages=(
   [anywhere]="locales tzdata util-linux"
   [bench]="libbenchmark-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libexpat1-dev
            libxml2-dev python3"
-  [fuzz]="clang libclang-rt-14-dev"
+  [fuzz]="clang libclang-rt-14-dev llvm"
   [lint]="clang-format clang-tidy"
   [windows]="cmake ninja-build pkg-config g++ make patch xz-utils g++-mingw-w64-i686-posix googletest
              clang lld llvm zip unzip python3 qttools5-dev-tools"
@@ -27,7 +27,7 @@ declare -A commands=(
   [test]="ctest python3 make patch xz"
   [anywhere]="localedef setpriv"
   [bench]="python3"
-  [fuzz]="clang++"
+  [fuzz]="clang++ llvm-cov llvm-profdata"
   [lint]="clang-format clang-tidy"
   [windows]="cmake ninja make patch xz i686-w64-mingw32-g++-posix clang++ lld-link zip unzip python3
              lrelease"

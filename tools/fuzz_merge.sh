@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# Brings what runs have found back into the checkout: tools/fuzz_merge.sh BUILD_FOLDER CORPUS_FOLDER
+#
+# fuzz/corpus/<target>/ then holds the seeds, which have names that say what they are, and as few
+# others as take the same branches as the old ones and those of CORPUS_FOLDER together. libFuzzer
+# names these by their hashes. Fails, after all is done, where they are more than 2 MB in all.
+set -euo pipefail
+
+# shellcheck source=tools/fuzz_lib.sh
+source "$(dirname "$0")/fuzz_lib.sh"
+
+readonly most_bytes=2000000
+build=$1
+corpus=$2
+
+is_seed() { # NAME
+  [[ ! $1 =~ ^[0-9a-f]{40}$ ]]
+}
+
+# Which branches are taken counts, not how often: a tenth of the inputs will do.
+merge() { # TARGET NEW_FOLDER
+  local target=$1 new=$2 old=fuzz/corpus/$1 file
+  mkdir -p "$new" "$old" "$corpus/$target"
+  for file in "$old"/*; do
+    if [[ -f $file ]] && is_seed "$(basename "$file")"; then cp "$file" "$new/"; fi
+  done
+  "$build/bin/fuzz_$target" -merge=1 -use_counters=0 -max_len="$(longest_input "$target")" \
+    -timeout=25 -rss_limit_mb=2048 "$new" "$old" "$corpus/$target" >"$corpus/$target-merge.log" 2>&1
+  rm -rf "$old"
+  cp -r "$new" "$old"
+  echo "$target: $(find "$old" -type f | wc -l) inputs, $(size_of "$old") bytes"
+}
+
+size_of() { # FOLDER
+  find "$1" -type f -printf '%s\n' | awk '{ sum += $1 } END { print sum + 0 }'
+}
+
+use_memory_for_files
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+for target in $(targets_in "$build"); do
+  merge "$target" "$work/$target"
+done
+size=$(size_of fuzz/corpus)
+echo "all: $size bytes"
+if ((size > most_bytes)); then
+  echo "The corpora are larger than $most_bytes bytes; leave some inputs out." >&2
+  exit 1
+fi
