@@ -14,7 +14,7 @@ targets_in() { # BUILD_FOLDER
 longest_input() { # TARGET
   case $1 in
     settings | session) echo 16384 ;;
-    regFile | block) echo 8192 ;;
+    regFile | dota7 | block) echo 8192 ;;
     *) echo 4096 ;;
   esac
 }
