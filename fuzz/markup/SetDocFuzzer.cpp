@@ -110,6 +110,10 @@ void checkDocument(std::string_view input) {
 }  // namespace
 }  // namespace brennet
 
+const brennet::fuzz::Grammar& brennet::fuzz::targetGrammar() {
+  return editsGrammar();
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   brennet::checkDocument(brennet::fuzz::bytesOf(data, size));
   return 0;

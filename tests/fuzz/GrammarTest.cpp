@@ -19,7 +19,8 @@ struct NamedGrammar {
 
 constexpr NamedGrammar kGrammars[] = {
     {"settings", settingsGrammar}, {"preferences", preferencesGrammar}, {"regFile", regFileGrammar},
-    {"record", recordGrammar},     {"markup", markupGrammar},           {"session", sessionGrammar},
+    {"record", recordGrammar},     {"markup", markupGrammar},           {"edits", editsGrammar},
+    {"session", sessionGrammar},
 };
 
 constexpr std::size_t kLongestDocument = 80000;
