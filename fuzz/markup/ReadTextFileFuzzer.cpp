@@ -1,5 +1,5 @@
-// Any bytes as a document file: they decode, alike for every block size, and what was decoded can
-// be written and read again.
+// Any bytes as a document file: they decode, alike for every block size and for a naive decoder,
+// and what was decoded can be written and read again.
 //
 // Input: the block size, and the content of the file.
 
@@ -12,6 +12,7 @@
 #include "markup/DeclaredEncoding.h"
 #include "markup/TextDecoding.h"
 #include "markup/TextEncoding.h"
+#include "tests/markup/NaiveDecoding.h"
 
 namespace brennet {
 namespace {
@@ -30,6 +31,7 @@ void checkFile(std::string_view input) {
   require(blocks.text == whole.text);
   require(blocks.form.codePage == whole.form.codePage);
   require(whole.text.find(u'\0') == std::u16string::npos);
+  require(test::decodedNaively(bytes).value_or(whole.text) == whole.text);
 
   // In UTF-8 with a mark nothing can be misread, so every well-formed text comes back.
   ResultLog logOfWriting;

@@ -6,7 +6,9 @@
 #include <algorithm>
 
 #include "fuzz/grammar/Grammar.h"
+#include "markup/TextDecoding.h"
 #include "markup/Utf8.h"
+#include "tests/markup/NaiveDecoding.h"
 #include "tests/markup/NaiveMarkup.h"
 #include "tests/markup/SameAsNaive.h"
 
@@ -61,6 +63,58 @@ TEST(NaiveMarkup, FindsWhatTheDocumentFindsInSettings) {
 
 TEST(NaiveMarkup, FindsWhatTheDocumentFindsInMarkupOfAllKinds) {
   expectAlike(fuzz::markupGrammar(), 40000);
+}
+
+TEST(NaiveDecoding, ReadsWhatItCan) {
+  using namespace std::string_view_literals;
+  struct Case {
+    std::string_view bytes;
+    std::optional<std::u16string> text;
+  };
+  const Case kCases[] = {
+      {"", u""},
+      {"a\xC3\xA9\xE8\xB0\xA2\xF0\x9F\x98\x80", u"a\u00E9\u8C22\U0001F600"},
+      {"\xE8\xB0", u"\uFFFD"},
+      {"\xB9\xFE", std::nullopt},
+      {"<?xml encoding='gb2312'?>\xD0\xBB", std::nullopt},
+      {"\xEF\xBB\xBF\xE8\xB0<\xC0\xAF", u"\uFFFD<\uFFFD\uFFFD"},
+      {"\xFF\xFE\x22\x8C\0\0\0\xD8!"sv, u"\u8C22\xD800\uFFFD"},
+      {"\xFE\xFF\x8C\x22"sv, u"\u8C22"},
+      {"\0\0\xFE\xFF\0\x01\xF6\0\0\x11\0\0"sv, u"\U0001F600\uFFFD"},
+  };
+  for (const Case& test : kCases) EXPECT_EQ(test::decodedNaively(test.bytes), test.text);
+}
+
+TEST(NaiveDecoding, ReadsWhatTheDocumentReads) {
+  using namespace std::string_view_literals;
+  constexpr std::string_view kMarks[] = {
+      "", "", "\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF", "\xFF\xFE\0\0"sv, "\0\0\xFE\xFF"sv};
+  constexpr std::string_view kPieces[] = {"a",
+                                          "\0"sv,
+                                          "\xE8\xB0\xA2",
+                                          "\xE8",
+                                          "\xB0\xA2",
+                                          "\xC3\xA9",
+                                          "\xF0\x9F\x98\x80",
+                                          "\xED\xA0\x80",
+                                          "\xF4\x90",
+                                          "\xE0\x80",
+                                          "\xC0",
+                                          "<a/>",
+                                          "\0\xD8"sv,
+                                          "\xDC\x01"};
+  std::size_t read = 0;
+  for (std::uint32_t seed = 0; seed < 50000; ++seed) {
+    fuzz::Choices choices(seed);
+    std::string bytes(choices.pick(kMarks));
+    for (std::size_t n = choices.below(8); n > 0; --n) bytes += choices.pick(kPieces);
+    const std::optional<std::u16string> naive = test::decodedNaively(bytes);
+    if (!naive) continue;
+    ++read;
+    ResultLog log;
+    ASSERT_EQ(decodeText(bytes, log).text, *naive) << testing::PrintToString(bytes);
+  }
+  EXPECT_GT(read, 10000U);
 }
 
 }  // namespace
