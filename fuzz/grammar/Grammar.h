@@ -46,6 +46,7 @@ using ByteMutator = std::size_t (*)(std::uint8_t* data, std::size_t size, std::s
 [[nodiscard]] const Grammar& recordGrammar();       // a scheme number, and records
 [[nodiscard]] const Grammar& markupGrammar();       // markup texts with all that can be wrong
 [[nodiscard]] const Grammar& editsGrammar();        // edits, and such a text behind them
+[[nodiscard]] const Grammar& textFileGrammar();     // a block size, and a file in any encoding
 [[nodiscard]] const Grammar& sessionGrammar();      // scripts of a host's calls (fuzz/host)
 
 }  // namespace brennet::fuzz

@@ -87,10 +87,9 @@ std::vector<Rule> editRules() {
         "{edit}"}},
       // To the next element, to a child, into, out.
       {"move", {"\x04", "\x04", "\x05", "\x06", "\x06", "\x07"}},
-      // An attribute, the child's data, an element, a child; then names and values in higher bits.
-      {"edit",
-       {"\x20", "\x41", "\x02", "\x03", "\x28", "\x50", "\x78", "\x61", "\xC1", "\x22", "\xE2",
-        "\x4A", "\x23", "\xC3", "\x63", "\x5B"}},
+      // An attribute, content, an element, a child; then names and values in higher bits.
+      {"edit", {"\x20", "\x41", "\x02", "\x03", "\x28", "\x50", "\x78", "\x61", "\xC1", "\x22",
+                "\xE2", "\x4A", "\x23", "\xC3", "\x63", "\x5B", "\x51", "\x31", "\x49", "\xB1"}},
   };
 }
 

@@ -51,6 +51,10 @@ void checkFile(std::string_view input) {
 }  // namespace
 }  // namespace brennet
 
+const brennet::fuzz::Grammar& brennet::fuzz::targetGrammar() {
+  return textFileGrammar();
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   brennet::checkFile(brennet::fuzz::bytesOf(data, size));
   return 0;

@@ -65,6 +65,20 @@ void move(MarkupDocument& document, unsigned choice) {
   }
 }
 
+void changeContent(MarkupDocument& document, unsigned choice, std::u16string_view value,
+                   std::uint32_t flags) {
+  switch (choice) {
+    case 0:
+      document.setData(value, flags);
+      break;
+    case 1:
+      document.setChildAttrib(kNames[flags != 0 ? 1 : 0], value);
+      break;
+    default:
+      document.setChildData(value, flags);
+  }
+}
+
 void change(MarkupDocument& document, std::uint8_t byte) {
   const std::u16string_view name = kNames[byte >> 3U & 3U];
   const std::u16string_view value = kValues[byte >> 5U & 3U];
@@ -74,7 +88,7 @@ void change(MarkupDocument& document, std::uint8_t byte) {
       document.setAttrib(name, value);
       break;
     case 1:
-      document.setChildData(value, flags);
+      changeContent(document, byte >> 3U & 3U, value, flags);
       break;
     case 2:
       document.addElem(name, value, flags);

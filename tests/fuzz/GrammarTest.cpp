@@ -20,7 +20,7 @@ struct NamedGrammar {
 constexpr NamedGrammar kGrammars[] = {
     {"settings", settingsGrammar}, {"preferences", preferencesGrammar}, {"regFile", regFileGrammar},
     {"record", recordGrammar},     {"markup", markupGrammar},           {"edits", editsGrammar},
-    {"session", sessionGrammar},
+    {"textFile", textFileGrammar}, {"session", sessionGrammar},
 };
 
 constexpr std::size_t kLongestDocument = 80000;

@@ -10,6 +10,7 @@
 
 #include "fuzz/grammar/Grammar.h"
 #include "gameside/War3PrefsFile.h"
+#include "markup/EncodingDetection.h"
 #include "markup/MarkupDocument.h"
 #include "model/BlockBytes.h"
 #include "model/HotkeyConfig.h"
@@ -108,6 +109,19 @@ TEST(RecordGrammar, ChangesEveryByteThatHasAMeaning) {
   };
   for (std::size_t at = 0; at < seen.size(); ++at) {
     EXPECT_EQ(seen[at] == '\0', isReserved(at)) << at;
+  }
+}
+
+TEST(TextFileGrammar, HasFilesInEveryKindOfEncoding) {
+  std::set<platform::CodePage> codePages;
+  forDocuments(fuzz::textFileGrammar(), [&](const std::string& bytes) {
+    codePages.insert(detectEncoding(std::string_view(bytes).substr(1)).codePage);
+  });
+  for (const platform::CodePage codePage :
+       {platform::kUtf8, platform::kUtf16LittleEndian, platform::kUtf16BigEndian,
+        platform::kUtf32LittleEndian, platform::kUtf32BigEndian, platform::CodePage{936},
+        platform::CodePage{950}, platform::CodePage{54936}, platform::CodePage{1252}}) {
+    EXPECT_TRUE(codePages.contains(codePage)) << codePage;
   }
 }
 
