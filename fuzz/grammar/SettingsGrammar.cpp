@@ -79,10 +79,11 @@ std::vector<Rule> settingsRules(std::string_view lineEnd) {
       {"phrases", {"<QuickChat>{eol}{chat*9}</QuickChat>{eol}"}},
       {"wheel", {"<ChatWheel>{eol}{chat*9}</ChatWheel>{eol}"}},
       {"chat", {"<Chat id=\"{id}\">{phrase}</Chat>{eol}", "<Chat id=\"{id}\"/>{eol}"}},
-      // Few keys, so that many are refused: Q, Alt+Q, Shift+Q, Alt+1, Alt+F1, Enter, no key.
+      // Few keys, so that many are refused: Q, Alt+Q, Shift+Q, Alt+1, Alt+F1, Enter, Shift and Caps
+      // Lock by themselves, no key.
       {"key code",
-       {"65280", "20736", "20740", "20737", "12548", "28676", "3328", "22272", "17664", "17664",
-        "{number}", ""}},
+       {"65280", "20736", "20740", "20737", "12548", "28676", "3328", "4096", "5120", "22272",
+        "17664", "17664", "{number}", ""}},
       {"number",
        {"0", "1", "2", "-1", "10", "255", "256", "65535", "2147483648", "-2147483649", " +7", "1x",
         "99999999999999999999"}},

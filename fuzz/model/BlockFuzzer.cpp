@@ -30,7 +30,7 @@ void checkBlocks(std::string_view bytes) {
     const std::size_t size = std::min(bytes.size(), sizeof(returned));
     std::memcpy(&returned, bytes.data(), size);
     bytes.remove_prefix(size);
-    mergeBlock(current, returned, sizeof(returned), config);
+    mergeBlock(current, returned, size, config);
 
     HotkeyBlock delivered;
     fillBlock(config, delivered);
