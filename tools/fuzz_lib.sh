@@ -13,8 +13,8 @@ targets_in() { # BUILD_FOLDER
 # longer to run.
 longest_input() { # TARGET
   case $1 in
-    settings | session) echo 16384 ;;
-    regFile | dota7 | block) echo 8192 ;;
+    settings) echo 16384 ;;
+    regFile | dota7 | block | session) echo 8192 ;;
     *) echo 4096 ;;
   esac
 }

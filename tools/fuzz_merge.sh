@@ -3,7 +3,9 @@
 #
 # fuzz/corpus/<target>/ then holds the seeds, which have names that say what they are, and as few
 # others as take the same branches as the old ones and those of CORPUS_FOLDER together. libFuzzer
-# names these by their hashes. Fails, after all is done, where they are more than 2 MB in all.
+# names these by their hashes. CORPUS_FOLDER holds the same afterwards, so that the next run does not
+# begin with thousands of inputs that say nothing new. Fails, after all is done, where they are more
+# than 2 MB in all.
 set -euo pipefail
 
 # shellcheck source=tools/fuzz_lib.sh
@@ -26,8 +28,9 @@ merge() { # TARGET NEW_FOLDER
   done
   "$build/bin/fuzz_$target" -merge=1 -use_counters=0 -max_len="$(longest_input "$target")" \
     -timeout=25 -rss_limit_mb=2048 "$new" "$old" "$corpus/$target" >"$corpus/$target-merge.log" 2>&1
-  rm -rf "$old"
+  rm -rf "$old" "${corpus:?}/$target"
   cp -r "$new" "$old"
+  cp -r "$new" "$corpus/$target"
   echo "$target: $(find "$old" -type f | wc -l) inputs, $(size_of "$old") bytes"
 }
 

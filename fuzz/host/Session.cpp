@@ -11,7 +11,7 @@
 namespace brennet::fuzz {
 namespace {
 
-constexpr std::size_t kMostSteps = 40;
+constexpr std::size_t kMostSteps = 24;
 constexpr std::size_t kSizeField = 4;
 
 std::size_t sharedSize(std::uint32_t announced) {

@@ -62,6 +62,7 @@ echo "bad, new" >"found/one/$(hash_of 4)"
 "$tools/fuzz_merge.sh" build found >/dev/null
 listing=$(cd fuzz/corpus/one && echo *)
 [[ $listing == "$(hash_of 1) $(hash_of 3) a-seed" ]] || fail "merged to $listing"
+[[ $(cd found/one && echo *) == "$listing" ]] || fail "the next run begins with $(ls found/one)"
 
 # Corpora that are too large are told of.
 {
