@@ -13,8 +13,8 @@ const Grammar& textFileGrammar() {
           {"document",
            {"{block size}{declaration}{text*12}", "{block size}{declaration}{text*3}{tag}{text*3}",
             "{block size}{declaration}{four bytes*5}{text*3}", "{block size}{mark}{text*12}",
-            "{block size}{mark}{declaration}{text*4}", "{block size}{text*12}",
-            "{block size}{units*9}"}},
+            "{block size}{declaration}{utf 8*9}", "{block size}{mark}{declaration}{text*4}",
+            "{block size}{text*12}", "{block size}{units*9}"}},
           {"block size", {"\0"sv, "\x01", "\x03", "\x10", "\xFF"}},
           {"mark",
            {"\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF", "\xFF\xFE\0\0"sv, "\0\0\xFE\xFF"sv,
@@ -53,6 +53,10 @@ const Grammar& textFileGrammar() {
           {"four bytes",
            {"\x81\x30\x81\x30", "\x90\x30\x81\x30", "\xE3\x32\x9A\x35", "\xE3\x32\x9A\x36",
             "\x84\x31\xA4\x37", "\x81\x30\x81", "\x81\x30", "\x81\x39\xFE\x39"}},
+          // Much of it reads as pairs of other encodings too.
+          {"utf 8",
+           {"\xE8\xB0\xA2", "\xE3\x82\xBF", "\xC2\xA9", "\xD0\xBB", "\xC3\xA9\xC3\xA9",
+            "\xE2\x82\xAC", "\xF0\x9F\x98\x80", "\xE7\x80\x80", "0", "a"}},
           {"tag", {"<a>", "</a>", "<b x='1'/>", "&lt;"}},
           // UTF-16 without a mark, and UTF-32.
           {"units",
@@ -61,7 +65,8 @@ const Grammar& textFileGrammar() {
       },
       {.cutBefore = "<\x81\xD0",
        .cutBehind = ">",
-       .fragments = {"text", "four bytes", "mark", "declaration", "name", "units", "tag"}});
+       .fragments = {"text", "utf 8", "four bytes", "mark", "declaration", "name", "units",
+                     "tag"}});
   return grammar;
 }
 
