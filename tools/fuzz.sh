@@ -49,7 +49,7 @@ if [[ $time == *h ]]; then
   seconds=$(awk "BEGIN { print int(${time%h} * 3600 * $jobs / ${#targets[@]}) }")
 fi
 mkdir -p "$corpus"
-use_memory_for_files
+use_own_temporary_folder
 
 echo "Fuzzing ${targets[*]}, $seconds seconds each, $jobs at a time ..."
 status=0

@@ -57,7 +57,7 @@ uncovered() {
 
 rm -rf "$profiles"
 mkdir -p "$profiles"
-use_memory_for_files
+use_own_temporary_folder
 programs=()
 for target in $(targets_in "$build"); do
   echo "Running the inputs of $target ..."

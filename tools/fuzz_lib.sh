@@ -19,9 +19,13 @@ longest_input() { # TARGET
   esac
 }
 
-# Sessions write and flush files all the time.
-use_memory_for_files() {
-  if [[ -z ${TMPDIR:-} && -d /dev/shm && -w /dev/shm ]]; then
-    export TMPDIR=/dev/shm
-  fi
+# Has all temporary files made in a folder of this script's own, which goes when it ends: libFuzzer
+# ends its programs without a chance to clean up. In memory where there is such a place, because
+# sessions write and flush files all the time.
+use_own_temporary_folder() {
+  local place=${TMPDIR:-/tmp}
+  if [[ -z ${TMPDIR:-} && -d /dev/shm && -w /dev/shm ]]; then place=/dev/shm; fi
+  TMPDIR=$(mktemp -d "$place/brennet-fuzz-XXXXXX")
+  export TMPDIR
+  trap 'rm -rf "$TMPDIR"' EXIT
 }

@@ -38,11 +38,9 @@ size_of() { # FOLDER
   find "$1" -type f -printf '%s\n' | awk '{ sum += $1 } END { print sum + 0 }'
 }
 
-use_memory_for_files
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+use_own_temporary_folder
 for target in $(targets_in "$build"); do
-  merge "$target" "$work/$target"
+  merge "$target" "$TMPDIR/$target"
 done
 size=$(size_of fuzz/corpus)
 echo "all: $size bytes"

@@ -18,6 +18,7 @@ make_target() { # NAME EXIT_STATUS
   cat >"build/bin/fuzz_$1" <<'END'
 #!/usr/bin/env bash
 echo "$*" >>"$(basename "$0").calls"
+mktemp >>left-behind
 folders=()
 for word in "$@"; do [[ $word == -* ]] || folders+=("$word"); done
 if [[ " $* " == *" -merge=1 "* ]]; then
@@ -70,4 +71,8 @@ listing=$(cd fuzz/corpus/one && echo *)
   head -c 2000001 /dev/zero
 } >"found/two/$(hash_of 5)"
 if "$tools/fuzz_merge.sh" build found >/dev/null 2>&1; then fail "2 MB passed"; fi
+# Targets leave temporary files behind, the scripts do not.
+while read -r file; do
+  if [[ -e $file ]]; then fail "$file is left behind"; fi
+done <left-behind
 echo passed
