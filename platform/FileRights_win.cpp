@@ -78,18 +78,10 @@ void copyFileRights(const Path& path, void* file) {
   Descriptor descriptor;
   ACL* list = nullptr;
   if (GetNamedSecurityInfoW(path.c_str(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr,
-                            nullptr, &list, nullptr, &descriptor.data) != ERROR_SUCCESS) {
-    return;
+                            nullptr, &list, nullptr, &descriptor.data) == ERROR_SUCCESS) {
+    // As it is; SetSecurityInfo would have the folder add to it.
+    SetKernelObjectSecurity(file, DACL_SECURITY_INFORMATION, descriptor.data);
   }
-  SECURITY_DESCRIPTOR_CONTROL control = 0;
-  DWORD revision = 0;
-  if (GetSecurityDescriptorControl(descriptor.data, &control, &revision) == FALSE) return;
-  // A list that its folder may add to stays one.
-  const SECURITY_INFORMATION kind = (control & SE_DACL_PROTECTED) != 0
-                                        ? PROTECTED_DACL_SECURITY_INFORMATION
-                                        : UNPROTECTED_DACL_SECURITY_INFORMATION;
-  SetSecurityInfo(file, SE_FILE_OBJECT, DACL_SECURITY_INFORMATION | kind, nullptr, nullptr, list,
-                  nullptr);
 }
 
 }  // namespace brennet::platform

@@ -202,6 +202,24 @@ FileError awaitReplacement(FileSystem& system, const Path& path) {
   return isDone ? FileError() : error;
 }
 
+// A file that was put aside, and is removed again unless something takes the place of the old one.
+class PutAside {
+ public:
+  explicit PutAside(FileSystem& system) : system_(system) {}
+  ~PutAside() {
+    if (!name_.empty()) static_cast<void>(system_.remove(name_));
+  }
+  PutAside(const PutAside&) = delete;
+  PutAside& operator=(const PutAside&) = delete;
+
+  void keep(const Path& path) { name_ = keepFile(system_, path); }
+  void stays() { name_.clear(); }
+
+ private:
+  FileSystem& system_;
+  Path name_;
+};
+
 // `path` is no link, and nothing else has to be put right.
 FileError replaceAt(FileSystem& system, const Path& path, std::string_view bytes,
                     const Target& target) {
@@ -240,10 +258,10 @@ FileError replaceFileOn(FileSystem& system, const Path& name, std::string_view b
   Target target;
   if (const FileError error = inspect(system, path, target)) return error;
   removeLeftovers(system, path);
-  Path kept;
-  if (old == OldContent::Keep) kept = keepFile(system, path);
+  PutAside aside(system);
+  if (old == OldContent::Keep) aside.keep(path);
   const FileError error = replaceAt(system, path, bytes, target);
-  if (error && !kept.empty()) static_cast<void>(system.remove(kept));
+  if (!error) aside.stays();
   return error;
 }
 

@@ -93,6 +93,7 @@ void Session::loadFrom(Place place, const Faults& faults) {
   }
   require(world_.settingsFiles() == before.files);
   place_ = place;
+  isUnread_ = !loaded;
   if (loaded) {
     require(expected);
     return requirePreferences(main_, before, isFaulty(faults));
@@ -113,6 +114,7 @@ void Session::settle() {
   require(brennet_.LoadSettings(world_.pathOf(SessionWorld::kNeutral).c_str()));
   require(loadBytes(main_, bytes));
   place_ = SessionWorld::kNeutral;
+  isUnread_ = false;
 }
 
 void Session::fill(const Step& step) {
@@ -238,8 +240,21 @@ void Session::requireSaved(bool result, HotkeyConfig& config, std::uint32_t save
     require(again.LastSaveTime() == saveTime && again.enable() == config.enable() &&
             again.index() == config.index());
   }
+  requirePutAside(result, before, isFaulty);
   require(world_.settingsFiles() == files);
   requirePreferences(config, before, isFaulty);
+}
+
+// What a load could not use stands beside the file that was saved over it.
+void Session::requirePutAside(bool isSaved, const Before& before, bool isFaulty) {
+  const std::vector<std::string> kept = world_.takeKeptFiles();
+  const auto old = before.files.find(SessionWorld::nameOf(place_));
+  const bool hasUnread = isUnread_ && old != before.files.end();
+  require(kept.size() <= (isSaved && hasUnread ? 1U : 0U));
+  require(kept.empty() || kept[0] == old->second);
+  if (!isSaved) return;
+  require(!hasUnread || !kept.empty() || isFaulty);
+  isUnread_ = false;
 }
 
 void Session::requirePreferences(HotkeyConfig& config, const Before& before, bool isFaulty) const {

@@ -50,6 +50,7 @@ class Session {
   void dialog(const Step& step);
 
   [[nodiscard]] Before before() const;
+  void requirePutAside(bool isSaved, const Before& before, bool isFaulty);
   void requireUnchanged(const Before& before) const;
   void requireSaved(bool result, HotkeyConfig& config, std::uint32_t saveTime, const Before& before,
                     bool isFaulty);
@@ -62,6 +63,7 @@ class Session {
   CallerMemory memory_;
   Faults faults_;                         // of the next call
   Place place_ = SessionWorld::kNeutral;  // where saves go
+  bool isUnread_ = false;                 // the last load could not use what is there
   std::uint32_t lastSaveTime_ = 0;        // that the last call left
   HotkeyConfig main_;
   HotkeyConfig working_;

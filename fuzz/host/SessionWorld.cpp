@@ -84,6 +84,17 @@ SessionWorld::Files SessionWorld::settingsFiles() const {
   return files;
 }
 
+std::vector<std::string> SessionWorld::takeKeptFiles() const {
+  std::vector<std::string> contents;
+  const fs::path folder = folder_ / kSettings;
+  for (const auto& [name, content] : settingsFiles()) {
+    if (name.find(".kept-") == std::string::npos) continue;
+    contents.push_back(content);
+    fs::remove(folder / name);
+  }
+  return contents;
+}
+
 void SessionWorld::writePreferences(std::string_view bytes) const {
   test::writeBytes(folder_ / kProfile / kPreferences, bytes);
 }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/HotkeyConfig.h"
 #include "tests/support/ScopedProfile.h"
@@ -43,6 +44,8 @@ class SessionWorld {
   void writeSettings(Place place, std::string_view bytes) const;
   // All files of the folder for settings, temporary ones included, by their paths in it.
   [[nodiscard]] Files settingsFiles() const;
+  // Takes the old files away that a save has put aside, and gives their contents.
+  std::vector<std::string> takeKeptFiles() const;
   // The name that the file of `place` has there.
   [[nodiscard]] static std::string nameOf(Place place);
 

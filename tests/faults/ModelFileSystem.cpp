@@ -275,7 +275,8 @@ FileError ModelFileSystem::removeBackup(const Path& backup, const Path& path) {
   return nodeAt(path) != nullptr ? remove(backup) : FileError();
 }
 
-FileError ModelFileSystem::createFolder(const Path& path) {
+FileError ModelFileSystem::createFolder(const Path& name) {
+  const Path path = name.has_filename() ? name : name.parent_path();
   if (nodeAt(path) != nullptr) return failureOf(Obstacle::Exists);
   if (const FileError error = mayName(path)) return error;
   const auto node = std::make_shared<Node>();

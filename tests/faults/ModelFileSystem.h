@@ -74,7 +74,7 @@ class ModelFileSystem final : public FileSystem {
   FileError remove(const Path& path) override;
   FileError removeKept(FileHandle file, const Path& path) override;
   FileError removeBackup(const Path& backup, const Path& path) override;
-  FileError createFolder(const Path& path) override;
+  FileError createFolder(const Path& name) override;
   FileError createPrivateFolder(const Path& path) override;
   void removeFolder(const Path& path) override;
   FileError flushFolder(const Path& path) override;

@@ -214,6 +214,17 @@ TEST_P(ReplacementFaults, LeaveWhatWasDoneAfterAPowerLoss) {
   }
 }
 
+TEST(CreateFolder, BringsItsNameToTheDisk) {
+  StandIn in;
+  in.model.makeFolder("/games");
+  for (const char* const name : {"/games/folder", "/games/other/"}) {
+    EXPECT_TRUE(platform::createFolder(name)) << name;
+  }
+  in.model.losePower(0);
+  EXPECT_TRUE(platform::folderExists("/games/folder"));
+  EXPECT_TRUE(platform::folderExists("/games/other"));
+}
+
 INSTANTIATE_TEST_SUITE_P(, ReplacementFaults, testing::ValuesIn(kSettings),
                          [](const auto& setting) { return std::string(setting.param.name); });
 

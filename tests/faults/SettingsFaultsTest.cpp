@@ -13,11 +13,11 @@
 #include "tests/faults/StandIn.h"
 #include "tests/support/FaultPoints.h"
 #include "tests/support/ScopedProfile.h"
+#include "tests/support/TempFolder.h"
 
 namespace brennet::test {
 namespace {
 
-constexpr char kHome[] = "/home";
 constexpr char kSettings[] = "/folder/KeyInfo.xml";
 constexpr char16_t kSettingsName[] = u"/folder/KeyInfo.xml";
 constexpr char kOldPreferences[] = "[Mine]\r\nkept=1\r\n\r\n[Gameplay]\r\ncustomkeys=0\r\n\r\n";
@@ -51,7 +51,7 @@ const Setting kPlaces[] = {
 
 class SettingsFaults : public testing::TestWithParam<Setting> {
  protected:
-  SettingsFaults() : profile_(kHome) {
+  SettingsFaults() : profile_(home_.path()) {
     preferences_ =
         platform::pathFromNarrow(platform::profileFolder() + platform::gamePreferencesSuffix());
   }
@@ -128,6 +128,7 @@ class SettingsFaults : public testing::TestWithParam<Setting> {
 
   Told save() { return config_.Save(kSettingsName, kNewTime) ? Told::Saved : Told::NotSaved; }
 
+  TempFolder home_;  // its name; nothing is written there
   ScopedProfile profile_;
   Path preferences_;
   std::optional<StandIn> in_;

@@ -48,6 +48,17 @@ TEST(RegistryImport, LeavesAKeyAloneThatIsThere) {
   EXPECT_EQ(registry.content(), before);
 }
 
+// 16 MiB; the sample has some 20 KiB.
+TEST(RegistryImport, LeavesAFileAloneThatIsTooLarge) {
+  const ScopedRegistry registry;
+  const RegFile before = registry.content();
+  const TempFolder folder;
+  writeBytes(folder / "Tollamere.reg", readBytes(kSample));
+  std::filesystem::resize_file(folder / "Tollamere.reg", (16U << 20U) + 1);
+  EXPECT_FALSE(importDefaultRegistry(withSeparator(folder.path())));
+  EXPECT_EQ(registry.content(), before);
+}
+
 TEST(SampleRegistry, HasEveryValueOfTheTablesAndNoOther) {
   RegFile sample;
   ASSERT_TRUE(sample.merge(readBytes(kSample)));

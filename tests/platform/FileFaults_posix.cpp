@@ -11,7 +11,10 @@
 
 namespace brennet::test {
 
+extern mode_t writtenModes;
+
 FileFaults faults;
+mode_t writtenModes = 0;
 const int kDeviceError = EIO;
 
 }  // namespace brennet::test
@@ -51,6 +54,8 @@ int __wrap_open(const char* path, int flags, ...) {
 }
 // A full disk takes a part before it refuses the rest.
 ssize_t __wrap_pwrite(int file, const void* bytes, size_t size, off_t offset) {
+  struct stat status {};
+  if (__real_fstat(file, &status) == 0) brennet::test::writtenModes |= status.st_mode & 0777U;
   if (!faults.diskFull && !faults.failsNow()) return __real_pwrite(file, bytes, size, offset);
   if (size == 1) return failWith(ENOSPC);
   faults.callsUntilFailure = 0;
