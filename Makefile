@@ -5,10 +5,11 @@ FUZZ_SECONDS ?= 60
 HOURS ?= 4
 CTEST_ARGS ?=
 ROWS ?=
+ROUNDS ?= 100000
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run run-windows test test-anywhere asan odr windows test-windows sdk bench bench-build fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage shots translations format lint lint-windows clean
+.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk bench bench-build fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage shots translations format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -34,6 +35,18 @@ asan: ## build and run the native tests under the address and undefined-behaviou
 	@cmake --preset asan
 	@cmake --build --preset asan -j $(JOBS)
 	@ctest --preset asan -j $(JOBS)
+
+faults: ## fail every call, allocation and moment on the way of a player's files (some hours)
+	@tools/setup.sh build test
+	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
+	@cmake --build --preset native -j $(JOBS)
+	@BRENNET_TEST_FAULTS=all ctest --preset native -j $(JOBS) --timeout 20000 -R "Faults|OutOfMemory"
+
+soak: ## have many processes save, read and replace the same files, ROUNDS (100000) times
+	@tools/setup.sh build test
+	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
+	@cmake --build --preset native -j $(JOBS) --target brennet-soak
+	@build/native/bin/brennet-soak $(ROUNDS)
 
 odr: ## look for two definitions of one name in the library and in test programs
 	@tools/setup.sh build test
