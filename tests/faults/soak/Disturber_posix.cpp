@@ -8,8 +8,9 @@
 namespace brennet::test {
 namespace {
 
-constexpr useconds_t kHold = 3'000;   // microseconds
-constexpr useconds_t kPause = 40'000;  // between two leases; who waits for one must find the file free
+constexpr useconds_t kHold = 3'000;  // microseconds
+constexpr useconds_t kPause =
+    40'000;  // between two leases; who waits for one must find the file free
 
 }  // namespace
 
