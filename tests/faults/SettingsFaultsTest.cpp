@@ -167,7 +167,7 @@ TEST_P(SettingsFaults, ThatEndTheProcessLeaveBothFilesWhole) {
 }
 
 constexpr long kPowerLosses = 7 * 64;
-constexpr long kSomePowerLosses = 40;
+constexpr long kSomePowerLosses = 12;
 
 TEST_P(SettingsFaults, ThatTakeThePowerAwayLeaveBothFilesWhole) {
   const int calls = countCalls();
