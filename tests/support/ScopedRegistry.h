@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -9,9 +10,10 @@
 
 namespace brennet::test {
 
-// A registry without DotA 7 settings for the time of a test: a file of its own, and on Windows the
-// user's own registry. There the constructor throws where the user has such settings; Wine gives
-// each program a new user's registry.
+// A registry without DotA 7 settings for the time of a test: a file of its own, in the folder of
+// which the user's own folder stands meanwhile, and on Windows the user's own registry. There the
+// constructor throws where the user has such settings; Wine gives each program a new user's
+// registry.
 class ScopedRegistry {
  public:
   ScopedRegistry();
@@ -26,6 +28,8 @@ class ScopedRegistry {
   void createKey(std::u16string_view path);
   void set(std::u16string_view path, std::u16string_view name,
            const platform::RegistryValue& value);
+  // Removes a key with all that is in it.
+  void removeKey(std::u16string_view path);
 
   // Leaves of all rights to the key (elsewhere than on Windows: to all keys) that of reading.
   void denyWriting(std::u16string_view path);
@@ -34,6 +38,7 @@ class ScopedRegistry {
 
  private:
   TempFolder folder_;
+  std::optional<std::string> folderBefore_;  // for temporary files
 };
 
 // `path`, which is below the user's root, with that root before it.

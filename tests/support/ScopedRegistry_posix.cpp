@@ -11,6 +11,7 @@ namespace brennet::test {
 namespace {
 
 constexpr char kVariable[] = "BRENNET_REGISTRY";
+constexpr char kFolderVariable[] = "TMPDIR";
 constexpr char kName[] = "registry.reg";
 constexpr uid_t kNobody = 65534;
 
@@ -25,10 +26,17 @@ platform::RegFile contentOf(const std::filesystem::path& file) {
 ScopedRegistry::ScopedRegistry() {
   writeBytes(folder_ / kName, platform::RegFile().serialize());
   setenv(kVariable, (folder_ / kName).c_str(), 1);
+  if (const char* const folder = std::getenv(kFolderVariable)) folderBefore_ = folder;
+  setenv(kFolderVariable, folder_.path().c_str(), 1);
 }
 
 ScopedRegistry::~ScopedRegistry() {
   unsetenv(kVariable);
+  if (folderBefore_) {
+    setenv(kFolderVariable, folderBefore_->c_str(), 1);
+  } else {
+    unsetenv(kFolderVariable);
+  }
   // Rights that denyWriting() gave up.
   if (getuid() == 0 && seteuid(0) != 0) std::abort();
 }
@@ -48,6 +56,12 @@ void ScopedRegistry::set(std::u16string_view path, std::u16string_view name,
   platform::RegFile content = contentOf(folder_ / kName);
   content.createKey(below(path));
   if (!content.set(below(path), name, value)) throw std::runtime_error("no such key");
+  writeBytes(folder_ / kName, content.serialize());
+}
+
+void ScopedRegistry::removeKey(std::u16string_view path) {
+  platform::RegFile content = contentOf(folder_ / kName);
+  content.deleteKey(below(path));
   writeBytes(folder_ / kName, content.serialize());
 }
 

@@ -121,6 +121,10 @@ void ScopedRegistry::set(std::u16string_view path, std::u16string_view name,
           "a value cannot be set");
 }
 
+void ScopedRegistry::removeKey(std::u16string_view path) {
+  require(RegDeleteTreeW(HKEY_CURRENT_USER, wide(path).c_str()), "a key cannot be removed");
+}
+
 void ScopedRegistry::denyWriting(std::u16string_view path) {
   // Everybody may read the key, change these rights and delete the key.
   setRights(wide(path), L"D:P(A;;KRWDSD;;;WD)");

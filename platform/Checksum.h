@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace brennet::platform {
+
+// FNV-1a. Tells bytes that are whole from bytes that are not, and makes short names for long ones;
+// it keeps nobody from forging either.
+[[nodiscard]] constexpr std::uint64_t checksum(std::string_view bytes) {
+  std::uint64_t sum = 14695981039346656037ULL;
+  for (const char byte : bytes) sum = (sum ^ static_cast<unsigned char>(byte)) * 1099511628211ULL;
+  return sum;
+}
+
+// `sum` in 16 hexadecimal digits, the lowest first.
+template <class Text>
+void appendDigits(std::uint64_t sum, Text& text) {
+  constexpr int kDigits = 16;
+  for (int i = 0; i < kDigits; ++i, sum >>= 4U) text.push_back("0123456789abcdef"[sum & 15U]);
+}
+
+}  // namespace brennet::platform

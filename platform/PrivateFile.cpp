@@ -1,0 +1,102 @@
+#include "platform/PrivateFile.h"
+
+#include <new>
+
+#include "platform/Leftovers.h"
+#include "platform/Patience.h"
+#include "platform/Replacement.h"
+
+namespace brennet::platform {
+namespace {
+
+Path lockOf(Path file) {
+  file += ".lock";
+  return file;
+}
+
+bool isFile(FileSystem& system, const Path& path) {
+  return system.look(path).kind == FileFacts::Kind::File;
+}
+
+bool isGone(const FileError& error) {
+  return !error || error.obstacle == Obstacle::Missing;
+}
+
+}  // namespace
+
+bool PrivateFile::isThere(std::string_view name) const {
+  const Path folder = system_.privateFolder();
+  const bool isFolder = !folder.empty() && system_.look(folder).kind == FileFacts::Kind::Folder;
+  if (!isFolder || system_.createPrivateFolder(folder)) return false;
+  const Path file = folder / name;
+  return isFile(system_, lockOf(file)) || isFile(system_, file) ||
+         isFile(system_, backupName(file));
+}
+
+FileError PrivateFile::openLock() {
+  // Whoever had the file removes it and its folder in the end.
+  return retried(
+      system_,
+      [&] {
+        const FileError error = system_.createPrivateFolder(folder_);
+        return error ? error : lock_.open(lockPath_, OpenFor::Keeping);
+      },
+      [](const FileError& error) { return isHeld(error) || error.obstacle == Obstacle::Missing; });
+}
+
+bool PrivateFile::take(std::string_view name) {
+  folder_ = system_.privateFolder();
+  if (folder_.empty()) return false;
+  parent_ = folder_.parent_path();
+  path_ = folder_ / name;
+  backup_ = backupName(path_);
+  lockPath_ = lockOf(path_);
+  if (openLock()) return false;
+  // A folder that may not be looked into cannot be flushed; the lock says nothing by itself.
+  static_cast<void>(system_.flushFolder(folder_));
+  static_cast<void>(system_.flushFolder(parent_));
+  return true;
+}
+
+std::error_code PrivateFile::read(std::string& bytes, std::uint64_t limit) const {
+  return readFile(path_, bytes, limit);
+}
+
+std::error_code PrivateFile::write(std::string_view bytes) const {
+  return replaceFile(path_, bytes);
+}
+
+FileError PrivateFile::empty(const Path& path) noexcept {
+  OpenFile file(system_);
+  FileError error = retried(system_, [&] { return file.open(path, OpenFor::Writing); });
+  if (!error) error = file.resize(0);
+  // Once the file is short, it says nothing any more to whoever comes after this process; that the
+  // disk has it matters only to a machine that fails.
+  if (!error) static_cast<void>(file.flush());
+  return error;
+}
+
+bool PrivateFile::clear() noexcept {
+  // A replacement that failed half-way may have left the old content under the other name. That
+  // goes first: as long as the file is there, it is the one that counts.
+  static_cast<void>(empty(backup_));
+  bool isClear = isGone(empty(path_));
+  const FileError removed = retried(system_, [&] { return system_.remove(path_); });
+  if (isClear) static_cast<void>(system_.remove(backup_));
+  if (isGone(removed) && !system_.flushFolder(folder_)) isClear = true;
+  return isClear;
+}
+
+void PrivateFile::release() noexcept {
+  if (!isTaken()) return;
+  try {
+    removeLeftovers(system_, path_);
+  } catch (const std::bad_alloc&) {
+    // They go another time.
+  }
+  static_cast<void>(system_.removeKept(lock_.handle(), lockPath_));
+  static_cast<void>(lock_.close());
+  system_.removeFolder(folder_);
+}
+
+}  // namespace brennet::platform

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/OpenFile.h"
+
+namespace brennet::platform {
+
+// A file in the user's own folder (FileSystem::privateFolder) that outlives the process, and that
+// one process has to itself at a time. Whoever has it holds a second file open beside it,
+// NAME.lock, which the system lets go of when the process ends, however it ends.
+//
+// Nobody but the user can look into that folder; where it is somebody else's, there are no files.
+class PrivateFile {
+ public:
+  PrivateFile() : system_(fileSystem()), lock_(system_) {}
+  // Lets go of the file, which stays as it is.
+  ~PrivateFile() { release(); }
+  PrivateFile(const PrivateFile&) = delete;
+  PrivateFile& operator=(const PrivateFile&) = delete;
+
+  // Whether the file of that name, or what is left of its use, is there. Throws std::bad_alloc.
+  [[nodiscard]] bool isThere(std::string_view name) const;
+
+  // Takes the file of that name, which need not be there; this object has none yet. Waits a fifth
+  // of a second for a process that has it. Returns whether this object has it now. Throws
+  // std::bad_alloc.
+  [[nodiscard]] bool take(std::string_view name);
+  [[nodiscard]] bool isTaken() const { return lock_.handle() != kNoFile; }
+
+  // The functions below are for a file that was taken.
+
+  // readFile and replaceFile of Files.h: at every moment the disk holds the whole old or the whole
+  // new content.
+  [[nodiscard]] std::error_code read(std::string& bytes, std::uint64_t limit) const;
+  [[nodiscard]] std::error_code write(std::string_view bytes) const;
+
+  // Makes the file hold nothing, in one step and on the disk too, and removes it. Returns whether
+  // it holds nothing now. Needs no memory.
+  [[nodiscard]] bool clear() noexcept;
+
+  // Lets go of the file; one that holds something stays.
+  void release() noexcept;
+
+ private:
+  FileError openLock();
+  FileError empty(const Path& path) noexcept;
+
+  FileSystem& system_;
+  Path folder_;
+  Path parent_;  // of the folder
+  Path path_;
+  Path backup_;  // the name of the old content while it is replaced
+  Path lockPath_;
+  OpenFile lock_;
+};
+
+}  // namespace brennet::platform
