@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "platform/RegistryValue.h"
@@ -13,6 +14,10 @@ namespace brennet::platform {
 // behind. On Windows it is the system's own; elsewhere that of RegFile.h, which knows ASCII
 // letters.
 [[nodiscard]] int compareRegistryNames(std::u16string_view a, std::u16string_view b);
+
+// What tells the registry of this process from others that the same user may have; bytes that mean
+// nothing else. On Windows a user has one.
+[[nodiscard]] std::string registryIdentity();
 
 // A key below the current user's root of the registry, open for reading and writing.
 //
@@ -43,6 +48,10 @@ class RegistryKey {
 
   // Removes what stands under the name. Returns whether nothing stands there now.
   bool remove(std::u16string_view name);
+
+  // Brings to the disk what was written and removed, which the system does by itself a little
+  // later. Returns whether it is there.
+  bool flush();
 
  private:
   struct Body;

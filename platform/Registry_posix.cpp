@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "platform/FileSystem.h"
 #include "platform/Files.h"
 #include "platform/RegFile.h"
 #include "platform/Registry.h"
@@ -25,6 +26,12 @@ bool load(const Path& file, RegFile& content) {
 
 int compareRegistryNames(std::u16string_view a, std::u16string_view b) {
   return RegFile::lowered(a).compare(RegFile::lowered(b));
+}
+
+std::string registryIdentity() {
+  const Path file = registryPath();
+  const Path identity = file.empty() ? Path() : fileSystem().identity(file);
+  return identity.empty() ? file.native() : identity.native();
 }
 
 struct RegistryKey::Body {
@@ -67,6 +74,11 @@ bool RegistryKey::remove(std::u16string_view name) {
     content.remove(body_->path, name);
     return true;
   });
+}
+
+// Each write was.
+bool RegistryKey::flush() {
+  return isOpen();
 }
 
 }  // namespace brennet::platform

@@ -21,6 +21,10 @@ int compareRegistryNames(std::u16string_view a, std::u16string_view b) {
   return order - CSTR_EQUAL;
 }
 
+std::string registryIdentity() {
+  return {};
+}
+
 struct RegistryKey::Body {
   HKEY handle;
 };
@@ -69,6 +73,10 @@ bool RegistryKey::remove(std::u16string_view name) {
   if (!isOpen()) return false;
   const LSTATUS status = RegDeleteValueW(body_->handle, wide(name).c_str());
   return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
+}
+
+bool RegistryKey::flush() {
+  return isOpen() && RegFlushKey(body_->handle) == ERROR_SUCCESS;
 }
 
 }  // namespace brennet::platform

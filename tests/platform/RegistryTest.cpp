@@ -26,6 +26,16 @@ TEST(RegistryKey, IsClosedWhereItIsMissing) {
   EXPECT_EQ(registry.content(), before);
 }
 
+TEST(RegistryKey, BringsItsValuesToTheDiskWhereItIsOpen) {
+  ScopedRegistry registry;
+  EXPECT_FALSE(RegistryKey(kKey).flush());
+  registry.createKey(kKey);
+  RegistryKey key(kKey);
+  EXPECT_TRUE(key.write(u"N", dwordValue(1)));
+  EXPECT_TRUE(key.flush());
+  EXPECT_EQ(key.read(u"N").value, dwordValue(1));
+}
+
 TEST(RegistryKey, GivesBackWhatWasWritten) {
   ScopedRegistry registry;
   registry.createKey(kKey);

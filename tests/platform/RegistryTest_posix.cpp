@@ -67,6 +67,16 @@ TEST_F(RegistryFile, MayBeAFolder) {
   EXPECT_EQ(folder_.listing(), "registry.reg\nseed.reg\n");
 }
 
+TEST_F(RegistryFile, IsToldFromOthersByItsPlace) {
+  EXPECT_EQ(registryIdentity(), (folder_ / "registry.reg").native());
+  setenv(kVariable, (folder_ / "./registry.reg").c_str(), 1);
+  EXPECT_EQ(registryIdentity(), (folder_ / "registry.reg").native());
+  setenv(kVariable, (folder_ / "none/registry.reg").c_str(), 1);
+  EXPECT_EQ(registryIdentity(), (folder_ / "none/registry.reg").native());
+  unsetenv(kVariable);
+  EXPECT_EQ(registryIdentity(), "");
+}
+
 TEST_F(RegistryFile, KeepsItsContentWhereTheKeyGoesUnderTheHandsOfAWriter) {
   EXPECT_TRUE(importSeed());
   RegistryKey key(u"Software\\A");
