@@ -30,6 +30,12 @@ struct Dota7Change {
   friend bool operator==(const Dota7Change&, const Dota7Change&) = default;
 };
 
+// A change and the object name of its field.
+struct Dota7FieldChange {
+  std::u16string_view objectName;  // of a table of Dota7Values.h
+  Dota7Change change;
+};
+
 // `text` as it stands in the registry: UTF-8 without a zero at the end, cut between characters to
 // kDota7TextBytes.
 [[nodiscard]] std::string dota7TextBytes(std::u16string_view text);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "gameside/Dota7KeyInfoManager.h"
 #include "markup/Utf8.h"
@@ -152,15 +153,20 @@ bool Dota7Settings::storeKey(const Dota7KeyField& field, Dota7Key key) {
   } else if (isUsed(field, key)) {
     return false;
   }
-  change(field, cast_, key);
+  apply(keyChange(field, cast_, key));
   return true;
 }
 
 void Dota7Settings::clearKey(const Dota7KeyField& field) {
-  change(field, cast_, {});
+  apply(keyChange(field, cast_, {}));
 }
 
-void Dota7Settings::change(const Dota7KeyField& field, Dota7Cast cast, const Dota7Key& key) {
+void Dota7Settings::apply(const Dota7FieldChange& change) {
+  manager_->apply({&change, 1});
+}
+
+Dota7FieldChange Dota7Settings::keyChange(const Dota7KeyField& field, Dota7Cast cast,
+                                          const Dota7Key& key) {
   const Dota7ValuePair& values = field.values(cast);
   const std::u16string text =
       key.code == 0 ? std::u16string() : manager_->keyText(key.code, key.modifier);
@@ -168,8 +174,7 @@ void Dota7Settings::change(const Dota7KeyField& field, Dota7Cast cast, const Dot
   change.valueName = values.code;
   change.value = static_cast<std::uint32_t>(key.code);
   keyPlace(field, cast) = key;
-  manager_->writeValue(change);
-  manager_->record(field.objectName, std::move(change));
+  return {field.objectName, std::move(change)};
 }
 
 bool Dota7Settings::isOn(const Dota7Switch& row) const {
@@ -177,13 +182,16 @@ bool Dota7Settings::isOn(const Dota7Switch& row) const {
 }
 
 void Dota7Settings::setOn(const Dota7Switch& row, bool on) {
+  apply(switchChange(row, on));
+}
+
+Dota7FieldChange Dota7Settings::switchChange(const Dota7Switch& row, bool on) {
   Dota7Change change;
   change.keyPath = kDota7ControlPath;
   change.valueName = row.valueName;
   change.value = on ? 1 : 0;
   switches_[indexOf(row, dota7Switches())] = on;
-  manager_->writeValue(change);
-  manager_->record(row.objectName, std::move(change));
+  return {row.objectName, std::move(change)};
 }
 
 const std::u16string& Dota7Settings::phrase(const Dota7Phrase& row) const {
@@ -192,13 +200,16 @@ const std::u16string& Dota7Settings::phrase(const Dota7Phrase& row) const {
 
 void Dota7Settings::setPhrase(const Dota7Phrase& row, std::u16string_view text, bool isTyped) {
   const std::size_t index = indexOf(row, dota7Phrases());
-  const std::u16string stored = asStored(text);
+  std::u16string stored = asStored(text);
   if (unreadable_[index] && !isTyped && stored == phrases_[index]) return;
-  phrases_[index] = stored;
+  apply(phraseChange(row, std::move(stored)));
+}
+
+Dota7FieldChange Dota7Settings::phraseChange(const Dota7Phrase& row, std::u16string stored) {
+  const std::size_t index = indexOf(row, dota7Phrases());
+  phrases_[index] = std::move(stored);
   unreadable_[index] = false;
-  Dota7Change change = changeOf(kDota7PhrasesPath, row.valueName, stored);
-  manager_->writeValue(change);
-  manager_->record(row.objectName, std::move(change));
+  return {row.objectName, changeOf(kDota7PhrasesPath, row.valueName, phrases_[index])};
 }
 
 void Dota7Settings::reset() {
@@ -206,6 +217,7 @@ void Dota7Settings::reset() {
   const platform::RegistryKey phrases(kDota7PhrasesPath);
   const platform::RegistryValue nothing{platform::kRegistryBinary, {}};
   const platform::RegistryValue zero = platform::dwordValue(0);
+  std::vector<Dota7FieldChange> changes;
   for (const Dota7KeyField& field : dota7KeyFields()) {
     const auto& source = field.keyPath == kDota7ControlPath ? control : phrases;
     for (const Dota7Cast cast : kCasts) {
@@ -213,17 +225,19 @@ void Dota7Settings::reset() {
       const bool isSet = keyPlace(field, cast) != Dota7Key() ||
                          holdsOther(source, values.text, nothing) ||
                          holdsOther(source, values.code, zero);
-      if (isSet) change(field, cast, {});
+      if (isSet) changes.push_back(keyChange(field, cast, {}));
     }
   }
   for (const Dota7Switch& row : dota7Switches()) {
-    if (isOn(row) || holdsOther(control, row.valueName, zero)) setOn(row, false);
+    if (isOn(row) || holdsOther(control, row.valueName, zero)) {
+      changes.push_back(switchChange(row, false));
+    }
   }
   for (const Dota7Phrase& row : dota7Phrases()) {
     if (phrase(row).empty() && !holdsOther(phrases, row.valueName, nothing)) continue;
-    unreadable_[indexOf(row, dota7Phrases())] = false;
-    setPhrase(row, {});
+    changes.push_back(phraseChange(row, {}));
   }
+  manager_->apply(changes);
   cast_ = Dota7Cast::Normal;
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "gameside/Dota7Change.h"
 #include "gameside/Dota7Values.h"
 #include "platform/Registry.h"
 
@@ -78,7 +79,12 @@ class Dota7Settings {
                                  const Dota7ValuePair& values) const;
   [[nodiscard]] bool isUsed(const Dota7KeyField& field, const Dota7Key& key) const;
   [[nodiscard]] Dota7Key& keyPlace(const Dota7KeyField& field, Dota7Cast cast);
-  void change(const Dota7KeyField& field, Dota7Cast cast, const Dota7Key& key);
+  // Take a value and give what has to be written for it.
+  [[nodiscard]] Dota7FieldChange keyChange(const Dota7KeyField& field, Dota7Cast cast,
+                                           const Dota7Key& key);
+  [[nodiscard]] Dota7FieldChange switchChange(const Dota7Switch& row, bool on);
+  [[nodiscard]] Dota7FieldChange phraseChange(const Dota7Phrase& row, std::u16string stored);
+  void apply(const Dota7FieldChange& change);
 
   Dota7KeyInfoManager* manager_;
   Dota7Cast cast_ = Dota7Cast::Normal;

@@ -247,4 +247,18 @@ const Dota7Phrase* findDota7Phrase(std::u16string_view objectName) {
   return find(dota7Phrases(), objectName);
 }
 
+bool isDota7Value(std::u16string_view keyPath, std::u16string_view name) {
+  if (name.empty()) return false;
+  const auto isOfPair = [&](const Dota7ValuePair& pair) {
+    return pair.text == name || pair.code == name;
+  };
+  const auto isOfKey = [&](const Dota7KeyField& row) {
+    return row.keyPath == keyPath && (isOfPair(row.normal) || isOfPair(row.quick));
+  };
+  const auto isOfRow = [&](const auto& row) { return row.valueName == name; };
+  return std::ranges::any_of(kKeyFields, isOfKey) ||
+         (keyPath == kDota7ControlPath && std::ranges::any_of(kSwitches, isOfRow)) ||
+         (keyPath == kDota7PhrasesPath && std::ranges::any_of(kPhrases, isOfRow));
+}
+
 }  // namespace brennet

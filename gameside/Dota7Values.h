@@ -80,4 +80,7 @@ inline constexpr std::size_t kDota7Phrases = 2 * kDota7ChatKeys;
 [[nodiscard]] const Dota7Switch* findDota7Switch(std::u16string_view objectName);
 [[nodiscard]] const Dota7Phrase* findDota7Phrase(std::u16string_view objectName);
 
+// Whether a field of the pages edits the value of that name, in that key of the registry.
+[[nodiscard]] bool isDota7Value(std::u16string_view keyPath, std::u16string_view name);
+
 }  // namespace brennet

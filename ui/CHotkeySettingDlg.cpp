@@ -56,6 +56,7 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
   setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
   form_->setupUi(this);
   fit_ = new brennet::ScreenFit(*this);
+  manager_->beginRun();
   createPages();
   fillForm();
   connectForm();

@@ -1,5 +1,5 @@
 // Any registry, and a player of DotA 7 who changes settings in it: Cancel gives back every value,
-// OK leaves there what was shown.
+// and so does the next run where this one does not end; OK leaves there what was shown.
 //
 // Input: the registry as a .reg file. What the player does follows from its bytes.
 
@@ -88,29 +88,48 @@ bool hasAllKeys(const RegFile& registry) {
   return hasKey(kDota7ControlPath) && hasKey(kDota7PhrasesPath);
 }
 
+// What a player does, up to the end of the run or of the process.
+void play(Dota7KeyInfoManager& manager, Choices& choices) {
+  manager.beginRun();
+  manager.settings().load();
+  for (std::size_t n = choices.below(kMostSteps); n > 0; --n) step(manager, choices);
+}
+
+void checkUndone(std::string_view bytes, const RegistryFile& file, Choices& choices) {
+  RegFile before;
+  const bool isRegistry = before.merge(bytes);
+  {
+    Dota7KeyInfoManager manager;
+    play(manager, choices);
+    if (choices.oneIn(2)) manager.cancelChanges();
+  }
+  Dota7KeyInfoManager next;
+  next.beginRun();
+  RegFile after;
+  require(after.merge(file.bytes()) == isRegistry);
+  require(after == before);
+}
+
+void checkAccepted(std::string_view bytes, const RegistryFile& file, Choices& choices) {
+  Dota7KeyInfoManager manager;
+  play(manager, choices);
+  const std::vector<std::u16string> shown = shownBy(manager.settings());
+  manager.acceptChanges();
+  RegFile before;
+  if (!before.merge(bytes)) return require(file.bytes() == bytes);
+  if (!hasAllKeys(before)) return;  // what is changed cannot be written
+  Dota7KeyInfoManager next;
+  next.beginRun();
+  next.settings().load();
+  require(shownBy(next.settings()) == shown);
+}
+
 void checkPlayer(std::string_view bytes) {
   static const RegistryFile file;
   file.write(bytes);
-  RegFile before;
-  const bool isRegistry = before.merge(bytes);
-
   Choices choices(static_cast<std::uint32_t>(std::hash<std::string_view>()(bytes)));
-  Dota7KeyInfoManager manager;
-  manager.settings().load();
-  for (std::size_t n = choices.below(kMostSteps); n > 0; --n) step(manager, choices);
-  if (choices.oneIn(2)) {
-    manager.cancelChanges();
-    RegFile after;
-    require(after.merge(file.bytes()) == isRegistry);
-    return require(after == before);
-  }
-  const std::vector<std::u16string> shown = shownBy(manager.settings());
-  manager.acceptChanges();
-  if (!isRegistry) return require(file.bytes() == bytes);
-  if (!hasAllKeys(before)) return;  // what is changed cannot be written
-  Dota7KeyInfoManager other;
-  other.settings().load();
-  require(shownBy(other.settings()) == shown);
+  const auto check = choices.oneIn(3) ? checkAccepted : checkUndone;
+  check(bytes, file, choices);
 }
 
 }  // namespace

@@ -150,5 +150,29 @@ TEST(Dota7Values, HaveThirtyPhrases) {
   EXPECT_EQ(names, expected);
 }
 
+TEST(Dota7Values, AreToldFromAllOthers) {
+  for (const Dota7KeyField& field : dota7KeyFields()) {
+    const bool isOfPhrases = field.keyPath == kDota7PhrasesPath;
+    for (const Dota7Cast cast : {Dota7Cast::Normal, Dota7Cast::Quick}) {
+      for (const std::u16string_view name : {field.values(cast).text, field.values(cast).code}) {
+        EXPECT_EQ(isDota7Value(kDota7PhrasesPath, name), isOfPhrases);
+        EXPECT_EQ(isDota7Value(kDota7ControlPath, name), !isOfPhrases);
+      }
+    }
+  }
+  for (const Dota7Switch& row : dota7Switches()) {
+    EXPECT_TRUE(isDota7Value(kDota7ControlPath, row.valueName));
+    EXPECT_FALSE(isDota7Value(kDota7PhrasesPath, row.valueName));
+  }
+  for (const Dota7Phrase& row : dota7Phrases()) {
+    EXPECT_TRUE(isDota7Value(kDota7PhrasesPath, row.valueName));
+    EXPECT_FALSE(isDota7Value(kDota7ControlPath, row.valueName));
+  }
+  for (const std::u16string_view name : {u"", u"HStopKeyCode ", u"hstopkeycode", u"Another"}) {
+    EXPECT_FALSE(isDota7Value(kDota7ControlPath, name));
+  }
+  EXPECT_FALSE(isDota7Value(kDota7Path, u"HStopKeyCode"));
+}
+
 }  // namespace
 }  // namespace brennet
