@@ -77,14 +77,15 @@ FileError PrivateFile::empty(const Path& path) noexcept {
 }
 
 bool PrivateFile::clear() noexcept {
-  // A replacement that failed half-way may have left the old content under the other name. That
-  // goes first: as long as the file is there, it is the one that counts.
-  static_cast<void>(empty(backup_));
-  bool isClear = isGone(empty(path_));
+  // A replacement that failed half-way may have left the old content under the other name. As long
+  // as the file is there, it is the one that counts; so the other goes first.
+  const FileError oldError = empty(backup_);
+  const FileError error = empty(path_);
+  const bool isEmpty = !error || (isGone(error) && isGone(oldError));
+  if (!isGone(oldError)) return isEmpty;  // the empty file stays, and counts
   const FileError removed = retried(system_, [&] { return system_.remove(path_); });
-  if (isClear) static_cast<void>(system_.remove(backup_));
-  if (isGone(removed) && !system_.flushFolder(folder_)) isClear = true;
-  return isClear;
+  static_cast<void>(system_.remove(backup_));
+  return (isGone(removed) && !system_.flushFolder(folder_)) || isEmpty;
 }
 
 void PrivateFile::release() noexcept {

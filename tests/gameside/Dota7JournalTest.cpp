@@ -182,6 +182,27 @@ class Dota7RunsBehindADeniedOne : public Dota7Runs {
   std::unique_ptr<Manager> run;
 };
 
+TEST_F(Dota7Runs, ThatCannotBeUndoneAreSoOneAfterTheOther) {
+  auto run = newRun();
+  auto other = newRun();
+  EXPECT_TRUE(run->settings().storeKey(field(u"edt_HStopKey"), key('T')));
+  EXPECT_TRUE(other->settings().storeKey(field(u"edt_HHoldKey"), key('H')));
+  run.reset();
+  other.reset();
+  registry.removeKey(kDota7ControlPath);
+  run = newRun();
+  registry.set(kDota7ControlPath, u"HStopKeyCode", dwordValue('T'));
+  registry.set(kDota7ControlPath, u"HStopKey", bytesValue("T"));
+  registry.set(kDota7ControlPath, u"HHoldKeyCode", dwordValue('H'));
+  registry.set(kDota7ControlPath, u"HHoldKey", bytesValue("H"));
+  run->cancelChanges();
+  EXPECT_EQ(control(u"HStopKeyCode"), dwordValue('S'));
+  EXPECT_EQ(control(u"HHoldKeyCode"), dwordValue('H')) << "the other one is another run's business";
+  run = newRun();
+  EXPECT_EQ(registry.content(), before);
+  EXPECT_FALSE(isAnyThere());
+}
+
 TEST_F(Dota7RunsBehindADeniedOne, GiveBackWhatStoodThereBeforeBoth) {
   edit(*run, 'V');
   run->cancelChanges();
