@@ -3,10 +3,10 @@
 namespace brennet::test {
 
 // Leaves the caller's environment behind, so that a test finds the same world whoever runs it and
-// wherever: English texts in UTF-8, the time of Greenwich, /tmp for temporary files, and a home
-// folder that is not there (ScopedProfile makes one). What is meant for tests stays:
-// BRENNET_TEST_*, BRENNET_UPDATE_GOLDEN, and what GoogleTest and the sanitizers read.
-// tests/support/world.sh does the same for scripts.
+// wherever: English texts in UTF-8, the time of Greenwich, /tmp for temporary files (or the folder
+// that BRENNET_TEST_TMPDIR names), and a home folder that is not there (ScopedProfile makes one).
+// What is meant for tests stays: BRENNET_TEST_*, BRENNET_UPDATE_GOLDEN, and what GoogleTest and the
+// sanitizers read. tests/support/world.sh does the same for scripts.
 //
 // Under Windows only what is of the caller's Qt, language, time and folders goes; the rest is the
 // system's own.

@@ -60,7 +60,8 @@ TEST(TheWorldOfTheTests, IsThereFromTheStart) {
   EXPECT_STREQ(std::getenv("HOME"), "/nonexistent");
   EXPECT_FALSE(std::filesystem::exists("/nonexistent"));
   EXPECT_STREQ(std::getenv("LC_ALL"), "C.UTF-8");
-  EXPECT_EQ(std::filesystem::temp_directory_path(), "/tmp");
+  const char* const folder = std::getenv("BRENNET_TEST_TMPDIR");
+  EXPECT_EQ(std::filesystem::temp_directory_path(), folder != nullptr ? folder : "/tmp");
   for (const char* const name : kCallers) EXPECT_EQ(std::getenv(name), nullptr) << name;
 }
 
@@ -81,6 +82,17 @@ TEST(TheWorldOfTheTests, HasNothingOfTheCallersAndIsThatOfScripts) {
     EXPECT_EQ(own.count(entry), 1U) << entry;
   }
   for (const std::string& entry : own) EXPECT_EQ(entry.find("/the/callers"), std::string::npos);
+}
+
+TEST(TheWorldOfTheTests, HasAnotherFolderForTemporaryFilesWhereOneIsNamed) {
+  setenv("BRENNET_TEST_TMPDIR", "/another folder", 1);
+  const std::set<std::string> scripts = worldOfScripts();
+  leaveTheCallersWorld();
+  EXPECT_EQ(scripts, ownWorld());
+  EXPECT_STREQ(std::getenv("TMPDIR"), "/another folder");
+  unsetenv("BRENNET_TEST_TMPDIR");
+  leaveTheCallersWorld();
+  EXPECT_EQ(std::getenv("TMPDIR"), nullptr);
 }
 
 TEST(TheWorldOfTheTests, HasTheTimeOfGreenwich) {

@@ -38,6 +38,7 @@ void leaveTheCallersWorld() {
   setenv("HOME", "/nonexistent", 1);
   setenv("LC_ALL", "C.UTF-8", 1);
   setenv("TZ", "UTC0", 1);
+  if (const char* const folder = std::getenv("BRENNET_TEST_TMPDIR")) setenv("TMPDIR", folder, 1);
 }
 
 }  // namespace brennet::test

@@ -14,5 +14,8 @@ for name in $(compgen -e); do
       BRENNET_TEST_* | GTEST_*) kept+=("$name=${!name}") ;;
   esac
 done
+if [[ -n ${BRENNET_TEST_TMPDIR+x} ]]; then
+  kept+=("TMPDIR=$BRENNET_TEST_TMPDIR")
+fi
 exec env -i "${kept[@]}" HOME=/nonexistent LC_ALL=C.UTF-8 TZ=UTC0 \
   BRENNET_TOOLCHAIN_DIR="$toolchain_dir" "$@"
