@@ -6,10 +6,13 @@ HOURS ?= 4
 CTEST_ARGS ?=
 ROWS ?=
 ROUNDS ?= 100000
+MUTANTS ?= 600
+SEED ?= 1
+FOLDERS ?=
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk bench bench-build fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage shots translations format lint lint-windows clean
+.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk bench bench-build fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage mutation shots translations format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -101,6 +104,10 @@ fuzz-coverage: ## tell which lines and branches the inputs in fuzz/corpus/ reach
 	@cmake --preset fuzz-coverage
 	@cmake --build --preset fuzz-coverage -j $(JOBS) --target fuzzers
 	@tools/fuzz_coverage.sh build/fuzz-coverage
+
+mutation: ## plant MUTANTS (600) small faults of SEED (1), and tell which no test finds (FOLDERS="model")
+	@tools/setup.sh build test
+	@nice -n 10 tools/mutation/mutate.py --mutants $(MUTANTS) --seed $(SEED) --jobs $(JOBS) $(FOLDERS)
 
 translations: ## bring the catalogues up to date with the texts of the windows
 	@tools/setup.sh build

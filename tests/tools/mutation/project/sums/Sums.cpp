@@ -1,0 +1,9 @@
+#include "sums/Sums.h"
+
+int sumTo(int last) {
+  static_assert(1 < 2);
+  int sum = 0;
+  for (int i = 1; i <= last; ++i) sum += i;
+  if (sum < 0) sum = 0;
+  return sum + last * 0;
+}

@@ -1,0 +1,94 @@
+"""One mutant at a time: compiled, linked, and given to the tests."""
+
+import hashlib
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+# What is in a folder is tested by the programs of its own first.
+PROGRAMS = {
+    "platform": ("platform", "faults", "platform_faults", "settings_faults", "gameside", "host"),
+    "markup": ("markup", "model", "gameside", "host"),
+    "gameside": ("gameside", "model", "host"),
+    "model": ("model", "host", "settings_faults"),
+}
+# A mutant may ask for all the memory there is, and need not leave a core.
+_LIMITED = ("sh", "-c", "ulimit -c 0 && ulimit -v 4194304 && exec \"$0\" \"$@\"")
+
+
+class Trials:
+    """`programs_of` names the programs for each folder. A program may take four times as long as
+    without a mutant, and `least_seconds`."""
+
+    def __init__(self, build, room, programs_of, programs, least_seconds=10):
+        self._build = build
+        self._room = room
+        self._programs_of = programs_of
+        self._least_seconds = least_seconds
+        self._seconds = {}
+        for name in programs:
+            began = time.monotonic()
+            if self._run(name, build.program(name), 600) != 0:
+                raise RuntimeError(f"{name}_tests fails without a mutant")
+            self._seconds[name] = time.monotonic() - began
+
+    def fingerprint(self, folder):
+        """Changes with the programs that a folder's mutants are given to."""
+        digest = hashlib.sha256()
+        for name in self._programs_of[folder]:
+            digest.update(self._build.program(name).read_bytes())
+        return digest.hexdigest()[:16]
+
+    def of(self, mutant, text):
+        """What becomes of a mutant: a verdict and a word on it."""
+        room = tempfile.mkdtemp(dir=self._room)
+        try:
+            return self._verdict(mutant, text, type(self._room)(room))
+        finally:
+            shutil.rmtree(room, ignore_errors=True)
+
+    def _verdict(self, mutant, text, room):
+        build = self._build
+        objects = build.compile(mutant.file, mutant.applied_to(text), room)
+        if objects is None:
+            return "not compiled", ""
+        if build.same_code(objects, room):
+            return "survived", "the compiler makes the same code of it"
+        for name in self._programs_of[mutant.file.split("/")[0]]:
+            program = build.link(name, objects, room)
+            if program is None:
+                return "not compiled", "not linked"
+            status = self._run(name, program, 4 * self._seconds[name] + self._least_seconds)
+            program.unlink()
+            if status != 0:
+                return "killed", name if status is not None else f"{name}, no end"
+        return "survived", ""
+
+    def _run(self, name, program, seconds):
+        """The exit status of a test program, or None where it takes too long."""
+        with tempfile.TemporaryDirectory(prefix="brennet-mutation-",
+                                         ignore_cleanup_errors=True) as folder:
+            os.chmod(folder, 0o1777)  # tests become other users where they can
+            environment = {**os.environ, "BRENNET_TEST_TMPDIR": folder}
+            process = subprocess.Popen(
+                [*_LIMITED, str(program), "--gtest_fail_fast", "--gtest_brief=1"],
+                cwd=self._build.working_folder(name), env=environment, start_new_session=True,
+                stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            try:
+                return process.wait(seconds)
+            except subprocess.TimeoutExpired:
+                return None
+            finally:
+                _end_group(process)
+
+
+def _end_group(process):
+    """Ends the program and what it has started."""
+    try:
+        os.killpg(process.pid, signal.SIGKILL)
+    except ProcessLookupError:
+        pass
+    process.wait()
