@@ -1,0 +1,146 @@
+// Links, rights and owners, as far as the functions above the system count on them.
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "platform/FileSystem.h"
+#include "platform/Files.h"
+#include "platform/KeptWrite.h"
+#include "platform/OpenFile.h"
+#include "tests/support/TempFolder.h"
+
+namespace brennet::platform {
+namespace {
+
+using test::readBytes;
+using test::TempFolder;
+using test::writeBytes;
+
+mode_t modeOf(const Path& path) {
+  struct stat status {};
+  EXPECT_EQ(lstat(path.c_str(), &status), 0) << path;
+  return status.st_mode & 07777U;
+}
+
+TEST(TheSystem, MakesWhatIsPrivateForTheOwnerAlone) {
+  const TempFolder folder;
+  const mode_t before = umask(0);
+  OpenFile fresh(operatingSystem());
+  OpenFile kept(operatingSystem());
+  EXPECT_FALSE(fresh.open(folder / "new", OpenFor::NewAndPrivate));
+  EXPECT_FALSE(kept.open(folder / "kept", OpenFor::Keeping));
+  EXPECT_FALSE(operatingSystem().createPrivateFolder(folder / "own"));
+  umask(before);
+  EXPECT_EQ(modeOf(folder / "new"), 0600U);
+  EXPECT_EQ(modeOf(folder / "kept"), 0600U);
+  EXPECT_EQ(modeOf(folder / "own"), 0700U);
+}
+
+TEST(TheSystem, TakesNoFolderForPrivateThatOthersMayEnter) {
+  const TempFolder folder;
+  FileSystem& system = operatingSystem();
+  for (const mode_t mode : {0755U, 0770U, 0701U}) {
+    const Path path = folder / std::to_string(mode);
+    ASSERT_EQ(mkdir(path.c_str(), 0700), 0);
+    ASSERT_EQ(chmod(path.c_str(), mode), 0);
+    EXPECT_EQ(system.createPrivateFolder(path).obstacle, Obstacle::Denied) << std::oct << mode;
+  }
+  ASSERT_EQ(mkdir((folder / "own").c_str(), 0700), 0);
+  ASSERT_EQ(symlink((folder / "own").c_str(), (folder / "link").c_str()), 0);
+  EXPECT_EQ(system.createPrivateFolder(folder / "link").obstacle, Obstacle::Denied);
+  if (geteuid() != 0) return;
+  ASSERT_EQ(chown((folder / "own").c_str(), 4242, 4242), 0);
+  EXPECT_EQ(system.createPrivateFolder(folder / "own").obstacle, Obstacle::Denied);
+}
+
+TEST(TheSystem, FollowsLinksToTheEnd) {
+  const TempFolder folder;
+  ASSERT_EQ(symlink("second", (folder / "first").c_str()), 0);
+  ASSERT_EQ(symlink("third", (folder / "second").c_str()), 0);
+  ASSERT_EQ(symlink("round", (folder / "round").c_str()), 0);
+  FileSystem& system = operatingSystem();
+  EXPECT_EQ(system.resolved(folder / "first").lexically_normal(), folder / "third");
+  EXPECT_EQ(system.resolved(folder / "third"), folder / "third");
+  EXPECT_EQ(system.resolved(folder / "round"), folder / "round");
+}
+
+// A folder for temporary files of the test's own.
+class ScopedTemporaries {
+ public:
+  ScopedTemporaries() { setenv("TMPDIR", folder_.path().c_str(), 1); }
+  ~ScopedTemporaries() { unsetenv("TMPDIR"); }
+  ScopedTemporaries(const ScopedTemporaries&) = delete;
+  ScopedTemporaries& operator=(const ScopedTemporaries&) = delete;
+
+ private:
+  TempFolder folder_;
+};
+
+// Keeps an unfinished write, as a process leaves it that ends, and tears the file.
+void tear(const Path& path, const char* torn) {
+  KeptWrite kept(operatingSystem(), path);
+  ASSERT_FALSE(kept.open());
+  ASSERT_FALSE(kept.write(readBytes(path), "the new content"));
+  writeBytes(path, torn);
+}
+
+TEST(ATornFile, IsPutRightByWhoeverReadsItNext) {
+  const ScopedTemporaries temporaries;
+  const TempFolder folder;
+  writeBytes(folder / "f", "the old one");
+  tear(folder / "f", "the new one");
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "./f", read, kAnySize));
+  EXPECT_EQ(read, "the old one");
+  EXPECT_EQ(readBytes(folder / "f"), "the old one");
+  EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
+}
+
+TEST(ATornFile, IsLeftAloneWhereSomebodyHasWrittenItSince) {
+  const ScopedTemporaries temporaries;
+  const TempFolder folder;
+  writeBytes(folder / "f", "the old one");
+  tear(folder / "f", "by the game");
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
+  EXPECT_EQ(read, "by the game");
+  EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
+}
+
+TEST(ATornFile, IsNotBelievedFromAFolderThatOthersMayEnter) {
+  const ScopedTemporaries temporaries;
+  const TempFolder folder;
+  writeBytes(folder / "f", "the old one");
+  tear(folder / "f", "the new one");
+  ASSERT_EQ(chmod(operatingSystem().privateFolder().c_str(), 0777), 0);
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
+  EXPECT_EQ(read, "the new one");
+  // Nor is anything kept there.
+  ASSERT_EQ(link((folder / "f").c_str(), (folder / "second").c_str()), 0);
+  EXPECT_TRUE(replaceFile(folder / "f", "newer"));
+  EXPECT_EQ(readBytes(folder / "f"), "the new one");
+}
+
+TEST(ATornFile, WaitsForTheProcessThatIsWritingIt) {
+  const ScopedTemporaries temporaries;
+  const TempFolder folder;
+  writeBytes(folder / "f", "the old one");
+  KeptWrite kept(operatingSystem(), folder / "f");
+  ASSERT_FALSE(kept.open());
+  ASSERT_FALSE(kept.write("the old one", "the new content"));
+  std::string read;
+  const std::error_code error = readFile(folder / "f", read, kAnySize);
+  EXPECT_TRUE(error) << read;
+  EXPECT_FALSE(isMissing(error));
+  EXPECT_TRUE(replaceFile(folder / "f", "newer"));
+  EXPECT_FALSE(kept.discard());
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
+}
+
+}  // namespace
+}  // namespace brennet::platform
