@@ -65,10 +65,10 @@ TEST(ReplaceFile, ReplacesTheContent) {
   }
 }
 
-constexpr auto kTwoHours = std::chrono::hours(2);
+constexpr auto kHour = std::chrono::hours(1);
 
-void makeOld(const Path& path) {
-  const auto before = std::filesystem::file_time_type::clock::now() - kTwoHours;
+void makeOld(const Path& path, std::chrono::seconds age = 2 * kHour) {
+  const auto before = std::filesystem::file_time_type::clock::now() - age;
   std::error_code unused;  // not every system sets the time of a folder
   std::filesystem::last_write_time(path, before, unused);
 }
@@ -103,6 +103,23 @@ TEST(ReplaceFile, LeavesTemporaryFilesAloneThatMayBeInUse) {
   writeBytes(folder / name, "somebody is writing this");
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
   EXPECT_EQ(folder.listing(), "f\n" + name + "\n");
+}
+
+TEST(ReplaceFile, RemovesTemporaryFilesThatAreAnHourOld) {
+  struct Row {
+    std::chrono::seconds age;
+    bool goes;
+  };
+  // In the second row there is half a minute for the test.
+  const Row kRows[] = {{kHour, true}, {kHour - std::chrono::seconds(30), false}};
+  for (const Row& row : kRows) {
+    const TempFolder folder;
+    const std::string name = "f.brennet-" + std::to_string(fileSystem().process()) + "-0.tmp";
+    writeBytes(folder / name, "half");
+    makeOld(folder / name, row.age);
+    EXPECT_FALSE(replaceFile(folder / "f", "new"));
+    EXPECT_EQ(folder.listing(), row.goes ? "f\n" : "f\n" + name + "\n") << row.age.count();
+  }
 }
 
 // Its process has ended, so nobody waits for it to become old.
