@@ -127,6 +127,34 @@ TEST(Utf8, ReadsLongTextsLikeShortOnes) {
   EXPECT_EQ(decoded(bytes), expected);
 }
 
+TEST(Utf8, TellsWhatStandsAtTheFront) {
+  using State = Utf8Character::State;
+  struct Case {
+    std::string_view bytes;
+    State state;
+    std::size_t length;
+    char32_t codePoint;
+  };
+  const Case kCases[] = {
+      {"a\xC3", State::Good, 1, U'a'},
+      {std::string_view("\0", 1), State::Good, 1, 0},
+      {"\x7F", State::Good, 1, 0x7F},
+      {"\xC3\xA9z", State::Good, 2, 0xE9},
+      {"\xE8\xB0\xA2", State::Good, 3, 0x8C22},
+      {"\xF0\x9F\x98\x80", State::Good, 4, 0x1F600},
+      {"\xF0\x9F\x98", State::CutOff, 3, kReplacementUnit},
+      {"\xF0\x9Fz", State::Bad, 2, kReplacementUnit},
+      {"\x80z", State::Bad, 1, kReplacementUnit},
+      {"\xF5\x80", State::Bad, 1, kReplacementUnit},
+  };
+  for (const Case& test : kCases) {
+    const Utf8Character character = firstUtf8Character(test.bytes);
+    EXPECT_EQ(character.state, test.state) << testing::PrintToString(test.bytes);
+    EXPECT_EQ(character.bytes, test.length) << testing::PrintToString(test.bytes);
+    EXPECT_EQ(character.codePoint, test.codePoint) << testing::PrintToString(test.bytes);
+  }
+}
+
 TEST(Utf8, KnowsWhatTheEndCutsOff) {
   struct Case {
     std::string_view bytes;
