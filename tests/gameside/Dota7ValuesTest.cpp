@@ -6,7 +6,9 @@
 
 #include <map>
 #include <set>
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace brennet {
 namespace {
@@ -75,6 +77,27 @@ TEST(Dota7Values, NameTheCodeAfterTheText) {
     for (const Dota7Cast cast : {Dota7Cast::Normal, Dota7Cast::Quick}) {
       EXPECT_EQ(field.values(cast).code, codeOf(field.values(cast).text));
     }
+  }
+}
+
+// The first and the last value of each group of fields, and how many there are.
+TEST(Dota7Values, ComeInGroups) {
+  struct Row {
+    std::span<const Dota7KeyField> fields;
+    std::size_t count;
+    std::u16string_view first, last;
+  };
+  const Row kRows[] = {
+      {dota7UnitKeys(), 18, u"HMoveKeyC", u"HGlyphButtonKey"},
+      {dota7ItemKeys(), 7, u"ItemKeyC0", u"HTeleportKeyC"},
+      {dota7SkillKeys(Dota7Cast::Normal), 6, u"OrderKeyC2", u"OrderKeyC7"},
+      {dota7SkillKeys(Dota7Cast::Quick), 6, u"HAC3Key", u"HAC8Key"},
+      {dota7ChatKeys(), 15, u"HQuickChatHot0Key", u"HQuickChatHot14Key"},
+  };
+  for (const Row& row : kRows) {
+    EXPECT_EQ(row.fields.size(), row.count);
+    EXPECT_EQ(row.fields.front().normal.text, row.first);
+    EXPECT_EQ(row.fields.back().normal.text, row.last);
   }
 }
 
