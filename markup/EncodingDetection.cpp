@@ -109,26 +109,16 @@ bool isBetween(char byte, unsigned first, unsigned last) {
 bool isGb18030Lead(char byte) {
   return isBetween(byte, 0x81, 0xFE);
 }
-bool isGb18030Digit(char byte) {
-  return isBetween(byte, 0x30, 0x39);
-}
 
-// The length of the character at the front of `bytes`; 0 where there is no whole one.
-std::size_t gb18030Length(std::string_view bytes) {
-  if (bytes.size() < 2 || !isGb18030Lead(bytes[0])) return 0;
-  if (isBetween(bytes[1], 0x40, 0x7E) || isBetween(bytes[1], 0x80, 0xFE)) return 2;
-  const bool isLong = bytes.size() >= 4 && isGb18030Digit(bytes[1]) && isGb18030Lead(bytes[2]) &&
-                      isGb18030Digit(bytes[3]);
-  return isLong ? 4 : 0;
-}
-
+// Whether valid UTF-8 has the form of GB18030. It never holds a sequence of four bytes: the second
+// and the fourth are digits, and the third, between them, would be half a character.
 bool isGb18030(std::string_view bytes) {
   for (;;) {
     bytes.remove_prefix(countAscii(bytes));
     if (bytes.empty()) return true;
-    const std::size_t length = gb18030Length(bytes);
-    if (length == 0) return false;
-    bytes.remove_prefix(length);
+    if (bytes.size() < 2 || !isGb18030Lead(bytes[0])) return false;
+    if (!isBetween(bytes[1], 0x40, 0x7E) && !isBetween(bytes[1], 0x80, 0xFE)) return false;
+    bytes.remove_prefix(2);
   }
 }
 
