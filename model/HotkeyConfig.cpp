@@ -28,7 +28,7 @@ bool setPhrase(HotkeyScheme* scheme, Phrases HotkeyScheme::*phrases, std::uint32
   if (scheme == nullptr || n >= kPhrases) return false;
   const std::u16string_view whole = text != nullptr ? text : std::u16string_view();
   const std::u16string_view kept = cutPhrase(whole);
-  if (kept.size() < whole.size()) std::fill(text + kept.size(), text + whole.size(), u'\0');
+  std::fill(text + kept.size(), text + whole.size(), u'\0');
   (scheme->*phrases)[n] = kept;
   return true;
 }

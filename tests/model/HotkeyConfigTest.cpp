@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "markup/MarkupDocument.h"
 #include "tests/model/Keys.h"
 
 namespace brennet {
@@ -277,6 +278,9 @@ TEST(PhraseSetters, CutLongTextInTheCallersBufferToo) {
     const bool isQuickChat = setter == &HotkeyConfig::SetQuickChatPhrase;
     const Phrases& phrases = isQuickChat ? config.scheme().QuickChat : config.scheme().ChatWheel;
     EXPECT_EQ(phrases[7], std::u16string(42, u'\u8C22'));
+    std::u16string oneTooLong(43, u'a');
+    EXPECT_TRUE((config.*setter)(7, oneTooLong.data(), kCurrent));
+    EXPECT_EQ(oneTooLong, std::u16string(42, u'a') + u'\0');
   }
 }
 
@@ -410,6 +414,32 @@ TEST(Assignment, CopiesEverythingAndReturnsACopy) {
   }
   copy.editableScheme(0)->HeroSkillKey[0] = kE;
   EXPECT_EQ(target.scheme(0).HeroSkillKey[0], kQ);
+}
+
+TEST(Swap, ExchangesEverything) {
+  HotkeyConfig loaded = changedConfig();
+  MarkupDocument document;
+  ASSERT_TRUE(loaded.saveTo(document, 77));
+  document.resetMainPos();
+  ASSERT_TRUE(loaded.loadFrom(document));
+  loaded.markBlockBuilt();
+  const HotkeyScheme scheme = loaded.scheme(1);
+
+  HotkeyConfig other;
+  other.swap(loaded);
+  EXPECT_TRUE(other.loaded());
+  EXPECT_EQ(other.LastSaveTime(), 77U);
+  EXPECT_TRUE(other.enable());
+  EXPECT_EQ(other.index(), 2U);
+  EXPECT_EQ(other.scheme(1), scheme);
+  EXPECT_TRUE(other.blockBuilt());
+
+  EXPECT_FALSE(loaded.loaded());
+  EXPECT_EQ(loaded.LastSaveTime(), 0U);
+  EXPECT_FALSE(loaded.enable());
+  EXPECT_EQ(loaded.index(), 0U);
+  EXPECT_EQ(loaded.scheme(1), HotkeyScheme());
+  EXPECT_FALSE(loaded.blockBuilt());
 }
 
 TEST(Assignment, LeavesNoPhraseAndNoMarkOfTheTargetBehind) {
