@@ -71,9 +71,14 @@ def _constant(source, i):
         yield i, i, "false" if token.text == "true" else "true"
     elif token.kind == "number" and (match := _INTEGER.match(token.text)):
         digits = match[1].replace("'", "")
-        value = int(digits, 16 if digits[:2].lower() == "0x" else 10)
-        shown = hex if digits[:2].lower() == "0x" else str
-        yield i, i, shown(value + 1) + match[2]
+        if digits[:2].lower() == "0x":
+            base, shown = 16, hex
+        elif digits[0] == "0":
+            base, shown = 8, "0{:o}".format
+        else:
+            base, shown = 10, str
+        value = int(digits, base)
+        yield i, i, (shown(value + 1) if value else "1") + match[2]
         if value != 0:
             yield i, i, "0" + match[2]
     elif token.kind == "character" and (match := _LETTER_OR_DIGIT.match(token.text)):

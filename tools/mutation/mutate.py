@@ -18,11 +18,12 @@ import hashlib
 import json
 import os
 import pathlib
+import signal
 import sys
 
 from build import Build, BuildError
 from mutants import mutants_of
-from trial import PROGRAMS, Trials
+from trial import PROGRAMS, Trials, program_of
 
 CHECKOUT = pathlib.Path(__file__).resolve().parent.parent.parent
 ACCEPTED = pathlib.Path(__file__).resolve().parent / "survivors.txt"
@@ -73,10 +74,10 @@ class Results:
 
 
 def line_of(mutant, text):
-    """The number of the line where a mutant begins, and the line."""
+    """Where a mutant begins, as "line:column", and the line."""
     begin = text.rfind("\n", 0, mutant.start) + 1
     number = text.count("\n", 0, begin) + 1
-    return number, text[begin:].split("\n", 1)[0].strip()
+    return f"{number}:{mutant.start - begin + 1}", text[begin:].split("\n", 1)[0].strip()
 
 
 def shown(mutant):
@@ -105,11 +106,11 @@ def report(verdicts, texts):
     for mutant, (verdict, word) in verdicts.items():
         counts[mutant.file.split("/")[0]][verdict] += 1
         if verdict == "survived":
-            number, line = line_of(mutant, texts[mutant.file])
+            place, line = line_of(mutant, texts[mutant.file])
             reason = reasons.get(f"{mutant.file} | {line} | {shown(mutant)}", word)
-            survivors.append((mutant.file, number, line, shown(mutant), reason))
-    for file, number, line, change, reason in sorted(survivors):
-        print(f"{file}:{number}: {line}\n    {change}" + (f"\n    {reason}" if reason else ""))
+            survivors.append((mutant.file, place, line, shown(mutant), reason))
+    for file, place, line, change, reason in sorted(survivors):
+        print(f"{file}:{place}: {line}\n    {change}" + (f"\n    {reason}" if reason else ""))
     total = sum(counts.values(), collections.Counter())
     print(f"\n{'folder':10}{'mutants':>9}{'killed':>8}{'survived':>10}{'not compiled':>14}{'':>3}killed")
     for folder, count in (*sorted(counts.items()), ("all", total)):
@@ -124,14 +125,15 @@ def report(verdicts, texts):
 def run(arguments):
     room = arguments.room.resolve()
     room.mkdir(parents=True, exist_ok=True)
-    programs = list(dict.fromkeys(p for folder in arguments.folders for p in PROGRAMS[folder]))
+    programs_of = {folder: PROGRAMS[folder] for folder in arguments.folders}
+    programs = sorted({program_of(name) for names in programs_of.values() for name in names})
     print(f"Building and running {', '.join(programs)} ...", flush=True)
     build = Build(CHECKOUT, room / "build", programs, arguments.jobs)
     texts = {file: (CHECKOUT / file).read_text(encoding="utf-8")
              for file in build.sources(arguments.folders)}
     trials_room = room / "trials"
     trials_room.mkdir(exist_ok=True)
-    trials = Trials(build, trials_room, PROGRAMS, programs)
+    trials = Trials(build, trials_room, programs_of)
     fingerprints = {folder: trials.fingerprint(folder) for folder in arguments.folders}
     results = Results(room / "results.jsonl")
 
@@ -174,6 +176,7 @@ def main():
     unknown = set(arguments.folders) - set(PROGRAMS)
     if unknown:
         parser.error(f"no such folder: {', '.join(sorted(unknown))}")
+    signal.signal(signal.SIGTERM, signal.default_int_handler)
     try:
         run(arguments)
     except (BuildError, RuntimeError) as error:

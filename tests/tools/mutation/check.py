@@ -78,7 +78,7 @@ class Verdicts(unittest.TestCase):
         cls.build = Build(cls.checkout, cls.folder / "build", ["sums"], 2)
         room = cls.folder / "room"
         room.mkdir()
-        cls.trials = Trials(cls.build, room, {"sums": ("sums",)}, ["sums"], least_seconds=1)
+        cls.trials = Trials(cls.build, room, {"sums": ("sums",)}, least_seconds=1)
 
     @classmethod
     def tearDownClass(cls):
