@@ -1,0 +1,231 @@
+// How a file takes the place of another while the system, or somebody else, is in the way.
+
+#include "platform/Replacement.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <string>
+
+#include "platform/Patience.h"
+#include "tests/platform/PassingFileSystem.h"
+#include "tests/support/TempFolder.h"
+
+namespace brennet::platform {
+namespace {
+
+using test::readBytes;
+using test::TempFolder;
+using test::writeBytes;
+
+FileError obstacle(Obstacle kind) {
+  return {kind, std::make_error_code(std::errc::io_error)};
+}
+
+// A system in which others do something at an exchange and while this process waits.
+class Crowded : public test::PassingFileSystem {
+ public:
+  FileError exchange(const Path& replacement, const Path& path, const Path& backup) override {
+    ++exchanges;
+    const FileError error = beforeExchange ? beforeExchange(path, backup) : FileError();
+    return error ? error : PassingFileSystem::exchange(replacement, path, backup);
+  }
+  FileError move(const Path& from, const Path& to) override {
+    const FileError error = beforeMove ? beforeMove(from, to) : FileError();
+    return error ? error : PassingFileSystem::move(from, to);
+  }
+  void pause() override {
+    ++pauses;
+    if (whileWaiting) whileWaiting();
+  }
+
+  std::function<FileError(const Path& path, const Path& backup)> beforeExchange;
+  std::function<FileError(const Path& from, const Path& to)> beforeMove;
+  std::function<void()> whileWaiting;
+  int exchanges = 0;
+  int pauses = 0;
+};
+
+class Replacing : public testing::Test {
+ protected:
+  Replacing() { writeBytes(path_, "old"); }
+
+  FileError replace() { return replaceFileOn(system_, path_, "new", OldContent::Drop); }
+
+  TempFolder folder_;
+  Path path_ = folder_ / "f";
+  Path backup_ = backupName(path_);
+  Crowded system_;
+};
+
+TEST_F(Replacing, IsUnderWayWhereTheFileOrItsBackupStands) {
+  struct Row {
+    bool file, backup;
+    Obstacle obstacle;
+    bool isBeingReplaced;
+  };
+  constexpr Row kRows[] = {
+      {false, false, Obstacle::Missing, false}, {true, false, Obstacle::Missing, true},
+      {false, true, Obstacle::Missing, true},   {true, true, Obstacle::Missing, true},
+      {true, true, Obstacle::Denied, false},    {true, true, Obstacle::None, false},
+  };
+  for (const Row& row : kRows) {
+    std::filesystem::remove(path_);
+    std::filesystem::remove(backup_);
+    if (row.file) writeBytes(path_, "old");
+    if (row.backup) writeBytes(backup_, "old");
+    EXPECT_EQ(isBeingReplaced(system_, path_, obstacle(row.obstacle)), row.isBeingReplaced)
+        << row.file << row.backup << static_cast<int>(row.obstacle);
+  }
+}
+
+TEST_F(Replacing, WaitsForAnotherProcessThatHasMovedTheFileAway) {
+  system_.beforeExchange = [&](const Path& path, const Path& backup) {
+    if (system_.exchanges > 1) return FileError();
+    std::filesystem::rename(path, backup);
+    return obstacle(Obstacle::Missing);
+  };
+  system_.whileWaiting = [&] { std::filesystem::rename(backup_, path_); };
+  EXPECT_FALSE(replace());
+  EXPECT_EQ(system_.pauses, 1);
+  EXPECT_EQ(readBytes(path_), "new");
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+TEST_F(Replacing, LeavesTheBackupWhereThatProcessHasEnded) {
+  system_.beforeExchange = [&](const Path& path, const Path& backup) {
+    if (system_.exchanges == 1) std::filesystem::rename(path, backup);
+    return obstacle(Obstacle::Missing);
+  };
+  EXPECT_EQ(replace().obstacle, Obstacle::Missing);
+  EXPECT_EQ(system_.exchanges, kTries);
+  EXPECT_EQ(readBytes(backup_), "old");
+  EXPECT_EQ(folder_.listing(), "f.brennet-old\n");
+}
+
+TEST_F(Replacing, DoesNotWaitForAFileThatIsGoneForGood) {
+  system_.beforeExchange = [](const Path& path, const Path&) {
+    std::filesystem::remove(path);
+    return obstacle(Obstacle::Missing);
+  };
+  EXPECT_FALSE(replace());
+  EXPECT_EQ(system_.pauses, 0);
+  EXPECT_EQ(readBytes(path_), "new");
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+TEST_F(Replacing, WaitsForAFileThatIsHeldAndWritesInPlaceInTheEnd) {
+  for (const int held : {1, kTries - 1, kTries}) {
+    writeBytes(path_, "old");
+    system_.exchanges = 0;
+    system_.pauses = 0;
+    system_.beforeExchange = [&](const Path&, const Path&) {
+      return system_.exchanges <= held ? obstacle(Obstacle::Held) : FileError();
+    };
+    EXPECT_FALSE(replace());
+    EXPECT_EQ(system_.exchanges, std::min(held + 1, kTries));
+    EXPECT_EQ(system_.pauses, std::min(held, kTries - 1));
+    EXPECT_EQ(readBytes(path_), "new");
+    EXPECT_EQ(folder_.listing(), "f\n");
+  }
+}
+
+TEST_F(Replacing, EndsWhatStoppedHalfway) {
+  system_.beforeExchange = [](const Path& path, const Path& backup) {
+    std::filesystem::rename(path, backup);
+    return obstacle(Obstacle::Halfway);
+  };
+  EXPECT_FALSE(replace());
+  EXPECT_EQ(readBytes(path_), "new");
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+TEST_F(Replacing, PutsTheOldFileBackWhereItStoppedHalfwayForGood) {
+  system_.beforeExchange = [](const Path& path, const Path& backup) {
+    std::filesystem::rename(path, backup);
+    return obstacle(Obstacle::Halfway);
+  };
+  system_.beforeMove = [&](const Path& from, const Path&) {
+    return from == backup_ ? FileError() : obstacle(Obstacle::Denied);
+  };
+  EXPECT_FALSE(replace()) << "it is written in place";
+  EXPECT_EQ(readBytes(path_), "new");
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+TEST_F(Replacing, TakesAnotherTemporaryNameWhereOneIsTaken) {
+  const std::string taken = "f.brennet-" + std::to_string(system_.process()) + "-0.tmp";
+  writeBytes(folder_ / taken, "somebody's");
+  EXPECT_FALSE(replace());
+  EXPECT_EQ(readBytes(path_), "new");
+  EXPECT_EQ(readBytes(folder_ / taken), "somebody's");
+  EXPECT_EQ(system_.exchanges, 1);
+}
+
+TEST_F(Replacing, WritesInPlaceWhereAllTemporaryNamesAreTaken) {
+  for (int number = 0; number < 100; ++number) {
+    writeBytes(folder_ / ("f.brennet-" + std::to_string(system_.process()) + "-" +
+                          std::to_string(number) + ".tmp"),
+               "somebody's");
+  }
+  EXPECT_FALSE(replace());
+  EXPECT_EQ(readBytes(path_), "new");
+  EXPECT_EQ(system_.exchanges, 0);
+}
+
+TEST_F(Replacing, StartsAgainWhereAFileHasComeMeanwhile) {
+  std::filesystem::remove(path_);
+  int moves = 0;
+  system_.beforeMove = [&](const Path&, const Path& to) {
+    if (++moves == 1) writeBytes(to, "another's");
+    return FileError();
+  };
+  EXPECT_FALSE(replace());
+  EXPECT_EQ(moves, 1);
+  EXPECT_EQ(system_.exchanges, 1);
+  EXPECT_EQ(readBytes(path_), "new");
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+TEST_F(Replacing, WaitsForABackupToBecomeTheFile) {
+  for (const int waits : {1, kTries - 1}) {
+    std::filesystem::rename(path_, backup_);
+    system_.pauses = 0;
+    system_.whileWaiting = [&] {
+      if (system_.pauses == waits) std::filesystem::rename(backup_, path_);
+    };
+    EXPECT_FALSE(settle(system_, path_));
+    EXPECT_EQ(system_.pauses, waits);
+    EXPECT_EQ(readBytes(path_), "old");
+  }
+}
+
+TEST_F(Replacing, MakesABackupTheFileThatNobodyWants) {
+  std::filesystem::rename(path_, backup_);
+  EXPECT_FALSE(settle(system_, path_));
+  EXPECT_EQ(system_.pauses, kTries);
+  EXPECT_EQ(readBytes(path_), "old");
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+TEST_F(Replacing, IsDoneWhereSomebodyElseMakesTheBackupTheFile) {
+  for (const Obstacle kind : {Obstacle::Missing, Obstacle::Exists, Obstacle::Denied}) {
+    std::filesystem::remove(path_);
+    writeBytes(backup_, "old");
+    system_.beforeMove = [&](const Path&, const Path&) { return obstacle(kind); };
+    EXPECT_EQ(settle(system_, path_).obstacle,
+              kind == Obstacle::Denied ? Obstacle::Denied : Obstacle::None);
+  }
+}
+
+TEST_F(Replacing, RemovesABackupBesideTheFile) {
+  writeBytes(backup_, "older");
+  EXPECT_FALSE(settle(system_, path_));
+  EXPECT_EQ(system_.pauses, 0);
+  EXPECT_EQ(readBytes(path_), "old");
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+}  // namespace
+}  // namespace brennet::platform
