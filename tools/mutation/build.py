@@ -8,6 +8,13 @@ import shutil
 import subprocess
 
 
+def _is_member(target, library):
+    """Whether a word of a link command is the library of an object."""
+    if not (library.startswith("lib/lib") and library.endswith(".a")):
+        return False
+    return f"/{pathlib.Path(library).stem.removeprefix('lib')}.dir/" in target
+
+
 class BuildError(Exception):
     pass
 
@@ -41,24 +48,28 @@ class Build:
         objects = next(word for word in self._link[name] if word.endswith(".o"))
         return self.folder / objects.split("/CMakeFiles/")[0]
 
-    def compile(self, file, text, room):
-        """Compiles all that includes the file with another text, into the folder `room`. Returns
-        the changed objects, or None where it does not compile."""
+    def change(self, file, text, room):
+        """Puts a changed source into the folder `room`, where compile() finds it."""
         changed = room / "sources" / file
         changed.parent.mkdir(parents=True)
         changed.write_text(text, encoding="utf-8")
-        original = str(self.checkout / file)
-        objects = []
-        for target in self._objects_of[file]:
-            words = [str(changed) if word == original else word for word in self._compile[target]]
+
+    def compile(self, name, file, room):
+        """Compiles what a program has of a changed source, unless another program had it compiled.
+        Returns the objects, or None where it does not compile."""
+        objects = [o for o in self._objects_of[file] if self._is_part(o, self._link[name])]
+        for target in objects:
             made = room / target
+            if made.exists():
+                continue
             made.parent.mkdir(parents=True, exist_ok=True)
+            words = [str(room / "sources" / file) if word == str(self.checkout / file) else word
+                     for word in self._compile[target]]
             words[words.index("-o") + 1] = str(made)
             first_include = next(i for i, word in enumerate(words) if word.startswith("-I"))
             words.insert(first_include, f"-I{room / 'sources'}")
             if subprocess.run(words, cwd=self.folder, capture_output=True, check=False).returncode:
                 return None
-            objects.append(target)
         return objects
 
     def same_code(self, objects, room):
@@ -73,13 +84,15 @@ class Build:
         done = subprocess.run(words, cwd=self.folder, capture_output=True, check=False)
         return made if done.returncode == 0 else None
 
+    @staticmethod
+    def _is_part(target, link):
+        """Whether an object is linked, by itself or as a member of a library."""
+        return target in link or any(_is_member(target, word) for word in link)
+
     def _replaced(self, word, objects, room):
         if word in objects:
             return str(room / word)
-        if not (word.startswith("lib/") and word.endswith(".a")):
-            return word
-        target = f"/{pathlib.Path(word).stem.removeprefix('lib')}.dir/"
-        members = [str(room / o) for o in objects if target in o]
+        members = [str(room / o) for o in objects if _is_member(o, word)]
         if not members:
             return word
         changed = room / word

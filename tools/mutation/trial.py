@@ -57,12 +57,15 @@ class Trials:
 
     def _verdict(self, mutant, text, room):
         build = self._build
-        objects = build.compile(mutant.file, mutant.applied_to(text), room)
-        if objects is None:
-            return "not compiled", ""
-        if build.same_code(objects, room):
-            return "survived", "the compiler makes the same code of it"
+        build.change(mutant.file, mutant.applied_to(text), room)
+        same_code = True
         for name in self._programs_of[mutant.file.split("/")[0]]:
+            objects = build.compile(program_of(name), mutant.file, room)
+            if objects is None:
+                return "not compiled", ""
+            if build.same_code(objects, room):
+                continue
+            same_code = False
             program = build.link(program_of(name), objects, room)
             if program is None:
                 return "not compiled", "not linked"
@@ -70,7 +73,7 @@ class Trials:
             program.unlink()
             if status != 0:
                 return "killed", name if status is not None else f"{name}, no end"
-        return "survived", ""
+        return "survived", "the compiler makes the same code of it" if same_code else ""
 
     def _run(self, name, program, seconds):
         """The exit status of a test program, or None where it takes too long."""
