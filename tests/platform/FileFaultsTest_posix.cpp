@@ -1,46 +1,42 @@
-#include <sys/stat.h>
+// What others do between two calls of ours.
 
-#include <initializer_list>
+#include <gtest/gtest.h>
 
-#include "platform/Files.h"
+#include <functional>
+#include <utility>
+
+#include "platform/FileSystem.h"
 #include "tests/platform/FileFaultsFixture.h"
-
-namespace brennet::test {
-
-// The rights of all files that were written to, as they were then.
-extern mode_t writtenModes;
-
-}  // namespace brennet::test
+#include "tests/platform/FileFaults_posix.h"
 
 namespace brennet::platform {
 namespace {
 
-using test::faults;
-using test::readBytes;
 using test::writeBytes;
-using test::writtenModes;
 
-using APrivateFile = test::FileFaultsFixture;
-
-// Until it has the rights of the old file, and also where it gets fewer for good.
-TEST_F(APrivateFile, IsWrittenForItsOwnerAlone) {
-  for (const mode_t mode : {0600U, 0644U, 0666U}) {
-    writeBytes(path(), "old");
-    ASSERT_EQ(chmod(path().c_str(), mode), 0);
-    writtenModes = 0;
-    EXPECT_FALSE(replaceFile(path(), "new"));
-    EXPECT_EQ(writtenModes, 0600U) << std::oct << mode;
+class AFileToBeKept : public test::FileFaultsFixture {
+ protected:
+  // Opens it, while `happens` comes between the opening and the look at what was opened.
+  Obstacle opened(std::function<void()> happens) {
+    test::beforeStatus = std::move(happens);
+    FileHandle file = kNoFile;
+    FileFacts facts;
+    const FileError error = operatingSystem().open(path(), OpenFor::Keeping, file, facts);
+    if (!error) static_cast<void>(operatingSystem().close(file));
+    return error.obstacle;
   }
-}
+};
 
-TEST_F(APrivateFile, IsKeptForItsOwnerAloneWhileItIsWrittenInPlace) {
-  writeBytes(path(), "old");
-  ASSERT_EQ(chmod(path().c_str(), 0600), 0);
-  faults.newFiles = true;
-  writtenModes = 0;
-  EXPECT_FALSE(replaceFile(path(), "new"));
-  EXPECT_EQ(writtenModes, 0600U);
-  EXPECT_EQ(readBytes(path()), "new");
+// Who keeps a file removes it before it lets go; what was opened then is nobody's any more.
+TEST_F(AFileToBeKept, IsTheOneUnderItsName) {
+  EXPECT_EQ(opened([] {}), Obstacle::None);
+  EXPECT_EQ(opened([&] { std::filesystem::remove(path()); }), Obstacle::Held);
+  EXPECT_EQ(opened([&] {
+              writeBytes(folder_ / "another", "");
+              std::filesystem::rename(folder_ / "another", path());
+            }),
+            Obstacle::Held);
+  EXPECT_EQ(opened([] {}), Obstacle::None);
 }
 
 }  // namespace

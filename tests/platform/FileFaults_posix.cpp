@@ -1,6 +1,6 @@
 // The linker sends the calls here first (--wrap).
 
-#include "tests/platform/FileFaults.h"
+#include "tests/platform/FileFaults_posix.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -8,6 +8,9 @@
 
 #include <cerrno>
 #include <cstdarg>
+#include <utility>
+
+#include "tests/platform/FileFaults.h"
 
 namespace brennet::test {
 
@@ -16,6 +19,7 @@ extern mode_t writtenModes;
 FileFaults faults;
 mode_t writtenModes = 0;
 const int kDeviceError = EIO;
+std::function<void()> beforeStatus;
 
 }  // namespace brennet::test
 
@@ -82,6 +86,7 @@ int __wrap_rename(const char* from, const char* to) {
   return faults.replacing || faults.failsNow() ? failWith(EBUSY) : __real_rename(from, to);
 }
 int __wrap_fstat(int file, struct stat* status) {
+  if (const auto happens = std::exchange(brennet::test::beforeStatus, nullptr)) happens();
   return faults.failsNow() ? failWith(EIO) : __real_fstat(file, status);
 }
 int __wrap_fchmod(int file, mode_t mode) {
