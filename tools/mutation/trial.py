@@ -15,8 +15,9 @@ PROGRAMS = {
     "gameside": ("gameside", "model", "host"),
     "model": ("model", "host", "settings_faults"),
 }
-# A mutant may ask for all the memory there is, and need not leave a core.
-_LIMITED = ("sh", "-c", "ulimit -c 0 && ulimit -v 4194304 && exec \"$0\" \"$@\"")
+# A mutant may ask for all the memory there is, need not leave a core, and ends after ten minutes
+# of work also where nobody is left to end it.
+_LIMITED = ("sh", "-c", "ulimit -c 0 && ulimit -t 600 && ulimit -v 4194304 && exec \"$0\" \"$@\"")
 
 
 def program_of(name):
