@@ -103,13 +103,13 @@ def report(verdicts, texts):
     counts = collections.defaultdict(collections.Counter)
     reasons = accepted_reasons()
     survivors = []
-    for mutant, (verdict, word) in verdicts.items():
+    for mutant, (verdict, word) in sorted(verdicts.items()):
         counts[mutant.file.split("/")[0]][verdict] += 1
         if verdict == "survived":
             place, line = line_of(mutant, texts[mutant.file])
             reason = reasons.get(f"{mutant.file} | {line} | {shown(mutant)}", word)
             survivors.append((mutant.file, place, line, shown(mutant), reason))
-    for file, place, line, change, reason in sorted(survivors):
+    for file, place, line, change, reason in survivors:
         print(f"{file}:{place}: {line}\n    {change}" + (f"\n    {reason}" if reason else ""))
     total = sum(counts.values(), collections.Counter())
     print(f"\n{'folder':10}{'mutants':>9}{'killed':>8}{'survived':>10}{'not compiled':>14}{'':>3}killed")
@@ -152,7 +152,9 @@ def run(arguments):
     executor = concurrent.futures.ThreadPoolExecutor(arguments.jobs)
     try:
         while missing := min(arguments.mutants - tried_in(verdicts), len(order) - len(verdicts)):
-            batch = order[len(verdicts):len(verdicts) + missing]
+            # Headers last: much has to be compiled for each.
+            batch = sorted(order[len(verdicts):len(verdicts) + missing],
+                           key=lambda mutant: mutant.file.endswith(".h"))
             for mutant, verdict in zip(batch, executor.map(verdict_on, batch)):
                 verdicts[mutant] = verdict
                 print(f"{tried_in(verdicts)}/{arguments.mutants} {verdict[0]}: {mutant.file}:"
