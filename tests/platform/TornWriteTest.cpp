@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "tests/support/GuardedPages.h"
+
 namespace brennet::platform {
 namespace {
 
@@ -33,6 +37,42 @@ TEST(TornWrite, IsNoneWhereAnyByteIsMissingOrAnother) {
     EXPECT_FALSE(TornWrite::parse(changed).has_value()) << size;
   }
   EXPECT_FALSE(TornWrite::parse(kept + "x").has_value());
+}
+
+// The sum behind a kept file, as its format has it: FNV-1a, the lowest byte first.
+std::string withSum(std::string kept) {
+  std::uint64_t sum = 14695981039346656037ULL;
+  for (const char byte : kept) sum = (sum ^ static_cast<unsigned char>(byte)) * 1099511628211ULL;
+  for (int i = 0; i < 8; ++i) kept.push_back(static_cast<char>(sum >> (8 * i)));
+  return kept;
+}
+
+// Whole by their sum, and yet no kept file. Nothing stands behind them that could be read.
+TEST(TornWrite, IsNoneWhereANumberIsMissingOrTooLarge) {
+  const std::string none(8, '\xFF');
+  const std::string zero(8, '\0');
+  const std::string one = "\1" + std::string(7, '\0');
+  const std::string magic = "brennet kept file 1\n";
+  ASSERT_TRUE(TornWrite::parse(withSum(magic + one + none + one + "fn")).has_value());
+  const std::string texts[] = {
+      "",
+      magic,
+      magic + one,
+      magic + one + none,
+      magic + zero + zero + zero.substr(1),
+      magic + one + none + one + "f",
+      magic + one + none + one + "fnx",
+      magic + none + zero + zero,
+      magic + zero + one + one + "o",
+      "Brennet kept file 1\n" + one + none + one + "fn",
+  };
+  const test::GuardedPages pages(1, test::Access::None);
+  for (const std::string& text : texts) {
+    const std::string kept = withSum(text);
+    char* const start = pages.boundary() - kept.size();
+    std::copy(kept.begin(), kept.end(), start);
+    EXPECT_FALSE(TornWrite::parse({start, kept.size()}).has_value()) << kept.size();
+  }
 }
 
 struct Row {
