@@ -77,6 +77,20 @@ TEST(IsKeyFree, IsFalseForAKeyThatAnythingHas) {
   }
 }
 
+TEST(IsKeyFree, IsTrueForAllThatCanBeBoundWhereNothingIs) {
+  for (const int preset : {-1, 0, 1, 2}) {
+    HotkeyScheme scheme;
+    scheme.NumComboKeyIndex = preset;
+    for (unsigned raw = 0; raw <= 0xFFFF; ++raw) {
+      const KeyWord key(static_cast<std::uint16_t>(raw));
+      const std::uint8_t vk = key.virtualKey();
+      const bool canBeBound = key.isSet() && vk != 0x08 && vk != 0x0D && vk != 0x2E;
+      ASSERT_EQ(isKeyFree(scheme, key), canBeBound) << raw;
+      ASSERT_EQ(holderOf(scheme, key), std::nullopt) << raw;
+    }
+  }
+}
+
 TEST(IsKeyFree, DoesNotConsultMouseKeysAndSources) {
   for (const Place& place : kIgnoredPlaces) {
     HotkeyScheme scheme;
