@@ -1,5 +1,6 @@
 """One mutant at a time: compiled, linked, and given to the tests."""
 
+import dataclasses
 import hashlib
 import os
 import shutil
@@ -74,7 +75,19 @@ class Trials:
             program.unlink()
             if status != 0:
                 return "killed", name if status is not None else f"{name}, no end"
-        return "survived", "the compiler makes the same code of it" if same_code else ""
+        if not same_code:
+            return "survived", ""
+        if self._is_left_out(mutant, text, room / "nonsense"):
+            return "not compiled", "no part of this build"
+        return "survived", "the compiler makes the same code of it"
+
+    def _is_left_out(self, mutant, text, room):
+        """Whether the preprocessor removes what a mutant changes: then nonsense compiles, too."""
+        nonsense = dataclasses.replace(mutant, after="@")
+        self._build.change(mutant.file, nonsense.applied_to(text), room)
+        programs = map(program_of, self._programs_of[mutant.file.split("/")[0]])
+        return all(self._build.compile(program, mutant.file, room) is not None
+                   for program in programs)
 
     def _run(self, name, program, seconds):
         """The exit status of a test program, or None where it takes too long."""

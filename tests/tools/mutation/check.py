@@ -95,6 +95,7 @@ class Verdicts(unittest.TestCase):
                 ("sums/Sums.cpp", "++", "--", ("killed", "sums, no end")),
                 ("sums/Sums.cpp", "sum = 0;", ";", ("survived", "")),
                 ("sums/Sums.cpp", "*", "/", ("killed", "sums")),
+                ("sums/Sums.cpp", "%", "*", ("not compiled", "no part of this build")),
                 ("sums/Sums.h", "*", "/", ("killed", "sums"))):
             with self.subTest(before=before, after=after):
                 self.assertEqual(self.verdict(file, before, after), verdict)

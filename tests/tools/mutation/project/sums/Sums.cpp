@@ -7,3 +7,9 @@ int sumTo(int last) {
   if (sum < 0) sum = 0;
   return sum + last * 0;
 }
+
+#if 0
+int oddOf(int number) {
+  return number % 2;
+}
+#endif
