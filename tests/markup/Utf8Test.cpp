@@ -71,6 +71,32 @@ TEST(Utf8, WritesWholeCharactersOnly) {
   }
 }
 
+// Long texts are read in parts.
+TEST(Utf8, ReadsCharactersOfAllLengthsAnywhereInALongText) {
+  for (const std::u16string_view character : {u"\u00E9", u"\u8C22", u"\U0001F600"}) {
+    const std::size_t bytes = utf8Length(character);
+    for (std::size_t before = 0; before < 4; ++before) {
+      for (const std::size_t size : {4090U, 4096U, 4097U, 4102U, 8194U, 13'000U}) {
+        std::u16string text(before, u'a');
+        for (std::size_t n = 0; n < size; n += bytes) text.append(character);
+        ASSERT_EQ(decoded(encoded(text)), text) << before << ' ' << size;
+      }
+    }
+  }
+}
+
+TEST(Utf8, ReadsPartsOfCharactersAnywhereInALongText) {
+  const std::string_view character = "\xF0\x9F\x98\x80";
+  for (std::size_t before = 4090; before < 4100; ++before) {
+    for (std::size_t length = 1; length < character.size(); ++length) {
+      const std::string bytes = std::string(before, 'a').append(character.substr(0, length));
+      const std::u16string read = std::u16string(before, u'a') + u'\uFFFD';
+      ASSERT_EQ(decoded(bytes), read) << before << ' ' << length;
+      ASSERT_EQ(decoded(bytes + "b"), read + u'b') << before << ' ' << length;
+    }
+  }
+}
+
 struct BadBytes {
   std::string_view bytes;
   std::u16string_view read;
