@@ -28,13 +28,12 @@ std::u16string_view entityOf(char16_t unit) {
   }
 }
 
-// The value of `unit` as a digit of a number with `base` 10 or 16, or `base` if it is none.
-char32_t digitValue(char16_t unit, char32_t base) {
+// The value of `unit` as a hexadecimal digit, or 16 if it is none.
+char32_t digitValue(char16_t unit) {
   if (unit >= u'0' && unit <= u'9') return unit - U'0';
-  if (base == 10) return base;
   if (unit >= u'a' && unit <= u'f') return unit - U'a' + 10;
   if (unit >= u'A' && unit <= u'F') return unit - U'A' + 10;
-  return base;
+  return 16;
 }
 
 // A reference at the front of a text: the character, 0 if it is none, and how long it is written.
@@ -50,8 +49,8 @@ Reference numericReference(std::u16string_view text) {
   const std::size_t first = hexadecimal ? 1 : 0;
   std::size_t at = first;
   char32_t value = 0;
-  for (; at < text.size() && digitValue(text[at], base) < base; ++at) {
-    value = std::min(value * base + digitValue(text[at], base), kLastCodePoint + 1);
+  for (; at < text.size() && digitValue(text[at]) < base; ++at) {
+    value = std::min(value * base + digitValue(text[at]), kLastCodePoint + 1);
   }
   if (at == first || at == text.size() || text[at] != u';') return {};
   return {isScalarValue(value) ? value : 0, at + 1};
