@@ -150,6 +150,16 @@ TEST_F(Replacing, PutsTheOldFileBackWhereItStoppedHalfwayForGood) {
     return from == backup_ ? FileError() : obstacle(Obstacle::Denied);
   };
   EXPECT_FALSE(replace()) << "it is written in place";
+  EXPECT_EQ(system_.exchanges, 1);
+  EXPECT_EQ(readBytes(path_), "new");
+  EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+TEST_F(Replacing, WritesInPlaceAtOnceWhereTheRightsDoNotReach) {
+  system_.beforeExchange = [](const Path&, const Path&) { return obstacle(Obstacle::Denied); };
+  EXPECT_FALSE(replace());
+  EXPECT_EQ(system_.exchanges, 1);
+  EXPECT_EQ(system_.pauses, 0);
   EXPECT_EQ(readBytes(path_), "new");
   EXPECT_EQ(folder_.listing(), "f\n");
 }
