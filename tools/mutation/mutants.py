@@ -18,6 +18,7 @@ _ASSIGNMENTS = ("=", "++", "--", *(op for op in _BINARY if op.endswith("=") and 
                                    and op not in ("<=", ">=")))
 _INTEGER = re.compile(r"(0[xX][0-9a-fA-F']+|[0-9][0-9']*)([uUlLzZ]*)$")
 _LETTER_OR_DIGIT = re.compile(r"(.*')([A-Za-z0-8])'$")
+_CONSTANTS = ("{}", "true", "false", "0", "nullptr", "std::nullopt")  # no other result is nothing
 _NO_STATEMENT = {
     "return", "if", "for", "while", "switch", "using", "namespace", "class", "struct", "enum",
     "template", "static", "constexpr", "const", "auto", "public", "private", "protected", "case",
@@ -159,7 +160,7 @@ def _result(source, i):
     if source.at(i) != "return":
         return
     end = source.find((";",), i + 1)
-    if end is None or end == i + 1 or source.between(i + 1, end - 1) in ("{}", "true", "false", "0"):
+    if end is None or end == i + 1 or source.between(i + 1, end - 1) in _CONSTANTS:
         return
     header = _header_of(source, i)
     declarator = header[:header.index("(")] if "(" in header else header
