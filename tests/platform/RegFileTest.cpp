@@ -199,6 +199,33 @@ TEST(RegFileContent, IsTheSameAfterWritingAndReading) {
   EXPECT_EQ(again, file);
 }
 
+TEST(RegFileContent, IsWrittenInTheShortestForm) {
+  struct Row {
+    RegistryValue value;
+    std::u16string_view line;
+  };
+  const Row kRows[] = {
+      {dwordValue(0x89ABCDEF), u"\"N\"=dword:89abcdef"},
+      {{kRegistryDword, "\1"s}, u"\"N\"=hex(00000004):01"},
+      {{kRegistryText, textData(u"a \"b\" \\")}, u"\"N\"=\"a \\\"b\\\" \\\\\""},
+      {{kRegistryText, textData(u"")}, u"\"N\"=\"\""},
+      {{kRegistryText, textData(u"\x1F")}, u"\"N\"=hex(00000001):1f,00,00,00"},
+      {{kRegistryText, "a\0"s}, u"\"N\"=hex(00000001):61,00"},
+      {{kRegistryText, "a\0\0"s}, u"\"N\"=hex(00000001):61,00,00"},
+      {{kRegistryText, ""}, u"\"N\"=hex(00000001):"},
+      {{kRegistryBinary, "\1\xFE"s}, u"\"N\"=hex:01,fe"},
+  };
+  for (const Row& row : kRows) {
+    RegFile file;
+    file.createKey(kKey);
+    ASSERT_TRUE(file.set(kKey, u"N", row.value));
+    const std::u16string text = utf16FromBytes(file.serialize());
+    const std::size_t line = text.find(u"\"N\"=");
+    ASSERT_NE(line, std::u16string::npos);
+    EXPECT_EQ(text.substr(line, text.find(u"\r\n", line) - line), row.line);
+  }
+}
+
 TEST(RegFileContent, RefusesWhatALineCannotHold) {
   RegFile file;
   file.createKey(kKey);
