@@ -1,0 +1,73 @@
+// The kept files of writes in place, one for each file.
+
+#include "platform/KeptWrite.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <list>
+#include <string>
+
+#include "tests/support/TempFolder.h"
+
+namespace brennet::platform {
+namespace {
+
+// The folder for them lies in one that is this test's alone.
+class KeptWrites : public testing::Test {
+ protected:
+  KeptWrites() {
+    const char* const before = std::getenv("TMPDIR");
+    if (before != nullptr) before_ = before;
+    setenv("TMPDIR", folder_.path().c_str(), 1);
+  }
+  ~KeptWrites() override {
+    if (before_.empty()) {
+      unsetenv("TMPDIR");
+    } else {
+      setenv("TMPDIR", before_.c_str(), 1);
+    }
+  }
+
+  test::TempFolder folder_;
+
+ private:
+  std::string before_;
+};
+
+TEST_F(KeptWrites, OfManyFilesGoOnAtOnce) {
+  std::list<KeptWrite> writes;
+  for (int number = 0; number < 40; ++number) {
+    KeptWrite& write = writes.emplace_back(operatingSystem(), folder_ / std::to_string(number));
+    EXPECT_FALSE(write.isThere());
+    EXPECT_FALSE(write.open()) << number;
+    EXPECT_TRUE(write.isThere());
+  }
+  EXPECT_TRUE(KeptWrite::isAnyThere(operatingSystem()));
+  writes.clear();
+  EXPECT_FALSE(KeptWrite::isAnyThere(operatingSystem()));
+  EXPECT_EQ(folder_.listing(), "");
+}
+
+TEST_F(KeptWrites, StayUntilTheyAreDiscarded) {
+  const Path path = folder_ / "f";
+  {
+    KeptWrite write(operatingSystem(), path);
+    ASSERT_FALSE(write.open());
+    EXPECT_FALSE(write.found().has_value());
+    EXPECT_FALSE(write.write("old", "new"));
+  }
+  KeptWrite write(operatingSystem(), path);
+  EXPECT_TRUE(write.isThere());
+  ASSERT_FALSE(write.open());
+  ASSERT_TRUE(write.found().has_value());
+  EXPECT_EQ(write.found()->old, "old");
+  EXPECT_EQ(write.found()->bytes, "new");
+  EXPECT_FALSE(write.discard());
+  EXPECT_FALSE(write.isThere());
+  EXPECT_EQ(folder_.listing(), "");
+}
+
+}  // namespace
+}  // namespace brennet::platform
