@@ -75,6 +75,8 @@ class Verdicts(unittest.TestCase):
         cls.folder = pathlib.Path(tempfile.mkdtemp()).resolve()
         cls.checkout = cls.folder / "checkout"
         shutil.copytree(HERE / "project", cls.checkout)
+        for folder in (cls.checkout, *filter(pathlib.Path.is_dir, cls.checkout.rglob("*"))):
+            folder.chmod(0o755)  # where the checkout may not be written, the copy may
         cls.build = Build(cls.checkout, cls.folder / "build", ["sums"], 2)
         room = cls.folder / "room"
         room.mkdir()
