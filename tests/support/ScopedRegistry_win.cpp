@@ -2,6 +2,7 @@
 // sddl.h needs windows.h first.
 #include <sddl.h>
 
+#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -98,8 +99,19 @@ ScopedRegistry::ScopedRegistry() {
   throw std::runtime_error("this user has DotA 7 settings, which the test would change");
 }
 
+// With the settings goes what runs of the dialog left that did not end: the next test has the same
+// registry, which would get back what it never had.
 ScopedRegistry::~ScopedRegistry() {
   RegDeleteTreeW(HKEY_CURRENT_USER, kKey);
+  namespace fs = std::filesystem;
+  std::error_code error;
+  std::vector<fs::path> journals;
+  const fs::path folder = fs::temp_directory_path(error) / "brennet-kept";
+  for (fs::directory_iterator file(folder, error), end; !error && file != end;
+       file.increment(error)) {
+    if (file->path().filename().native().starts_with(L"dota7-")) journals.push_back(file->path());
+  }
+  for (const fs::path& journal : journals) fs::remove(journal, error);
 }
 
 platform::RegFile ScopedRegistry::content() const {
