@@ -153,6 +153,23 @@ TEST(Opening, KeepsAFileForOneAtATime) {
   EXPECT_EQ(Opened(folder / "f", OpenFor::Keeping).obstacle(), Obstacle::None);
 }
 
+// A host may have closed its standard input.
+TEST(Opening, TakesTheFirstNumberOfFilesToo) {
+  const TempFolder folder;
+  const int input = dup(STDIN_FILENO);
+  ::close(STDIN_FILENO);
+  {
+    const Opened file(folder / "f", OpenFor::New);
+    EXPECT_EQ(file.obstacle(), Obstacle::None);
+    EXPECT_EQ(file.descriptor(), STDIN_FILENO);
+  }
+  EXPECT_FALSE(sys().flushFolder(folder.path()));
+  if (input >= 0) {
+    EXPECT_EQ(dup2(input, STDIN_FILENO), STDIN_FILENO);
+    ::close(input);
+  }
+}
+
 TEST(Looking, TellsWhatStandsThere) {
   const TempFolder folder;
   writeBytes(folder / "f", "four");
