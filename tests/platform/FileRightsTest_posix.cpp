@@ -2,6 +2,7 @@
 
 #include "platform/FileRights_posix.h"
 
+#include <fcntl.h>
 #include <grp.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -121,6 +122,19 @@ TEST(ReplaceFile, TakesNoAccessListOverFromTheFolder) {
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
   EXPECT_EQ(attribute(folder / "f", kAccessList), "(none)");
   EXPECT_EQ(statusOf(folder / "f").st_mode & 07777U, 0660U);
+}
+
+TEST(CopyFileRights, TakesThoseOfFilesOnly) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "");
+  ASSERT_EQ(mkdir((folder / "folder").c_str(), 0755), 0);
+  const int file = open((folder / "f").c_str(), O_RDONLY | O_CLOEXEC);
+  ASSERT_EQ(fchmod(file, 0600), 0);
+  for (const char* const name : {"folder", "missing"}) {
+    copyFileRights(folder / name, file);
+    EXPECT_EQ(statusOf(folder / "f").st_mode & 07777U, 0600U) << name;
+  }
+  close(file);
 }
 
 TEST(ReplaceFile, KeepsASecondName) {
