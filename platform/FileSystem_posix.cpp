@@ -198,11 +198,11 @@ class PosixFileSystem final : public FileSystem {
   }
 
   FileError reserve(FileHandle file, std::uint64_t size) override {
-    if (size == 0) return {};
     const NoSizeSignal quiet;
     const int result = retried([&] {
       return fallocate(static_cast<int>(file), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size));
     });
+    // EINVAL also where there is nothing to reserve.
     if (result == 0 || errno == EOPNOTSUPP || errno == EINVAL || errno == ENOSYS) return {};
     return failure(errno);
   }

@@ -361,6 +361,15 @@ TEST(Writing, LeavesAPendingSignalToTheHost) {
   EXPECT_EQ(sigismember(&blocked, SIGXFSZ), 1);
 }
 
+TEST(Reserving, LeavesTheSizeAlone) {
+  const TempFolder folder;
+  const Opened file(folder / "f", OpenFor::New);
+  for (const std::uint64_t size : {0U, 1U, 5000U}) {
+    EXPECT_FALSE(sys().reserve(file.handle(), size)) << size;
+    EXPECT_EQ(sys().look(folder / "f").size, 0U) << size;
+  }
+}
+
 TEST(Reading, TellsWhereTheFileEnds) {
   const TempFolder folder;
   writeBytes(folder / "f", "four");
