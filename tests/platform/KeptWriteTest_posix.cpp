@@ -50,6 +50,13 @@ TEST_F(KeptWrites, OfManyFilesGoOnAtOnce) {
   EXPECT_EQ(folder_.listing(), "");
 }
 
+TEST_F(KeptWrites, AreNoneOfFilesInNoFolder) {
+  KeptWrite write(operatingSystem(), folder_ / "missing" / "f");
+  EXPECT_EQ(write.open().obstacle, Obstacle::Denied);
+  EXPECT_FALSE(write.isThere());
+  EXPECT_EQ(folder_.listing(), "");
+}
+
 TEST_F(KeptWrites, StayUntilTheyAreDiscarded) {
   const Path path = folder_ / "f";
   {
