@@ -416,6 +416,19 @@ TEST(Assignment, CopiesEverythingAndReturnsACopy) {
   EXPECT_EQ(target.scheme(0).HeroSkillKey[0], kQ);
 }
 
+TEST(LoadScheme, TellsWhetherThereIsOneOfTheNumber) {
+  HotkeyConfig config;
+  MarkupDocument document;
+  ASSERT_TRUE(document.setDoc(u"<KeyInfo_0><ZoomValue>120</ZoomValue></KeyInfo_0>"));
+  ASSERT_TRUE(document.findElem(u"KeyInfo_0") && document.intoElem());
+  for (const int number : {-1, HotkeyConfig::kSchemes}) {
+    EXPECT_FALSE(config.LoadScheme(number, document));
+    EXPECT_FALSE(config.SaveScheme(number, document));
+  }
+  EXPECT_TRUE(config.LoadScheme(2, document));
+  EXPECT_EQ(config.scheme(2).ZoomValue, 120);
+}
+
 TEST(Swap, ExchangesEverything) {
   HotkeyConfig loaded = changedConfig();
   MarkupDocument document;
