@@ -109,6 +109,8 @@ TEST(EncodingDetection, WeighsMarksSignaturesBytesAndDeclarations) {
        Source::Mark, 65001, u"UTF-8"},
       {"UTF-16 without a mark", "<\0?\0"sv, Source::Signature, 1200, u"UTF-16LE"},
       {"the same, high byte first", "\0<\0r"sv, Source::Signature, 1201, u"UTF-16BE"},
+      {"no such signature", "\0<ar"sv, Source::Utf8Detection, 65001, u"UTF-8"},
+      {"no such signature, low byte first", "<\0ra"sv, Source::Utf8Detection, 65001, u"UTF-8"},
       {"no signature", "<\0 \0\xFF"sv, Source::Ansi, ansi, u"ANSI"},
       {"plain", "<a/>", Source::Utf8Detection, 65001, u"UTF-8"},
       {"UTF-8 without a declaration", "<a>\xE8\xB0\xA2</a>", Source::Utf8Detection, 65001,
