@@ -1,0 +1,82 @@
+// Files that are read and written in parts, and that grow meanwhile.
+
+#include "platform/OpenFile.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+#include "tests/platform/PassingFileSystem.h"
+#include "tests/support/TempFolder.h"
+
+namespace brennet::platform {
+namespace {
+
+using test::readBytes;
+using test::writeBytes;
+
+// Tells of fewer bytes than there will be, and moves only so many at a time.
+class InParts : public test::PassingFileSystem {
+ public:
+  InParts(std::uint64_t sizeAtFirst, std::size_t part) : sizeAtFirst_(sizeAtFirst), part_(part) {}
+
+  FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
+    const FileError error = PassingFileSystem::open(path, purpose, file, facts);
+    facts.size = sizeAtFirst_;
+    return error;
+  }
+  FileError read(FileHandle file, std::uint64_t offset, char* bytes, std::size_t size,
+                 std::size_t& count) override {
+    return PassingFileSystem::read(file, offset, bytes, std::min(size, part_), count);
+  }
+  FileError write(FileHandle file, std::uint64_t offset, std::string_view bytes,
+                  std::size_t& count) override {
+    return PassingFileSystem::write(file, offset, bytes.substr(0, part_), count);
+  }
+
+ private:
+  std::uint64_t sizeAtFirst_;
+  std::size_t part_;
+};
+
+std::string someBytes() {
+  std::string bytes;
+  for (int i = 0; i < 1000; ++i) bytes.push_back(static_cast<char>(i * 7));
+  return bytes;
+}
+
+TEST(AnOpenFile, IsReadToItsEnd) {
+  const test::TempFolder folder;
+  const std::string content = someBytes();
+  writeBytes(folder / "f", content);
+  for (const std::uint64_t sizeAtFirst : {0U, 1U, 499U, 999U, 1000U}) {
+    for (const std::size_t part : {1U, 7U, 499U, 5000U}) {
+      InParts system(sizeAtFirst, part);
+      OpenFile file(system);
+      ASSERT_FALSE(file.open(folder / "f", OpenFor::Reading));
+      std::string bytes = "before";
+      EXPECT_FALSE(file.readAll(bytes, 1000));
+      EXPECT_EQ(bytes, content) << sizeAtFirst << ' ' << part;
+      EXPECT_EQ(file.readAll(bytes, 999).code, std::errc::file_too_large);
+      EXPECT_EQ(bytes, "");
+    }
+  }
+}
+
+TEST(AnOpenFile, IsWrittenToItsEnd) {
+  const test::TempFolder folder;
+  const std::string content = someBytes();
+  for (const std::size_t part : {1U, 7U, 5000U}) {
+    InParts system(0, part);
+    OpenFile file(system);
+    const Path path = folder / std::to_string(part);
+    ASSERT_FALSE(file.open(path, OpenFor::New));
+    EXPECT_FALSE(file.writeAll(content));
+    EXPECT_FALSE(file.close());
+    EXPECT_EQ(readBytes(path), content) << part;
+  }
+}
+
+}  // namespace
+}  // namespace brennet::platform
