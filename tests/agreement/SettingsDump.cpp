@@ -1,6 +1,7 @@
 #include "tests/agreement/SettingsDump.h"
 
 #include <cstring>
+#include <regex>
 #include <stdexcept>
 #include <string>
 
@@ -20,6 +21,12 @@ IBrennet& library() {
       reinterpret_cast<GetBrennetPtrFunction>(functionOf(BRENNET_LIBRARY, "GetBrennetPtr"));
   if (get == nullptr) throw std::runtime_error("cannot load " BRENNET_LIBRARY);
   return *get();
+}
+
+// The names of the files, without the time at which one was put aside.
+std::string namesIn(const TempFolder& folder) {
+  static const std::regex stamp("\\.kept-[0-9]{8}-[0-9]{6}");
+  return std::regex_replace(folder.listing(), stamp, ".kept");
 }
 
 // The files of one player, and where what became of them is put.
@@ -50,7 +57,7 @@ class Player {
                            int{brennet.GetStartJSQFlag()}}) {
       report += " " + std::to_string(flag);
     }
-    writeBytes(results_ / (step + ".txt"), report + "\nfiles\n" + folder_.listing());
+    writeBytes(results_ / (step + ".txt"), report + "\nfiles\n" + namesIn(folder_));
     writeBytes(results_ / (step + ".block"),
                {reinterpret_cast<const char*>(&block), sizeof(block)});
     writeBytes(results_ / (step + ".xml"), readBytes(settings_));
