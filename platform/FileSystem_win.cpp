@@ -5,6 +5,7 @@
 #include <shlwapi.h>
 
 #include <algorithm>
+#include <bit>
 #include <string>
 
 #include "platform/FileRights_win.h"
@@ -64,7 +65,7 @@ OVERLAPPED at(std::uint64_t offset) {
 }
 
 HANDLE handleOf(FileHandle file) {
-  return reinterpret_cast<HANDLE>(file);
+  return std::bit_cast<HANDLE>(file);
 }
 
 std::uint64_t joined(DWORD high, DWORD low) {
