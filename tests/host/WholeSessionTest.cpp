@@ -41,7 +41,9 @@ class WholeSession : public DialogFixture {
     EXPECT_FALSE(open("btnCancel", [](QDialog& dialog) {
       EXPECT_TRUE(button(dialog, "btnDota7Setting").isVisible());
     }));
-    EXPECT_TRUE(registry_.content().hasKey(below(kDota7ControlPath))) << "imported";
+    platform::RegFile imported;
+    EXPECT_TRUE(imported.merge(sample("Tollamere.reg")));
+    EXPECT_TRUE(registry_.becomes(imported));
   }
   ~WholeSession() override { brennet_.SetDataFolder(nullptr); }
 

@@ -23,6 +23,9 @@ class ScopedRegistry {
 
   // What stands at and below Software\Tollamere; elsewhere than on Windows, all that there is.
   [[nodiscard]] platform::RegFile content() const;
+  // Waits until `content` stands there, for a minute at most: Windows imports a file by a program
+  // that nobody waits for.
+  [[nodiscard]] bool becomes(const platform::RegFile& content) const;
 
   // Creates keys, given below the user's root, and sets values past all that is tested.
   void createKey(std::u16string_view path);
