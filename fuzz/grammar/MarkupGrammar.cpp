@@ -7,7 +7,8 @@
 namespace brennet::fuzz {
 namespace {
 
-std::vector<Rule> markupRules() {
+// Elements and what they are made of.
+std::vector<Rule> elementRules() {
   using namespace std::string_view_literals;
   return {
       {"text to parse",
@@ -37,6 +38,12 @@ std::vector<Rule> markupRules() {
         "{text}{text}", "a=b", "/", "\0"sv, "?>", "'", "\"",
         "0123456789012345678901234567890123456789012345678901234567890123456789"}},
       {"space", {" ", "\r\n", "\t", "  ", "\n"}},
+  };
+}
+
+// References, and tokens other than elements, whole and broken.
+std::vector<Rule> tokenRules() {
+  return {
       {"reference",
        {"&lt;",
         "&amp;",
@@ -74,6 +81,12 @@ std::vector<Rule> markupRules() {
        {"<", "</", "</a", "<a", "<a b=\"", "<!--", "<!-- -", "<![CDATA[", "<![CDATA[ ]]", "<?p",
         "<!DOCTYPE a [", "<!DOCTYPE a '", "<!", "<!x", "<![", "<!-"}},
   };
+}
+
+std::vector<Rule> markupRules() {
+  std::vector<Rule> rules = elementRules();
+  for (Rule& rule : tokenRules()) rules.push_back(std::move(rule));
+  return rules;
 }
 
 // As the target setDoc reads them: how many edits there are, and a byte for each.

@@ -4,10 +4,11 @@
 #include "fuzz/grammar/Grammar.h"
 
 namespace brennet::fuzz {
+namespace {
 
-std::vector<Rule> settingsRules(std::string_view lineEnd) {
+// The file, and what holds the schemes.
+std::vector<Rule> fileRules() {
   return {
-      {"eol", {lineEnd}},
       {"settings file",
        {"{declaration}{root}", "{declaration}{root}", "{declaration}{root}", "{root}",
         "{declaration}<!--{phrase}-->{root}{markup?}", "{declaration}{older root}"}},
@@ -28,6 +29,12 @@ std::vector<Rule> settingsRules(std::string_view lineEnd) {
       {"scheme 0", {"<KeyInfo_0>{eol}{scheme}</KeyInfo_0>{eol}"}},
       {"scheme 1", {"<KeyInfo_1>{eol}{scheme}</KeyInfo_1>{eol}"}},
       {"scheme 2", {"<KeyInfo_2>{eol}{scheme}</KeyInfo_2>{eol}"}},
+  };
+}
+
+// A scheme, and its settings.
+std::vector<Rule> schemeRules() {
+  return {
       {"scheme",
        {"{setting*9}", "{setting*40}",
         "{zoom?}{skills?}{items?}{mouse?}{ledger?}{switch*9}{remaps?}{combo?}{combo 3?}{preset?}"
@@ -41,6 +48,12 @@ std::vector<Rule> settingsRules(std::string_view lineEnd) {
       {"items", {"<ItemKey>{eol}{item*8}</ItemKey>{eol}"}},
       {"mouse", {"<MouseKey>{eol}{key*4}</MouseKey>{eol}"}},
       {"ledger", {"<SecretaryKey>{eol}{key*4}</SecretaryKey>{eol}"}},
+  };
+}
+
+// The entries of settings.
+std::vector<Rule> entryRules() {
+  return {
       {"key",
        {"<Key id=\"{id}\"{mark?}>{key code}</Key>{eol}",
         "<Key id=\"{id}\"{mark?}>{key code}</Key>{eol}", "<Key {mark?} id='{number}'/>"}},
@@ -79,6 +92,12 @@ std::vector<Rule> settingsRules(std::string_view lineEnd) {
       {"phrases", {"<QuickChat>{eol}{chat*9}</QuickChat>{eol}"}},
       {"wheel", {"<ChatWheel>{eol}{chat*9}</ChatWheel>{eol}"}},
       {"chat", {"<Chat id=\"{id}\">{phrase}</Chat>{eol}", "<Chat id=\"{id}\"/>{eol}"}},
+  };
+}
+
+// Numbers, keys and texts.
+std::vector<Rule> valueRules() {
+  return {
       // Few keys, so that many are refused: Q, Alt+Q, Shift+Q, Alt+1, Alt+F1, Enter, Shift and Caps
       // Lock by themselves, no key.
       {"key code",
@@ -99,6 +118,16 @@ std::vector<Rule> settingsRules(std::string_view lineEnd) {
        {"<Other/>", "<!-- {phrase} -->", "</KeyInfo_0>", "<KeyInfo_0>", "<Key", "<HotKey/>", "<",
         "{phrase}", "<?p?>", "<KeyInfo/>"}},
   };
+}
+
+}  // namespace
+
+std::vector<Rule> settingsRules(std::string_view lineEnd) {
+  std::vector<Rule> rules{{"eol", {lineEnd}}};
+  for (const auto& part : {fileRules(), schemeRules(), entryRules(), valueRules()}) {
+    rules.insert(rules.end(), part.begin(), part.end());
+  }
+  return rules;
 }
 
 const Grammar& settingsGrammar() {
