@@ -1,5 +1,6 @@
 #include "platform/KeptWrite.h"
 
+#include "platform/Checksum.h"
 #include "platform/Patience.h"
 
 namespace brennet::platform {
@@ -13,10 +14,8 @@ std::string bytesOf(const Path& path) {
 // A short name for a long one. Two files that share it cannot be written in place at once, and
 // never get each other's content: the kept file has the long name as well.
 std::string shortName(std::string_view text) {
-  std::uint64_t sum = 14695981039346656037ULL;
-  for (const char byte : text) sum = (sum ^ static_cast<unsigned char>(byte)) * 1099511628211ULL;
   std::string name;
-  for (int i = 0; i < 16; ++i, sum >>= 4U) name.push_back("0123456789abcdef"[sum & 15U]);
+  appendDigits(checksum(text), name);
   return name;
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "platform/Checksum.h"
+
 namespace brennet::platform {
 namespace {
 
@@ -21,14 +23,6 @@ std::uint64_t takeNumber(std::string_view& text) {
   }
   text.remove_prefix(kNumberBytes);
   return number;
-}
-
-// FNV-1a: tells a kept file that is whole from one that is not; nobody is to be kept from forging
-// it who may write into the user's own folder.
-std::uint64_t checksum(std::string_view text) {
-  std::uint64_t sum = 14695981039346656037ULL;
-  for (const char byte : text) sum = (sum ^ static_cast<unsigned char>(byte)) * 1099511628211ULL;
-  return sum;
 }
 
 // Takes `size` bytes off `text`. Whether it had so many.
