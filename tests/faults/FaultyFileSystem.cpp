@@ -166,9 +166,4 @@ void FaultyFileSystem::list(const Path& folder,
   }));
 }
 
-bool FaultyFileSystem::isSameName(std::basic_string_view<Path::value_type> a,
-                                  std::basic_string_view<Path::value_type> b) {
-  return system_.isSameName(a, b);
-}
-
 }  // namespace brennet::test

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "tests/faults/ModelFileSystem.h"
+#include "tests/support/PassingFileSystem.h"
 
 namespace brennet::test {
 
@@ -18,11 +19,11 @@ enum class Fault {
   Short,         // a write or a read that does one byte only
 };
 
-// Passes calls on to another file system, but for the one that has the fault. After the process has
-// ended, calls do nothing and fail.
-class FaultyFileSystem final : public FileSystem {
+// Passes calls on but for the one that has the fault. After the process has ended, calls do nothing
+// and fail.
+class FaultyFileSystem final : public PassingFileSystem {
  public:
-  explicit FaultyFileSystem(ModelFileSystem& system) : system_(system) {}
+  explicit FaultyFileSystem(ModelFileSystem& system) : PassingFileSystem(system), system_(system) {}
 
   // The call with that number, from 0 on, has the fault; `error` is the one it fails with.
   void plan(int call, Fault fault, Obstacle error = Obstacle::Other);
@@ -54,15 +55,6 @@ class FaultyFileSystem final : public FileSystem {
   void removeFolder(const Path& path) override;
   FileError flushFolder(const Path& path) override;
   void list(const Path& folder, const std::function<void(const Path& name)>& visit) override;
-  bool isSameName(std::basic_string_view<Path::value_type> a,
-                  std::basic_string_view<Path::value_type> b) override;
-  Path resolved(const Path& path) override { return system_.resolved(path); }
-  Path identity(const Path& path) override { return system_.identity(path); }
-  Path privateFolder() override { return system_.privateFolder(); }
-  unsigned long process() override { return system_.process(); }
-  bool isRunning(unsigned long process) override { return system_.isRunning(process); }
-  std::int64_t wallTime() override { return system_.wallTime(); }
-  void pause() override { system_.pause(); }
 
  private:
   // The fault of the next call.

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <string>
 
-#include "tests/platform/PassingFileSystem.h"
+#include "tests/support/PassingFileSystem.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "platform/Patience.h"
-#include "tests/platform/PassingFileSystem.h"
+#include "tests/support/PassingFileSystem.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {

@@ -7,12 +7,16 @@
 
 namespace brennet::test {
 
-// The system's calls, passed on as they are. A test overrides those that are to go another way.
+// Passes all calls on to another file system: that of the computer, unless told otherwise. A test
+// overrides those that are to go another way.
 class PassingFileSystem : public platform::FileSystem {
  public:
   using Path = platform::Path;
   using FileError = platform::FileError;
   using FileHandle = platform::FileHandle;
+
+  explicit PassingFileSystem(platform::FileSystem& system = platform::operatingSystem())
+      : system_(system) {}
 
   FileError open(const Path& path, platform::OpenFor purpose, FileHandle& file,
                  platform::FileFacts& facts) override {
@@ -72,7 +76,7 @@ class PassingFileSystem : public platform::FileSystem {
   void pause() override { system_.pause(); }
 
  private:
-  platform::FileSystem& system_ = platform::operatingSystem();
+  platform::FileSystem& system_;
 };
 
 }  // namespace brennet::test
