@@ -8,11 +8,13 @@
 #include <cstdlib>
 
 #include "gameside/War3PrefsFile.h"
+#include "tests/support/OrdinaryUser_posix.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet {
 namespace {
 
+using test::OrdinaryUser;
 using test::readBytes;
 using test::TempFolder;
 using test::writeBytes;
@@ -20,23 +22,6 @@ using test::writeBytes;
 constexpr char kName[] = "War3Preferences.txt";
 constexpr char kOffFile[] = "[Gameplay]\r\ncustomkeys=0\r\n\r\n";
 constexpr char kOnFile[] = "[Gameplay]\r\ncustomkeys=2\r\n\r\n";
-
-// Permissions do not bind the superuser: gives them up until the object goes.
-class OrdinaryUser {
- public:
-  OrdinaryUser() : privileged_(geteuid() == 0) {
-    if (privileged_ && seteuid(kNobody) != 0) std::abort();
-  }
-  ~OrdinaryUser() {
-    if (privileged_ && seteuid(0) != 0) std::abort();
-  }
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
- private:
-  static constexpr uid_t kNobody = 65534;
-  bool privileged_;
-};
 
 // Switches custom keys on as an ordinary user, in a folder and a file of these modes. Afterwards
 // both may be read and removed again.

@@ -5,37 +5,17 @@
 #include <unistd.h>
 
 #include "tests/host/HostFixture.h"
+#include "tests/support/OrdinaryUser_posix.h"
 
 namespace brennet {
 namespace {
 
 using namespace test;
 
-// Whoever may read everything is somebody else meanwhile.
-class AnOrdinaryUser {
- public:
-  explicit AnOrdinaryUser(const std::filesystem::path& folder) {
-    if (geteuid() != 0) return;
-    constexpr uid_t kNobody = 65534;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-      EXPECT_EQ(chown(entry.path().c_str(), kNobody, kNobody), 0);
-    }
-    EXPECT_EQ(chown(folder.c_str(), kNobody, kNobody), 0);
-    EXPECT_EQ(seteuid(kNobody), 0);
-  }
-  ~AnOrdinaryUser() {
-    if (getuid() == 0) {
-      EXPECT_EQ(seteuid(0), 0);
-    }
-  }
-  AnOrdinaryUser(const AnOrdinaryUser&) = delete;
-  AnOrdinaryUser& operator=(const AnOrdinaryUser&) = delete;
-};
-
 using UnreadableFiles = HostFixture;
 
 TEST_F(UnreadableFiles, OfTheGameStayAsTheyAre) {
-  const AnOrdinaryUser user(folder_.path());
+  const OrdinaryUser user(folder_.path());
   writeBytes(preferences_, "[Mine]\r\nkept=1\r\n\r\n");
   ASSERT_EQ(chmod(preferences_.c_str(), 0222), 0);
   EXPECT_TRUE(brennet_.LoadSettings(settings_.wstring().c_str()));
@@ -45,7 +25,7 @@ TEST_F(UnreadableFiles, OfTheGameStayAsTheyAre) {
 }
 
 TEST_F(UnreadableFiles, OfSettingsArePutAsideWhereTheyCannotBeCopied) {
-  const AnOrdinaryUser user(folder_.path());
+  const OrdinaryUser user(folder_.path());
   const std::string before = readBytes(settings_);
   ASSERT_EQ(chmod(settings_.c_str(), 0200), 0);
   EXPECT_FALSE(brennet_.LoadSettings(settings_.wstring().c_str()));

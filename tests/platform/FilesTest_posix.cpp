@@ -5,32 +5,16 @@
 #include <unistd.h>
 
 #include "platform/Files.h"
+#include "tests/support/OrdinaryUser_posix.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {
 namespace {
 
+using test::OrdinaryUser;
 using test::readBytes;
 using test::TempFolder;
 using test::writeBytes;
-
-// Root may write everywhere; some refusals only show to an ordinary user.
-class ScopedOrdinaryUser {
- public:
-  explicit ScopedOrdinaryUser(const TempFolder& folder) {
-    if (geteuid() != 0) return;
-    constexpr uid_t kNobody = 65534;
-    EXPECT_EQ(chown(folder.path().c_str(), kNobody, kNobody), 0);
-    EXPECT_EQ(seteuid(kNobody), 0);
-  }
-  ~ScopedOrdinaryUser() {
-    if (getuid() == 0) {
-      EXPECT_EQ(seteuid(0), 0);
-    }
-  }
-  ScopedOrdinaryUser(const ScopedOrdinaryUser&) = delete;
-  ScopedOrdinaryUser& operator=(const ScopedOrdinaryUser&) = delete;
-};
 
 TEST(ReadFile, RefusesAPipe) {
   const TempFolder folder;
@@ -75,7 +59,7 @@ TEST(ReplaceFile, LeavesAFileAloneThatCannotBeReadInAFolderThatTakesNoNewFile) {
   writeBytes(folder / "f", "old");
   ASSERT_EQ(chmod((folder / "f").c_str(), 0222), 0);
   {
-    const ScopedOrdinaryUser user(folder);
+    const OrdinaryUser user(folder.path());
     ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);
     EXPECT_TRUE(replaceFile(folder / "f", "new"));
     ASSERT_EQ(chmod(folder.path().c_str(), 0755), 0);
@@ -88,7 +72,7 @@ TEST(ReplaceFile, LeavesAFileAloneThatCannotBeOpenedForWriting) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   ASSERT_EQ(chmod((folder / "f").c_str(), 0444), 0);
-  const ScopedOrdinaryUser user(folder);
+  const OrdinaryUser user(folder.path());
   EXPECT_TRUE(replaceFile(folder / "f", "new"));
   EXPECT_EQ(readBytes(folder / "f"), "old");
   EXPECT_EQ(folder.listing(), "f\n");
@@ -98,7 +82,7 @@ TEST(ReplaceFile, WritesInPlaceWhereTheFolderTakesNoNewFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "a longer old content");
   ASSERT_EQ(chmod((folder / "f").c_str(), 0666), 0);
-  const ScopedOrdinaryUser user(folder);
+  const OrdinaryUser user(folder.path());
   ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
   EXPECT_EQ(readBytes(folder / "f"), "new");
