@@ -15,7 +15,7 @@
 #include "model/HotkeyConfig.h"
 #include "platform/Files.h"
 #include "tests/faults/soak/Disturber.h"
-#include "tests/faults/soak/Process.h"
+#include "tests/support/Process.h"
 #include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"
 

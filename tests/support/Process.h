@@ -6,7 +6,7 @@
 
 namespace brennet::test {
 
-// Starts this program anew with other arguments, which have no blanks and no quotes. Throws
+// Another process: `program`, started with arguments that have no blanks and no quotes. Throws
 // std::system_error.
 class Process {
  public:

@@ -6,7 +6,7 @@
 #include <system_error>
 #include <utility>
 
-#include "tests/faults/soak/Process.h"
+#include "tests/support/Process.h"
 
 namespace brennet::test {
 

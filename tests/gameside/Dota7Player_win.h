@@ -1,0 +1,11 @@
+#pragma once
+
+namespace brennet::test {
+
+// The exit status of a player who was killed as planned.
+inline constexpr int kPlayerKilled = 9;
+
+// How many things he does at most.
+inline constexpr int kPlayerSteps = 5;
+
+}  // namespace brennet::test
