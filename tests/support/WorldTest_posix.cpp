@@ -9,7 +9,9 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 
+#include "tests/support/TempFolder.h"
 #include "tests/support/TestData.h"
 #include "tests/support/World.h"
 
@@ -33,9 +35,12 @@ constexpr const char* kCallers[] = {"LANG",
                                     "FONTCONFIG_PATH",
                                     "BRENNET_REGISTRY"};
 
+// But for the folder that scripts share.
 std::set<std::string> ownWorld() {
   std::set<std::string> world;
-  for (char** entry = environ; *entry != nullptr; ++entry) world.insert(*entry);
+  for (char** entry = environ; *entry != nullptr; ++entry) {
+    if (!std::string_view(*entry).starts_with("TMPDIR=")) world.insert(*entry);
+  }
   return world;
 }
 
@@ -49,8 +54,10 @@ std::set<std::string> worldOfScripts() {
       entry += static_cast<char>(byte);
       continue;
     }
-    // Of the tools of the scripts alone.
-    if (!entry.starts_with("BRENNET_TOOLCHAIN_DIR=")) world.insert(entry);
+    // Of the tools of the scripts alone, and what they share.
+    const bool isTheirs =
+        entry.starts_with("BRENNET_TOOLCHAIN_DIR=") || entry.starts_with("TMPDIR=");
+    if (!isTheirs) world.insert(entry);
     entry.clear();
   }
   return world;
@@ -61,7 +68,9 @@ TEST(TheWorldOfTheTests, IsThereFromTheStart) {
   EXPECT_FALSE(std::filesystem::exists("/nonexistent"));
   EXPECT_STREQ(std::getenv("LC_ALL"), "C.UTF-8");
   const char* const folder = std::getenv("BRENNET_TEST_TMPDIR");
-  EXPECT_EQ(std::filesystem::temp_directory_path(), folder != nullptr ? folder : "/tmp");
+  const std::filesystem::path own = std::filesystem::temp_directory_path();
+  EXPECT_EQ(own.parent_path(), folder != nullptr ? folder : "/tmp");
+  EXPECT_TRUE(std::filesystem::is_empty(own));
   for (const char* const name : kCallers) EXPECT_EQ(std::getenv(name), nullptr) << name;
 }
 
@@ -85,14 +94,16 @@ TEST(TheWorldOfTheTests, HasNothingOfTheCallersAndIsThatOfScripts) {
 }
 
 TEST(TheWorldOfTheTests, HasAnotherFolderForTemporaryFilesWhereOneIsNamed) {
-  setenv("BRENNET_TEST_TMPDIR", "/another folder", 1);
-  const std::set<std::string> scripts = worldOfScripts();
+  const TempFolder another;
+  const char* const before = std::getenv("BRENNET_TEST_TMPDIR");
+  const std::string namedBefore = before != nullptr ? before : "";
+  setenv("BRENNET_TEST_TMPDIR", another.path().c_str(), 1);
   leaveTheCallersWorld();
-  EXPECT_EQ(scripts, ownWorld());
-  EXPECT_STREQ(std::getenv("TMPDIR"), "/another folder");
-  unsetenv("BRENNET_TEST_TMPDIR");
+  EXPECT_EQ(std::filesystem::temp_directory_path().parent_path(), another.path());
+  EXPECT_TRUE(std::filesystem::is_directory(std::filesystem::temp_directory_path()));
+  before != nullptr ? setenv("BRENNET_TEST_TMPDIR", namedBefore.c_str(), 1)
+                    : unsetenv("BRENNET_TEST_TMPDIR");
   leaveTheCallersWorld();
-  EXPECT_EQ(std::getenv("TMPDIR"), nullptr);
 }
 
 TEST(TheWorldOfTheTests, HasTheTimeOfGreenwich) {
