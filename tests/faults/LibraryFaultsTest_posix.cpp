@@ -108,6 +108,7 @@ class LibraryFaults : public testing::TestWithParam<Place> {
   // -1 where it was ended.
   template <class Operation>
   static int run(const Files& files, Operation operation) {
+    library();  // here: the other user need not be able to read it
     const pid_t child = fork();
     if (child == 0) {
       if (geteuid() == 0 && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) _exit(64);
