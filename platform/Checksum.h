@@ -5,10 +5,12 @@
 
 namespace brennet::platform {
 
+inline constexpr std::uint64_t kChecksumOfNothing = 14695981039346656037ULL;
+
 // FNV-1a. Tells bytes that are whole from bytes that are not, and makes short names for long ones;
-// it keeps nobody from forging either.
-[[nodiscard]] constexpr std::uint64_t checksum(std::string_view bytes) {
-  std::uint64_t sum = 14695981039346656037ULL;
+// it keeps nobody from forging either. `sum` is that of the bytes before them.
+[[nodiscard]] constexpr std::uint64_t checksum(std::string_view bytes,
+                                               std::uint64_t sum = kChecksumOfNothing) {
   for (const char byte : bytes) sum = (sum ^ static_cast<unsigned char>(byte)) * 1099511628211ULL;
   return sum;
 }

@@ -16,7 +16,7 @@ FileError readContent(FileSystem& system, const Path& path, std::optional<std::s
   const FileError error = openWaiting(system, file, path, OpenFor::Reading);
   if (error.obstacle == Obstacle::Missing) return {};
   if (error) return error;
-  return file.readAll(content.emplace(), kAnySize);
+  return file.readAll(content.emplace(), kLargestInPlace);
 }
 
 // Writes over the open file. What it held is not cut off before the rest is on the disk.
@@ -40,10 +40,12 @@ FileError putBack(FileSystem& system, const Path& path, OpenFile& file,
 
 FileError undo(FileSystem& system, const Path& path, const TornWrite& write) {
   std::optional<std::string> content;
-  if (const FileError error = readContent(system, path, content)) return error;
+  const FileError error = readContent(system, path, content);
+  if (isTooLarge(error.code)) return {};  // somebody else has written it since
+  if (error) return error;
   if (!content || !write.mayHaveLeft(*content)) return {};
   OpenFile file(system);
-  if (const FileError error = openWaiting(system, file, path, OpenFor::Writing)) return error;
+  if (const FileError closed = openWaiting(system, file, path, OpenFor::Writing)) return closed;
   return putBack(system, path, file, write.old);
 }
 
@@ -78,7 +80,13 @@ FileError writeKept(FileSystem& system, const Path& path, std::string_view bytes
 
 }  // namespace
 
+FileError mayWriteInPlace(std::uint64_t size, std::string_view bytes) {
+  if (size <= kLargestInPlace && bytes.size() <= kLargestInPlace) return {};
+  return {Obstacle::Other, std::make_error_code(std::errc::file_too_large)};
+}
+
 FileError writeInPlace(FileSystem& system, const Path& path, std::string_view bytes) {
+  if (const FileError error = mayWriteInPlace(0, bytes)) return error;
   KeptWrite kept(system, path);
   if (const FileError error = kept.open()) return error;
   if (kept.found()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "platform/FileSystem.h"
@@ -11,9 +12,13 @@
 // again before anyone of ours reads it.
 namespace brennet::platform {
 
+// The error (isTooLarge) with which a file of `size` bytes is not written in place with `bytes`:
+// that either is longer than kLargestInPlace (KeptWrite.h).
+[[nodiscard]] FileError mayWriteInPlace(std::uint64_t size, std::string_view bytes);
+
 // Makes `bytes` the content of the file at `path`, which is created where it is missing. An error
 // means that the old content stands, or is put back by undoTornWrite; a file that cannot be read is
-// not written, nor one whose content cannot be kept.
+// not written, nor one whose content cannot be kept, nor one that mayWriteInPlace refuses.
 [[nodiscard]] FileError writeInPlace(FileSystem& system, const Path& path, std::string_view bytes);
 
 // Puts the old content back if a write in place was not finished; waits for one that is under way.

@@ -6,6 +6,9 @@
 namespace brennet::platform {
 namespace {
 
+// Both contents, and what stands around them: a path, above all.
+constexpr std::uint64_t kLargestRecord = 2 * kLargestInPlace + (1U << 20U);
+
 std::string bytesOf(const Path& path) {
   const auto& text = path.native();
   return {reinterpret_cast<const char*>(text.data()), text.size() * sizeof(text.front())};
@@ -65,7 +68,9 @@ FileError KeptWrite::open() {
   if (const FileError error = openFile()) return error;
   saysSomething_ = true;  // as long as that is not known
   std::string kept;
-  if (const FileError error = opened_.readAll(kept, kAnySize)) return error;
+  const FileError error = opened_.readAll(kept, kLargestRecord);
+  // One that is longer than any that is written says nothing.
+  if (error && !isTooLarge(error.code)) return error;
   found_ = TornWrite::parse(kept);
   if (found_ && found_->file != file_) {
     return {Obstacle::Exists, std::make_error_code(std::errc::file_exists)};
@@ -75,9 +80,15 @@ FileError KeptWrite::open() {
 }
 
 FileError KeptWrite::write(const std::optional<std::string>& old, std::string_view bytes) {
-  const std::string kept = TornWrite{file_, old, std::string(bytes)}.serialize();
+  const TornWrite::Frame frame = TornWrite::frame(file_, old, bytes);
+  const std::string_view before = old ? std::string_view(*old) : std::string_view();
   FileError error = opened_.resize(0);
-  if (!error) error = opened_.writeAll(kept);
+  std::uint64_t offset = 0;
+  for (const std::string_view part :
+       {std::string_view(frame.start), before, bytes, std::string_view(frame.end)}) {
+    if (!error) error = opened_.writeAt(offset, part);
+    offset += part.size();
+  }
   saysSomething_ = !error;
   if (!error) error = opened_.flush();
   if (!error) error = system_.flushFolder(folder_);

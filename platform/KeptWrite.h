@@ -5,6 +5,10 @@
 
 namespace brennet::platform {
 
+// The most bytes that a file may hold, before and after, that is written in place: both are kept,
+// and are in memory together when the file is put right.
+inline constexpr std::uint64_t kLargestInPlace = 64U << 20U;
+
 // The kept file of a write in place, while this process has it for itself. Where it was not yet
 // written when it goes out of scope, it is removed.
 class KeptWrite {

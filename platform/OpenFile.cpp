@@ -37,8 +37,7 @@ FileError OpenFile::readAll(std::string& bytes, std::uint64_t limit) const {
   return {};
 }
 
-FileError OpenFile::writeAll(std::string_view bytes) const {
-  std::uint64_t offset = 0;
+FileError OpenFile::writeAt(std::uint64_t offset, std::string_view bytes) const {
   while (!bytes.empty()) {
     std::size_t count = 0;
     if (const FileError error = system_.write(handle_, offset, bytes, count)) return error;

@@ -28,7 +28,9 @@ class OpenFile {
   // read. Throws std::bad_alloc.
   FileError readAll(std::string& bytes, std::uint64_t limit) const;
   // Writes `bytes` from the start of the file on. What stands behind them stays.
-  [[nodiscard]] FileError writeAll(std::string_view bytes) const;
+  [[nodiscard]] FileError writeAll(std::string_view bytes) const { return writeAt(0, bytes); }
+  // The same from `offset` on.
+  [[nodiscard]] FileError writeAt(std::uint64_t offset, std::string_view bytes) const;
   [[nodiscard]] FileError resize(std::uint64_t size) const { return system_.resize(handle_, size); }
   [[nodiscard]] FileError reserve(std::uint64_t size) const {
     return system_.reserve(handle_, size);

@@ -39,14 +39,18 @@ bool holds(std::string_view text, std::size_t at, char byte) {
 
 }  // namespace
 
-std::string TornWrite::serialize() const {
-  std::string kept(kMagic);
-  appendNumber(file.size(), kept);
-  appendNumber(old ? old->size() : kNone, kept);
-  appendNumber(bytes.size(), kept);
-  kept.append(file).append(old.value_or(std::string())).append(bytes);
-  appendNumber(checksum(kept), kept);
-  return kept;
+TornWrite::Frame TornWrite::frame(std::string_view file, const std::optional<std::string>& old,
+                                  std::string_view bytes) {
+  Frame frame;
+  frame.start = kMagic;
+  appendNumber(file.size(), frame.start);
+  appendNumber(old ? old->size() : kNone, frame.start);
+  appendNumber(bytes.size(), frame.start);
+  frame.start += file;
+  std::uint64_t sum = checksum(frame.start);
+  if (old) sum = checksum(*old, sum);
+  appendNumber(checksum(bytes, sum), frame.end);
+  return frame;
 }
 
 std::optional<TornWrite> TornWrite::parse(std::string_view kept) {

@@ -12,8 +12,15 @@ struct TornWrite {
   std::optional<std::string> old;  // what the file held; none where it is to be created
   std::string bytes;               // what it is to hold
 
-  // The form of the kept file, and back; none where the kept file was not finished itself.
-  [[nodiscard]] std::string serialize() const;
+  // What stands around both contents in the kept file, which is `start`, the old content, the new
+  // one, `end`.
+  struct Frame {
+    std::string start;
+    std::string end;
+  };
+  [[nodiscard]] static Frame frame(std::string_view file, const std::optional<std::string>& old,
+                                   std::string_view bytes);
+  // Out of a kept file; none where it was not finished itself.
   [[nodiscard]] static std::optional<TornWrite> parse(std::string_view kept);
 
   // Whether `content` can be what an unfinished write has left: at each place the old byte, the new

@@ -179,5 +179,25 @@ TEST(PathExists, ForFilesAndFolders) {
   EXPECT_TRUE(pathExists(folder / "f"));
 }
 
+// Both contents would be in memory, and more than once.
+TEST(ReplaceFile, DoesNotWriteLargeFilesInPlace) {
+  constexpr std::uint64_t kLimit = 64U << 20U;  // bytes
+  const TempFolder folder;
+  writeBytes(folder / "f", "old");
+  std::filesystem::create_hard_link(folder / "f", folder / "second");
+  const std::string large(kLimit + 1, 'n');
+  EXPECT_TRUE(isTooLarge(replaceFile(folder / "f", large)));
+  EXPECT_EQ(readBytes(folder / "f"), "old");
+  std::filesystem::resize_file(folder / "f", kLimit + 1);
+  for (const OldContent old : {OldContent::Drop, OldContent::Keep}) {
+    EXPECT_TRUE(isTooLarge(replaceFile(folder / "f", "new", old)));
+    EXPECT_EQ(std::filesystem::file_size(folder / "second"), kLimit + 1);
+    EXPECT_EQ(folder.listing(), "f\nsecond\n");
+  }
+  std::filesystem::resize_file(folder / "f", kLimit);
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(readBytes(folder / "second"), "new");
+}
+
 }  // namespace
 }  // namespace brennet::platform

@@ -111,6 +111,18 @@ TEST(ATornFile, IsLeftAloneWhereSomebodyHasWrittenItSince) {
   EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
 }
 
+TEST(ATornFile, IsLeftAloneWhereItIsLargerThanAnyThatIsWrittenInPlace) {
+  const ScopedTemporaries temporaries;
+  const TempFolder folder;
+  writeBytes(folder / "f", "the old one");
+  tear(folder / "f", "the new one");
+  std::filesystem::resize_file(folder / "f", kLargestInPlace + 1);
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
+  EXPECT_EQ(read.size(), kLargestInPlace + 1);
+  EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
+}
+
 TEST(ATornFile, IsNotBelievedFromAFolderThatOthersMayEnter) {
   const ScopedTemporaries temporaries;
   const TempFolder folder;

@@ -18,9 +18,15 @@ const TornWrite kWrites[] = {
     {"n\0me"s, "\0\xFF"s, std::string(300, 'x')},
 };
 
+// The kept file of a write.
+std::string keptOf(const TornWrite& write) {
+  const TornWrite::Frame frame = TornWrite::frame(write.file, write.old, write.bytes);
+  return frame.start + write.old.value_or("") + write.bytes + frame.end;
+}
+
 TEST(TornWrite, ComesBackAsItWasKept) {
   for (const TornWrite& write : kWrites) {
-    const std::optional<TornWrite> parsed = TornWrite::parse(write.serialize());
+    const std::optional<TornWrite> parsed = TornWrite::parse(keptOf(write));
     ASSERT_TRUE(parsed.has_value());
     EXPECT_EQ(parsed->file, write.file);
     EXPECT_EQ(parsed->old, write.old);
@@ -29,7 +35,7 @@ TEST(TornWrite, ComesBackAsItWasKept) {
 }
 
 TEST(TornWrite, IsNoneWhereAnyByteIsMissingOrAnother) {
-  const std::string kept = kWrites[0].serialize();
+  const std::string kept = keptOf(kWrites[0]);
   for (std::size_t size = 0; size < kept.size(); ++size) {
     EXPECT_FALSE(TornWrite::parse(kept.substr(0, size)).has_value()) << size;
     std::string changed = kept;
