@@ -128,8 +128,9 @@ class FileSystem {
   // One name for all spellings of a path to the same place; not to be opened. Empty where that
   // cannot be found out.
   virtual Path identity(const Path& path) = 0;
-  // A folder, not there as a rule, for what only this user may see, and which a restart of the
-  // machine keeps. Empty where there is no place for it.
+  // A folder, not there as a rule, for what only this user may see. It lies where the user has his
+  // temporary files, so a restart of the machine keeps it only where it keeps those, and processes
+  // with other settings have another. Empty where there is no place for it.
   virtual Path privateFolder() = 0;
 
   // The number of this process, and whether the one with a number is running.

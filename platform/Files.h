@@ -38,7 +38,8 @@ enum class OldContent {
 // temporary file in the same folder, are flushed, and the temporary file takes the target's place.
 // The temporary file is the owner's alone until it gets the rights of the old one, its group, lists
 // of access and attributes, as far as this process may set them; what cannot be set makes them
-// fewer, never more. A symbolic link stays one, and a file that could not be opened for writing is
+// fewer, never more. Where there is no old one, it has the rights that new files have, as the file
+// will. A symbolic link stays one, and a file that could not be opened for writing is
 // left alone.
 //
 // A file that has other names (hard links), that stands in a folder that takes no temporary file,
