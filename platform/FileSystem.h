@@ -90,14 +90,18 @@ class FileSystem {
 
   // What stands at `path`; a symbolic link is not followed. Nothing where that cannot be seen.
   virtual FileFacts look(const Path& path) = 0;
-  // Gives the file `from` the name `to`, which must be free (else Exists).
+  // Gives the file `from` the name `to`, which must be free (else Exists). On a file system that
+  // can neither refuse a name that is taken nor give a file two names, one that comes to `to` in
+  // that very moment is lost.
   virtual FileError move(const Path& from, const Path& to) = 0;
   // Gives the file `replacement` the name `path`, whose own file goes or stays as `backup`. After
   // an error everything is as it was; after Halfway the old file is `backup`, nothing is `path`,
   // and the new file has its own name.
   virtual FileError exchange(const Path& replacement, const Path& path, const Path& backup) = 0;
-  // Gives the file `path` a second name, which must be free.
+  // Gives the file `path` a second name, which must be free (else Exists).
   virtual FileError link(const Path& path, const Path& second) = 0;
+  // Whether two names are those of one file. No where that cannot be found out.
+  virtual bool isSameFile(const Path& a, const Path& b) = 0;
   virtual FileError remove(const Path& path) = 0;
   // Removes a file that is open for Keeping, at `path`, before anybody else can open it; it goes at
   // the latest when it is closed.

@@ -241,6 +241,11 @@ class PosixFileSystem final : public FileSystem {
     return ended(::link(path.c_str(), second.c_str()));
   }
 
+  bool isSameFile(const Path& a, const Path& b) override {
+    struct stat first {};
+    return lstat(a.c_str(), &first) == 0 && isStillAt(b, first);
+  }
+
   FileError remove(const Path& path) override { return ended(unlink(path.c_str())); }
 
   FileError removeKept(FileHandle /*file*/, const Path& path) override { return remove(path); }

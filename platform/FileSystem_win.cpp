@@ -137,6 +137,25 @@ FileError openingError(OpenFor purpose) {
   return error;
 }
 
+// A file that is open for a look at what it is, which nobody who has it can refuse.
+struct OpenForFacts {
+  explicit OpenForFacts(const Path& path)
+      : file(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES,
+                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                         OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr)) {
+    isOpen = file != INVALID_HANDLE_VALUE && GetFileInformationByHandle(file, &info) != FALSE;
+  }
+  ~OpenForFacts() {
+    if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
+  }
+  OpenForFacts(const OpenForFacts&) = delete;
+  OpenForFacts& operator=(const OpenForFacts&) = delete;
+
+  HANDLE file;
+  BY_HANDLE_FILE_INFORMATION info{};
+  bool isOpen = false;
+};
+
 class WindowsFileSystem final : public FileSystem {
  public:
   FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
@@ -249,6 +268,16 @@ class WindowsFileSystem final : public FileSystem {
 
   FileError link(const Path& path, const Path& second) override {
     return ended(CreateHardLinkW(second.c_str(), path.c_str(), nullptr));
+  }
+
+  // Both are open at the same time: the number of a file may be given anew when it is closed.
+  bool isSameFile(const Path& a, const Path& b) override {
+    const OpenForFacts first(a);
+    const OpenForFacts second(b);
+    return first.isOpen && second.isOpen &&
+           first.info.dwVolumeSerialNumber == second.info.dwVolumeSerialNumber &&
+           first.info.nFileIndexHigh == second.info.nFileIndexHigh &&
+           first.info.nFileIndexLow == second.info.nFileIndexLow;
   }
 
   FileError remove(const Path& path) override { return endedOrHeld(DeleteFileW(path.c_str())); }

@@ -28,7 +28,9 @@ inline constexpr std::uint64_t kAnySize = ~std::uint64_t{0};
 enum class OldContent {
   Drop,
   // It stays beside the new one, as NAME.kept-YYYYMMDD-HHMMSS by the local time. Three such files
-  // stay, the oldest goes. Where that fails, the replacement goes on all the same.
+  // stay, the oldest goes once the new content is in its place. Where the old content cannot be
+  // kept, the file is replaced all the same; it is written in place only where the folder takes no
+  // new file at all.
   Keep,
 };
 
@@ -45,7 +47,8 @@ enum class OldContent {
 // A file that has other names (hard links), that stands in a folder that takes no temporary file,
 // or whose place the temporary file cannot take, is written in place. Its old content is kept in
 // the user's own folder meanwhile, and both functions put it back that find a file there which was
-// not finished. Where it cannot be kept or not be read, the file is not written.
+// not finished. Where it cannot be kept or not be read, the file is not written; nor is it where it
+// holds more than 64 MiB or is to hold more (isTooLarge).
 //
 // On Windows a file that is replaced has another name for a moment, "NAME.brennet-old"; both
 // functions wait for it, put back what a process left there that ended half-way, and wait for

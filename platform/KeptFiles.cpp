@@ -5,17 +5,19 @@
 #include <chrono>
 #include <cstdio>
 #include <string>
-#include <vector>
+#include <string_view>
+#include <utility>
 
-#include "platform/OpenFile.h"
 #include "platform/Patience.h"
+#include "platform/TemporaryFile.h"
 
 namespace brennet::platform {
 namespace {
 
 constexpr char kStart[] = ".kept-";
 constexpr std::string_view kStampForm = "00000000-000000";  // a zero for each digit
-constexpr int kNames = 60;  // as many seconds to look for a free name
+constexpr int kNames = 60;              // as many seconds to look for a free name
+constexpr std::size_t kPiece = 65'536;  // bytes that are copied at once
 
 using Text = std::basic_string<Path::value_type>;
 using TextView = std::basic_string_view<Path::value_type>;
@@ -48,35 +50,27 @@ bool isStamp(TextView text) {
                     });
 }
 
-// The oldest kept files of `path` that are too many when one more comes.
-std::vector<Path> surplus(FileSystem& system, const Path& path) {
-  const Text start = startFor(path.filename());
-  const Path folder = path.parent_path();
-  std::vector<Path> names;
-  system.list(folder, [&](const Path& name) {
-    const TextView text = name.native();
-    if (text.size() < start.size()) return;
-    const bool isKept = system.isSameName(text.substr(0, start.size()), start) &&
-                        isStamp(text.substr(start.size()));
-    if (isKept) names.push_back(folder / name);
-  });
-  std::sort(names.begin(), names.end());
-  names.resize(names.size() - std::min(names.size(), kMostKeptFiles - 1));
-  return names;
+// Copies what the file at `path` holds.
+FileError copyContent(FileSystem& system, const Path& path, const OpenFile& copy) {
+  OpenFile file(system);
+  const FileError error = retried(system, [&] { return file.open(path, OpenFor::Reading); });
+  if (error) return error;
+  std::string piece(kPiece, '\0');
+  for (std::uint64_t offset = 0;;) {
+    std::size_t count = 0;
+    const FileError unread = retried(
+        system, [&] { return system.read(file.handle(), offset, piece.data(), kPiece, count); });
+    if (unread || count == 0) return unread;
+    const std::string_view bytes = std::string_view(piece).substr(0, count);
+    if (const FileError unwritten = copy.writeAt(offset, bytes)) return unwritten;
+    offset += count;
+  }
 }
 
-// Copies the file; Exists where the name is taken.
-FileError copyFile(FileSystem& system, const Path& path, std::string_view content,
-                   const Path& copy) {
-  OpenFile file(system);
-  if (const FileError error = file.open(copy, OpenFor::NewAndPrivate)) return error;
-  system.copyRights(path, file.handle());
-  FileError error = file.writeAll(content);
-  if (!error) error = file.flush();
-  const FileError closing = file.close();
-  if (!error) error = closing;
-  if (error) static_cast<void>(retried(system, [&] { return system.remove(copy); }));
-  return error;
+// Whether a new file was refused as a folder does that takes none, or none of such a long name.
+bool isRefused(const FileError& error) {
+  return error.obstacle == Obstacle::Denied || error.obstacle == Obstacle::Exists ||
+         error.code == std::errc::filename_too_long;
 }
 
 }  // namespace
@@ -88,26 +82,117 @@ Path keptName(const Path& path, std::int64_t wallTime) {
   return name;
 }
 
-Path keepFile(FileSystem& system, const Path& path) {
-  std::string content;
-  OpenFile file(system);
-  FileError unread = retried(system, [&] { return file.open(path, OpenFor::Reading); });
-  if (unread.obstacle == Obstacle::Missing) return {};
-  if (!unread) unread = file.readAll(content, kAnySize);
-  static_cast<void>(file.close());
-
-  const std::vector<Path> tooMany = surplus(system, path);
-  const std::int64_t now = system.wallTime();
-  for (std::int64_t time = now; time < now + kNames; ++time) {
-    Path kept = keptName(path, time);
-    const FileError error =
-        unread ? system.link(path, kept) : copyFile(system, path, content, kept);
-    if (error.obstacle == Obstacle::Exists) continue;
-    if (error) return {};
-    for (const Path& old : tooMany) static_cast<void>(system.remove(old));
-    return kept;
+KeptFiles::~KeptFiles() {
+  if (isCopyForLinks_) copy_.clear();
+  for (const Path* const name : {&link_, &copy_}) {
+    if (!name->empty()) static_cast<void>(retried(system_, [&] { return system_.remove(*name); }));
   }
-  return {};
+}
+
+void KeptFiles::find() {
+  const Text start = startFor(path_.filename());
+  const Path folder = path_.parent_path();
+  system_.list(folder, [&](const Path& name) {
+    const TextView text = name.native();
+    if (text.size() < start.size()) return;
+    const bool isKept = system_.isSameName(text.substr(0, start.size()), start) &&
+                        isStamp(text.substr(start.size()));
+    if (!isKept) return;
+    const Path kept = folder / name;
+    (system_.isSameFile(kept, path_) ? links_ : others_).push_back(kept);
+  });
+  std::sort(others_.begin(), others_.end());
+}
+
+// Has `give` give the file a kept name that is free; `name` becomes the one.
+template <class Name>
+FileError KeptFiles::underFreeName(Path& name, Name give) {
+  const std::int64_t now = system_.wallTime();
+  FileError error;
+  for (std::int64_t time = now; time < now + kNames; ++time) {
+    Path kept = keptName(path_, time);
+    error = retried(system_, [&] { return give(kept); });
+    if (!error) name = std::move(kept);
+    if (error.obstacle != Obstacle::Exists) break;
+  }
+  return error;
+}
+
+void KeptFiles::keep() {
+  // Also where it has one: that may be another process's, which takes it away when its save fails.
+  const FileError error =
+      underFreeName(link_, [&](const Path& name) { return system_.link(path_, name); });
+  if (error && links_.empty()) {
+    TemporaryFile copy(system_);
+    if (!copy.create(path_, OpenFor::NewAndPrivate)) static_cast<void>(fill(copy));
+  }
+  // Before the old content loses its place.
+  static_cast<void>(system_.flushFolder(path_.parent_path()));
+}
+
+// The copy is whole before it has the kept name.
+FileError KeptFiles::fill(TemporaryFile& copy) {
+  system_.copyRights(path_, copy.file().handle());
+  FileError error = copyContent(system_, path_, copy.file());
+  if (!error) error = copy.file().flush();
+  if (!error) error = copy.file().close();
+  if (error) return error;
+  error = underFreeName(copy_, [&](const Path& name) { return system_.move(copy.name(), name); });
+  if (!error) copy.hasMoved();
+  return error;
+}
+
+FileError KeptFiles::keepCopy() {
+  if (copy_.empty()) {
+    TemporaryFile copy(system_);
+    FileError error = copy.create(path_, OpenFor::NewAndPrivate);
+    // Asked again, so that one failure does not cost the old content.
+    if (error && isRefused(error)) error = copy.create(path_, OpenFor::NewAndPrivate);
+    if (error) {
+      const bool hasLinks = !links_.empty() || !link_.empty();
+      return isRefused(error) && !hasLinks ? FileError() : error;
+    }
+    if (const FileError unkept = fill(copy)) {
+      return isGone(unkept) ? FileError() : unkept;
+    }
+  }
+  // What stands behind the links is about to change.
+  if (const FileError error = dropLinks()) return error;
+  const FileError error = system_.flushFolder(path_.parent_path());
+  // Where the folder may not be looked into, that cannot be had.
+  return error.obstacle == Obstacle::Denied ? FileError() : error;
+}
+
+// Whether there is no file to put aside.
+bool KeptFiles::isGone(const FileError& error) {
+  return error.obstacle == Obstacle::Missing &&
+         system_.look(path_).kind == FileFacts::Kind::Nothing;
+}
+
+FileError KeptFiles::dropLinks() {
+  const auto drop = [&](const Path& name) {
+    const FileError error = retried(system_, [&] { return system_.remove(name); });
+    return system_.look(name).kind == FileFacts::Kind::Nothing ? FileError() : error;
+  };
+  for (; !links_.empty(); links_.pop_back()) {
+    if (const FileError error = drop(links_.back())) return error;
+    isCopyForLinks_ = true;
+  }
+  if (link_.empty()) return {};
+  const FileError error = drop(link_);
+  if (!error) link_.clear();
+  return error;
+}
+
+void KeptFiles::stay() noexcept {
+  const bool isKept = !link_.empty() || !copy_.empty();
+  link_.clear();
+  copy_.clear();
+  if (!isKept) return;
+  const std::size_t tooMany = others_.size() - std::min(others_.size(), kMostKeptFiles - 1);
+  for (std::size_t i = 0; i < tooMany; ++i) static_cast<void>(system_.remove(others_[i]));
+  // The same content, a second time.
+  for (const Path& name : links_) static_cast<void>(system_.remove(name));
 }
 
 }  // namespace brennet::platform

@@ -5,12 +5,10 @@
 #include "platform/Leftovers.h"
 #include "platform/OpenFile.h"
 #include "platform/Patience.h"
-#include "platform/TemporaryNames.h"
+#include "platform/TemporaryFile.h"
 
 namespace brennet::platform {
 namespace {
-
-constexpr int kTemporaryNames = 100;
 
 bool isFile(FileSystem& system, const Path& path) {
   return system.look(path).kind == FileFacts::Kind::File;
@@ -29,8 +27,9 @@ FileError dropBackup(FileSystem& system, const Path& backup, const Path& path, c
 // What stands at the name before it is replaced.
 struct Target {
   bool isThere = false;
-  bool isShared = false;  // has other names, which would keep the old content
   bool isLink = false;
+  std::uint64_t names = 1;  // others than those under which it was put aside keep the old content
+  std::uint64_t size = 0;   // in bytes
 };
 
 // Finds out whether a file can be written at `path`, and what is there.
@@ -39,38 +38,13 @@ FileError inspect(FileSystem& system, const Path& path, Target& target) {
   const FileError error = retried(system, [&] { return file.open(path, OpenFor::Writing); });
   if (error && error.obstacle != Obstacle::Missing) return error;
   target.isThere = !error;
-  target.isShared = target.isThere && file.facts().links > 1;
+  if (target.isThere) {
+    target.names = file.facts().links;
+    target.size = file.facts().size;
+  }
   target.isLink = system.look(path).kind == FileFacts::Kind::Link;
   return {};
 }
-
-// A temporary file that is removed again unless it takes the place of another.
-class TemporaryFile {
- public:
-  TemporaryFile(FileSystem& system, const Path& name)
-      : system_(system), name_(name), file_(system) {}
-  ~TemporaryFile() {
-    if (!isThere_) return;
-    static_cast<void>(file_.close());
-    static_cast<void>(retried(system_, [&] { return system_.remove(name_); }));
-  }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-
-  FileError open(OpenFor purpose) {
-    const FileError error = file_.open(name_, purpose);
-    isThere_ = !error;
-    return error;
-  }
-  [[nodiscard]] OpenFile& file() { return file_; }
-  void hasTakenPlace() { isThere_ = false; }
-
- private:
-  FileSystem& system_;
-  const Path& name_;
-  OpenFile file_;
-  bool isThere_ = false;
-};
 
 enum class Way {
   Gone,      // to the end, well or not
@@ -96,14 +70,13 @@ class Replacement {
         bytes_(bytes) {}
 
   Outcome run() {
-    for (int number = 0; number < kTemporaryNames; ++number) {
-      temporary_ = temporaryName(path_, system_.process(), number);
-      TemporaryFile temporary(system_, temporary_);
+    for (int i = 0; i < kTries; ++i) {
+      TemporaryFile temporary(system_);
       const FileError error =
-          temporary.open(target_.isThere ? OpenFor::NewAndPrivate : OpenFor::New);
-      if (error.obstacle == Obstacle::Exists) continue;
+          temporary.create(path_, target_.isThere ? OpenFor::NewAndPrivate : OpenFor::New);
       // Without a folder there is no other way either.
       if (error) return {error.obstacle == Obstacle::Missing ? Way::Gone : Way::Closed, error};
+      temporary_ = temporary.name();
       const Outcome outcome = fillAndPlace(temporary);
       if (outcome.way != Way::TryAgain) return outcome;
     }
@@ -115,7 +88,7 @@ class Replacement {
     if (const FileError error = fill(temporary.file())) return {Way::Gone, error};
     const FileError error = takePlace();
     if (!error) {
-      temporary.hasTakenPlace();
+      temporary.hasMoved();
       // So that the new name is on the disk too. The file's content is safe either way.
       static_cast<void>(system_.flushFolder(folder_));
       return {};
@@ -202,30 +175,19 @@ FileError awaitReplacement(FileSystem& system, const Path& path) {
   return isDone ? FileError() : error;
 }
 
-// A file that was put aside, and is removed again unless something takes the place of the old one.
-class PutAside {
- public:
-  explicit PutAside(FileSystem& system) : system_(system) {}
-  ~PutAside() {
-    if (!name_.empty()) static_cast<void>(system_.remove(name_));
-  }
-  PutAside(const PutAside&) = delete;
-  PutAside& operator=(const PutAside&) = delete;
-
-  void keep(const Path& path) { name_ = keepFile(system_, path); }
-  void stays() { name_.clear(); }
-
- private:
-  FileSystem& system_;
-  Path name_;
-};
-
-// `path` is no link, and nothing else has to be put right.
+// A file that another takes the place of, as a rule; else it is written in place, once nothing that
+// was put aside can be lost by that. `path` is no link, and nothing else has to be put right.
 FileError replaceAt(FileSystem& system, const Path& path, std::string_view bytes,
-                    const Target& target) {
-  if (!target.isLink && !target.isShared) {
+                    const Target& target, OldContent old, KeptFiles& kept) {
+  const bool isShared = target.names > 1 + kept.links();
+  if (!target.isLink && !isShared) {
+    if (old == OldContent::Keep) kept.keep();
     const Outcome outcome = Replacement(system, path, target, bytes).run();
     if (outcome.way == Way::Gone) return outcome.error;
+  }
+  if (const FileError error = mayWriteInPlace(target.size, bytes)) return error;
+  if (old == OldContent::Keep || kept.links() != 0) {
+    if (const FileError error = kept.keepCopy()) return error;
   }
   return writeInPlace(system, path, bytes);
 }
@@ -258,10 +220,10 @@ FileError replaceFileOn(FileSystem& system, const Path& name, std::string_view b
   Target target;
   if (const FileError error = inspect(system, path, target)) return error;
   removeLeftovers(system, path);
-  PutAside aside(system);
-  if (old == OldContent::Keep) aside.keep(path);
-  const FileError error = replaceAt(system, path, bytes, target);
-  if (!error) aside.stays();
+  KeptFiles kept(system, path);
+  if (old == OldContent::Keep || target.names > 1) kept.find();
+  const FileError error = replaceAt(system, path, bytes, target, old, kept);
+  if (!error) kept.stay();
   return error;
 }
 

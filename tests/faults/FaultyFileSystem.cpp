@@ -127,6 +127,15 @@ FileError FaultyFileSystem::link(const Path& path, const Path& second) {
   return passed("link", [&] { return system_.link(path, second); });
 }
 
+bool FaultyFileSystem::isSameFile(const Path& a, const Path& b) {
+  bool isSame = false;
+  static_cast<void>(passed("isSameFile", [&] {
+    isSame = system_.isSameFile(a, b);
+    return FileError();
+  }));
+  return isSame;
+}
+
 FileError FaultyFileSystem::remove(const Path& path) {
   return passed("remove", [&] { return system_.remove(path); });
 }

@@ -47,6 +47,7 @@ class FaultyFileSystem final : public PassingFileSystem {
   FileError move(const Path& from, const Path& to) override;
   FileError exchange(const Path& replacement, const Path& path, const Path& backup) override;
   FileError link(const Path& path, const Path& second) override;
+  bool isSameFile(const Path& a, const Path& b) override;
   FileError remove(const Path& path) override;
   FileError removeKept(FileHandle file, const Path& path) override;
   FileError removeBackup(const Path& backup, const Path& path) override;

@@ -255,10 +255,16 @@ FileError ModelFileSystem::exchange(const Path& replacement, const Path& path, c
 }
 
 FileError ModelFileSystem::link(const Path& path, const Path& second) {
+  if (!nature.hasLinks) return failureOf(Obstacle::Other);
+  if (nodeAt(path) == nullptr) return failureOf(Obstacle::Missing);
   if (nodeAt(second) != nullptr) return failureOf(Obstacle::Exists);
   if (const FileError error = mayName(second)) return error;
   change({second, nodeAt(path), {}});
   return {};
+}
+
+bool ModelFileSystem::isSameFile(const Path& a, const Path& b) {
+  return nodeAt(a) != nullptr && nodeAt(a) == nodeAt(b);
 }
 
 FileError ModelFileSystem::remove(const Path& path) {

@@ -31,6 +31,7 @@ class ModelFileSystem final : public FileSystem {
     std::set<Path> mounts;         // files that nothing can take the place of
     std::map<Path, int> busy;      // for so many pauses another program has the file
     bool twoSteps = false;         // exchange() moves the old file away first
+    bool hasLinks = true;          // files can have several names
     bool hasPrivateFolder = true;
   };
   Nature nature;
@@ -71,6 +72,7 @@ class ModelFileSystem final : public FileSystem {
   FileError move(const Path& from, const Path& to) override;
   FileError exchange(const Path& replacement, const Path& path, const Path& backup) override;
   FileError link(const Path& path, const Path& second) override;
+  bool isSameFile(const Path& a, const Path& b) override;
   FileError remove(const Path& path) override;
   FileError removeKept(FileHandle file, const Path& path) override;
   FileError removeBackup(const Path& backup, const Path& path) override;

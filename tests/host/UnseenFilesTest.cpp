@@ -84,6 +84,9 @@ TEST_F(UnseenFiles, AreFilesOfAnySize) {
   std::filesystem::resize_file(settings_, (64U << 20U) + 1);
   EXPECT_FALSE(brennet_.LoadSettings(settings_.wstring().c_str()));
   EXPECT_EQ(std::filesystem::file_size(settings_), (64U << 20U) + 1);
+  EXPECT_TRUE(brennet_.SetEnabled(true, 5) || brennet_.SetEnabled(false, 5));
+  ASSERT_EQ(keptFiles().size(), 1U);
+  EXPECT_EQ(std::filesystem::file_size(folder_ / keptFiles()[0]), (64U << 20U) + 1);
 }
 
 }  // namespace

@@ -88,6 +88,19 @@ TEST(TheSystem, WritesAndCutsAtThePlaceItIsTold) {
   EXPECT_EQ(readBytes(folder / "f"), "0123xy6");
 }
 
+TEST(TheSystem, TellsWhichNamesAreThoseOfOneFile) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "same");
+  writeBytes(folder / "g", "same");
+  FileSystem& system = operatingSystem();
+  ASSERT_FALSE(system.link(folder / "f", folder / "second"));
+  EXPECT_TRUE(system.isSameFile(folder / "f", folder / "second"));
+  EXPECT_TRUE(system.isSameFile(folder / "second", folder / "f"));
+  EXPECT_FALSE(system.isSameFile(folder / "f", folder / "g"));
+  EXPECT_FALSE(system.isSameFile(folder / "f", folder / "missing"));
+  EXPECT_FALSE(system.isSameFile(folder / "missing", folder / "missing"));
+}
+
 TEST(TheSystem, MovesToFreeNamesOnly) {
   const TempFolder folder;
   writeBytes(folder / "f", "f");

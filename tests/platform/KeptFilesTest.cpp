@@ -10,6 +10,8 @@
 #include "platform/FileSystem.h"
 #include "platform/Files.h"
 #include "platform/KeptFiles.h"
+#include "platform/Replacement.h"
+#include "tests/support/PassingFileSystem.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {
@@ -27,6 +29,45 @@ std::vector<std::string> keptFiles(const TempFolder& folder) {
   }
   return names;
 }
+
+// A system that counts what is read, and may refuse second names, new files, and exchanges.
+class Reluctant : public test::PassingFileSystem {
+ public:
+  FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
+    const bool isNew = purpose == OpenFor::New || purpose == OpenFor::NewAndPrivate;
+    if (isNew && !takesNewFiles) return refusal();
+    return PassingFileSystem::open(path, purpose, file, facts);
+  }
+  FileError read(FileHandle file, std::uint64_t offset, char* bytes, std::size_t size,
+                 std::size_t& count) override {
+    largestRead = std::max(largestRead, size);
+    return PassingFileSystem::read(file, offset, bytes, size, count);
+  }
+  FileError link(const Path& path, const Path& second) override {
+    return takesLinks ? PassingFileSystem::link(path, second) : refusal();
+  }
+  FileError exchange(const Path& replacement, const Path& path, const Path& backup) override {
+    return takesExchanges ? PassingFileSystem::exchange(replacement, path, backup) : refusal();
+  }
+
+  FileError move(const Path& from, const Path& to) override {
+    return takesMoves ? PassingFileSystem::move(from, to) : refusal();
+  }
+
+  bool takesLinks = true;
+  bool takesNewFiles = true;
+  bool takesExchanges = true;
+  bool takesMoves = true;
+  std::size_t largestRead = 0;
+
+ private:
+  static FileError refusal() {
+    return {Obstacle::Denied, std::make_error_code(std::errc::permission_denied)};
+  }
+};
+
+constexpr std::size_t kMoreThanAPiece = 200'000;
+constexpr std::size_t kPiece = 65'536;
 
 TEST(KeptName, HasTheLocalTime) {
   struct Row {
@@ -53,6 +94,82 @@ TEST(KeptFiles, AreNotMadeOfNothing) {
   EXPECT_FALSE(replaceFile(folder / "f", "new", OldContent::Keep));
   EXPECT_EQ(folder.listing(), "f\n");
   EXPECT_FALSE(replaceFile(folder / "f", "newer", OldContent::Drop));
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+// They may be of any size.
+TEST(KeptFiles, AreNotRead) {
+  const TempFolder folder;
+  Reluctant system;
+  writeBytes(folder / "f", std::string(kMoreThanAPiece, 'd'));
+  EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", OldContent::Keep));
+  EXPECT_EQ(system.largestRead, 0U);
+  ASSERT_EQ(keptFiles(folder).size(), 1U);
+  EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), std::string(kMoreThanAPiece, 'd'));
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+}
+
+TEST(KeptFiles, AreCopiedInPiecesWhereThereAreNoSecondNames) {
+  const TempFolder folder;
+  Reluctant system;
+  system.takesLinks = false;
+  writeBytes(folder / "f", std::string(kMoreThanAPiece, 'd') + "end");
+  EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", OldContent::Keep));
+  EXPECT_EQ(system.largestRead, kPiece);
+  ASSERT_EQ(keptFiles(folder).size(), 1U);
+  EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), std::string(kMoreThanAPiece, 'd') + "end");
+  EXPECT_EQ(folder.listing(), "f\n" + keptFiles(folder)[0] + "\n");
+}
+
+TEST(KeptFiles, AreCopiesOfWhatIsWrittenInPlace) {
+  for (const bool hasSecondName : {false, true}) {
+    const TempFolder folder;
+    Reluctant system;
+    system.takesExchanges = false;
+    writeBytes(folder / "f", "damaged");
+    if (hasSecondName) std::filesystem::create_hard_link(folder / "f", folder / "second");
+    EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", OldContent::Keep));
+    EXPECT_EQ(readBytes(folder / "f"), "new");
+    ASSERT_EQ(keptFiles(folder).size(), 1U) << folder.listing();
+    EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), "damaged");
+    EXPECT_EQ(readBytes(folder / "second"), hasSecondName ? "new" : "");
+  }
+}
+
+TEST(KeptFiles, AreNoneWhereTheFolderTakesNoFile) {
+  const TempFolder folder;
+  Reluctant system;
+  system.takesNewFiles = false;
+  system.takesLinks = false;
+  writeBytes(folder / "f", "damaged");
+  EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", OldContent::Keep)) << "it goes on";
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+  EXPECT_EQ(folder.listing(), "f\n");
+}
+
+// A process that ended between two steps of a save put it aside.
+TEST(KeptFiles, ThatAreTheFileItselfAreNotWritten) {
+  for (const OldContent old : {OldContent::Keep, OldContent::Drop}) {
+    for (const bool takesExchanges : {true, false}) {
+      const TempFolder folder;
+      Reluctant system;
+      system.takesExchanges = takesExchanges;
+      writeBytes(folder / "f", "damaged");
+      std::filesystem::create_hard_link(folder / "f", folder / "f.kept-20010101-000000");
+      EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", old));
+      EXPECT_EQ(readBytes(folder / "f"), "new");
+      ASSERT_EQ(keptFiles(folder).size(), 1U) << folder.listing();
+      EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), "damaged");
+    }
+  }
+}
+
+TEST(KeptFiles, AreNotMadeOfNothingThatIsWrittenInPlace) {
+  const TempFolder folder;
+  Reluctant system;
+  system.takesMoves = false;
+  EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", OldContent::Keep));
+  EXPECT_EQ(readBytes(folder / "f"), "new");
   EXPECT_EQ(folder.listing(), "f\n");
 }
 

@@ -47,6 +47,7 @@ class PassingFileSystem : public platform::FileSystem {
   FileError link(const Path& path, const Path& second) override {
     return system_.link(path, second);
   }
+  bool isSameFile(const Path& a, const Path& b) override { return system_.isSameFile(a, b); }
   FileError remove(const Path& path) override { return system_.remove(path); }
   FileError removeKept(FileHandle file, const Path& path) override {
     return system_.removeKept(file, path);

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/OpenFile.h"
+
+namespace brennet::platform {
+
+// A new file beside another, with one of its temporary names (TemporaryNames.h), that is removed
+// again unless it takes a name of its own. Once it is there, no memory is taken.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(FileSystem& system) : system_(system), file_(system) {}
+  ~TemporaryFile();
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  // Makes the file beside the one at `path`, under the first name that is free; `purpose` is one of
+  // those for new files. Exists where none is free. Throws std::bad_alloc.
+  FileError create(const Path& path, OpenFor purpose);
+
+  [[nodiscard]] const Path& name() const { return name_; }
+  [[nodiscard]] OpenFile& file() { return file_; }
+  // It has another name now, or has taken another's place.
+  void hasMoved() { isThere_ = false; }
+
+ private:
+  FileSystem& system_;
+  Path name_;
+  OpenFile file_;
+  bool isThere_ = false;
+};
+
+}  // namespace brennet::platform
