@@ -155,6 +155,22 @@ std::string folderOf(const std::string& path) {
   return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
+// Gives the file the name `to`, which no other can have then, before it takes the name `from` away.
+FileError moveInTwoSteps(const Path& from, const Path& to) {
+  if (::link(from.c_str(), to.c_str()) == 0) {
+    if (unlink(from.c_str()) == 0) return {};
+    const FileError error = failure(errno);
+    unlink(to.c_str());
+    return error;
+  }
+  const FileError error = failure(errno);
+  if (error.obstacle == Obstacle::Missing || error.obstacle == Obstacle::Exists) return error;
+  // A file system without second names. What comes to the name in this very moment is lost.
+  struct stat status {};
+  if (lstat(to.c_str(), &status) == 0) return failure(EEXIST);
+  return ended(std::rename(from.c_str(), to.c_str()));
+}
+
 class PosixFileSystem final : public FileSystem {
  public:
   FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
@@ -230,7 +246,7 @@ class PosixFileSystem final : public FileSystem {
     if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return {};
     // Not every file system can refuse a name that is taken.
     if (errno != EINVAL && errno != ENOSYS) return failure(errno);
-    return ended(std::rename(from.c_str(), to.c_str()));
+    return moveInTwoSteps(from, to);
   }
 
   FileError exchange(const Path& replacement, const Path& path, const Path& /*backup*/) override {
@@ -313,7 +329,7 @@ class PosixFileSystem final : public FileSystem {
   }
 
   Path privateFolder() override {
-    // Other than the usual folder for temporary files, this one outlives a restart.
+    // Other than /tmp, this one outlives a restart; what a user has chosen may not.
     const char* const chosen = std::getenv("TMPDIR");
     const Path folder = chosen != nullptr && *chosen == '/' ? chosen : "/var/tmp";
     return folder / ("brennet-" + std::to_string(geteuid()));

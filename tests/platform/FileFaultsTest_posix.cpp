@@ -12,7 +12,10 @@
 namespace brennet::platform {
 namespace {
 
+using test::readBytes;
 using test::writeBytes;
+
+using AMovedFile = test::FileFaultsFixture;
 
 class AFileToBeKept : public test::FileFaultsFixture {
  protected:
@@ -37,6 +40,38 @@ TEST_F(AFileToBeKept, IsTheOneUnderItsName) {
             }),
             Obstacle::Held);
   EXPECT_EQ(opened([] {}), Obstacle::None);
+}
+
+// In whatever way the file system lets it move.
+TEST_F(AMovedFile, TakesAFreeNameOnly) {
+  const Path other = folder_ / "other";
+  for (const test::Lacking& lacks :
+       {test::Lacking{}, test::Lacking{true, false, false}, test::Lacking{true, true, false}}) {
+    test::lacking = lacks;
+    writeBytes(path(), "new");
+    writeBytes(other, "old");
+    const Obstacle taken = operatingSystem().move(path(), other).obstacle;
+    const std::string before = readBytes(other);
+    std::filesystem::remove(other);
+    const FileError error = operatingSystem().move(path(), other);
+    const Obstacle missing = operatingSystem().move(path(), folder_ / "third").obstacle;
+    test::lacking = test::Lacking();
+    EXPECT_EQ(taken, Obstacle::Exists) << lacks.links;
+    EXPECT_EQ(before, "old") << lacks.links;
+    EXPECT_FALSE(error) << lacks.links;
+    EXPECT_EQ(missing, Obstacle::Missing) << lacks.links;
+    EXPECT_EQ(folder_.listing(), "other\n") << lacks.links;
+    EXPECT_EQ(readBytes(other), "new") << lacks.links;
+  }
+}
+
+TEST_F(AMovedFile, HasItsOldNameAfterHalfAMove) {
+  writeBytes(path(), "new");
+  test::lacking = {true, false, true};
+  const FileError error = operatingSystem().move(path(), folder_ / "other");
+  test::lacking = test::Lacking();
+  EXPECT_TRUE(error);
+  EXPECT_EQ(folder_.listing(), "f\n");
 }
 
 }  // namespace

@@ -20,10 +20,12 @@ FileFaults faults;
 mode_t writtenModes = 0;
 const int kDeviceError = EIO;
 std::function<void()> beforeStatus;
+Lacking lacking;
 
 }  // namespace brennet::test
 
 using brennet::test::faults;
+using brennet::test::lacking;
 
 namespace {
 
@@ -44,6 +46,9 @@ int __real_fallocate(int file, int mode, off_t start, off_t size);
 int __real_fsync(int file);
 int __real_close(int file);
 int __real_rename(const char* from, const char* to);
+int __real_renameat2(int folder, const char* from, int otherFolder, const char* to, unsigned flags);
+int __real_link(const char* from, const char* to);
+int __real_unlink(const char* path);
 int __real_fstat(int file, struct stat* status);
 int __real_fchmod(int file, mode_t mode);
 
@@ -84,6 +89,17 @@ int __wrap_close(int file) {
 }
 int __wrap_rename(const char* from, const char* to) {
   return faults.replacing || faults.failsNow() ? failWith(EBUSY) : __real_rename(from, to);
+}
+int __wrap_renameat2(int folder, const char* from, int otherFolder, const char* to,
+                     unsigned flags) {
+  if (lacking.refusal) return failWith(EINVAL);
+  return __real_renameat2(folder, from, otherFolder, to, flags);
+}
+int __wrap_link(const char* from, const char* to) {
+  return lacking.links ? failWith(EPERM) : __real_link(from, to);
+}
+int __wrap_unlink(const char* path) {
+  return std::exchange(lacking.removal, false) ? failWith(EIO) : __real_unlink(path);
 }
 int __wrap_fstat(int file, struct stat* status) {
   if (const auto happens = std::exchange(brennet::test::beforeStatus, nullptr)) happens();

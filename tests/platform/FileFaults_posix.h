@@ -8,4 +8,12 @@ namespace brennet::test {
 // two calls.
 extern std::function<void()> beforeStatus;
 
+// What the file system cannot do.
+struct Lacking {
+  bool refusal = false;  // no move refuses a name that is taken
+  bool links = false;    // no file has two names
+  bool removal = false;  // the next removal fails, once
+};
+extern Lacking lacking;
+
 }  // namespace brennet::test
