@@ -21,22 +21,26 @@ bool giveBack(RegistryKey& key, const std::u16string& name, const Dota7Undo& und
   return undo.old ? key.write(name, *undo.old) : key.remove(name);
 }
 
-// The entries from `first` on that are of one key. Gives the first that is not.
+// The entries from `first` on that are of one key. Gives the first that is not. What does not reach
+// the disk stays among them.
 Dota7Undos::iterator giveBackKey(Dota7Undos& undos, Dota7Undos::iterator first) {
   const std::u16string path = first->first.first;
   RegistryKey key(path);
-  auto entry = first;
-  while (entry != undos.end() && platform::compareRegistryNames(entry->first.first, path) == 0) {
-    bool isDone = false;
+  auto end = first;
+  while (end != undos.end() && platform::compareRegistryNames(end->first.first, path) == 0) {
+    end->second.isGivenBack = false;
     try {
-      isDone = giveBack(key, entry->first.second, entry->second);
+      end->second.isGivenBack = giveBack(key, end->first.second, end->second);
     } catch (const std::bad_alloc&) {
       // The other values are given back all the same.
     }
-    entry = isDone ? undos.erase(entry) : std::next(entry);
+    ++end;
   }
-  key.flush();
-  return entry;
+  if (!key.flush()) return end;
+  for (auto entry = first; entry != end;) {
+    entry = entry->second.isGivenBack ? undos.erase(entry) : std::next(entry);
+  }
+  return end;
 }
 
 }  // namespace

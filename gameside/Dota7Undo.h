@@ -26,6 +26,7 @@ struct Dota7Undo {
   // Whether the run that is under way has changed the value itself. Otherwise what stands there
   // now is undone only where it is one of `written`: somebody else may have put it there.
   bool isChanged = false;
+  bool isGivenBack = false;  // only the disk does not have it yet
 };
 
 using Dota7Undos = std::map<Dota7Place, Dota7Undo, Dota7PlaceOrder>;
