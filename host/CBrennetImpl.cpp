@@ -74,6 +74,9 @@ bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
   try {
     name = fromWide(path);
   } catch (const std::exception&) {
+    // The file that was loaded before is not the one that the host means now.
+    config_->Reset();
+    settingsPath_.clear();
     return false;
   }
   settingsPath_ = std::move(name);
