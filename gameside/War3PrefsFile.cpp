@@ -82,7 +82,7 @@ War3PrefsFile::War3PrefsFile() : War3PrefsFile(gamePreferencesPath()) {}
 War3PrefsFile::War3PrefsFile(platform::Path path) : path_(std::move(path)) {
   if (path_.empty()) return;
   std::string bytes;
-  if (const std::error_code error = platform::readFile(path_, bytes, kLargestFile)) {
+  if (const std::error_code error = platform::readFile(path_, bytes, kLargestFile, patience_)) {
     if (!platform::isMissing(error)) path_.clear();
     return;
   }
@@ -167,7 +167,8 @@ bool War3PrefsFile::save() {
     platform::removeLeftovers(path_);
     return true;
   }
-  if (platform::replaceFile(path_, bytes)) return false;
+  platform::Patience patience = std::exchange(patience_, platform::Patience());
+  if (platform::replaceFile(path_, bytes, platform::OldContent::Drop, patience)) return false;
   fileBytes_ = std::move(bytes);
   return true;
 }

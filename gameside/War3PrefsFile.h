@@ -8,6 +8,7 @@
 
 #include "gameside/War3HotkeySection.h"
 #include "platform/Paths.h"
+#include "platform/Patience.h"
 
 namespace brennet {
 
@@ -70,6 +71,8 @@ class War3PrefsFile {
   void closeSection(PlainSection& section);
 
   platform::Path path_;  // empty where there is nothing to write to
+  // Reading the file and writing it then is one operation for those who wait for it.
+  platform::Patience patience_;
   // What the file held when it was last read or written; empty where there was none.
   std::optional<std::string> fileBytes_;
   std::vector<War3HotkeySection> hotkeySections_;

@@ -19,8 +19,10 @@ class OwnRights {
   // gives it the rights of its folder.
   [[nodiscard]] void* attributes() const;
 
-  // Whether the folder at `path` belongs to the user of this process.
-  [[nodiscard]] bool isOwnerOf(const Path& path) const;
+  // Whether what stands at `path` is a folder, and no way to another, that belongs to the user of
+  // this process and that its access list opens to nobody else, those apart who may do anything
+  // anyway: the system and the administrators.
+  [[nodiscard]] bool areThoseOf(const Path& path) const;
 
  private:
   struct Body;

@@ -53,6 +53,9 @@ enum class OpenFor {
             // Held for everybody else who opens it for this
 };
 
+// How a file is locked.
+enum class Sharing { Together, Alone };
+
 using FileHandle = std::intptr_t;
 inline constexpr FileHandle kNoFile = -1;
 
@@ -80,6 +83,10 @@ class FileSystem {
   virtual FileError reserve(FileHandle file, std::uint64_t size) = 0;
   // Brings what was written to the disk.
   virtual FileError flush(FileHandle file) = 0;
+  // Locks a file that is open for reading (Together), or for writing (Alone), until it is closed;
+  // Held where others have locked it, one of the two Alone. Only who locks it, too, meets the lock:
+  // other programs read and write the file as ever. No error where the file system has no locks.
+  virtual FileError lock(FileHandle file, Sharing sharing) = 0;
   // Closes the file in any case.
   virtual FileError close(FileHandle file) = 0;
 
@@ -129,8 +136,7 @@ class FileSystem {
   // The file that `path` means: symbolic links in its last place are followed, also one to nothing.
   // A system that does not follow them gives `path`.
   virtual Path resolved(const Path& path) = 0;
-  // One name for all spellings of a path to the same place; not to be opened. Empty where that
-  // cannot be found out.
+  // One path for all spellings of a path to the same place. Empty where that cannot be found out.
   virtual Path identity(const Path& path) = 0;
   // A folder, not there as a rule, for what only this user may see. It lies where the user has his
   // temporary files, so a restart of the machine keeps it only where it keeps those, and processes

@@ -25,8 +25,9 @@ constexpr mode_t kUsualMode = 0666;  // less the umask
 constexpr mode_t kUsualFolderMode = 0777;
 constexpr mode_t kPrivateMode = 0600;
 constexpr mode_t kPrivateFolderMode = 0700;
-constexpr long kPause = 20'000'000;  // nanoseconds
-constexpr int kMostLinks = 40;       // as many as the kernel follows
+constexpr long kPause = 20'000'000;            // nanoseconds
+constexpr off_t kLockedByte = off_t{1} << 40;  // far behind the end of any file of ours
+constexpr int kMostLinks = 40;                 // as many as the kernel follows
 
 Obstacle obstacleOf(int error) {
   switch (error) {
@@ -225,6 +226,19 @@ class PosixFileSystem final : public FileSystem {
 
   FileError flush(FileHandle file) override {
     return ended(retried([&] { return fsync(static_cast<int>(file)); }));
+  }
+
+  // By the open file, not by the process: threads lock files apart, and who closes the file under
+  // another handle does not unlock it.
+  FileError lock(FileHandle file, Sharing sharing) override {
+    struct flock range {};
+    range.l_type = sharing == Sharing::Alone ? F_WRLCK : F_RDLCK;
+    range.l_whence = SEEK_SET;
+    range.l_start = kLockedByte;
+    range.l_len = 1;
+    if (retried([&] { return fcntl(static_cast<int>(file), F_OFD_SETLK, &range); }) == 0) return {};
+    const bool isLocked = errno == EAGAIN || errno == EACCES;
+    return isLocked ? failure(EAGAIN) : FileError();
   }
 
   FileError close(FileHandle file) override {

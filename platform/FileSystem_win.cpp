@@ -15,9 +15,10 @@ namespace brennet::platform {
 namespace {
 
 constexpr DWORD kLargestPiece = 1U << 30U;
-constexpr DWORD kPause = 20;                                  // milliseconds
-constexpr std::uint64_t kTicksPerSecond = 10'000'000;         // as times of files are counted
-constexpr std::uint64_t kSecondsBefore1970 = 11'644'473'600;  // since 1601, where they begin
+constexpr std::uint64_t kLockedByte = std::uint64_t{1} << 40U;  // far behind the end of any file
+constexpr DWORD kPause = 20;                                    // milliseconds
+constexpr std::uint64_t kTicksPerSecond = 10'000'000;           // as times of files are counted
+constexpr std::uint64_t kSecondsBefore1970 = 11'644'473'600;    // since 1601, where they begin
 
 Obstacle obstacleOf(DWORD error) {
   switch (error) {
@@ -107,16 +108,17 @@ Opening openingFor(OpenFor purpose) {
   switch (purpose) {
     case OpenFor::Reading:
       return {GENERIC_READ, kAll, OPEN_EXISTING};
+    // As the C runtime opens it: beside a program that has it open for writing and shares that.
     case OpenFor::Writing:
-      return {GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING};
+      return {GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING};
     case OpenFor::Creating:
-      return {GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS};
+      return {GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_ALWAYS};
     case OpenFor::New:
       return {GENERIC_WRITE, 0, CREATE_NEW};
     case OpenFor::NewAndPrivate:
       return {GENERIC_WRITE | WRITE_DAC, 0, CREATE_NEW};
     case OpenFor::Keeping:
-      return {GENERIC_READ | GENERIC_WRITE | DELETE, 0, OPEN_ALWAYS};
+      return {GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_READ, OPEN_ALWAYS};
   }
   return {};
 }
@@ -128,10 +130,17 @@ bool isForbidden(const Path& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & kForbidden) != 0;
 }
 
+// A file that is about to go does not even tell its attributes.
+bool isAboutToGo(const Path& path) {
+  return GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES;
+}
+
 // Access is denied, too, to a file that is about to go. Under that name there can be no new one.
-FileError openingError(OpenFor purpose) {
+// Where it stays, its access list denies the access, which does not pass.
+FileError openingError(const Path& path, OpenFor purpose) {
   FileError error = failure(GetLastError());
   if (error.obstacle != Obstacle::Denied || purpose == OpenFor::Reading) return error;
+  if (purpose == OpenFor::Writing && !isAboutToGo(path)) return error;
   const bool isNew = purpose == OpenFor::New || purpose == OpenFor::NewAndPrivate;
   error.obstacle = isNew ? Obstacle::Exists : Obstacle::Held;
   return error;
@@ -166,7 +175,7 @@ class WindowsFileSystem final : public FileSystem {
     HANDLE const opened = CreateFileW(path.c_str(), opening.access, opening.sharing,
                                       isPrivate ? ownAttributes() : nullptr, opening.creation,
                                       FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (opened == INVALID_HANDLE_VALUE) return openingError(purpose);
+    if (opened == INVALID_HANDLE_VALUE) return openingError(path, purpose);
     const bool isNew = opening.creation == CREATE_NEW ||
                        (opening.creation == OPEN_ALWAYS && GetLastError() != ERROR_ALREADY_EXISTS);
     facts = {FileFacts::Kind::File};
@@ -222,6 +231,17 @@ class WindowsFileSystem final : public FileSystem {
   }
 
   FileError flush(FileHandle file) override { return ended(FlushFileBuffers(handleOf(file))); }
+
+  FileError lock(FileHandle file, Sharing sharing) override {
+    OVERLAPPED place = at(kLockedByte);
+    const DWORD alone = sharing == Sharing::Alone ? LOCKFILE_EXCLUSIVE_LOCK : 0;
+    if (LockFileEx(handleOf(file), alone | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) != FALSE) {
+      return {};
+    }
+    const DWORD error = GetLastError();
+    const bool isLocked = error == ERROR_LOCK_VIOLATION || error == ERROR_IO_PENDING;
+    return isLocked ? failure(ERROR_LOCK_VIOLATION) : FileError();
+  }
 
   // Closing may be where a failed write shows.
   FileError close(FileHandle file) override { return ended(CloseHandle(handleOf(file))); }
@@ -305,8 +325,7 @@ class WindowsFileSystem final : public FileSystem {
   FileError createPrivateFolder(const Path& path) override {
     const FileError error = ended(CreateDirectoryW(path.c_str(), ownAttributes()));
     if (error.obstacle != Obstacle::Exists) return error;
-    const bool isOwn = look(path).kind == FileFacts::Kind::Folder && own_.isOwnerOf(path);
-    return isOwn ? FileError() : failure(ERROR_ACCESS_DENIED);
+    return own_.areThoseOf(path) ? FileError() : failure(ERROR_ACCESS_DENIED);
   }
 
   void removeFolder(const Path& path) override { RemoveDirectoryW(path.c_str()); }

@@ -1,26 +1,48 @@
 #include "platform/Files.h"
 
 #include "platform/FileSystem.h"
+#include "platform/InPlaceWrite.h"
 #include "platform/Leftovers.h"
 #include "platform/OpenFile.h"
 #include "platform/Patience.h"
 #include "platform/Replacement.h"
 
 namespace brennet::platform {
+namespace {
+
+// Reads the file once; Held where what was read, or that nothing is there, may not be true.
+FileError readOnce(FileSystem& system, Patience& patience, const Path& path, std::string& bytes,
+                   std::uint64_t limit) {
+  if (const FileError error = settle(system, patience, path)) return error;
+  OpenFile file(system);
+  FileError error = file.open(path, OpenFor::Reading);
+  if (isBeingReplaced(system, path, error)) return busy();
+  if (!error) error = file.lock(Sharing::Together);
+  if (!error) error = file.readAll(bytes, limit);
+  if (error) return error;
+  // Nobody writes it in place as long as it is locked, but somebody may have ended while he did.
+  bool isTorn = false;
+  error = findTornWrite(system, path, isTorn);
+  return !error && isTorn ? busy() : error;
+}
+
+}  // namespace
 
 std::error_code readFile(const Path& path, std::string& bytes, std::uint64_t limit) {
+  Patience patience;
+  return readFile(path, bytes, limit, patience);
+}
+
+std::error_code readFile(const Path& path, std::string& bytes, std::uint64_t limit,
+                         Patience& patience) {
   bytes.clear();
   if (path.empty()) return std::make_error_code(std::errc::no_such_file_or_directory);
   FileSystem& system = fileSystem();
   const Path target = system.resolved(path);
-  if (const FileError error = settle(system, target)) return error.code;
-  OpenFile file(system);
-  const auto mayPass = [&](const FileError& error) {
-    return isHeld(error) || isBeingReplaced(system, target, error);
-  };
-  const FileError error = retried(
-      system, [&] { return file.open(target, OpenFor::Reading); }, mayPass);
-  return error ? error.code : file.readAll(bytes, limit).code;
+  const FileError error =
+      retried(system, patience, [&] { return readOnce(system, patience, target, bytes, limit); });
+  if (error) bytes.clear();
+  return error.code;
 }
 
 bool isTooLarge(const std::error_code& error) {
@@ -28,7 +50,13 @@ bool isTooLarge(const std::error_code& error) {
 }
 
 std::error_code replaceFile(const Path& path, std::string_view bytes, OldContent old) {
-  return replaceFileOn(fileSystem(), path, bytes, old).code;
+  Patience patience;
+  return replaceFile(path, bytes, old, patience);
+}
+
+std::error_code replaceFile(const Path& path, std::string_view bytes, OldContent old,
+                            Patience& patience) {
+  return replaceFileOn(fileSystem(), patience, path, bytes, old).code;
 }
 
 void removeLeftovers(const Path& path) {
@@ -43,8 +71,13 @@ bool pathExists(const Path& path) {
 
 bool isFileLarger(const Path& path, std::uint64_t size) {
   FileSystem& system = fileSystem();
-  const FileFacts facts = system.look(system.resolved(path));
-  return facts.kind == FileFacts::Kind::File && facts.size > size;
+  const Path target = system.resolved(path);
+  // What is opened is what a link leads to.
+  OpenFile file(system);
+  if (!file.open(target, OpenFor::Reading)) return file.facts().size > size;
+  const FileFacts facts = system.look(target);
+  return facts.kind == FileFacts::Kind::Link ||
+         (facts.kind == FileFacts::Kind::File && facts.size > size);
 }
 
 bool folderExists(const Path& path) {

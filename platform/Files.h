@@ -12,13 +12,18 @@ namespace brennet::platform {
 // For files of any size.
 inline constexpr std::uint64_t kAnySize = ~std::uint64_t{0};
 
-// The whole content of the file at `path`, replacing `bytes`. A file that another program holds is
-// waited for, a fifth of a second.
+class Patience;
+
+// The whole content of the file at `path`, replacing `bytes`: what some program made it as a whole,
+// as far as it is one of ours. A file that another program holds, has locked or is replacing is
+// waited for, a fifth of a second, or as long as `patience` lasts (Patience.h).
 // Returns the system's error, or an empty one; isMissing tells whether it says that there is no
 // file. Folders are refused like unreadable files, and so are files of more than `limit` bytes
 // (isTooLarge); on any error `bytes` is empty. Throws std::bad_alloc where the file does not fit
 // into memory.
 [[nodiscard]] std::error_code readFile(const Path& path, std::string& bytes, std::uint64_t limit);
+[[nodiscard]] std::error_code readFile(const Path& path, std::string& bytes, std::uint64_t limit,
+                                       Patience& patience);
 
 // What an error of the functions here says.
 [[nodiscard]] bool isMissing(const std::error_code& error);
@@ -52,8 +57,9 @@ enum class OldContent {
 //
 // On Windows a file that is replaced has another name for a moment, "NAME.brennet-old"; both
 // functions wait for it, put back what a process left there that ended half-way, and wait for
-// programs that hold the file, up to a fifth of a second at each step. Where the old content can
-// neither be replaced nor get its name back, it keeps that one until the next call.
+// programs that hold the file, up to a fifth of a second in all, or as long as `patience` lasts.
+// Where the old content can neither be replaced nor get its name back, it keeps that one until the
+// next call.
 //
 // Temporary files of processes that have ended are removed.
 //
@@ -62,6 +68,8 @@ enum class OldContent {
 // std::bad_alloc, and then has changed nothing.
 [[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes,
                                           OldContent old = OldContent::Drop);
+[[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes, OldContent old,
+                                          Patience& patience);
 
 // Removes temporary files of replaceFile beside `path` whose processes have ended, as replaceFile
 // does; for a file that needs no replacement. Throws std::bad_alloc.
@@ -70,7 +78,8 @@ void removeLeftovers(const Path& path);
 // Whether anything stands at `path`, a file or a folder.
 [[nodiscard]] bool pathExists(const Path& path);
 
-// Whether a file stands at `path` that has more than `size` bytes.
+// Whether a file stands at `path`, or a link to one, that has more than `size` bytes; also a link
+// to a file that cannot be asked.
 [[nodiscard]] bool isFileLarger(const Path& path, std::uint64_t size);
 
 // Whether a folder stands at `path`.

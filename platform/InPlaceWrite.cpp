@@ -1,22 +1,31 @@
 #include "platform/InPlaceWrite.h"
 
 #include "platform/KeptWrite.h"
-#include "platform/Patience.h"
 
 namespace brennet::platform {
 namespace {
 
-FileError openWaiting(FileSystem& system, OpenFile& file, const Path& path, OpenFor purpose) {
-  return retried(system, [&] { return file.open(path, purpose); });
+// Opens the file and locks it for this writer alone.
+FileError openAlone(FileSystem& system, Patience& patience, OpenFile& file, const Path& path,
+                    OpenFor purpose) {
+  return retried(system, patience, [&] {
+    FileError error = file.open(path, purpose);
+    if (!error) error = file.lock(Sharing::Alone);
+    if (error) static_cast<void>(file.close());
+    return error;
+  });
 }
 
 // The content of the file at `path`; none where nothing is there.
-FileError readContent(FileSystem& system, const Path& path, std::optional<std::string>& content) {
-  OpenFile file(system);
-  const FileError error = openWaiting(system, file, path, OpenFor::Reading);
-  if (error.obstacle == Obstacle::Missing) return {};
-  if (error) return error;
-  return file.readAll(content.emplace(), kLargestInPlace);
+FileError readContent(FileSystem& system, Patience& patience, const Path& path,
+                      std::optional<std::string>& content) {
+  const FileError error = retried(system, patience, [&] {
+    OpenFile file(system);
+    const FileError failed = file.open(path, OpenFor::Reading);
+    return failed ? failed : file.readAll(content.emplace(), kLargestInPlace);
+  });
+  if (error) content.reset();
+  return error.obstacle == Obstacle::Missing ? FileError() : error;
 }
 
 // Writes over the open file. What it held is not cut off before the rest is on the disk.
@@ -38,44 +47,92 @@ FileError putBack(FileSystem& system, const Path& path, OpenFile& file,
   return system.remove(path);
 }
 
-FileError undo(FileSystem& system, const Path& path, const TornWrite& write) {
+FileError undo(FileSystem& system, Patience& patience, const Path& path, const TornWrite& write) {
   std::optional<std::string> content;
-  const FileError error = readContent(system, path, content);
-  if (isTooLarge(error.code)) return {};  // somebody else has written it since
-  if (error) return error;
+  const auto read = [&] {
+    const FileError error = readContent(system, patience, path, content);
+    // Somebody else has written it since.
+    return isTooLarge(error.code) ? FileError() : error;
+  };
+  if (const FileError error = read()) return error;
   if (!content || !write.mayHaveLeft(*content)) return {};
   OpenFile file(system);
-  if (const FileError closed = openWaiting(system, file, path, OpenFor::Writing)) return closed;
+  if (const FileError error = openAlone(system, patience, file, path, OpenFor::Writing)) {
+    return error;
+  }
+  // Now that nobody else writes it.
+  if (const FileError error = read()) return error;
+  if (!content || !write.mayHaveLeft(*content)) return {};
   return putBack(system, path, file, write.old);
 }
 
-// The file that is to be written, with room for `bytes`; none of it has changed after an error.
-FileError prepare(OpenFile& file, FileSystem& system, const Path& path, std::string_view bytes,
-                  const std::optional<std::string>& old) {
-  FileError error = openWaiting(system, file, path, old ? OpenFor::Writing : OpenFor::Creating);
-  if (error) return error;
-  if (!old && file.facts().size != 0) {  // somebody has made one since
-    return {Obstacle::Exists, std::make_error_code(std::errc::file_exists)};
-  }
-  error = file.reserve(bytes.size());
-  if (error && !old) static_cast<void>(putBack(system, path, file, old));
-  return error;
-}
+// A write in place, its kept file being open.
+class InPlaceWrite {
+ public:
+  InPlaceWrite(FileSystem& system, Patience& patience, const Path& path, KeptWrite& kept)
+      : system_(system), patience_(patience), path_(path), kept_(kept), file_(system) {}
 
-// Writes the file, what it held and is to hold being kept.
-FileError writeKept(FileSystem& system, const Path& path, std::string_view bytes,
-                    const std::optional<std::string>& old, KeptWrite& kept) {
-  OpenFile file(system);
-  FileError error = prepare(file, system, path, bytes, old);
-  if (error) {
-    static_cast<void>(kept.discard());
+  FileError run(std::string_view bytes) {
+    FileError error = readOld();
+    if (!error) error = kept_.write(old_, bytes);
+    if (!error && !old_) error = create();
+    if (!error) error = reserve(bytes.size());
+    if (error) {
+      static_cast<void>(kept_.discard());
+      return error;
+    }
+    error = overwrite(file_, bytes, old_ ? old_->size() : 0);
+    if (!error) error = kept_.discard();
+    if (!error) return {};  // what was flushed is there, whatever closing says
+    if (!putBack(system_, path_, file_, old_)) static_cast<void>(kept_.discard());
     return error;
   }
-  error = overwrite(file, bytes, old ? old->size() : 0);
-  if (!error) error = kept.discard();
-  if (!error) return {};  // what was flushed is there, whatever closing says
-  if (!putBack(system, path, file, old)) static_cast<void>(kept.discard());
-  return error;
+
+ private:
+  // Locks the file before it is read, so that nobody writes it since.
+  FileError readOld() {
+    const FileError error = openAlone(system_, patience_, file_, path_, OpenFor::Writing);
+    if (error.obstacle == Obstacle::Missing) return {};
+    if (error) return error;
+    // Somebody who wrote it by another name has ended meanwhile.
+    std::vector<Path> names;
+    if (const FileError failed = KeptWrite::find(system_, path_, names)) return failed;
+    if (names.size() > 1) return busy();
+    const FileError failed = readContent(system_, patience_, path_, old_);
+    return !failed && !old_ ? busy() : failed;
+  }
+
+  FileError create() {
+    const FileError error = openAlone(system_, patience_, file_, path_, OpenFor::Creating);
+    if (error || file_.facts().size == 0) return error;
+    // Somebody has made one since.
+    return {Obstacle::Exists, std::make_error_code(std::errc::file_exists)};
+  }
+
+  FileError reserve(std::uint64_t size) {
+    const FileError error = file_.reserve(size);
+    if (error && !old_) static_cast<void>(putBack(system_, path_, file_, old_));
+    return error;
+  }
+
+  FileSystem& system_;
+  Patience& patience_;
+  const Path& path_;
+  KeptWrite& kept_;
+  OpenFile file_;
+  std::optional<std::string> old_;
+};
+
+FileError undoByName(FileSystem& system, Patience& patience, const Path& path) {
+  KeptWrite kept(system, patience, path);
+  if (!kept.isThere()) return {};
+  if (const FileError error = kept.open()) {
+    return error.obstacle == Obstacle::Exists ? FileError() : error;
+  }
+  if (kept.found()) {
+    if (const FileError error = undo(system, patience, path, *kept.found())) return error;
+  }
+  return kept.discard();
 }
 
 }  // namespace
@@ -85,33 +142,31 @@ FileError mayWriteInPlace(std::uint64_t size, std::string_view bytes) {
   return {Obstacle::Other, std::make_error_code(std::errc::file_too_large)};
 }
 
-FileError writeInPlace(FileSystem& system, const Path& path, std::string_view bytes) {
+FileError writeInPlace(FileSystem& system, Patience& patience, const Path& path,
+                       std::string_view bytes) {
   if (const FileError error = mayWriteInPlace(0, bytes)) return error;
-  KeptWrite kept(system, path);
+  KeptWrite kept(system, patience, path);
   if (const FileError error = kept.open()) return error;
   if (kept.found()) {
-    if (const FileError error = undo(system, path, *kept.found())) return error;
+    if (const FileError error = undo(system, patience, path, *kept.found())) return error;
   }
-  std::optional<std::string> old;
-  if (const FileError error = readContent(system, path, old)) return error;
-  if (const FileError error = kept.write(old, bytes)) {
-    static_cast<void>(kept.discard());
-    return error;
-  }
-  return writeKept(system, path, bytes, old, kept);
+  return InPlaceWrite(system, patience, path, kept).run(bytes);
 }
 
-FileError undoTornWrite(FileSystem& system, const Path& path) {
-  if (!KeptWrite::isAnyThere(system)) return {};
-  KeptWrite kept(system, path);
-  if (!kept.isThere()) return {};
-  if (const FileError error = kept.open()) {
-    return error.obstacle == Obstacle::Exists ? FileError() : error;
+FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path) {
+  std::vector<Path> names;
+  if (const FileError error = KeptWrite::find(system, path, names)) return error;
+  for (const Path& name : names) {
+    if (const FileError error = undoByName(system, patience, name)) return error;
   }
-  if (kept.found()) {
-    if (const FileError error = undo(system, path, *kept.found())) return error;
-  }
-  return kept.discard();
+  return {};
+}
+
+FileError findTornWrite(FileSystem& system, const Path& path, bool& isThere) {
+  std::vector<Path> names;
+  const FileError error = KeptWrite::find(system, path, names);
+  isThere = !names.empty();
+  return error;
 }
 
 }  // namespace brennet::platform

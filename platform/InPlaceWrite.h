@@ -4,12 +4,14 @@
 #include <string_view>
 
 #include "platform/FileSystem.h"
+#include "platform/Patience.h"
 
 // Writing over the content of a file. Before the first byte, what the file holds and what it is to
 // hold are kept as a file in the user's own folder (FileSystem::privateFolder). That the kept file
 // is gone again is what makes the new content the file's; until then, whoever opens the file next
-// puts the old one back. So a file that was torn by a process or a machine that ended is whole
-// again before anyone of ours reads it.
+// puts the old one back, by whatever name. So a file that was torn by a process or a machine that
+// ended is whole again before anyone of ours reads it. The file is locked (FileSystem::lock) while
+// it is written, and by those of ours who read it.
 namespace brennet::platform {
 
 // The error (isTooLarge) with which a file of `size` bytes is not written in place with `bytes`:
@@ -19,9 +21,15 @@ namespace brennet::platform {
 // Makes `bytes` the content of the file at `path`, which is created where it is missing. An error
 // means that the old content stands, or is put back by undoTornWrite; a file that cannot be read is
 // not written, nor one whose content cannot be kept, nor one that mayWriteInPlace refuses.
-[[nodiscard]] FileError writeInPlace(FileSystem& system, const Path& path, std::string_view bytes);
+[[nodiscard]] FileError writeInPlace(FileSystem& system, Patience& patience, const Path& path,
+                                     std::string_view bytes);
 
 // Puts the old content back if a write in place was not finished; waits for one that is under way.
-[[nodiscard]] FileError undoTornWrite(FileSystem& system, const Path& path);
+[[nodiscard]] FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path);
+
+// Whether a write in place is kept, so that the file may hold anything: one that is under way, or
+// one that was not finished. For who has the file locked there is none of the first kind. Throws
+// std::bad_alloc.
+[[nodiscard]] FileError findTornWrite(FileSystem& system, const Path& path, bool& isThere);
 
 }  // namespace brennet::platform

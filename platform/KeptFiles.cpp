@@ -8,7 +8,6 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/Patience.h"
 #include "platform/TemporaryFile.h"
 
 namespace brennet::platform {
@@ -50,16 +49,22 @@ bool isStamp(TextView text) {
                     });
 }
 
-// Copies what the file at `path` holds.
-FileError copyContent(FileSystem& system, const Path& path, const OpenFile& copy) {
+// Copies what the file at `path` holds, which nobody of ours writes meanwhile.
+FileError copyContent(FileSystem& system, Patience& patience, const Path& path,
+                      const OpenFile& copy) {
   OpenFile file(system);
-  const FileError error = retried(system, [&] { return file.open(path, OpenFor::Reading); });
+  const FileError error = retried(system, patience, [&] {
+    static_cast<void>(file.close());
+    const FileError closed = file.open(path, OpenFor::Reading);
+    return closed ? closed : file.lock(Sharing::Together);
+  });
   if (error) return error;
   std::string piece(kPiece, '\0');
   for (std::uint64_t offset = 0;;) {
     std::size_t count = 0;
-    const FileError unread = retried(
-        system, [&] { return system.read(file.handle(), offset, piece.data(), kPiece, count); });
+    const FileError unread = retried(system, patience, [&] {
+      return system.read(file.handle(), offset, piece.data(), kPiece, count);
+    });
     if (unread || count == 0) return unread;
     const std::string_view bytes = std::string_view(piece).substr(0, count);
     if (const FileError unwritten = copy.writeAt(offset, bytes)) return unwritten;
@@ -85,7 +90,8 @@ Path keptName(const Path& path, std::int64_t wallTime) {
 KeptFiles::~KeptFiles() {
   if (isCopyForLinks_) copy_.clear();
   for (const Path* const name : {&link_, &copy_}) {
-    if (!name->empty()) static_cast<void>(retried(system_, [&] { return system_.remove(*name); }));
+    if (!name->empty())
+      static_cast<void>(retried(system_, patience_, [&] { return system_.remove(*name); }));
   }
 }
 
@@ -111,7 +117,7 @@ FileError KeptFiles::underFreeName(Path& name, Name give) {
   FileError error;
   for (std::int64_t time = now; time < now + kNames; ++time) {
     Path kept = keptName(path_, time);
-    error = retried(system_, [&] { return give(kept); });
+    error = retried(system_, patience_, [&] { return give(kept); });
     if (!error) name = std::move(kept);
     if (error.obstacle != Obstacle::Exists) break;
   }
@@ -123,7 +129,7 @@ void KeptFiles::keep() {
   const FileError error =
       underFreeName(link_, [&](const Path& name) { return system_.link(path_, name); });
   if (error && links_.empty()) {
-    TemporaryFile copy(system_);
+    TemporaryFile copy(system_, patience_);
     if (!copy.create(path_, OpenFor::NewAndPrivate)) static_cast<void>(fill(copy));
   }
   // Before the old content loses its place.
@@ -133,7 +139,7 @@ void KeptFiles::keep() {
 // The copy is whole before it has the kept name.
 FileError KeptFiles::fill(TemporaryFile& copy) {
   system_.copyRights(path_, copy.file().handle());
-  FileError error = copyContent(system_, path_, copy.file());
+  FileError error = copyContent(system_, patience_, path_, copy.file());
   if (!error) error = copy.file().flush();
   if (!error) error = copy.file().close();
   if (error) return error;
@@ -144,7 +150,7 @@ FileError KeptFiles::fill(TemporaryFile& copy) {
 
 FileError KeptFiles::keepCopy() {
   if (copy_.empty()) {
-    TemporaryFile copy(system_);
+    TemporaryFile copy(system_, patience_);
     FileError error = copy.create(path_, OpenFor::NewAndPrivate);
     // Asked again, so that one failure does not cost the old content.
     if (error && isRefused(error)) error = copy.create(path_, OpenFor::NewAndPrivate);
@@ -171,7 +177,7 @@ bool KeptFiles::isGone(const FileError& error) {
 
 FileError KeptFiles::dropLinks() {
   const auto drop = [&](const Path& name) {
-    const FileError error = retried(system_, [&] { return system_.remove(name); });
+    const FileError error = retried(system_, patience_, [&] { return system_.remove(name); });
     return system_.look(name).kind == FileFacts::Kind::Nothing ? FileError() : error;
   };
   for (; !links_.empty(); links_.pop_back()) {

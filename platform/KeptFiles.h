@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "platform/FileSystem.h"
+#include "platform/Patience.h"
 
 // Old files that are put aside under a name of their own, before another takes their place: the
 // file's name, then ".kept-YYYYMMDD-HHMMSS", by the local time.
@@ -23,7 +24,8 @@ class TemporaryFile;
 // written in place must not have such a name, since that would show what is written; it is copied.
 class KeptFiles {
  public:
-  KeptFiles(FileSystem& system, const Path& path) : system_(system), path_(path) {}
+  KeptFiles(FileSystem& system, Patience& patience, const Path& path)
+      : system_(system), patience_(patience), path_(path) {}
   ~KeptFiles();
   KeptFiles(const KeptFiles&) = delete;
   KeptFiles& operator=(const KeptFiles&) = delete;
@@ -52,6 +54,7 @@ class KeptFiles {
   FileError dropLinks();
 
   FileSystem& system_;
+  Patience& patience_;
   const Path& path_;
   std::vector<Path> others_;  // older files, the oldest first
   std::vector<Path> links_;   // names of the file itself that were there

@@ -1,17 +1,27 @@
 #include "platform/KeptWrite.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include "platform/Checksum.h"
-#include "platform/Patience.h"
 
 namespace brennet::platform {
 namespace {
 
 // Both contents, and what stands around them: a path, above all.
 constexpr std::uint64_t kLargestRecord = 2 * kLargestInPlace + (1U << 20U);
+constexpr char kEnding[] = ".kept";
+constexpr std::size_t kStart = std::size_t{66} << 10U;  // bytes; with the longest name of a file
 
 std::string bytesOf(const Path& path) {
   const auto& text = path.native();
   return {reinterpret_cast<const char*>(text.data()), text.size() * sizeof(text.front())};
+}
+
+Path pathOf(std::string_view bytes) {
+  std::basic_string<Path::value_type> text(bytes.size() / sizeof(Path::value_type), 0);
+  std::memcpy(text.data(), bytes.data(), text.size() * sizeof(Path::value_type));
+  return text;
 }
 
 // A short name for a long one. Two files that share it cannot be written in place at once, and
@@ -22,30 +32,71 @@ std::string shortName(std::string_view text) {
   return name;
 }
 
+// The name of the file that tells of the file with that identity.
+Path keptName(const Path& folder, std::string_view file) {
+  return folder / (shortName(file) + kEnding);
+}
+
+// Whether there can be a kept file for any file at all; as a rule there is none.
+bool isAnyThere(FileSystem& system, const Path& folder) {
+  // A folder that anybody else may write into tells nothing that could be believed.
+  return !folder.empty() && system.look(folder).kind == FileFacts::Kind::Folder &&
+         !system.createPrivateFolder(folder);
+}
+
+// Which file the kept file tells of; none where it is gone, or not written yet.
+FileError readFileName(FileSystem& system, const Path& kept, std::optional<std::string>& file) {
+  OpenFile opened(system);
+  const FileError error = opened.open(kept, OpenFor::Reading);
+  // What is about to go refuses itself to everybody.
+  const bool isGone = error.obstacle == Obstacle::Missing || error.obstacle == Obstacle::Denied;
+  if (error) return isGone ? FileError() : error;
+  std::string start;
+  if (const FileError failed = opened.readStart(start, kStart)) return failed;
+  file = TornWrite::fileIn(start);
+  return {};
+}
+
 FileError nowhere() {
   return {Obstacle::Denied, std::make_error_code(std::errc::no_such_file_or_directory)};
 }
 
 }  // namespace
 
-KeptWrite::KeptWrite(FileSystem& system, const Path& path)
-    : system_(system), folder_(system.privateFolder()), opened_(system) {
+KeptWrite::KeptWrite(FileSystem& system, Patience& patience, const Path& path)
+    : system_(system), patience_(patience), folder_(system.privateFolder()), opened_(system) {
   if (folder_.empty()) return;
   file_ = bytesOf(system.identity(path));
   if (file_.empty()) return;
   parent_ = folder_.parent_path();
-  name_ = folder_ / (shortName(file_) + ".kept");
+  name_ = keptName(folder_, file_);
 }
 
 KeptWrite::~KeptWrite() {
   if (!saysSomething_) static_cast<void>(discard());
 }
 
-bool KeptWrite::isAnyThere(FileSystem& system) {
+FileError KeptWrite::find(FileSystem& system, const Path& path, std::vector<Path>& names) {
+  names.clear();
   const Path folder = system.privateFolder();
-  // A folder that anybody else may write into tells nothing that could be believed.
-  return !folder.empty() && system.look(folder).kind == FileFacts::Kind::Folder &&
-         !system.createPrivateFolder(folder);
+  if (!isAnyThere(system, folder)) return {};
+  const std::string identity = bytesOf(system.identity(path));
+  const Path own = keptName(folder, identity);
+  std::optional<std::string> file;
+  FileError error = readFileName(system, own, file);
+  if (error) return error;
+  const bool isOwnThere = system.look(own).kind == FileFacts::Kind::File;
+  // One that has not been written yet will tell of the file that its name says.
+  if (isOwnThere && (!file || *file == identity)) names.push_back(path);
+  system.list(folder, [&](const Path& entry) {
+    if (error || entry.extension() != kEnding || folder / entry == own) return;
+    file.reset();
+    error = readFileName(system, folder / entry, file);
+    if (!file || keptName(folder, *file) != folder / entry) return;
+    const Path name = pathOf(*file);
+    if (system.isSameFile(name, path)) names.push_back(name);
+  });
+  return error;
 }
 
 bool KeptWrite::isThere() const {
@@ -55,7 +106,7 @@ bool KeptWrite::isThere() const {
 FileError KeptWrite::openFile() {
   // Whoever had the file removes it and its folder in the end.
   return retried(
-      system_,
+      system_, patience_,
       [&] {
         const FileError error = system_.createPrivateFolder(folder_);
         return error ? error : opened_.open(name_, OpenFor::Keeping);
@@ -99,13 +150,14 @@ FileError KeptWrite::write(const std::optional<std::string>& old, std::string_vi
 
 FileError KeptWrite::discard() {
   if (opened_.handle() == kNoFile) return {};
-  // While it is open, so that it is not one of somebody else who came in between. That one call is
-  // what counts: after it nothing can go wrong but that a failing machine brings the file back.
+  // That one call is what counts: after it nothing can go wrong but that a failing machine brings
+  // the content back. A removal would not do: not every system can bring one to the disk.
+  const FileError emptied = opened_.resize(0);
+  if (!emptied) static_cast<void>(opened_.flush());
+  // While it is open, so that it is not one of somebody else who came in between.
   const FileError removed = system_.removeKept(opened_.handle(), name_);
-  const bool isGone = !removed && !system_.flushFolder(folder_);
-  const FileError emptied = isGone ? FileError() : opened_.resize(0);
-  if (removed && emptied) return removed;
-  if (!isGone && !emptied) static_cast<void>(opened_.flush());
+  if (emptied && removed) return removed;
+  if (emptied) static_cast<void>(system_.flushFolder(folder_));
   saysSomething_ = false;
   static_cast<void>(opened_.close());
   system_.removeFolder(folder_);

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <vector>
+
 #include "platform/OpenFile.h"
+#include "platform/Patience.h"
 #include "platform/TornWrite.h"
 
 namespace brennet::platform {
@@ -13,14 +16,18 @@ inline constexpr std::uint64_t kLargestInPlace = 64U << 20U;
 // written when it goes out of scope, it is removed.
 class KeptWrite {
  public:
-  // For the file at `path`. Throws std::bad_alloc.
-  KeptWrite(FileSystem& system, const Path& path);
+  // For the file at `path`, by that name. Whom it meets it waits for with `patience`. Throws
+  // std::bad_alloc.
+  KeptWrite(FileSystem& system, Patience& patience, const Path& path);
   ~KeptWrite();
   KeptWrite(const KeptWrite&) = delete;
   KeptWrite& operator=(const KeptWrite&) = delete;
 
-  // Whether there can be a kept file for any file at all; as a rule there is none.
-  [[nodiscard]] static bool isAnyThere(FileSystem& system);
+  // Finds all kept files that tell of the file at `path`, whatever name it had when it was written:
+  // `names` are those names, and empty as a rule. An error where that cannot be found out. Throws
+  // std::bad_alloc.
+  [[nodiscard]] static FileError find(FileSystem& system, const Path& path,
+                                      std::vector<Path>& names);
   // Whether there is one; nobody has to be waited for where there is none.
   [[nodiscard]] bool isThere() const;
   // Opens the kept file, waiting for whoever has it; creates it and its folder where they are
@@ -38,6 +45,7 @@ class KeptWrite {
   FileError openFile();
 
   FileSystem& system_;
+  Patience& patience_;
   Path folder_;
   Path parent_;  // of the folder
   Path name_;

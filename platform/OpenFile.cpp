@@ -37,6 +37,23 @@ FileError OpenFile::readAll(std::string& bytes, std::uint64_t limit) const {
   return {};
 }
 
+FileError OpenFile::readStart(std::string& bytes, std::size_t size) const {
+  bytes.assign(size, '\0');
+  std::size_t done = 0;
+  while (done < size) {
+    std::size_t count = 0;
+    if (const FileError error =
+            system_.read(handle_, done, bytes.data() + done, size - done, count)) {
+      bytes.clear();
+      return error;
+    }
+    if (count == 0) break;
+    done += count;
+  }
+  bytes.resize(done);
+  return {};
+}
+
 FileError OpenFile::writeAt(std::uint64_t offset, std::string_view bytes) const {
   while (!bytes.empty()) {
     std::size_t count = 0;

@@ -27,6 +27,9 @@ class OpenFile {
   // they are empty. More than `limit` bytes are an error (std::errc::file_too_large) and are not
   // read. Throws std::bad_alloc.
   FileError readAll(std::string& bytes, std::uint64_t limit) const;
+  // Makes `bytes` the first `size` bytes of what the file holds, or all where it holds fewer.
+  // Throws std::bad_alloc.
+  FileError readStart(std::string& bytes, std::size_t size) const;
   // Writes `bytes` from the start of the file on. What stands behind them stays.
   [[nodiscard]] FileError writeAll(std::string_view bytes) const { return writeAt(0, bytes); }
   // The same from `offset` on.
@@ -35,6 +38,7 @@ class OpenFile {
   [[nodiscard]] FileError reserve(std::uint64_t size) const {
     return system_.reserve(handle_, size);
   }
+  [[nodiscard]] FileError lock(Sharing sharing) const { return system_.lock(handle_, sharing); }
   [[nodiscard]] FileError flush() const { return system_.flush(handle_); }
   FileError close();
 

@@ -1,25 +1,47 @@
 #pragma once
 
+#include <system_error>
+
 #include "platform/FileSystem.h"
 
 namespace brennet::platform {
 
-// Virus scanners and indexers hold a new file for a moment, and backup programs an old one; so much
-// patience there is at each step. With the pauses between them that is a fifth of a second.
-inline constexpr int kTries = 10;
+// How long one operation waits for other programs, in all its steps together: virus scanners and
+// indexers hold a new file for a moment, and backup programs an old one. With the pauses between
+// the tries that is a fifth of a second.
+class Patience {
+ public:
+  static constexpr int kPauses = 9;
+
+  // Waits a little. Returns false, and at once, where that has been done often enough.
+  [[nodiscard]] bool wait(FileSystem& system) {
+    if (pauses_ == 0) return false;
+    --pauses_;
+    system.pause();
+    return true;
+  }
+
+ private:
+  int pauses_ = kPauses;
+};
+
+// The error of a file with which somebody is busy in a way that no call told of.
+inline FileError busy() {
+  return {Obstacle::Held, std::make_error_code(std::errc::resource_unavailable_try_again)};
+}
 
 inline bool isHeld(const FileError& error) {
   return error.obstacle == Obstacle::Held;
 }
 
-// Calls `operation`, which gives a FileError, until it succeeds or fails for good; that is, in a
-// way of which `mayPass` does not think that it may pass.
+// Calls `operation`, which gives a FileError, until it succeeds, fails for good, or patience ends.
+// It fails for good in a way of which `mayPass` does not think that it may pass.
 template <class Operation, class Condition = bool (*)(const FileError&)>
-FileError retried(FileSystem& system, Operation operation, Condition mayPass = isHeld) {
-  for (int i = 1;; ++i) {
+FileError retried(FileSystem& system, Patience& patience, Operation operation,
+                  Condition mayPass = isHeld) {
+  while (true) {
     const FileError error = operation();
-    if (!error || i == kTries || !mayPass(error)) return error;
-    system.pause();
+    if (!error || !mayPass(error) || !patience.wait(system)) return error;
   }
 }
 

@@ -34,14 +34,15 @@ bool PrivateFile::isThere(std::string_view name) const {
 }
 
 FileError PrivateFile::openLock() {
-  // Whoever had the file removes it and its folder in the end.
+  // Whoever had the file removes it and its folder in the end. As long as he has it, it is his.
+  Patience patience;
   return retried(
-      system_,
+      system_, patience,
       [&] {
         const FileError error = system_.createPrivateFolder(folder_);
         return error ? error : lock_.open(lockPath_, OpenFor::Keeping);
       },
-      [](const FileError& error) { return isHeld(error) || error.obstacle == Obstacle::Missing; });
+      [](const FileError& error) { return error.obstacle == Obstacle::Missing; });
 }
 
 bool PrivateFile::take(std::string_view name) {
@@ -66,9 +67,9 @@ std::error_code PrivateFile::write(std::string_view bytes) const {
   return replaceFile(path_, bytes);
 }
 
-FileError PrivateFile::empty(const Path& path) noexcept {
+FileError PrivateFile::empty(Patience& patience, const Path& path) noexcept {
   OpenFile file(system_);
-  FileError error = retried(system_, [&] { return file.open(path, OpenFor::Writing); });
+  FileError error = retried(system_, patience, [&] { return file.open(path, OpenFor::Writing); });
   if (!error) error = file.resize(0);
   // Once the file is short, it says nothing any more to whoever comes after this process; that the
   // disk has it matters only to a machine that fails.
@@ -79,11 +80,12 @@ FileError PrivateFile::empty(const Path& path) noexcept {
 bool PrivateFile::clear() noexcept {
   // A replacement that failed half-way may have left the old content under the other name. As long
   // as the file is there, it is the one that counts; so the other goes first.
-  const FileError oldError = empty(backup_);
-  const FileError error = empty(path_);
+  Patience patience;
+  const FileError oldError = empty(patience, backup_);
+  const FileError error = empty(patience, path_);
   const bool isEmpty = !error || (isGone(error) && isGone(oldError));
   if (!isGone(oldError)) return isEmpty;  // the empty file stays, and counts
-  const FileError removed = retried(system_, [&] { return system_.remove(path_); });
+  const FileError removed = retried(system_, patience, [&] { return system_.remove(path_); });
   static_cast<void>(system_.remove(backup_));
   return (isGone(removed) && !system_.flushFolder(folder_)) || isEmpty;
 }

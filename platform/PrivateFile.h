@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/OpenFile.h"
+#include "platform/Patience.h"
 
 namespace brennet::platform {
 
@@ -23,8 +24,8 @@ class PrivateFile {
   // Whether the file of that name, or what is left of its use, is there. Throws std::bad_alloc.
   [[nodiscard]] bool isThere(std::string_view name) const;
 
-  // Takes the file of that name, which need not be there; this object has none yet. Waits a fifth
-  // of a second for a process that has it. Returns whether this object has it now. Throws
+  // Takes the file of that name, which need not be there; this object has none yet. Waits for no
+  // process that has it. Returns whether this object has it now. Throws
   // std::bad_alloc.
   [[nodiscard]] bool take(std::string_view name);
   [[nodiscard]] bool isTaken() const { return lock_.handle() != kNoFile; }
@@ -45,7 +46,7 @@ class PrivateFile {
 
  private:
   FileError openLock();
-  FileError empty(const Path& path) noexcept;
+  FileError empty(Patience& patience, const Path& path) noexcept;
 
   FileSystem& system_;
   Path folder_;

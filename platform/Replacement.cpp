@@ -4,7 +4,6 @@
 #include "platform/KeptFiles.h"
 #include "platform/Leftovers.h"
 #include "platform/OpenFile.h"
-#include "platform/Patience.h"
 #include "platform/TemporaryFile.h"
 
 namespace brennet::platform {
@@ -35,7 +34,8 @@ struct Target {
 // Finds out whether a file can be written at `path`, and what is there.
 FileError inspect(FileSystem& system, const Path& path, Target& target) {
   OpenFile file(system);
-  const FileError error = retried(system, [&] { return file.open(path, OpenFor::Writing); });
+  const FileError error = file.open(path, OpenFor::Writing);
+  if (isBeingReplaced(system, path, error)) return busy();
   if (error && error.obstacle != Obstacle::Missing) return error;
   target.isThere = !error;
   if (target.isThere) {
@@ -61,8 +61,10 @@ struct Outcome {
 // changed, no memory is taken.
 class Replacement {
  public:
-  Replacement(FileSystem& system, const Path& path, const Target& target, std::string_view bytes)
+  Replacement(FileSystem& system, Patience& patience, const Path& path, const Target& target,
+              std::string_view bytes)
       : system_(system),
+        patience_(patience),
         path_(path),
         folder_(path.parent_path()),
         backup_(backupName(path)),
@@ -70,8 +72,8 @@ class Replacement {
         bytes_(bytes) {}
 
   Outcome run() {
-    for (int i = 0; i < kTries; ++i) {
-      TemporaryFile temporary(system_);
+    for (int i = 0; i <= Patience::kPauses; ++i) {
+      TemporaryFile temporary(system_, patience_);
       const FileError error =
           temporary.create(path_, target_.isThere ? OpenFor::NewAndPrivate : OpenFor::New);
       // Without a folder there is no other way either.
@@ -112,13 +114,13 @@ class Replacement {
 
   // Gives the temporary file the place of the other, which may go under way.
   FileError takePlace() {
-    for (int i = 1; target_.isThere; ++i) {
+    while (target_.isThere) {
       const FileError error = exchange();
       const bool hasGone = error.obstacle == Obstacle::Missing && exists(system_, temporary_);
-      if (!hasGone || i == kTries) return error;
+      if (!hasGone) return error;
       // Another process is replacing the file at this moment, or it is gone for good.
       if (isMovedAway()) {
-        system_.pause();
+        if (!patience_.wait(system_)) return error;
       } else {
         target_.isThere = false;
       }
@@ -128,29 +130,31 @@ class Replacement {
 
   FileError exchange() {
     FileError error =
-        retried(system_, [&] { return system_.exchange(temporary_, path_, backup_); });
+        retried(system_, patience_, [&] { return system_.exchange(temporary_, path_, backup_); });
     if (error.obstacle == Obstacle::Halfway) {
       error = moveTo(path_);
       if (error) {
-        static_cast<void>(retried(system_, [&] { return system_.move(backup_, path_); }));
+        static_cast<void>(
+            retried(system_, patience_, [&] { return system_.move(backup_, path_); }));
       }
     }
     // What cannot be removed now goes another time.
     if (isFile(system_, backup_)) {
-      static_cast<void>(
-          retried(system_, [&] { return dropBackup(system_, backup_, path_, folder_); }));
+      static_cast<void>(retried(system_, patience_,
+                                [&] { return dropBackup(system_, backup_, path_, folder_); }));
     }
     return error;
   }
 
   FileError moveTo(const Path& name) {
-    return retried(system_, [&] { return system_.move(temporary_, name); });
+    return retried(system_, patience_, [&] { return system_.move(temporary_, name); });
   }
 
   // Whether the old file has the backup's name and nothing its own.
   bool isMovedAway() { return isFile(system_, backup_) && !exists(system_, path_); }
 
   FileSystem& system_;
+  Patience& patience_;
   const Path& path_;
   Path folder_;
   Path backup_;
@@ -159,17 +163,16 @@ class Replacement {
   std::string_view bytes_;
 };
 
-FileError awaitReplacement(FileSystem& system, const Path& path) {
+FileError awaitReplacement(FileSystem& system, Patience& patience, const Path& path) {
   const Path backup = backupName(path);
-  for (int i = 0; i < kTries; ++i) {
+  do {
     if (!isFile(system, backup)) return {};
     if (exists(system, path)) {
       static_cast<void>(dropBackup(system, backup, path, path.parent_path()));
       return {};
     }
-    system.pause();
-  }
-  const FileError error = retried(system, [&] { return system.move(backup, path); });
+  } while (patience.wait(system));
+  const FileError error = system.move(backup, path);
   // Somebody else did it.
   const bool isDone = error.obstacle == Obstacle::Missing || error.obstacle == Obstacle::Exists;
   return isDone ? FileError() : error;
@@ -177,19 +180,19 @@ FileError awaitReplacement(FileSystem& system, const Path& path) {
 
 // A file that another takes the place of, as a rule; else it is written in place, once nothing that
 // was put aside can be lost by that. `path` is no link, and nothing else has to be put right.
-FileError replaceAt(FileSystem& system, const Path& path, std::string_view bytes,
-                    const Target& target, OldContent old, KeptFiles& kept) {
+FileError replaceAt(FileSystem& system, Patience& patience, const Path& path,
+                    std::string_view bytes, const Target& target, OldContent old, KeptFiles& kept) {
   const bool isShared = target.names > 1 + kept.links();
   if (!target.isLink && !isShared) {
     if (old == OldContent::Keep) kept.keep();
-    const Outcome outcome = Replacement(system, path, target, bytes).run();
+    const Outcome outcome = Replacement(system, patience, path, target, bytes).run();
     if (outcome.way == Way::Gone) return outcome.error;
   }
   if (const FileError error = mayWriteInPlace(target.size, bytes)) return error;
   if (old == OldContent::Keep || kept.links() != 0) {
     if (const FileError error = kept.keepCopy()) return error;
   }
-  return writeInPlace(system, path, bytes);
+  return writeInPlace(system, patience, path, bytes);
 }
 
 }  // namespace
@@ -200,9 +203,12 @@ Path backupName(const Path& path) {
   return name;
 }
 
-FileError settle(FileSystem& system, const Path& path) {
-  const FileError error = awaitReplacement(system, path);
-  return error ? error : undoTornWrite(system, path);
+FileError settle(FileSystem& system, Patience& patience, const Path& path) {
+  const FileError error = awaitReplacement(system, patience, path);
+  if (error) return error;
+  const FileError undone = undoTornWrite(system, patience, path);
+  // Nobody is to take that for a file that is not there.
+  return undone.obstacle == Obstacle::Missing ? busy() : undone;
 }
 
 bool isBeingReplaced(FileSystem& system, const Path& path, const FileError& error) {
@@ -210,19 +216,22 @@ bool isBeingReplaced(FileSystem& system, const Path& path, const FileError& erro
          (isFile(system, backupName(path)) || exists(system, path));
 }
 
-FileError replaceFileOn(FileSystem& system, const Path& name, std::string_view bytes,
-                        OldContent old) {
+FileError replaceFileOn(FileSystem& system, Patience& patience, const Path& name,
+                        std::string_view bytes, OldContent old) {
   if (name.empty()) {
     return {Obstacle::Missing, std::make_error_code(std::errc::no_such_file_or_directory)};
   }
   const Path path = system.resolved(name);
-  if (const FileError error = settle(system, path)) return error;
   Target target;
-  if (const FileError error = inspect(system, path, target)) return error;
+  const FileError unsettled = retried(system, patience, [&] {
+    const FileError error = settle(system, patience, path);
+    return error ? error : inspect(system, path, target);
+  });
+  if (unsettled) return unsettled;
   removeLeftovers(system, path);
-  KeptFiles kept(system, path);
+  KeptFiles kept(system, patience, path);
   if (old == OldContent::Keep || target.names > 1) kept.find();
-  const FileError error = replaceAt(system, path, bytes, target, old, kept);
+  const FileError error = replaceAt(system, patience, path, bytes, target, old, kept);
   if (!error) kept.stay();
   return error;
 }

@@ -4,6 +4,7 @@
 
 #include "platform/FileSystem.h"
 #include "platform/Files.h"
+#include "platform/Patience.h"
 
 // How the content of a file gets another: through a temporary file that takes its place, or, where
 // that cannot be, in place (InPlaceWrite.h).
@@ -16,14 +17,14 @@ namespace brennet::platform {
 // Waits for whoever is replacing the file at this moment; if nobody is any more, puts right what
 // was left half-way: a backup becomes the file again where there is none, and goes where there is
 // one; a file that was being written in place gets its old content back. An error where the file
-// cannot be trusted yet.
-[[nodiscard]] FileError settle(FileSystem& system, const Path& path);
+// cannot be trusted yet. Throws std::bad_alloc.
+[[nodiscard]] FileError settle(FileSystem& system, Patience& patience, const Path& path);
 
 // Whether a file was not found (`error`) because it is being replaced.
 [[nodiscard]] bool isBeingReplaced(FileSystem& system, const Path& path, const FileError& error);
 
 // replaceFile of Files.h, on `system`.
-[[nodiscard]] FileError replaceFileOn(FileSystem& system, const Path& name, std::string_view bytes,
-                                      OldContent old);
+[[nodiscard]] FileError replaceFileOn(FileSystem& system, Patience& patience, const Path& name,
+                                      std::string_view bytes, OldContent old);
 
 }  // namespace brennet::platform

@@ -1,6 +1,5 @@
 #include "platform/TemporaryFile.h"
 
-#include "platform/Patience.h"
 #include "platform/TemporaryNames.h"
 
 namespace brennet::platform {
@@ -13,7 +12,7 @@ constexpr int kNames = 100;
 TemporaryFile::~TemporaryFile() {
   if (!isThere_) return;
   static_cast<void>(file_.close());
-  static_cast<void>(retried(system_, [&] { return system_.remove(name_); }));
+  static_cast<void>(retried(system_, patience_, [&] { return system_.remove(name_); }));
 }
 
 FileError TemporaryFile::create(const Path& path, OpenFor purpose) {

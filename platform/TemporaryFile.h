@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/OpenFile.h"
+#include "platform/Patience.h"
 
 namespace brennet::platform {
 
@@ -8,7 +9,8 @@ namespace brennet::platform {
 // again unless it takes a name of its own. Once it is there, no memory is taken.
 class TemporaryFile {
  public:
-  explicit TemporaryFile(FileSystem& system) : system_(system), file_(system) {}
+  TemporaryFile(FileSystem& system, Patience& patience)
+      : system_(system), patience_(patience), file_(system) {}
   ~TemporaryFile();
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -24,6 +26,7 @@ class TemporaryFile {
 
  private:
   FileSystem& system_;
+  Patience& patience_;
   Path name_;
   OpenFile file_;
   bool isThere_ = false;

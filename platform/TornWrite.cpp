@@ -73,6 +73,16 @@ std::optional<TornWrite> TornWrite::parse(std::string_view kept) {
   return write;
 }
 
+std::optional<std::string> TornWrite::fileIn(std::string_view start) {
+  constexpr std::size_t kSizes = 3;
+  if (start.size() < kMagic.size() + kSizes * kNumberBytes || !start.starts_with(kMagic)) return {};
+  start.remove_prefix(kMagic.size());
+  const std::uint64_t fileSize = takeNumber(start);
+  start.remove_prefix((kSizes - 1) * kNumberBytes);
+  std::string file;
+  return take(start, fileSize, file) ? std::optional(std::move(file)) : std::nullopt;
+}
+
 bool TornWrite::mayHaveLeft(std::string_view content) const {
   const std::string_view before = old ? std::string_view(*old) : std::string_view();
   if (content.size() > std::max(before.size(), bytes.size())) return false;

@@ -23,6 +23,10 @@ struct TornWrite {
   // Out of a kept file; none where it was not finished itself.
   [[nodiscard]] static std::optional<TornWrite> parse(std::string_view kept);
 
+  // The name of the file out of the first bytes of a kept file, as many as there are; none where
+  // they are not those of one, or too few.
+  [[nodiscard]] static std::optional<std::string> fileIn(std::string_view start);
+
   // Whether `content` can be what an unfinished write has left: at each place the old byte, the new
   // one, or the zero of a block that never reached the disk. Where it cannot, somebody else has
   // written the file since.

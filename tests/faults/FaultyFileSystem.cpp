@@ -82,6 +82,10 @@ FileError FaultyFileSystem::flush(FileHandle file) {
   return passed("flush", [&] { return system_.flush(file); });
 }
 
+FileError FaultyFileSystem::lock(FileHandle file, Sharing sharing) {
+  return passed("lock", [&] { return system_.lock(file, sharing); });
+}
+
 // A file is closed also when closing fails.
 FileError FaultyFileSystem::close(FileHandle file) {
   const auto call = [&] { return system_.close(file); };

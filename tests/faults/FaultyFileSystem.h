@@ -41,6 +41,7 @@ class FaultyFileSystem final : public PassingFileSystem {
   FileError resize(FileHandle file, std::uint64_t size) override;
   FileError reserve(FileHandle file, std::uint64_t size) override;
   FileError flush(FileHandle file) override;
+  FileError lock(FileHandle file, Sharing sharing) override;
   FileError close(FileHandle file) override;
   void copyRights(const Path& path, FileHandle file) override;
   FileFacts look(const Path& path) override;

@@ -165,6 +165,7 @@ bool ModelFileSystem::isKept(const NodePointer& node) const {
 
 FileError ModelFileSystem::open(const Path& path, OpenFor purpose, FileHandle& file,
                                 FileFacts& facts) {
+  if (others.beforeOpen) others.beforeOpen(path, purpose);
   NodePointer node = nodeAt(path);
   if (node != nullptr && isNew(purpose)) return failureOf(Obstacle::Exists);
   if (node == nullptr) {
@@ -178,13 +179,14 @@ FileError ModelFileSystem::open(const Path& path, OpenFor purpose, FileHandle& f
     return failureOf(Obstacle::Held);
   }
   file = ++lastHandle_;
-  opened_[file] = {node, path, purpose};
+  opened_[file] = {node, path, purpose, {}};
   facts = {Kind::File, node->content.size(), linksOf(node), 0};
   return {};
 }
 
 FileError ModelFileSystem::read(FileHandle file, std::uint64_t offset, char* bytes,
                                 std::size_t size, std::size_t& count) {
+  if (others.beforeRead) others.beforeRead(opened_.at(file).name);
   const std::string& content = opened_.at(file).node->content;
   const std::size_t start = std::min(static_cast<std::size_t>(offset), content.size());
   count = std::min(size, content.size() - start);
@@ -212,8 +214,26 @@ FileError ModelFileSystem::reserve(FileHandle /*file*/, std::uint64_t /*size*/) 
 }
 
 FileError ModelFileSystem::flush(FileHandle file) {
-  Node& node = *opened_.at(file).node;
-  node.flushed = node.content;
+  const NodePointer node = opened_.at(file).node;
+  node->flushed = node->content;
+  if (nature.flushesNoFolders) {
+    const Path folder = folderOf(opened_.at(file).name);
+    flushChanges([&](const Change& change) {
+      return change.gone.empty() && (change.node == node || change.name == folder);
+    });
+  }
+  return {};
+}
+
+FileError ModelFileSystem::lock(FileHandle file, Sharing sharing) {
+  Opened& own = opened_.at(file);
+  const bool isLocked = std::any_of(opened_.begin(), opened_.end(), [&](const auto& entry) {
+    const Opened& other = entry.second;
+    return entry.first != file && other.node == own.node && other.lock &&
+           (sharing == Sharing::Alone || other.lock == Sharing::Alone);
+  });
+  if (isLocked) return failureOf(Obstacle::Held);
+  own.lock = sharing;
   return {};
 }
 
@@ -236,6 +256,7 @@ FileError ModelFileSystem::move(const Path& from, const Path& to) {
   if (nodeAt(to) != nullptr) return failureOf(Obstacle::Exists);
   if (const FileError error = mayName(to)) return error;
   change({to, node, from});
+  if (nature.flushesNoFolders) flushChanges([&](const Change& c) { return c.name == to; });
   return {};
 }
 
@@ -301,12 +322,19 @@ void ModelFileSystem::removeFolder(const Path& path) {
 }
 
 FileError ModelFileSystem::flushFolder(const Path& path) {
-  std::erase_if(changes_, [&](const Change& change) {
-    const bool isThere = folderOf(change.node != nullptr ? change.name : change.gone) == path;
-    if (isThere) apply(change, flushedNames_);
-    return isThere;
+  if (nature.flushesNoFolders) return {};
+  flushChanges([&](const Change& change) {
+    return folderOf(change.node != nullptr ? change.name : change.gone) == path;
   });
   return {};
+}
+
+void ModelFileSystem::flushChanges(const std::function<bool(const Change&)>& isMeant) {
+  std::erase_if(changes_, [&](const Change& change) {
+    const bool isDone = isMeant(change);
+    if (isDone) apply(change, flushedNames_);
+    return isDone;
+  });
 }
 
 void ModelFileSystem::list(const Path& folder, const std::function<void(const Path& name)>& visit) {
@@ -339,7 +367,8 @@ std::int64_t ModelFileSystem::wallTime() {
 }
 
 void ModelFileSystem::pause() {
-  for (auto& [path, pauses] : nature.busy) --pauses;
+  ++pauses;
+  for (auto& [path, left] : nature.busy) --left;
 }
 
 }  // namespace brennet::test

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -18,6 +20,7 @@ using platform::FileSystem;
 using platform::Obstacle;
 using platform::OpenFor;
 using platform::Path;
+using platform::Sharing;
 
 FileError failureOf(Obstacle obstacle);
 
@@ -33,8 +36,21 @@ class ModelFileSystem final : public FileSystem {
     bool twoSteps = false;         // exchange() moves the old file away first
     bool hasLinks = true;          // files can have several names
     bool hasPrivateFolder = true;
+    // flushFolder() does nothing. Files, as soon as they are flushed, and moves are on the disk
+    // all the same, but nobody knows when a removal is.
+    bool flushesNoFolders = false;
   };
   Nature nature;
+
+  // What other programs do in the middle of an operation.
+  struct Others {
+    std::function<void(const Path& path, OpenFor purpose)> beforeOpen;
+    std::function<void(const Path& path)> beforeRead;
+  };
+  Others others;
+
+  // How often somebody has waited.
+  int pauses = 0;
 
   ModelFileSystem();
 
@@ -66,6 +82,7 @@ class ModelFileSystem final : public FileSystem {
   FileError resize(FileHandle file, std::uint64_t size) override;
   FileError reserve(FileHandle file, std::uint64_t size) override;
   FileError flush(FileHandle file) override;
+  FileError lock(FileHandle file, Sharing sharing) override;
   FileError close(FileHandle file) override;
   void copyRights(const Path& path, FileHandle file) override;
   FileFacts look(const Path& path) override;
@@ -113,12 +130,15 @@ class ModelFileSystem final : public FileSystem {
     NodePointer node;
     Path name;
     OpenFor purpose;
+    std::optional<Sharing> lock = {};
   };
 
   [[nodiscard]] NodePointer nodeAt(const Path& path) const;
   [[nodiscard]] unsigned linksOf(const NodePointer& node) const;
   static void apply(const Change& change, Names& names);
   void change(Change change);
+  // Brings the changes to the disk of which `isMeant` says so.
+  void flushChanges(const std::function<bool(const Change&)>& isMeant);
   FileError mayName(const Path& path) const;
   bool isBusy(const Path& path);
   bool isKept(const NodePointer& node) const;

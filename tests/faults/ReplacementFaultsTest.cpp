@@ -60,6 +60,13 @@ const Setting kSettings[] = {
        s.makeSecondName(kFile, "/folder/other");
      },
      kOld},
+    {"WithTwoNamesWhereFoldersAreNotFlushed",
+     [](ModelFileSystem& s) {
+       s.makeFile(kFile, kOld);
+       s.makeSecondName(kFile, "/folder/other");
+       s.nature.flushesNoFolders = true;
+     },
+     kOld},
     {"ThroughALink",
      [](ModelFileSystem& s) {
        s.makeFolder("/elsewhere");

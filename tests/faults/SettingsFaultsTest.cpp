@@ -10,6 +10,7 @@
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/KeptFiles.h"
+#include "platform/Patience.h"
 #include "tests/faults/StandIn.h"
 #include "tests/support/FaultPoints.h"
 #include "tests/support/ScopedProfile.h"
@@ -218,6 +219,35 @@ TEST_P(SettingsFaults, OfALoadLeaveTheFilesOfThePlayer) {
       if (HasFailure()) return;
     }
   }
+}
+
+// Another process replaces the game's file at that moment, in two steps, and ends between them.
+TEST_P(SettingsFaults, LosePreferencesOfTheGameToNobodyWhoMovesThemAway) {
+  begin();
+  if (in_->model.contentOf(preferences_) == "(none)") return;
+  Path backup = preferences_;
+  backup += ".brennet-old";
+  bool isMoved = false;
+  in_->model.others.beforeOpen = [&](const Path& path, OpenFor purpose) {
+    if (isMoved || path != preferences_ || purpose != OpenFor::Reading) return;
+    isMoved = true;
+    in_->model.nature.closedFolders.clear();
+    EXPECT_FALSE(in_->model.move(preferences_, backup));
+  };
+  EXPECT_TRUE(config_.Save(kSettingsName, kNewTime));
+  EXPECT_TRUE(isMoved);
+  EXPECT_NE(in_->model.contentOf(preferences_).find("kept=1"), std::string::npos);
+}
+
+// A load and a save wait once for each of the two files.
+TEST_P(SettingsFaults, WaitOnceForEachFile) {
+  begin();
+  constexpr int kForever = 1000;
+  in_->model.nature.busy = {{kSettings, kForever}, {preferences_, kForever}};
+  in_->faulty.plan(-1, Fault::None);
+  const int before = in_->model.pauses;
+  EXPECT_FALSE(config_.Save(kSettingsName, kNewTime));
+  EXPECT_LE(in_->model.pauses - before, 2 * platform::Patience::kPauses);
 }
 
 // What could not be loaded is in its place, or put aside, whatever happens while it is saved over.

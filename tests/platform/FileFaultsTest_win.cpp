@@ -8,6 +8,7 @@
 #include <thread>
 #include <vector>
 
+#include "platform/FileSystem.h"
 #include "platform/Files.h"
 #include "tests/platform/FileFaultsFixture.h"
 
@@ -104,11 +105,20 @@ TEST_F(PassingFault, OfOpeningTheOldFileIsWaitedFor) {
   for (const DWORD error : kPassing) {
     writeBytes(path(), kOld);
     const int before = replacedFiles;
-    passingFaults = {.error = error, .opening = kAFew};
+    passingFaults = {.error = error, .opening = kAFew, .isAboutToGo = true};
     EXPECT_FALSE(replaceFile(path(), kNew)) << error;
     EXPECT_EQ(readBytes(path()), kNew) << error;
     EXPECT_EQ(replacedFiles, before + 1) << error;
   }
+}
+
+// Access to a file that stays is denied by its access list.
+TEST_F(PassingFault, OfOpeningIsNoneWhereTheFileStays) {
+  writeBytes(path(), kOld);
+  passingFaults = {.error = ERROR_ACCESS_DENIED, .opening = kAFew};
+  EXPECT_EQ(replaceFile(path(), kNew).value(), ERROR_ACCESS_DENIED);
+  EXPECT_EQ(passingFaults.opening, kAFew - 1);
+  EXPECT_EQ(readBytes(path()), kOld);
 }
 
 TEST_F(PassingFault, OfRemovingTheTemporaryFileIsWaitedFor) {
@@ -137,6 +147,11 @@ TEST_F(PassingFault, OfReadingIsWaitedForWhereSomebodyHasTheFile) {
     std::string read;
     EXPECT_FALSE(readFile(path(), read, kAnySize)) << error;
     EXPECT_EQ(read, kOld) << error;
+    // A lock shows when the file is open already.
+    passingFaults = {.error = error, .reading = kAFew};
+    EXPECT_FALSE(readFile(path(), read, kAnySize)) << error;
+    EXPECT_EQ(read, kOld) << error;
+    EXPECT_EQ(passingFaults.reading, 0) << error;
   }
 }
 
@@ -225,6 +240,24 @@ TEST_F(ReparsePoint, OfALinkKeepsItFromBeingReplaced) {
     EXPECT_EQ(readBytes(path()), bytes);
   }
   EXPECT_EQ(replacedFiles, before);
+}
+
+TEST_F(ReparsePoint, OfALinkHidesNoSize) {
+  writeBytes(path(), kOld);
+  test::reparseTag = IO_REPARSE_TAG_SYMLINK;
+  EXPECT_TRUE(isFileLarger(path(), sizeof(kOld) - 2));
+  EXPECT_FALSE(isFileLarger(path(), sizeof(kOld) - 1));
+}
+
+TEST_F(ReparsePoint, OfAnyKindMakesAFolderNobodysOwn) {
+  FileSystem& system = operatingSystem();
+  ASSERT_FALSE(system.createPrivateFolder(folder_ / "own"));
+  EXPECT_FALSE(system.createPrivateFolder(folder_ / "own"));
+  for (const DWORD tag :
+       {IO_REPARSE_TAG_SYMLINK, IO_REPARSE_TAG_MOUNT_POINT, IO_REPARSE_TAG_DEDUP}) {
+    test::reparseTag = tag;
+    EXPECT_EQ(system.createPrivateFolder(folder_ / "own").obstacle, Obstacle::Denied) << tag;
+  }
 }
 
 TEST_F(ReparsePoint, OfAnotherKindDoesNot) {

@@ -96,6 +96,7 @@ BOOL WINAPI factsOfFile(HANDLE file, BY_HANDLE_FILE_INFORMATION* facts) {
       systems<decltype(GetFileInformationByHandle)>("GetFileInformationByHandle");
   if (faults.failsNow()) return failWith(ERROR_IO_DEVICE);
   const BOOL isDone = real(file, facts);
+  if (reparseTag != 0) facts->dwFileAttributes |= FILE_ATTRIBUTE_REPARSE_POINT;
   interrupt(interruptions.afterSizing);
   return isDone;
 }
@@ -103,6 +104,7 @@ BOOL WINAPI factsOfFile(HANDLE file, BY_HANDLE_FILE_INFORMATION* facts) {
 // A device that fails has given a part before.
 BOOL WINAPI readBytes(HANDLE file, LPVOID bytes, DWORD size, LPDWORD read, OVERLAPPED* where) {
   static auto* const real = systems<decltype(ReadFile)>("ReadFile");
+  if (failsInPassing(passingFaults.reading)) return FALSE;
   if (!faults.failsNow()) return real(file, bytes, size, read, where);
   real(file, bytes, size / 2, read, where);
   return failWith(ERROR_IO_DEVICE);
@@ -148,6 +150,10 @@ BOOL WINAPI deleteFile(LPCWSTR name) {
 
 DWORD WINAPI attributesOf(LPCWSTR name) {
   static auto* const real = systems<decltype(GetFileAttributesW)>("GetFileAttributesW");
+  if (passingFaults.isAboutToGo && passingFaults.opening > 0) {
+    SetLastError(ERROR_ACCESS_DENIED);
+    return INVALID_FILE_ATTRIBUTES;
+  }
   const DWORD attributes = real(name);
   if (reparseTag == 0 || !std::wstring(name).ends_with(L"\\f")) return attributes;
   // A link to nothing is there, too.

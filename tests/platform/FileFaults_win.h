@@ -20,10 +20,12 @@ extern HalfwayFaults halfwayFaults;
 // Calls that fail a few times and then work, as while another program looks at the file.
 struct PassingFaults {
   DWORD error = 0;
-  int opening = 0;    // how many calls still fail: CreateFileW of a file that is there...
-  int moving = 0;     // ...MoveFileExW...
-  int replacing = 0;  // ...ReplaceFileW...
-  int deleting = 0;   // ...DeleteFileW
+  int opening = 0;           // how many calls still fail: CreateFileW of a file that is there...
+  int moving = 0;            // ...MoveFileExW...
+  int replacing = 0;         // ...ReplaceFileW...
+  int deleting = 0;          // ...DeleteFileW
+  int reading = 0;           // ...ReadFile
+  bool isAboutToGo = false;  // while opening fails, nobody is told the attributes of a file
 };
 
 extern PassingFaults passingFaults;
@@ -37,7 +39,7 @@ struct Interruptions {
 
 extern Interruptions interruptions;
 
-// The reparse point that the files of a test have; 0: none.
+// The reparse point that the files and folders of a test have; 0: none.
 extern DWORD reparseTag;
 
 // How many files took the place of another since the program started.

@@ -78,6 +78,39 @@ TEST(TheAccessList, OfANewFileIsThatOfItsFolder) {
   EXPECT_EQ(listOf(folder / "f"), listOf(folder / "usual"));
 }
 
+// A folder with an access list of the test's own, in the system's words.
+void makeFolder(const Path& path, const wchar_t* list) {
+  SECURITY_ATTRIBUTES attributes{sizeof(attributes), nullptr, FALSE};
+  ASSERT_NE(ConvertStringSecurityDescriptorToSecurityDescriptorW(
+                list, SDDL_REVISION_1, &attributes.lpSecurityDescriptor, nullptr),
+            FALSE);
+  EXPECT_NE(CreateDirectoryW(path.c_str(), &attributes), FALSE);
+  LocalFree(attributes.lpSecurityDescriptor);
+}
+
+TEST(TheAccessList, OfAPrivateFolderOpensItToNobodyElse) {
+  struct Row {
+    const wchar_t* list;
+    Obstacle obstacle;
+  };
+  // WD: everybody; BU: the users; SY: the system; BA: the administrators.
+  constexpr Row kRows[] = {
+      {L"D:P(A;OICI;FA;;;WD)", Obstacle::Denied},
+      {L"D:P(A;;FR;;;WD)(A;;FA;;;BA)", Obstacle::Denied},
+      {L"D:P(A;;FA;;;BU)(A;;FA;;;BA)", Obstacle::Denied},
+      {L"D:P(A;;FA;;;SY)(A;;FA;;;BA)", Obstacle::None},
+  };
+  for (const Row& row : kRows) {
+    const TempFolder folder;
+    makeFolder(folder / "own", row.list);
+    EXPECT_EQ(operatingSystem().createPrivateFolder(folder / "own").obstacle, row.obstacle)
+        << listOf(folder / "own").c_str();
+  }
+  const TempFolder folder;
+  EXPECT_FALSE(operatingSystem().createPrivateFolder(folder / "own"));
+  EXPECT_FALSE(operatingSystem().createPrivateFolder(folder / "own")) << "as it was made";
+}
+
 TEST(ASecondName, IsKept) {
   const TempFolder folder;
   writeBytes(folder / "f", "a longer old content");

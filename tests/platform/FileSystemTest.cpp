@@ -161,6 +161,45 @@ TEST(TheSystem, KnowsOneNameForAllSpellingsOfAPath) {
   EXPECT_NE(operatingSystem().identity(folder / "g"), plain);
 }
 
+TEST(TheSystem, KnowsAFileByAllItsNames) {
+  const TempFolder folder;
+  FileSystem& system = operatingSystem();
+  writeBytes(folder / "f", "content");
+  writeBytes(folder / "other", "content");
+  ASSERT_FALSE(system.link(folder / "f", folder / "second"));
+  EXPECT_TRUE(system.isSameFile(folder / "f", folder / "second"));
+  EXPECT_TRUE(system.isSameFile(system.identity(folder / "f"), folder / "./second"));
+  EXPECT_FALSE(system.isSameFile(folder / "f", folder / "other"));
+  EXPECT_FALSE(system.isSameFile(folder / "f", folder / "missing"));
+  EXPECT_FALSE(system.isSameFile(folder / "missing", folder / "missing"));
+}
+
+TEST(TheSystem, LocksAFileForThoseWhoAskForThat) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "content");
+  ASSERT_FALSE(operatingSystem().link(folder / "f", folder / "second"));
+  const auto locked = [&](const char* name, OpenFor purpose, Sharing sharing) {
+    OpenFile file(operatingSystem());
+    EXPECT_FALSE(file.open(folder / name, purpose));
+    return file.lock(sharing).obstacle;
+  };
+  for (const char* const name : {"f", "second"}) {
+    OpenFile first(operatingSystem());
+    ASSERT_FALSE(first.open(folder / "f", OpenFor::Reading));
+    ASSERT_FALSE(first.lock(Sharing::Together));
+    EXPECT_EQ(locked(name, OpenFor::Reading, Sharing::Together), Obstacle::None) << name;
+    EXPECT_EQ(locked(name, OpenFor::Writing, Sharing::Alone), Obstacle::Held) << name;
+    EXPECT_FALSE(first.close());
+    ASSERT_FALSE(first.open(folder / "f", OpenFor::Writing));
+    ASSERT_FALSE(first.lock(Sharing::Alone));
+    EXPECT_EQ(locked(name, OpenFor::Reading, Sharing::Together), Obstacle::Held) << name;
+    EXPECT_EQ(locked(name, OpenFor::Writing, Sharing::Alone), Obstacle::Held) << name;
+    EXPECT_EQ(readBytes(folder / name), "content") << "others read it as ever";
+    EXPECT_FALSE(first.close());
+    EXPECT_EQ(locked(name, OpenFor::Writing, Sharing::Alone), Obstacle::None) << name;
+  }
+}
+
 TEST(TheSystem, KnowsWhichProcessesRun) {
   EXPECT_TRUE(operatingSystem().isRunning(operatingSystem().process()));
   EXPECT_FALSE(operatingSystem().isRunning(4'294'967'290UL));

@@ -116,6 +116,20 @@ TEST(Replacing, WritesInPlaceWhereAReaderKeepsTheFile) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
+TEST(Replacing, WritesBesideAProgramThatWritesAndLetsOthersDoSo) {
+  for (const DWORD sharing : {FILE_SHARE_READ | FILE_SHARE_WRITE,
+                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE}) {
+    const TempFolder folder;
+    writeBytes(folder / "f", "a longer old content");
+    {
+      const Holder holder(folder / "f", GENERIC_WRITE, sharing);
+      EXPECT_FALSE(replaceFile(folder / "f", "new")) << sharing;
+    }
+    EXPECT_EQ(readBytes(folder / "f"), "new") << sharing;
+    EXPECT_EQ(folder.listing(), "f\n") << sharing;
+  }
+}
+
 // What a process leaves that ends while it replaces a file.
 constexpr char kBackup[] = "f.brennet-old";
 

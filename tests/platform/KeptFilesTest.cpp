@@ -10,6 +10,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Files.h"
 #include "platform/KeptFiles.h"
+#include "platform/Patience.h"
 #include "platform/Replacement.h"
 #include "tests/support/PassingFileSystem.h"
 #include "tests/support/TempFolder.h"
@@ -101,8 +102,9 @@ TEST(KeptFiles, AreNotMadeOfNothing) {
 TEST(KeptFiles, AreNotRead) {
   const TempFolder folder;
   Reluctant system;
+  Patience patience;
   writeBytes(folder / "f", std::string(kMoreThanAPiece, 'd'));
-  EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", OldContent::Keep));
+  EXPECT_FALSE(replaceFileOn(system, patience, folder / "f", "new", OldContent::Keep));
   EXPECT_EQ(system.largestRead, 0U);
   ASSERT_EQ(keptFiles(folder).size(), 1U);
   EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), std::string(kMoreThanAPiece, 'd'));
@@ -112,9 +114,10 @@ TEST(KeptFiles, AreNotRead) {
 TEST(KeptFiles, AreCopiedInPiecesWhereThereAreNoSecondNames) {
   const TempFolder folder;
   Reluctant system;
+  Patience patience;
   system.takesLinks = false;
   writeBytes(folder / "f", std::string(kMoreThanAPiece, 'd') + "end");
-  EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", OldContent::Keep));
+  EXPECT_FALSE(replaceFileOn(system, patience, folder / "f", "new", OldContent::Keep));
   EXPECT_EQ(system.largestRead, kPiece);
   ASSERT_EQ(keptFiles(folder).size(), 1U);
   EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), std::string(kMoreThanAPiece, 'd') + "end");
@@ -125,10 +128,11 @@ TEST(KeptFiles, AreCopiesOfWhatIsWrittenInPlace) {
   for (const bool hasSecondName : {false, true}) {
     const TempFolder folder;
     Reluctant system;
+    Patience patience;
     system.takesExchanges = false;
     writeBytes(folder / "f", "damaged");
     if (hasSecondName) std::filesystem::create_hard_link(folder / "f", folder / "second");
-    EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", OldContent::Keep));
+    EXPECT_FALSE(replaceFileOn(system, patience, folder / "f", "new", OldContent::Keep));
     EXPECT_EQ(readBytes(folder / "f"), "new");
     ASSERT_EQ(keptFiles(folder).size(), 1U) << folder.listing();
     EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), "damaged");
@@ -139,10 +143,12 @@ TEST(KeptFiles, AreCopiesOfWhatIsWrittenInPlace) {
 TEST(KeptFiles, AreNoneWhereTheFolderTakesNoFile) {
   const TempFolder folder;
   Reluctant system;
+  Patience patience;
   system.takesNewFiles = false;
   system.takesLinks = false;
   writeBytes(folder / "f", "damaged");
-  EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", OldContent::Keep)) << "it goes on";
+  EXPECT_FALSE(replaceFileOn(system, patience, folder / "f", "new", OldContent::Keep))
+      << "it goes on";
   EXPECT_EQ(readBytes(folder / "f"), "new");
   EXPECT_EQ(folder.listing(), "f\n");
 }
@@ -153,10 +159,11 @@ TEST(KeptFiles, ThatAreTheFileItselfAreNotWritten) {
     for (const bool takesExchanges : {true, false}) {
       const TempFolder folder;
       Reluctant system;
+      Patience patience;
       system.takesExchanges = takesExchanges;
       writeBytes(folder / "f", "damaged");
       std::filesystem::create_hard_link(folder / "f", folder / "f.kept-20010101-000000");
-      EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", old));
+      EXPECT_FALSE(replaceFileOn(system, patience, folder / "f", "new", old));
       EXPECT_EQ(readBytes(folder / "f"), "new");
       ASSERT_EQ(keptFiles(folder).size(), 1U) << folder.listing();
       EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), "damaged");
@@ -167,8 +174,9 @@ TEST(KeptFiles, ThatAreTheFileItselfAreNotWritten) {
 TEST(KeptFiles, AreNotMadeOfNothingThatIsWrittenInPlace) {
   const TempFolder folder;
   Reluctant system;
+  Patience patience;
   system.takesMoves = false;
-  EXPECT_FALSE(replaceFileOn(system, folder / "f", "new", OldContent::Keep));
+  EXPECT_FALSE(replaceFileOn(system, patience, folder / "f", "new", OldContent::Keep));
   EXPECT_EQ(readBytes(folder / "f"), "new");
   EXPECT_EQ(folder.listing(), "f\n");
 }

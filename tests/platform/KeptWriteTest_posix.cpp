@@ -9,6 +9,7 @@
 #include <list>
 #include <string>
 
+#include "platform/Files.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {
@@ -37,21 +38,23 @@ class KeptWrites : public testing::Test {
 };
 
 TEST_F(KeptWrites, OfManyFilesGoOnAtOnce) {
+  Patience patience;
   std::list<KeptWrite> writes;
   for (int number = 0; number < 40; ++number) {
-    KeptWrite& write = writes.emplace_back(operatingSystem(), folder_ / std::to_string(number));
+    KeptWrite& write =
+        writes.emplace_back(operatingSystem(), patience, folder_ / std::to_string(number));
     EXPECT_FALSE(write.isThere());
     EXPECT_FALSE(write.open()) << number;
     EXPECT_TRUE(write.isThere());
   }
-  EXPECT_TRUE(KeptWrite::isAnyThere(operatingSystem()));
+  EXPECT_TRUE(pathExists(operatingSystem().privateFolder()));
   writes.clear();
-  EXPECT_FALSE(KeptWrite::isAnyThere(operatingSystem()));
   EXPECT_EQ(folder_.listing(), "");
 }
 
 TEST_F(KeptWrites, AreNoneOfFilesInNoFolder) {
-  KeptWrite write(operatingSystem(), folder_ / "missing" / "f");
+  Patience patience;
+  KeptWrite write(operatingSystem(), patience, folder_ / "missing" / "f");
   EXPECT_EQ(write.open().obstacle, Obstacle::Denied);
   EXPECT_FALSE(write.isThere());
   EXPECT_EQ(folder_.listing(), "");
@@ -59,13 +62,14 @@ TEST_F(KeptWrites, AreNoneOfFilesInNoFolder) {
 
 TEST_F(KeptWrites, StayUntilTheyAreDiscarded) {
   const Path path = folder_ / "f";
+  Patience patience;
   {
-    KeptWrite write(operatingSystem(), path);
+    KeptWrite write(operatingSystem(), patience, path);
     ASSERT_FALSE(write.open());
     EXPECT_FALSE(write.found().has_value());
     EXPECT_FALSE(write.write("old", "new"));
   }
-  KeptWrite write(operatingSystem(), path);
+  KeptWrite write(operatingSystem(), patience, path);
   EXPECT_TRUE(write.isThere());
   ASSERT_FALSE(write.open());
   ASSERT_TRUE(write.found().has_value());

@@ -23,6 +23,8 @@ FileError obstacle(Obstacle kind) {
   return {kind, std::make_error_code(std::errc::io_error)};
 }
 
+constexpr int kTries = Patience::kPauses + 1;
+
 // A system in which others do something at an exchange and while this process waits.
 class Crowded : public test::PassingFileSystem {
  public:
@@ -51,7 +53,14 @@ class Replacing : public testing::Test {
  protected:
   Replacing() { writeBytes(path_, "old"); }
 
-  FileError replace() { return replaceFileOn(system_, path_, "new", OldContent::Drop); }
+  FileError replace() {
+    Patience patience;
+    return replaceFileOn(system_, patience, path_, "new", OldContent::Drop);
+  }
+  FileError settled() {
+    Patience patience;
+    return settle(system_, patience, path_);
+  }
 
   TempFolder folder_;
   Path path_ = folder_ / "f";
@@ -205,7 +214,7 @@ TEST_F(Replacing, WaitsForABackupToBecomeTheFile) {
     system_.whileWaiting = [&] {
       if (system_.pauses == waits) std::filesystem::rename(backup_, path_);
     };
-    EXPECT_FALSE(settle(system_, path_));
+    EXPECT_FALSE(settled());
     EXPECT_EQ(system_.pauses, waits);
     EXPECT_EQ(readBytes(path_), "old");
   }
@@ -213,8 +222,8 @@ TEST_F(Replacing, WaitsForABackupToBecomeTheFile) {
 
 TEST_F(Replacing, MakesABackupTheFileThatNobodyWants) {
   std::filesystem::rename(path_, backup_);
-  EXPECT_FALSE(settle(system_, path_));
-  EXPECT_EQ(system_.pauses, kTries);
+  EXPECT_FALSE(settled());
+  EXPECT_EQ(system_.pauses, Patience::kPauses);
   EXPECT_EQ(readBytes(path_), "old");
   EXPECT_EQ(folder_.listing(), "f\n");
 }
@@ -224,14 +233,13 @@ TEST_F(Replacing, IsDoneWhereSomebodyElseMakesTheBackupTheFile) {
     std::filesystem::remove(path_);
     writeBytes(backup_, "old");
     system_.beforeMove = [&](const Path&, const Path&) { return obstacle(kind); };
-    EXPECT_EQ(settle(system_, path_).obstacle,
-              kind == Obstacle::Denied ? Obstacle::Denied : Obstacle::None);
+    EXPECT_EQ(settled().obstacle, kind == Obstacle::Denied ? Obstacle::Denied : Obstacle::None);
   }
 }
 
 TEST_F(Replacing, RemovesABackupBesideTheFile) {
   writeBytes(backup_, "older");
-  EXPECT_FALSE(settle(system_, path_));
+  EXPECT_FALSE(settled());
   EXPECT_EQ(system_.pauses, 0);
   EXPECT_EQ(readBytes(path_), "old");
   EXPECT_EQ(folder_.listing(), "f\n");

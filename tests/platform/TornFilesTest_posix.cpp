@@ -82,7 +82,8 @@ class ScopedTemporaries {
 
 // Keeps an unfinished write, as a process leaves it that ends, and tears the file.
 void tear(const Path& path, const char* torn) {
-  KeptWrite kept(operatingSystem(), path);
+  Patience patience;
+  KeptWrite kept(operatingSystem(), patience, path);
   ASSERT_FALSE(kept.open());
   ASSERT_FALSE(kept.write(readBytes(path), "the new content"));
   writeBytes(path, torn);
@@ -97,6 +98,18 @@ TEST(ATornFile, IsPutRightByWhoeverReadsItNext) {
   EXPECT_FALSE(readFile(folder / "./f", read, kAnySize));
   EXPECT_EQ(read, "the old one");
   EXPECT_EQ(readBytes(folder / "f"), "the old one");
+  EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
+}
+
+TEST(ATornFile, IsPutRightByWhateverNameItIsRead) {
+  const ScopedTemporaries temporaries;
+  const TempFolder folder;
+  writeBytes(folder / "f", "the old one");
+  ASSERT_EQ(link((folder / "f").c_str(), (folder / "second").c_str()), 0);
+  tear(folder / "f", "the new one");
+  std::string read;
+  EXPECT_FALSE(readFile(folder / "second", read, kAnySize));
+  EXPECT_EQ(read, "the old one");
   EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
 }
 
@@ -142,7 +155,8 @@ TEST(ATornFile, WaitsForTheProcessThatIsWritingIt) {
   const ScopedTemporaries temporaries;
   const TempFolder folder;
   writeBytes(folder / "f", "the old one");
-  KeptWrite kept(operatingSystem(), folder / "f");
+  Patience patience;
+  KeptWrite kept(operatingSystem(), patience, folder / "f");
   ASSERT_FALSE(kept.open());
   ASSERT_FALSE(kept.write("the old one", "the new content"));
   std::string read;

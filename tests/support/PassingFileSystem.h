@@ -37,6 +37,9 @@ class PassingFileSystem : public platform::FileSystem {
     return system_.reserve(file, size);
   }
   FileError flush(FileHandle file) override { return system_.flush(file); }
+  FileError lock(FileHandle file, platform::Sharing sharing) override {
+    return system_.lock(file, sharing);
+  }
   FileError close(FileHandle file) override { return system_.close(file); }
   void copyRights(const Path& path, FileHandle file) override { system_.copyRights(path, file); }
   platform::FileFacts look(const Path& path) override { return system_.look(path); }

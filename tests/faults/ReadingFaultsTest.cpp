@@ -1,0 +1,190 @@
+// Files that others replace, write in place or lock while they are read.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "platform/Files.h"
+#include "platform/KeptWrite.h"
+#include "platform/Replacement.h"
+#include "tests/faults/StandIn.h"
+
+namespace brennet::test {
+namespace {
+
+using platform::kAnySize;
+using platform::KeptWrite;
+using platform::Patience;
+using platform::readFile;
+using platform::replaceFile;
+
+constexpr char kFile[] = "/folder/f";
+constexpr char kSecond[] = "/folder/second";
+constexpr char kOld[] = "the old content";
+constexpr char kNew[] = "THE NEW CONTENT";
+constexpr char kTorn[] = "THE NEW content";
+
+class Reading : public testing::Test {
+ protected:
+  Reading() {
+    in_.model.makeFolder("/folder");
+    in_.model.makeFile(kFile, kOld);
+    in_.model.makeSecondName(kFile, kSecond);
+    in_.faulty.plan(-1, Fault::None);
+  }
+
+  std::string read(const Path& path) {
+    std::string bytes;
+    error_ = readFile(path, bytes, kAnySize);
+    EXPECT_TRUE(!error_ || bytes.empty());
+    return bytes;
+  }
+
+  // Does something before the file is opened for reading, the first `times` times.
+  void beforeOpening(int times, const std::function<void()>& action) {
+    in_.model.others.beforeOpen = [this, times, action](const Path& path, OpenFor purpose) mutable {
+      if (purpose != OpenFor::Reading || path != kFile || isBusy_ || times == 0) return;
+      --times;
+      isBusy_ = true;
+      action();
+      isBusy_ = false;
+    };
+  }
+
+  // What a process leaves that ends while it writes the file in place.
+  void tear(const Path& path) {
+    Patience patience;
+    KeptWrite kept(in_.model, patience, path);
+    EXPECT_FALSE(kept.open());
+    EXPECT_FALSE(kept.write(kOld, kNew));
+    write(path, "THE NEW");
+  }
+
+  void write(const Path& path, std::string_view bytes) {
+    platform::OpenFile file(in_.model);
+    EXPECT_FALSE(file.open(path, OpenFor::Writing));
+    EXPECT_FALSE(file.writeAll(bytes));
+  }
+
+  void moveAway() {
+    if (in_.model.contentOf(kFile) == "(none)") return;
+    EXPECT_FALSE(in_.model.move(kFile, platform::backupName(kFile)));
+  }
+
+  StandIn in_;
+  std::error_code error_;
+  bool isBusy_ = false;
+};
+
+TEST_F(Reading, FindsAFileThatWasMovedAwayAfterTheFirstLook) {
+  beforeOpening(1, [&] { moveAway(); });
+  EXPECT_EQ(read(kFile), kOld) << error_.message();
+}
+
+TEST_F(Reading, NeverTellsThatAFileIsMissingWhichIsMovedAwayEachTime) {
+  beforeOpening(1000, [&] { moveAway(); });
+  read(kFile);
+  EXPECT_TRUE(error_);
+  EXPECT_FALSE(platform::isMissing(error_));
+}
+
+TEST_F(Reading, PutsRightWhatWasTornAfterTheFirstLook) {
+  beforeOpening(1, [&] { tear(kFile); });
+  EXPECT_EQ(read(kFile), kOld) << error_.message();
+  EXPECT_EQ(in_.model.contentOf(kFile), kOld);
+  EXPECT_EQ(in_.model.listing("/private"), "");
+}
+
+TEST_F(Reading, PutsRightByAnyNameWhatWasTornByAnother) {
+  for (const char* const torn : {kFile, kSecond}) {
+    for (const char* const name : {kFile, kSecond}) {
+      tear(torn);
+      EXPECT_EQ(read(name), kOld) << torn << name << error_.message();
+      EXPECT_EQ(in_.model.contentOf(torn), kOld);
+      EXPECT_EQ(in_.model.listing("/private"), "");
+    }
+  }
+}
+
+TEST_F(Reading, PutsRightByAnyNameBeforeItIsWritten) {
+  tear(kFile);
+  EXPECT_FALSE(replaceFile(kSecond, "newer"));
+  EXPECT_EQ(in_.model.contentOf(kFile), "newer");
+  EXPECT_EQ(in_.model.listing("/private"), "");
+}
+
+TEST_F(Reading, FindsOneContentWholeAfterAWriteByAnotherNameThatEndsAnywhere) {
+  constexpr int kMoreThanAnySave = 80;
+  for (const Fault fault : {Fault::EndsBefore, Fault::EndsInside, Fault::EndsAfter}) {
+    for (int call = 0; call < kMoreThanAnySave; ++call) {
+      tear(kFile);
+      in_.faulty.plan(call, fault);
+      static_cast<void>(replaceFile(kSecond, "newer and longer"));
+      in_.model.endPrograms();
+      in_.faulty.plan(-1, Fault::None);
+      const std::string found = read(kFile);
+      EXPECT_TRUE(found == kOld || found == "newer and longer") << found << described(in_, call);
+      EXPECT_EQ(read(kSecond), found) << described(in_, call);
+      EXPECT_FALSE(replaceFile(kFile, kOld));
+      EXPECT_EQ(in_.model.listing("/private"), "") << described(in_, call);
+    }
+  }
+}
+
+// Content that fits is no reason: any file that is empty would.
+TEST_F(Reading, TakesNoOtherFileForTheOneThatWasTorn) {
+  for (const char* const content : {"", kTorn, kOld, kNew}) {
+    in_.model.makeFile("/folder/other", content);
+    tear(kFile);
+    EXPECT_EQ(read("/folder/other"), content);
+    EXPECT_EQ(read(kFile), kOld);
+  }
+}
+
+TEST_F(Reading, KeepsTheFileFromBeingWrittenInPlaceMeanwhile) {
+  for (const char* const name : {kFile, kSecond}) {
+    bool isTried = false;
+    bool isRefused = false;
+    in_.model.others.beforeRead = [&](const Path& path) {
+      if (path != kFile || isTried) return;
+      isTried = true;
+      isRefused = static_cast<bool>(replaceFile(name, kNew));
+    };
+    EXPECT_EQ(read(kFile), kOld) << name;
+    EXPECT_TRUE(isRefused) << name;
+    EXPECT_EQ(in_.model.contentOf(kFile), kOld) << name;
+    EXPECT_EQ(in_.model.listing("/private"), "") << name;
+  }
+}
+
+TEST_F(Reading, IsNotDoneWhileTheFileIsWrittenInPlace) {
+  for (const char* const name : {kFile, kSecond}) {
+    platform::OpenFile file(in_.model);
+    ASSERT_FALSE(file.open(kSecond, OpenFor::Writing));
+    ASSERT_FALSE(file.lock(Sharing::Alone));
+    read(name);
+    EXPECT_TRUE(error_) << name;
+    EXPECT_FALSE(platform::isMissing(error_)) << name;
+    EXPECT_TRUE(replaceFile(name, kNew)) << name;
+    EXPECT_EQ(in_.model.contentOf(kFile), kOld);
+    EXPECT_FALSE(file.close());
+    EXPECT_EQ(read(name), kOld);
+  }
+}
+
+// Systems tell of a lock when the file is opened, or not before it is read.
+TEST_F(Reading, WaitsForWhatIsHeldInWhateverCall) {
+  tear(kFile);
+  constexpr int kMoreThanAnyRead = 60;
+  for (int call = 0; call < kMoreThanAnyRead; ++call) {
+    tear(kFile);
+    in_.faulty.plan(call, Fault::Fails, Obstacle::Held);
+    EXPECT_EQ(read(kFile), kOld) << described(in_, call) << error_.message();
+    in_.faulty.plan(-1, Fault::None);
+    static_cast<void>(read(kFile));
+  }
+}
+
+}  // namespace
+}  // namespace brennet::test
