@@ -54,6 +54,7 @@ HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD sharing, SECURITY_ATT
   static auto* const real = systems<decltype(CreateFileW)>("CreateFileW");
   const bool isNew = creation == CREATE_NEW;
   if (!isNew && failsInPassing(passingFaults.opening)) return INVALID_HANDLE_VALUE;
+  if (!isNew) passingFaults.isAboutToGo = false;
   if ((!isNew || !faults.newFiles) && !faults.failsNow()) {
     return real(name, access, sharing, security, creation, flags, like);
   }
@@ -150,7 +151,7 @@ BOOL WINAPI deleteFile(LPCWSTR name) {
 
 DWORD WINAPI attributesOf(LPCWSTR name) {
   static auto* const real = systems<decltype(GetFileAttributesW)>("GetFileAttributesW");
-  if (passingFaults.isAboutToGo && passingFaults.opening > 0) {
+  if (passingFaults.isAboutToGo) {
     SetLastError(ERROR_ACCESS_DENIED);
     return INVALID_FILE_ATTRIBUTES;
   }

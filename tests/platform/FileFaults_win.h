@@ -25,7 +25,7 @@ struct PassingFaults {
   int replacing = 0;         // ...ReplaceFileW...
   int deleting = 0;          // ...DeleteFileW
   int reading = 0;           // ...ReadFile
-  bool isAboutToGo = false;  // while opening fails, nobody is told the attributes of a file
+  bool isAboutToGo = false;  // until opening works, nobody is told the attributes of a file
 };
 
 extern PassingFaults passingFaults;

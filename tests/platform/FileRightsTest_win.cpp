@@ -93,11 +93,10 @@ TEST(TheAccessList, OfAPrivateFolderOpensItToNobodyElse) {
     const wchar_t* list;
     Obstacle obstacle;
   };
-  // WD: everybody; BU: the users; SY: the system; BA: the administrators.
+  // WD: everybody; SY: the system; BA: the administrators.
   constexpr Row kRows[] = {
       {L"D:P(A;OICI;FA;;;WD)", Obstacle::Denied},
       {L"D:P(A;;FR;;;WD)(A;;FA;;;BA)", Obstacle::Denied},
-      {L"D:P(A;;FA;;;BU)(A;;FA;;;BA)", Obstacle::Denied},
       {L"D:P(A;;FA;;;SY)(A;;FA;;;BA)", Obstacle::None},
   };
   for (const Row& row : kRows) {

@@ -126,6 +126,9 @@ TEST(Replacing, WritesBesideAProgramThatWritesAndLetsOthersDoSo) {
       EXPECT_FALSE(replaceFile(folder / "f", "new")) << sharing;
     }
     EXPECT_EQ(readBytes(folder / "f"), "new") << sharing;
+    // What the program has open goes when it does not any more.
+    std::string read;
+    EXPECT_FALSE(readFile(folder / "f", read, kAnySize)) << sharing;
     EXPECT_EQ(folder.listing(), "f\n") << sharing;
   }
 }
