@@ -34,7 +34,8 @@ class IBrennet {
   // path for every later save, also when the load fails. A successful load rewrites the hotkey
   // sections of the game's preference file.
   // Returns false, with the defaults in place, when the file is missing, unreadable or damaged; the
-  // quick-chat phrases, quick-cast marks and left-Alt switches of an earlier load stay then.
+  // quick-chat phrases, quick-cast marks and left-Alt switches of an earlier load stay then. Where
+  // memory runs out for the path itself, there is no path then, and saves fail until the next load.
   // False with nothing changed when `path` is null.
   virtual bool BRENNET_CALL LoadSettings(const wchar_t* path) = 0;
 
