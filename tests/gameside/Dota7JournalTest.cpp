@@ -2,9 +2,12 @@
 // out of scope leaves behind what a process does that is killed.
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "gameside/Dota7Journal.h"
 #include "platform/Checksum.h"
+#include "platform/OpenFile.h"
 #include "tests/gameside/Dota7Test.h"
 
 namespace brennet::test {
@@ -246,12 +249,60 @@ TEST_F(Dota7Runs, PassOverAJournalThatIsDamaged) {
   EXPECT_EQ(registry.content(), edited);
 }
 
+TEST_F(Dota7Runs, AreLeftToALaterOneWhereTheJournalCannotBeRead) {
+  auto run = newRun();
+  edit(*run);
+  run.reset();
+  const RegFile edited = registry.content();
+  {
+    platform::FileSystem& system = platform::operatingSystem();
+    platform::OpenFile file(system);
+    ASSERT_FALSE(file.open(system.privateFolder() / nameOf('0'), platform::OpenFor::Writing));
+    ASSERT_FALSE(file.lock(platform::Sharing::Alone));
+    run = newRun();
+    EXPECT_EQ(registry.content(), edited);
+  }
+  run = newRun();
+  EXPECT_EQ(registry.content(), before);
+  EXPECT_FALSE(isAnyThere());
+}
+
 TEST_F(Dota7Runs, HaveOneJournalForAllThatAResetChanges) {
   auto run = newRun();
   edit(*run);
   run->settings().reset();
   run.reset();
   run = newRun();
+  EXPECT_EQ(registry.content(), before);
+}
+
+TEST_F(Dota7Runs, HaveEightJournalsAtOnce) {
+  std::vector<std::unique_ptr<Manager>> runs;
+  for (const char number : {'0', '1', '2', '3', '4', '5', '6', '7'}) {
+    const std::u16string name =
+        u"edt_SOnStartString" + std::u16string(1, static_cast<char16_t>(number));
+    EXPECT_FALSE(platform::PrivateFile().isThere(nameOf(number))) << number;
+    runs.push_back(newRun());
+    runs.back()->settings().setPhrase(*findDota7Phrase(name), u"new");
+    EXPECT_TRUE(platform::PrivateFile().isThere(nameOf(number))) << number;
+  }
+  runs.clear();
+  runs.push_back(newRun());
+  EXPECT_EQ(registry.content(), before);
+  EXPECT_FALSE(isAnyThere());
+}
+
+TEST_F(Dota7Runs, HaveNoJournalBeforeThereIsAnythingToUndo) {
+  Dota7Change change;
+  change.keyPath = kDota7ControlPath;
+  change.valueName = u"HStopKeyCode";
+  change.value = 'S';  // as it is
+  manager.writeValue(change);
+  EXPECT_FALSE(isAnyThere());
+  change.value = 'T';
+  manager.writeValue(change);
+  EXPECT_TRUE(isAnyThere());
+  manager.cancelChanges();
   EXPECT_EQ(registry.content(), before);
 }
 

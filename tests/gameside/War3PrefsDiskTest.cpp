@@ -108,11 +108,12 @@ TEST(PrefsOnDisk, StayTheSameHoweverOftenTheyAreWritten) {
 TEST(PrefsOnDisk, AreLeftAloneWhereTheyAreTooLarge) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
-  std::filesystem::resize_file(folder / kName, War3PrefsFile::kLargestFile + 1);
+  constexpr std::uint64_t kTooLarge = 268'435'457;  // bytes: one more than 256 MiB
+  std::filesystem::resize_file(folder / kName, kTooLarge);
   War3PrefsFile file(folder / kName);
   file.addHotkeySection({});
   EXPECT_FALSE(file.save());
-  EXPECT_EQ(std::filesystem::file_size(folder / kName), War3PrefsFile::kLargestFile + 1);
+  EXPECT_EQ(std::filesystem::file_size(folder / kName), kTooLarge);
 }
 
 TEST(PrefsOnDisk, FailQuietlyWhereAFolderStandsInTheirPlace) {

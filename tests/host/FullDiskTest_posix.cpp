@@ -1,6 +1,5 @@
-#include <sys/resource.h>
-
 #include "tests/host/HostFixture.h"
+#include "tests/support/ScopedFileLimit_posix.h"
 
 namespace brennet {
 namespace {
@@ -11,20 +10,7 @@ using FullDiskTest = HostFixture;
 
 // A limit on the size of files stands for a full disk: the write stops half-way. The host does
 // nothing about the signal with which the system would end it.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t room) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{room, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
-};
+using FullDisk = ScopedFileLimit;
 
 TEST_F(FullDiskTest, KeepsTheOldFileWhole) {
   const std::string before = readBytes(settings_);

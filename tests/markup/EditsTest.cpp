@@ -176,6 +176,20 @@ TEST(AddElem, PlacesElementsBetweenOthers) {
   for (const EditCase& test : kCases) expectEdits(test);
 }
 
+// No padding where there is text, and there may not have been any.
+TEST(AddElem, LooksForTextAgainOnceTheContentIsSet) {
+  MarkupDocument document;
+  ASSERT_TRUE(document.addElem(u"a"));
+  ASSERT_TRUE(document.addElem(u"b", {}, kChild));
+  EXPECT_EQ(document.doc(), u"<a>\r\n<b/>\r\n</a>\r\n");
+  ASSERT_TRUE(document.setData(u"1"));
+  ASSERT_TRUE(document.addElem(u"b", {}, kChild));
+  EXPECT_EQ(document.doc(), u"<a>1<b/></a>\r\n");
+  ASSERT_TRUE(document.setData(u""));
+  ASSERT_TRUE(document.addElem(u"b", {}, kChild));
+  EXPECT_EQ(document.doc(), u"<a>\r\n<b/>\r\n</a>\r\n");
+}
+
 TEST(AddElem, MovesThePositionToTheNewElement) {
   MarkupDocument document;
   ASSERT_TRUE(document.addElem(u"root"));

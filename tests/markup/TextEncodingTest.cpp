@@ -49,6 +49,7 @@ TEST(TextEncoding, KeepsMarkAndByteOrderOfTheFileItCameFrom) {
   EXPECT_EQ(encodeText(u"<", u"utf-16", log, {1201, false}), "\0<"sv);
   EXPECT_EQ(encodeText(u"<", u"utf-16", log, {1200, false}), "<\0"sv);
   EXPECT_EQ(encodeText(u"<", u"utf-32", log, {12001, true}), "\0\0\xFE\xFF\0\0\0<"sv);
+  EXPECT_EQ(encodeText(u"", u"utf-32", log, {12000, false}), "");
   EXPECT_EQ(encodeText(u"<", u"utf-16", log, {65001, false}), "\xFF\xFE<\0"sv)
       << "a text that changes its encoding is as good as new";
   EXPECT_EQ(encodeText(u"<", u"gb2312", log, {65001, true}), "<");

@@ -61,6 +61,7 @@ constexpr PageRow kPages[] = {
     {50221, Shape::Other, "\x61\x1B\x24\x42\x46\x7C\x1B\x28\x42\x62", u"a\u65E5b"},
     {50222, Shape::Other, "\x61\x1B\x24\x42\x46\x7C\x1B\x28\x42\x62", u"a\u65E5b"},
     {50225, Shape::Other, "\x61\x1B\x24\x29\x43\x0E\x47\x51\x0F", u"a\uD55C"},
+    {50227, Shape::Other, "\x61\x1B\x24\x29\x41\x0E\x50\x3B\x0F\x62", u"a\u8C22b"},
     {51936, Shape::Other, "\xD0\xBB", u"\u8C22"},
     {51949, Shape::Other, "\xC7\xD1", u"\uD55C"},
     {52936, Shape::Other, "\x61\x7E\x7B\x50\x3B\x7E\x7D\x62", u"a\u8C22b"},

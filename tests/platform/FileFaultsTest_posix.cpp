@@ -1,11 +1,14 @@
-// What others do between two calls of ours.
+// What others do between two calls of ours, and what a file system cannot do.
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <cerrno>
 #include <functional>
 #include <utility>
 
 #include "platform/FileSystem.h"
+#include "platform/Files.h"
 #include "tests/platform/FileFaultsFixture.h"
 #include "tests/platform/FileFaults_posix.h"
 
@@ -72,6 +75,29 @@ TEST_F(AMovedFile, HasItsOldNameAfterHalfAMove) {
   test::lacking = test::Lacking();
   EXPECT_TRUE(error);
   EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+using TheMode = test::FileFaultsFixture;
+
+// Where there may be a list that could not be asked for, the file stays its owner's alone.
+TEST_F(TheMode, IsKeptWhereNoFileHasAnAccessList) {
+  struct Row {
+    int error;
+    mode_t mode;
+  };
+  constexpr Row kRows[] = {{0, 0640}, {EOPNOTSUPP, 0640}, {ENODATA, 0640}, {EIO, 0600}};
+  for (const Row& row : kRows) {
+    writeBytes(path(), "old");
+    ASSERT_EQ(chmod(path().c_str(), 0640), 0);
+    test::attributeError = row.error;
+    const std::error_code error = replaceFile(path(), "new");
+    test::attributeError = 0;
+    EXPECT_FALSE(error) << row.error;
+    EXPECT_EQ(readBytes(path()), "new") << row.error;
+    struct stat status {};
+    ASSERT_EQ(lstat(path().c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, row.mode) << row.error;
+  }
 }
 
 }  // namespace

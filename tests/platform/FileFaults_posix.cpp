@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/types.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -21,9 +22,11 @@ mode_t writtenModes = 0;
 const int kDeviceError = EIO;
 std::function<void()> beforeStatus;
 Lacking lacking;
+int attributeError = 0;
 
 }  // namespace brennet::test
 
+using brennet::test::attributeError;
 using brennet::test::faults;
 using brennet::test::lacking;
 
@@ -51,6 +54,8 @@ int __real_link(const char* from, const char* to);
 int __real_unlink(const char* path);
 int __real_fstat(int file, struct stat* status);
 int __real_fchmod(int file, mode_t mode);
+ssize_t __real_lgetxattr(const char* path, const char* name, void* value, size_t size);
+int __real_fremovexattr(int file, const char* name);
 
 int __wrap_open(const char* path, int flags, ...) {
   va_list arguments;
@@ -107,6 +112,13 @@ int __wrap_fstat(int file, struct stat* status) {
 }
 int __wrap_fchmod(int file, mode_t mode) {
   return faults.failsNow() ? failWith(EPERM) : __real_fchmod(file, mode);
+}
+ssize_t __wrap_lgetxattr(const char* path, const char* name, void* value, size_t size) {
+  if (attributeError != 0) return failWith(attributeError);
+  return __real_lgetxattr(path, name, value, size);
+}
+int __wrap_fremovexattr(int file, const char* name) {
+  return attributeError != 0 ? failWith(attributeError) : __real_fremovexattr(file, name);
 }
 
 }  // extern "C"

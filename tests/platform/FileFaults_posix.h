@@ -16,4 +16,8 @@ struct Lacking {
 };
 extern Lacking lacking;
 
+// What asking for an attribute of a file, such as its access list, and taking one away fail with;
+// 0: nothing.
+extern int attributeError;
+
 }  // namespace brennet::test

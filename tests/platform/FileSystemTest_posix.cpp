@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <climits>
 #include <csignal>
 #include <cstdlib>
@@ -359,6 +360,16 @@ TEST(Writing, LeavesAPendingSignalToTheHost) {
   sigset_t blocked;
   ASSERT_EQ(pthread_sigmask(SIG_SETMASK, &before, &blocked), 0);
   EXPECT_EQ(sigismember(&blocked, SIGXFSZ), 1);
+}
+
+// No system says why a write of some bytes took none of them.
+TEST(Writing, FailsAsOnAFullDiskWhereNothingIsTaken) {
+  const TempFolder folder;
+  const Opened file(folder / "f", OpenFor::New);
+  std::size_t count = 0;
+  errno = 0;
+  EXPECT_EQ(sys().write(file.handle(), 0, "", count).code, std::errc::no_space_on_device);
+  EXPECT_EQ(count, 0U);
 }
 
 TEST(Reserving, LeavesTheSizeAlone) {

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -11,6 +10,7 @@
 #include <string>
 
 #include "platform/Files.h"
+#include "tests/support/ScopedFileLimit_posix.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {
@@ -111,22 +111,6 @@ TEST(ReadFile, TellsAMissingFileFromOneThatIsThere) {
   EXPECT_FALSE(isMissing(std::error_code()));
 }
 
-// No file that this process writes can be longer.
-class ScopedFileLimit {
- public:
-  explicit ScopedFileLimit(rlim_t size) {
-    EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &before_), 0);
-    const rlimit limit{size, before_.rlim_max};
-    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-  }
-  ~ScopedFileLimit() { EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &before_), 0); }
-  ScopedFileLimit(const ScopedFileLimit&) = delete;
-  ScopedFileLimit& operator=(const ScopedFileLimit&) = delete;
-
- private:
-  rlimit before_{};
-};
-
 // The system would end the process by a signal.
 TEST(ReplaceFile, OutlivesALimitForFiles) {
   const TempFolder folder;
@@ -134,7 +118,7 @@ TEST(ReplaceFile, OutlivesALimitForFiles) {
   ASSERT_EQ(link((folder / "f").c_str(), (folder / "second").c_str()), 0);
   const std::string large(5000, 'n');
   for (const char* const name : {"f", "other"}) {
-    const ScopedFileLimit limit(1000);
+    const test::ScopedFileLimit limit(1000);
     EXPECT_EQ(replaceFile(folder / name, large), std::errc::file_too_large) << name;
   }
   EXPECT_EQ(folder.listing(), "f\nsecond\n");

@@ -12,6 +12,7 @@
 #include "platform/KeptFiles.h"
 #include "platform/Patience.h"
 #include "platform/Replacement.h"
+#include "tests/support/OpenHandles.h"
 #include "tests/support/PassingFileSystem.h"
 #include "tests/support/TempFolder.h"
 
@@ -31,7 +32,8 @@ std::vector<std::string> keptFiles(const TempFolder& folder) {
   return names;
 }
 
-// A system that counts what is read, and may refuse second names, new files, and exchanges.
+// A system that counts what is read, may refuse second names, new files, and exchanges, and tells
+// so many times that somebody is writing what is to be read.
 class Reluctant : public test::PassingFileSystem {
  public:
   FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
@@ -55,10 +57,19 @@ class Reluctant : public test::PassingFileSystem {
     return takesMoves ? PassingFileSystem::move(from, to) : refusal();
   }
 
+  FileError lock(FileHandle file, Sharing sharing) override {
+    if (sharing == Sharing::Together && timesHeld-- > 0) {
+      return {Obstacle::Held, std::make_error_code(std::errc::resource_unavailable_try_again)};
+    }
+    return PassingFileSystem::lock(file, sharing);
+  }
+  void pause() override {}
+
   bool takesLinks = true;
   bool takesNewFiles = true;
   bool takesExchanges = true;
   bool takesMoves = true;
+  int timesHeld = 0;
   std::size_t largestRead = 0;
 
  private:
@@ -122,6 +133,21 @@ TEST(KeptFiles, AreCopiedInPiecesWhereThereAreNoSecondNames) {
   ASSERT_EQ(keptFiles(folder).size(), 1U);
   EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), std::string(kMoreThanAPiece, 'd') + "end");
   EXPECT_EQ(folder.listing(), "f\n" + keptFiles(folder)[0] + "\n");
+}
+
+TEST(KeptFiles, AreCopiedOnceNobodyWritesTheFile) {
+  const TempFolder folder;
+  Reluctant system;
+  Patience patience;
+  system.takesLinks = false;
+  system.timesHeld = 3;
+  writeBytes(folder / "f", "damaged");
+  const std::size_t before = test::openHandles();
+  EXPECT_FALSE(replaceFileOn(system, patience, folder / "f", "new", OldContent::Keep));
+  EXPECT_EQ(test::openHandles(), before);
+  EXPECT_LT(system.timesHeld, 0);
+  ASSERT_EQ(keptFiles(folder).size(), 1U);
+  EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), "damaged");
 }
 
 TEST(KeptFiles, AreCopiesOfWhatIsWrittenInPlace) {

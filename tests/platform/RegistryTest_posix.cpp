@@ -6,6 +6,7 @@
 
 #include "platform/Registry.h"
 #include "platform/RegistryEditor.h"
+#include "tests/support/ScopedFileLimit_posix.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {
@@ -75,6 +76,23 @@ TEST_F(RegistryFile, IsToldFromOthersByItsPlace) {
   EXPECT_EQ(registryIdentity(), (folder_ / "none/registry.reg").native());
   unsetenv(kVariable);
   EXPECT_EQ(registryIdentity(), "");
+}
+
+TEST_F(RegistryFile, HasNotTakenWhatCouldNotBeWritten) {
+  EXPECT_TRUE(importSeed());
+  const std::string before = readBytes(folder_ / "registry.reg");
+  RegistryKey key(u"Software\\A");
+  bool isWritten = true;
+  bool isRemoved = true;
+  {
+    const test::ScopedFileLimit limit(10);
+    isWritten = key.write(u"N", dwordValue(2));
+    isRemoved = key.remove(u"N");
+  }
+  EXPECT_FALSE(isWritten);
+  EXPECT_FALSE(isRemoved);
+  EXPECT_EQ(key.read(u"N").value, dwordValue(1));
+  EXPECT_EQ(readBytes(folder_ / "registry.reg"), before);
 }
 
 TEST_F(RegistryFile, KeepsItsContentWhereTheKeyGoesUnderTheHandsOfAWriter) {

@@ -6,11 +6,14 @@
 
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 #include "platform/FileSystem.h"
 #include "platform/Files.h"
+#include "platform/InPlaceWrite.h"
 #include "platform/KeptWrite.h"
 #include "platform/OpenFile.h"
+#include "tests/support/PassingFileSystem.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {
@@ -166,6 +169,58 @@ TEST(ATornFile, WaitsForTheProcessThatIsWritingIt) {
   EXPECT_TRUE(replaceFile(folder / "f", "newer"));
   EXPECT_FALSE(kept.discard());
   EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
+}
+
+// A system on which writing one file fails so many times, after a part of the first write.
+class AFailingFile : public test::PassingFileSystem {
+ public:
+  AFailingFile(Path path, int failures) : path_(std::move(path)), failures_(failures) {}
+
+  FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
+    const FileError error = PassingFileSystem::open(path, purpose, file, facts);
+    if (!error && path == path_ && purpose == OpenFor::Writing) file_ = file;
+    return error;
+  }
+  FileError write(FileHandle file, std::uint64_t offset, std::string_view bytes,
+                  std::size_t& count) override {
+    if (file != file_) return PassingFileSystem::write(file, offset, bytes, count);
+    if (!std::exchange(isTorn_, true)) {
+      return PassingFileSystem::write(file, offset, bytes.substr(0, bytes.size() / 2), count);
+    }
+    if (failures_-- > 0) return {Obstacle::Other, std::make_error_code(std::errc::io_error)};
+    return PassingFileSystem::write(file, offset, bytes, count);
+  }
+
+ private:
+  Path path_;
+  int failures_;
+  FileHandle file_ = kNoFile;
+  bool isTorn_ = false;
+};
+
+struct FailureRow {
+  int failures;
+  const char* left;  // of the file
+  bool isKept;
+};
+
+// What the file held is kept as long as it could not be put back, and not a moment longer.
+TEST(AFailedWrite, KeepsTheOldContentUntilItIsPutBack) {
+  constexpr FailureRow kRows[] = {{1, "the old one", false}, {2, "the nld one", true}};
+  for (const FailureRow& row : kRows) {
+    const ScopedTemporaries temporaries;
+    const TempFolder folder;
+    writeBytes(folder / "f", "the old one");
+    AFailingFile system(folder / "f", row.failures);
+    Patience patience;
+    EXPECT_TRUE(writeInPlace(system, patience, folder / "f", "the new one"));
+    EXPECT_EQ(readBytes(folder / "f"), row.left);
+    EXPECT_EQ(pathExists(operatingSystem().privateFolder()), row.isKept) << row.failures;
+    std::string read;
+    EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
+    EXPECT_EQ(read, "the old one");
+    EXPECT_FALSE(pathExists(operatingSystem().privateFolder())) << row.failures;
+  }
 }
 
 }  // namespace
