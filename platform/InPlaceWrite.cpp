@@ -95,7 +95,7 @@ class InPlaceWrite {
     if (error.obstacle == Obstacle::Missing) return {};
     if (error) return error;
     // Somebody who wrote it by another name has ended meanwhile.
-    std::vector<Path> names;
+    std::vector<KeptWrite::Identity> names;
     if (const FileError failed = KeptWrite::find(system_, path_, names)) return failed;
     if (names.size() > 1) return busy();
     const FileError failed = readContent(system_, patience_, path_, old_);
@@ -123,8 +123,10 @@ class InPlaceWrite {
   std::optional<std::string> old_;
 };
 
-FileError undoByName(FileSystem& system, Patience& patience, const Path& path) {
-  KeptWrite kept(system, patience, path);
+// Undoes what was written into the file at `path` when it had the name `identity`.
+FileError undoByName(FileSystem& system, Patience& patience, const Path& path,
+                     const KeptWrite::Identity& identity) {
+  KeptWrite kept(system, patience, identity);
   if (!kept.isThere()) return {};
   if (const FileError error = kept.open()) {
     return error.obstacle == Obstacle::Exists ? FileError() : error;
@@ -154,16 +156,16 @@ FileError writeInPlace(FileSystem& system, Patience& patience, const Path& path,
 }
 
 FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path) {
-  std::vector<Path> names;
+  std::vector<KeptWrite::Identity> names;
   if (const FileError error = KeptWrite::find(system, path, names)) return error;
-  for (const Path& name : names) {
-    if (const FileError error = undoByName(system, patience, name)) return error;
+  for (const KeptWrite::Identity& name : names) {
+    if (const FileError error = undoByName(system, patience, path, name)) return error;
   }
   return {};
 }
 
 FileError findTornWrite(FileSystem& system, const Path& path, bool& isThere) {
-  std::vector<Path> names;
+  std::vector<KeptWrite::Identity> names;
   const FileError error = KeptWrite::find(system, path, names);
   isThere = !names.empty();
   return error;

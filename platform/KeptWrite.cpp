@@ -63,10 +63,10 @@ FileError nowhere() {
 
 }  // namespace
 
-KeptWrite::KeptWrite(FileSystem& system, Patience& patience, const Path& path)
+KeptWrite::KeptWrite(FileSystem& system, Patience& patience, const Identity& identity)
     : system_(system), patience_(patience), folder_(system.privateFolder()), opened_(system) {
   if (folder_.empty()) return;
-  file_ = bytesOf(system.identity(path));
+  file_ = bytesOf(identity.path);
   if (file_.empty()) return;
   parent_ = folder_.parent_path();
   name_ = keptName(folder_, file_);
@@ -76,25 +76,26 @@ KeptWrite::~KeptWrite() {
   if (!saysSomething_) static_cast<void>(discard());
 }
 
-FileError KeptWrite::find(FileSystem& system, const Path& path, std::vector<Path>& names) {
+FileError KeptWrite::find(FileSystem& system, const Path& path, std::vector<Identity>& names) {
   names.clear();
   const Path folder = system.privateFolder();
   if (!isAnyThere(system, folder)) return {};
-  const std::string identity = bytesOf(system.identity(path));
+  const Path ownIdentity = system.identity(path);
+  const std::string identity = bytesOf(ownIdentity);
   const Path own = keptName(folder, identity);
   std::optional<std::string> file;
   FileError error = readFileName(system, own, file);
   if (error) return error;
   const bool isOwnThere = system.look(own).kind == FileFacts::Kind::File;
   // One that has not been written yet will tell of the file that its name says.
-  if (isOwnThere && (!file || *file == identity)) names.push_back(path);
+  if (isOwnThere && (!file || *file == identity)) names.push_back({ownIdentity});
   system.list(folder, [&](const Path& entry) {
     if (error || entry.extension() != kEnding || folder / entry == own) return;
     file.reset();
     error = readFileName(system, folder / entry, file);
     if (!file || keptName(folder, *file) != folder / entry) return;
     const Path name = pathOf(*file);
-    if (system.isSameFile(name, path)) names.push_back(name);
+    if (system.isSameFile(name, path)) names.push_back({name});
   });
   return error;
 }

@@ -16,9 +16,18 @@ inline constexpr std::uint64_t kLargestInPlace = 64U << 20U;
 // written when it goes out of scope, it is removed.
 class KeptWrite {
  public:
+  // The name by which a file was or is to be written (FileSystem::identity).
+  struct Identity {
+    Path path;
+  };
+
   // For the file at `path`, by that name. Whom it meets it waits for with `patience`. Throws
   // std::bad_alloc.
-  KeptWrite(FileSystem& system, Patience& patience, const Path& path);
+  KeptWrite(FileSystem& system, Patience& patience, const Path& path)
+      : KeptWrite(system, patience, Identity{system.identity(path)}) {}
+  // For a file by the name that find() gave. It may no longer be the identity of any path: a folder
+  // may have moved, and a link to it have its name.
+  KeptWrite(FileSystem& system, Patience& patience, const Identity& identity);
   ~KeptWrite();
   KeptWrite(const KeptWrite&) = delete;
   KeptWrite& operator=(const KeptWrite&) = delete;
@@ -27,7 +36,7 @@ class KeptWrite {
   // `names` are those names, and empty as a rule. An error where that cannot be found out. Throws
   // std::bad_alloc.
   [[nodiscard]] static FileError find(FileSystem& system, const Path& path,
-                                      std::vector<Path>& names);
+                                      std::vector<Identity>& names);
   // Whether there is one; nobody has to be waited for where there is none.
   [[nodiscard]] bool isThere() const;
   // Opens the kept file, waiting for whoever has it; creates it and its folder where they are

@@ -74,12 +74,15 @@ TEST(TheSystem, FollowsLinksToTheEnd) {
 // A folder for temporary files of the test's own.
 class ScopedTemporaries {
  public:
-  ScopedTemporaries() { setenv("TMPDIR", folder_.path().c_str(), 1); }
-  ~ScopedTemporaries() { unsetenv("TMPDIR"); }
+  ScopedTemporaries() : before_(std::filesystem::temp_directory_path()) {
+    setenv("TMPDIR", folder_.path().c_str(), 1);
+  }
+  ~ScopedTemporaries() { setenv("TMPDIR", before_.c_str(), 1); }
   ScopedTemporaries(const ScopedTemporaries&) = delete;
   ScopedTemporaries& operator=(const ScopedTemporaries&) = delete;
 
  private:
+  Path before_;
   TempFolder folder_;
 };
 
@@ -113,6 +116,23 @@ TEST(ATornFile, IsPutRightByWhateverNameItIsRead) {
   std::string read;
   EXPECT_FALSE(readFile(folder / "second", read, kAnySize));
   EXPECT_EQ(read, "the old one");
+  EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
+}
+
+// The name by which it was written is still one of the file, but no longer the one that is found.
+TEST(ATornFile, IsPutRightWhereItsFolderHasMovedAndALinkHasItsName) {
+  const ScopedTemporaries temporaries;
+  const TempFolder folder;
+  std::filesystem::create_directory(folder / "a");
+  writeBytes(folder / "a" / "f", "the old one");
+  tear(folder / "a" / "f", "the new one");
+  std::filesystem::rename(folder / "a", folder / "b");
+  ASSERT_EQ(symlink("b", (folder / "a").c_str()), 0);
+  for (const char* const name : {"a", "b"}) {
+    std::string read;
+    EXPECT_FALSE(readFile(folder / name / "f", read, kAnySize)) << name;
+    EXPECT_EQ(read, "the old one") << name;
+  }
   EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
 }
 
