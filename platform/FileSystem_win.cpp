@@ -286,8 +286,15 @@ class WindowsFileSystem final : public FileSystem {
     return error;
   }
 
+  // A name that could not be removed again, because somebody lets nobody remove the file, is none.
   FileError link(const Path& path, const Path& second) override {
-    return ended(CreateHardLinkW(second.c_str(), path.c_str(), nullptr));
+    constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    HANDLE const file = CreateFileW(path.c_str(), DELETE, kAll, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return failure(GetLastError());
+    const FileError error = ended(CreateHardLinkW(second.c_str(), path.c_str(), nullptr));
+    CloseHandle(file);
+    return error;
   }
 
   // Both are open at the same time: the number of a file may be given anew when it is closed.

@@ -181,6 +181,8 @@ FileError KeptFiles::dropLinks() {
     return system_.look(name).kind == FileFacts::Kind::Nothing ? FileError() : error;
   };
   for (; !links_.empty(); links_.pop_back()) {
+    // Another process may have replaced the file meanwhile.
+    if (!system_.isSameFile(links_.back(), path_)) continue;
     if (const FileError error = drop(links_.back())) return error;
     isCopyForLinks_ = true;
   }
@@ -192,13 +194,15 @@ FileError KeptFiles::dropLinks() {
 
 void KeptFiles::stay() noexcept {
   const bool isKept = !link_.empty() || !copy_.empty();
+  // The same content, a second time; unless another process has replaced the file meanwhile.
+  for (const Path& name : links_) {
+    if (system_.isSameFile(name, link_)) static_cast<void>(system_.remove(name));
+  }
   link_.clear();
   copy_.clear();
   if (!isKept) return;
   const std::size_t tooMany = others_.size() - std::min(others_.size(), kMostKeptFiles - 1);
   for (std::size_t i = 0; i < tooMany; ++i) static_cast<void>(system_.remove(others_[i]));
-  // The same content, a second time.
-  for (const Path& name : links_) static_cast<void>(system_.remove(name));
 }
 
 }  // namespace brennet::platform

@@ -116,6 +116,22 @@ TEST(Replacing, WritesInPlaceWhereAReaderKeepsTheFile) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
+// A second name could not be taken away again as long as he has the file.
+TEST(Replacing, PutsTheOldFileAsideAsACopyWhereAReaderKeepsIt) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "a longer old content");
+  {
+    const Holder holder(folder / "f", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    EXPECT_FALSE(replaceFile(folder / "f", "new", OldContent::Keep));
+  }
+  EXPECT_EQ(readBytes(folder / "f"), "new");
+  const std::string listing = folder.listing();
+  ASSERT_TRUE(listing.starts_with("f\nf.kept-")) << listing;
+  const std::string kept = listing.substr(2, listing.find('\n', 2) - 2);
+  EXPECT_EQ(listing, "f\n" + kept + "\n");
+  EXPECT_EQ(readBytes(folder / kept), "a longer old content");
+}
+
 TEST(Replacing, WritesBesideAProgramThatWritesAndLetsOthersDoSo) {
   for (const DWORD sharing : {FILE_SHARE_READ | FILE_SHARE_WRITE,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE}) {
