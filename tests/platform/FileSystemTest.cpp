@@ -96,6 +96,7 @@ TEST(TheSystem, TellsWhichNamesAreThoseOfOneFile) {
   ASSERT_FALSE(system.link(folder / "f", folder / "second"));
   EXPECT_TRUE(system.isSameFile(folder / "f", folder / "second"));
   EXPECT_TRUE(system.isSameFile(folder / "second", folder / "f"));
+  EXPECT_TRUE(system.isSameFile(system.identity(folder / "f"), folder / "./second"));
   EXPECT_FALSE(system.isSameFile(folder / "f", folder / "g"));
   EXPECT_FALSE(system.isSameFile(folder / "f", folder / "missing"));
   EXPECT_FALSE(system.isSameFile(folder / "missing", folder / "missing"));
@@ -159,19 +160,6 @@ TEST(TheSystem, KnowsOneNameForAllSpellingsOfAPath) {
   EXPECT_EQ(operatingSystem().identity(folder / "a/../f"), plain);
   EXPECT_EQ(operatingSystem().identity(folder / "./f"), plain);
   EXPECT_NE(operatingSystem().identity(folder / "g"), plain);
-}
-
-TEST(TheSystem, KnowsAFileByAllItsNames) {
-  const TempFolder folder;
-  FileSystem& system = operatingSystem();
-  writeBytes(folder / "f", "content");
-  writeBytes(folder / "other", "content");
-  ASSERT_FALSE(system.link(folder / "f", folder / "second"));
-  EXPECT_TRUE(system.isSameFile(folder / "f", folder / "second"));
-  EXPECT_TRUE(system.isSameFile(system.identity(folder / "f"), folder / "./second"));
-  EXPECT_FALSE(system.isSameFile(folder / "f", folder / "other"));
-  EXPECT_FALSE(system.isSameFile(folder / "f", folder / "missing"));
-  EXPECT_FALSE(system.isSameFile(folder / "missing", folder / "missing"));
 }
 
 TEST(TheSystem, LocksAFileForThoseWhoAskForThat) {
