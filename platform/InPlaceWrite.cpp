@@ -1,5 +1,7 @@
 #include "platform/InPlaceWrite.h"
 
+#include <algorithm>
+
 #include "platform/KeptWrite.h"
 
 namespace brennet::platform {
@@ -82,6 +84,8 @@ class InPlaceWrite {
       return error;
     }
     error = overwrite(file_, bytes, old_ ? old_->size() : 0);
+    // A new name has to be on the disk before nothing tells any more that it may be missing.
+    if (!error && !old_) static_cast<void>(system_.flushFolder(path_.parent_path()));
     if (!error) error = kept_.discard();
     if (!error) return {};  // what was flushed is there, whatever closing says
     if (!putBack(system_, path_, file_, old_)) static_cast<void>(kept_.discard());
@@ -102,15 +106,21 @@ class InPlaceWrite {
     return !failed && !old_ ? busy() : failed;
   }
 
+  // The file is there then, so only the lock is asked for again.
   FileError create() {
-    const FileError error = openAlone(system_, patience_, file_, path_, OpenFor::Creating);
-    if (error || file_.facts().size == 0) return error;
-    // Somebody has made one since.
-    return {Obstacle::Exists, std::make_error_code(std::errc::file_exists)};
+    const FileError error =
+        retried(system_, patience_, [&] { return file_.open(path_, OpenFor::Creating); });
+    if (error) return error;
+    if (file_.facts().size != 0) {  // somebody has made one since
+      return {Obstacle::Exists, std::make_error_code(std::errc::file_exists)};
+    }
+    return orRemove(retried(system_, patience_, [&] { return file_.lock(Sharing::Alone); }));
   }
 
-  FileError reserve(std::uint64_t size) {
-    const FileError error = file_.reserve(size);
+  FileError reserve(std::uint64_t size) { return orRemove(file_.reserve(size)); }
+
+  // After an error, a file that there was not goes again.
+  FileError orRemove(const FileError& error) {
     if (error && !old_) static_cast<void>(putBack(system_, path_, file_, old_));
     return error;
   }
@@ -167,7 +177,8 @@ FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path
 FileError findTornWrite(FileSystem& system, const Path& path, bool& isThere) {
   std::vector<KeptWrite::Identity> names;
   const FileError error = KeptWrite::find(system, path, names);
-  isThere = !names.empty();
+  isThere = std::any_of(names.begin(), names.end(),
+                        [](const KeptWrite::Identity& name) { return name.isWritten; });
   return error;
 }
 

@@ -88,14 +88,14 @@ FileError KeptWrite::find(FileSystem& system, const Path& path, std::vector<Iden
   if (error) return error;
   const bool isOwnThere = system.look(own).kind == FileFacts::Kind::File;
   // One that has not been written yet will tell of the file that its name says.
-  if (isOwnThere && (!file || *file == identity)) names.push_back({ownIdentity});
+  if (isOwnThere && (!file || *file == identity)) names.push_back({ownIdentity, file.has_value()});
   system.list(folder, [&](const Path& entry) {
     if (error || entry.extension() != kEnding || folder / entry == own) return;
     file.reset();
     error = readFileName(system, folder / entry, file);
     if (!file || keptName(folder, *file) != folder / entry) return;
     const Path name = pathOf(*file);
-    if (system.isSameFile(name, path)) names.push_back({name});
+    if (system.isSameFile(name, path)) names.push_back({name, true});
   });
   return error;
 }

@@ -19,6 +19,7 @@ class KeptWrite {
   // The name by which a file was or is to be written (FileSystem::identity).
   struct Identity {
     Path path;
+    bool isWritten = false;  // whether the kept file says something; only find() knows
   };
 
   // For the file at `path`, by that name. Whom it meets it waits for with `patience`. Throws

@@ -148,6 +148,10 @@ void ModelFileSystem::change(Change change) {
 FileError ModelFileSystem::mayName(const Path& path) const {
   const NodePointer folder = nodeAt(folderOf(path));
   if (folder == nullptr || folder->kind != Kind::Folder) return failureOf(Obstacle::Missing);
+  const bool isLong = path.filename().native().size() > 1;
+  if (isLong && nature.shortNames.contains(folderOf(path))) {
+    return {Obstacle::Other, std::make_error_code(std::errc::filename_too_long)};
+  }
   return failureOf(nature.closedFolders.contains(folderOf(path)) ? Obstacle::Denied
                                                                  : Obstacle::None);
 }

@@ -31,6 +31,7 @@ class ModelFileSystem final : public FileSystem {
   // What is different about a place.
   struct Nature {
     std::set<Path> closedFolders;  // take no new names
+    std::set<Path> shortNames;     // folders that take names of one letter only
     std::set<Path> mounts;         // files that nothing can take the place of
     std::map<Path, int> busy;      // for so many pauses another program has the file
     bool twoSteps = false;         // exchange() moves the old file away first

@@ -36,6 +36,8 @@ struct Setting {
 const Setting kSettings[] = {
     {"AFile", [](ModelFileSystem& s) { s.makeFile(kFile, kOld); }, kOld},
     {"NoFile", [](ModelFileSystem&) {}, kNone},
+    {"NoFileWhereNamesAreShort", [](ModelFileSystem& s) { s.nature.shortNames.insert(kFolder); },
+     kNone},
     {"InTwoSteps",
      [](ModelFileSystem& s) {
        s.makeFile(kFile, kOld);
