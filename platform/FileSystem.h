@@ -105,9 +105,11 @@ class FileSystem {
   // an error everything is as it was; after Halfway the old file is `backup`, nothing is `path`,
   // and the new file has its own name.
   virtual FileError exchange(const Path& replacement, const Path& path, const Path& backup) = 0;
-  // Gives the file `path` a second name, which must be free (else Exists).
+  // Gives the file `path` a second name, which must be free (else Exists). Held where somebody has
+  // the file in a way in which that name could not be removed again.
   virtual FileError link(const Path& path, const Path& second) = 0;
-  // Whether two names are those of one file. No where that cannot be found out.
+  // Whether two names are those of one file; a symbolic link is a file of its own. No where that
+  // cannot be found out.
   virtual bool isSameFile(const Path& a, const Path& b) = 0;
   virtual FileError remove(const Path& path) = 0;
   // Removes a file that is open for Keeping, at `path`, before anybody else can open it; it goes at

@@ -9,6 +9,8 @@
 namespace brennet::platform {
 namespace {
 
+constexpr int kTries = 10;  // with another temporary file each
+
 bool isFile(FileSystem& system, const Path& path) {
   return system.look(path).kind == FileFacts::Kind::File;
 }
@@ -72,7 +74,7 @@ class Replacement {
         bytes_(bytes) {}
 
   Outcome run() {
-    for (int i = 0; i <= Patience::kPauses; ++i) {
+    for (int tries = 0; tries < kTries; ++tries) {
       TemporaryFile temporary(system_, patience_);
       const FileError error =
           temporary.create(path_, target_.isThere ? OpenFor::NewAndPrivate : OpenFor::New);
@@ -184,7 +186,7 @@ FileError replaceAt(FileSystem& system, Patience& patience, const Path& path,
                     std::string_view bytes, const Target& target, OldContent old, KeptFiles& kept) {
   const bool isShared = target.names > 1 + kept.links();
   if (!target.isLink && !isShared) {
-    if (old == OldContent::Keep) kept.keep();
+    if (old == OldContent::Keep && target.isThere) kept.keep();
     const Outcome outcome = Replacement(system, patience, path, target, bytes).run();
     if (outcome.way == Way::Gone) return outcome.error;
   }

@@ -79,6 +79,9 @@ TEST_P(WaitingFor, AddsUpToOnePatience) {
   begin();
   static_cast<void>(replaceFile(kFile, "new"));
   EXPECT_LE(pauses(), Patience::kPauses);
+  begin();
+  static_cast<void>(replaceFile(kFile, "new", OldContent::Keep));
+  EXPECT_LE(pauses(), Patience::kPauses);
 }
 
 TEST_P(WaitingFor, AddsUpOverOperationsThatShareOne) {
