@@ -3,20 +3,14 @@
 
 include(CMakePackageConfigHelpers)
 
-# The public headers under the names that a host includes. The copies in the build tree let the
-# sample host say <brennet/IBrennet.h> here as it does in the package.
-set(public_headers host/IBrennet.h model/HotkeyBlock.h)
-foreach(header IN LISTS public_headers)
-  get_filename_component(name "${header}" NAME)
-  configure_file("${PROJECT_SOURCE_DIR}/${header}" "${PROJECT_BINARY_DIR}/include/brennet/${name}"
-    COPYONLY)
-endforeach()
-install(FILES ${public_headers} DESTINATION include/brennet)
+# The public headers, which are included as <brennet/IBrennet.h> everywhere.
+install(DIRECTORY host/include/ model/include/ DESTINATION include)
 
 add_library(brennet_headers INTERFACE)
 add_library(Brennet::Headers ALIAS brennet_headers)
 target_include_directories(brennet_headers INTERFACE
-  "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>" "$<INSTALL_INTERFACE:include>")
+  "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/host/include;${PROJECT_SOURCE_DIR}/model/include>"
+  "$<INSTALL_INTERFACE:include>")
 set_target_properties(brennet_headers PROPERTIES EXPORT_NAME Headers)
 
 # Who links the library sees the public headers, and none of the sources'.

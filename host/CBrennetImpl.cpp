@@ -8,7 +8,7 @@
 #include <limits>
 #include <utility>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "host/LoadTrace.h"
 #include "host/ProcessConfigs.h"
 #include "host/WideText.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/IBrennet.h"
+#include "brennet/IBrennet.h"
 #include "model/HotkeyConfig.h"
 #include "platform/Files.h"
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "markup/BucketTable.h"
 #include "markup/MarkupTokenizer.h"
 #include "markup/Names.h"
 #include "markup/StartTag.h"
+#include "markup/text/BucketTable.h"
 
 namespace brennet {
 namespace {

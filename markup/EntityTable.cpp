@@ -1,6 +1,6 @@
 #include "markup/EntityTable.h"
 
-#include "markup/BucketTable.h"
+#include "markup/text/BucketTable.h"
 
 namespace brennet {
 namespace {

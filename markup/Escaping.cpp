@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "markup/EntityTable.h"
-#include "markup/Utf16.h"
+#include "markup/text/Utf16.h"
 
 namespace brennet {
 namespace {

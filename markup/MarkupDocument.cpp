@@ -8,7 +8,7 @@
 #include "markup/MarkupParser.h"
 #include "markup/Names.h"
 #include "markup/StartTag.h"
-#include "markup/TextFile.h"
+#include "markup/text/TextFile.h"
 
 namespace brennet {
 

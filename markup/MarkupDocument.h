@@ -8,8 +8,8 @@
 
 #include "markup/ElementIndex.h"
 #include "markup/ResultLog.h"
-#include "markup/TextDecoding.h"
-#include "markup/TextForm.h"
+#include "markup/text/TextDecoding.h"
+#include "markup/text/TextForm.h"
 #include "platform/Files.h"
 
 namespace brennet {

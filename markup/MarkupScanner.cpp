@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "markup/Sse2.h"
+#include "markup/text/Sse2.h"
 
 namespace brennet {
 namespace {

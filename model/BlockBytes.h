@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <span>
 
+#include "brennet/HotkeyBlock.h"
 #include "keys/KeyWord.h"
-#include "model/HotkeyBlock.h"
 
 namespace brennet {
 

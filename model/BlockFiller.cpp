@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "markup/Utf8.h"
+#include "markup/text/Utf8.h"
 #include "model/BlockBytes.h"
 #include "model/KeyConflicts.h"
 #include "model/SettingTable.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/HotkeyBlock.h"
+#include "brennet/HotkeyBlock.h"
 #include "model/HotkeyConfig.h"
 
 namespace brennet {

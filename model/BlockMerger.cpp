@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "markup/Utf8.h"
+#include "markup/text/Utf8.h"
 #include "model/BlockBytes.h"
 #include "model/KeyAssignment.h"
 #include "model/KeyConflicts.h"

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "gameside/War3PrefsFile.h"
+#include "gameside/prefs/War3PrefsFile.h"
 #include "model/BlockBytes.h"
 #include "model/BlockFiller.h"
 #include "model/CardPositions.h"

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "brennet/HotkeyBlock.h"
 #include "keys/KeyWord.h"
-#include "model/HotkeyBlock.h"
 #include "model/HotkeyScheme.h"
 #include "model/LoadReport.h"
 #include "platform/Files.h"

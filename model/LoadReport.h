@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "markup/TextPosition.h"
+#include "markup/text/TextPosition.h"
 #include "model/KeyConflicts.h"
 #include "model/KeySlot.h"
 

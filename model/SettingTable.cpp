@@ -1,6 +1,6 @@
 #include "model/SettingTable.h"
 
-#include "model/HotkeyBlock.h"
+#include "brennet/HotkeyBlock.h"
 
 namespace brennet {
 namespace {

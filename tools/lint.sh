@@ -18,8 +18,8 @@ tidy() { # BUILD_FOLDER ARGUMENT...
 }
 
 lint_native() {
-  find platform keys markup gameside model ui host samples -name '*_win.cpp' -prune -o \
-    -name '*.cpp' -print0 | tidy "$1"
+  find platform keys markup gameside model ui host samples tools/skin \
+    -path platform/win -prune -o -name '*.cpp' -print0 | tidy "$1"
 }
 
 lint_windows() {
@@ -27,7 +27,7 @@ lint_windows() {
   headers=$(i686-w64-mingw32-g++-posix -print-search-dirs | sed -n 's/^install: //p')include/c++
   mkdir -p "$commands"
   sed 's/ -fno-keep-inline-dllexport//' "$1/compile_commands.json" >"$commands/compile_commands.json"
-  find platform ui samples -name '*_win.cpp' -print0 |
+  find platform/win -name '*.cpp' -print0 |
     tidy "$commands" --extra-arg=--target=i686-w64-mingw32 \
       --extra-arg=-isystem"$headers" --extra-arg=-isystem"$headers/i686-w64-mingw32" \
       --extra-arg=-Wno-ignored-optimization-argument

@@ -8,8 +8,8 @@
 #include <new>
 #include <utility>
 
-#include "gameside/Dota7KeyInfoManager.h"
-#include "gameside/RegistryImport.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
+#include "gameside/dota7/RegistryImport.h"
 #include "model/HotkeyConfig.h"
 #include "model/LoadReport.h"
 #include "ui/capture/SlotText.h"

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "markup/MarkupDocument.h"
-#include "markup/TextEncoding.h"
+#include "markup/text/TextEncoding.h"
 
 namespace brennet::bench {
 namespace {

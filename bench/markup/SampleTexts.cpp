@@ -5,8 +5,8 @@
 #include <random>
 #include <utility>
 
-#include "markup/DoubleByteCodec.h"
-#include "markup/Utf8.h"
+#include "markup/text/DoubleByteCodec.h"
+#include "markup/text/Utf8.h"
 
 namespace brennet::bench {
 namespace {

@@ -10,8 +10,8 @@
 
 #include "bench/model/SampleSettings.h"
 #include "markup/MarkupDocument.h"
-#include "markup/TextEncoding.h"
-#include "markup/TextFile.h"
+#include "markup/text/TextEncoding.h"
+#include "markup/text/TextFile.h"
 
 namespace brennet::bench {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "bench/ui/BarePage.h"
 #include "bench/ui/Opening.h"
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "ui/CHotkeySettingDlg.h"
 #include "ui/pages/CAdvancedSettingWidget.h"

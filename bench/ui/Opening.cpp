@@ -5,7 +5,7 @@
 #include <chrono>
 #include <cstdio>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "model/RecommendedScheme.h"
 #include "ui/CHotkeySettingDlg.h"

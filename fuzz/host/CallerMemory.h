@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "model/HotkeyBlock.h"
+#include "brennet/HotkeyBlock.h"
 #include "tests/support/GuardedPages.h"
 
 namespace brennet::fuzz {

@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include "brennet/IBrennet.h"
 #include "fuzz/host/CallerMemory.h"
 #include "fuzz/host/SessionFaults.h"
 #include "fuzz/host/SessionScript.h"
 #include "fuzz/host/SessionWorld.h"
-#include "host/IBrennet.h"
 #include "model/HotkeyConfig.h"
 
 namespace brennet::fuzz {

@@ -4,7 +4,7 @@
 #include <system_error>
 
 #include "markup/MarkupDocument.h"
-#include "markup/TextEncoding.h"
+#include "markup/text/TextEncoding.h"
 #include "model/GamePreferences.h"
 
 namespace brennet::fuzz {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "fuzz/Target.h"
-#include "markup/Utf8.h"
+#include "markup/text/Utf8.h"
 #include "tests/markup/SameAsNaive.h"
 
 const brennet::fuzz::Grammar& brennet::fuzz::targetGrammar() {

@@ -6,7 +6,7 @@
 
 #include "fuzz/Target.h"
 #include "markup/MarkupDocument.h"
-#include "markup/TextDecoding.h"
+#include "markup/text/TextDecoding.h"
 #include "model/HotkeyConfig.h"
 
 namespace brennet {

@@ -52,10 +52,10 @@ check_layers() {
 
 check_systems() {
   report windows-header "$(lines '# *include *<[Ww]indows\.h>' "${layers[@]}" samples |
-    grep -vE '^platform/[^/]*_win\.cpp:' || true)"
+    grep -vE '^platform/win/' || true)"
   # The calling convention of the interface is the one difference that a header has to state.
   report system-switch "$(lines '\b_?WIN(32|64)\b' "${layers[@]}" samples |
-    grep -vE '^(platform/|host/IBrennet\.h:[0-9]+:#if defined\(_WIN32\) && \(defined\(_M_IX86\))' ||
+    grep -vE '^(platform/|host/include/brennet/IBrennet\.h:[0-9]+:#if defined\(_WIN32\) && \(defined\(_M_IX86\))' ||
     true)"
 }
 

@@ -4,7 +4,7 @@
 
 #include <bit>
 
-#include "gameside/Dota7Values.h"
+#include "gameside/dota7/Dota7Values.h"
 #include "model/SettingTable.h"
 #include "tests/docs/Document.h"
 
@@ -83,7 +83,7 @@ TEST(Formats, ListTheSettings) {
 }
 
 TEST(Formats, ListTheRecord) {
-  const std::string header = readProjectFile("model/HotkeyBlock.h");
+  const std::string header = readProjectFile("model/include/brennet/HotkeyBlock.h");
   const std::string start = "\nBRENNET_BLOCK_OFFSET(";
   std::vector<Row> expected;
   for (std::size_t at = header.find(start); at != std::string::npos; at = header.find(start, at)) {

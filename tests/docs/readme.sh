@@ -15,7 +15,8 @@ grep '^#include' host.txt >readme_includes.h
 grep -v '^#include' host.txt >readme_body.h
 # In the oldest language that the headers promise. Some compilers warn of the cast of
 # GetProcAddress's answer where they are asked for more warnings.
-quietly i686-w64-mingw32-g++-posix -std=c++11 -Wall -Werror -static -I "$checkout" -I . \
+quietly i686-w64-mingw32-g++-posix -std=c++11 -Wall -Werror -static -I "$checkout/host/include" \
+  -I "$checkout/model/include" -I . \
   "$here/readme/main.cpp" -o host.exe
 cp "$bin"/*.dll "$checkout/samples/data/KeyInfo.xml" "$checkout/samples/data/Tollamere.reg" .
 run 0 "$emulator" host.exe

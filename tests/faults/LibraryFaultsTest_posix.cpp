@@ -11,7 +11,7 @@
 #include <set>
 #include <string>
 
-#include "host/IBrennet.h"
+#include "brennet/IBrennet.h"
 #include "tests/faults/FailingCalls_posix.h"
 #include "tests/support/FaultPoints.h"
 #include "tests/support/SharedLibrary.h"

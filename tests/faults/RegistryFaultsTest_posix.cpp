@@ -9,10 +9,10 @@
 #include <ostream>
 #include <string>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "platform/Files.h"
 #include "platform/RegFile.h"
-#include "platform/RegistryPath_posix.h"
+#include "platform/posix/RegistryPath.h"
 #include "tests/faults/StandIn.h"
 #include "tests/support/FaultPoints.h"
 #include "tests/support/ScopedRegistry.h"

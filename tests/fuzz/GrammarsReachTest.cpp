@@ -9,9 +9,9 @@
 #include <variant>
 
 #include "fuzz/grammar/Grammar.h"
-#include "gameside/War3PrefsFile.h"
-#include "markup/EncodingDetection.h"
+#include "gameside/prefs/War3PrefsFile.h"
 #include "markup/MarkupDocument.h"
+#include "markup/text/EncodingDetection.h"
 #include "model/BlockBytes.h"
 #include "model/HotkeyConfig.h"
 #include "model/SettingTable.h"

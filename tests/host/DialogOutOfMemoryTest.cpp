@@ -16,7 +16,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "gameside/Dota7Values.h"
+#include "gameside/dota7/Dota7Values.h"
 #include "tests/host/DialogFixture.h"
 #include "tests/host/FailingNew.h"
 #include "tests/support/FaultPoints.h"

@@ -3,7 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 
-#include "gameside/Dota7Values.h"
+#include "gameside/dota7/Dota7Values.h"
 #include "tests/host/DialogFixture.h"
 #include "tests/host/InUse.h"
 #include "tests/support/ScopedRegistry.h"

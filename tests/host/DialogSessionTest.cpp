@@ -6,7 +6,7 @@
 #include <QTimer>
 
 #include <algorithm>
-#include "gameside/Dota7Values.h"
+#include "gameside/dota7/Dota7Values.h"
 #include "keys/KeyWord.h"
 
 #include "tests/host/DialogFixture.h"

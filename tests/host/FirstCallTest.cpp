@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/IBrennet.h"
-#include "model/HotkeyBlock.h"
+#include "brennet/HotkeyBlock.h"
+#include "brennet/IBrennet.h"
 #include "tests/host/FailingNew.h"
 
 extern "C" brennet::IBrennet* GetBrennetPtr() noexcept;

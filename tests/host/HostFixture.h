@@ -5,7 +5,7 @@
 #include <cstring>
 #include <string>
 
-#include "model/HotkeyBlock.h"
+#include "brennet/HotkeyBlock.h"
 #include "tests/host/TestedBrennet.h"
 #include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"

@@ -7,8 +7,8 @@
 #include <string>
 #include <type_traits>
 
-#include "host/IBrennet.h"
-#include "model/HotkeyBlock.h"
+#include "brennet/HotkeyBlock.h"
+#include "brennet/IBrennet.h"
 #include "tests/support/ScopedProfile.h"
 #include "tests/support/SharedLibrary.h"
 #include "tests/support/TempFolder.h"

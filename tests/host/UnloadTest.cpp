@@ -16,7 +16,7 @@
 #include <string>
 #include <utility>
 
-#include "gameside/Dota7Values.h"
+#include "gameside/dota7/Dota7Values.h"
 #include "tests/host/InUse.h"
 #include "tests/host/UnloadableLibrary.h"
 #include "tests/support/ScopedProfile.h"

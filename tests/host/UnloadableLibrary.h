@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/IBrennet.h"
+#include "brennet/IBrennet.h"
 
 namespace brennet::test {
 

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "gameside/Dota7Values.h"
+#include "gameside/dota7/Dota7Values.h"
 #include "keys/KeyWord.h"
 #include "tests/host/DialogFixture.h"
 #include "tests/support/Golden.h"

@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "markup/MarkupDocument.h"
-#include "markup/TextEncoding.h"
-#include "markup/TextFile.h"
+#include "markup/text/TextEncoding.h"
+#include "markup/text/TextFile.h"
 #include "platform/CodePages.h"
 #include "tests/support/TempFolder.h"
 

@@ -6,11 +6,11 @@
 #include <algorithm>
 
 #include "fuzz/grammar/Grammar.h"
-#include "markup/TextDecoding.h"
-#include "markup/Utf8.h"
-#include "tests/markup/NaiveDecoding.h"
+#include "markup/text/TextDecoding.h"
+#include "markup/text/Utf8.h"
 #include "tests/markup/NaiveMarkup.h"
 #include "tests/markup/SameAsNaive.h"
+#include "tests/markup/text/NaiveDecoding.h"
 
 namespace brennet {
 namespace {

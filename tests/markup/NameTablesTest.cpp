@@ -1,9 +1,9 @@
 // The two tables of names: entities and encodings.
 #include <gtest/gtest.h>
 
-#include "markup/BucketTable.h"
-#include "markup/EncodingNames.h"
 #include "markup/EntityTable.h"
+#include "markup/text/BucketTable.h"
+#include "markup/text/EncodingNames.h"
 #include "tests/markup/TableRows.h"
 
 namespace brennet {

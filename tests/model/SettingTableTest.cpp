@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "model/HotkeyBlock.h"
+#include "brennet/HotkeyBlock.h"
 
 namespace brennet {
 namespace {

@@ -1,6 +1,6 @@
 // Owner, group, access list and attributes of a file that is replaced.
 
-#include "platform/FileRights_posix.h"
+#include "platform/posix/FileRights.h"
 
 #include <fcntl.h>
 #include <grp.h>

@@ -15,7 +15,7 @@
 #include <random>
 
 #include "model/HotkeyConfig.h"
-#include "tests/gameside/Dota7Test.h"
+#include "tests/gameside/dota7/Dota7Test.h"
 #include "tests/ui/pages/PageChecks.h"
 #include "ui/CHotkeySettingDlg.h"
 #include "ui/pages/CDotA7BasicSetting.h"

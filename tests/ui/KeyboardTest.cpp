@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "model/HotkeyConfig.h"
-#include "tests/gameside/Dota7Test.h"
+#include "tests/gameside/dota7/Dota7Test.h"
 #include "ui/CHotkeySettingDlg.h"
 #include "ui/capture/CKeyLineEdit.h"
 

@@ -16,7 +16,7 @@
 #include <optional>
 #include <string>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "tests/support/ScopedRegistry.h"
 #include "tests/ui/UiTest.h"

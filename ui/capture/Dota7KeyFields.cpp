@@ -3,7 +3,7 @@
 #include <QLineEdit>
 #include <utility>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "ui/Text.h"
 #include "ui/capture/SlotCapture.h"
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-#include "gameside/Dota7Values.h"
+#include "gameside/dota7/Dota7Values.h"
 #include "keys/KeyWord.h"
 #include "ui/capture/KeyFieldFilter.h"
 

@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <iterator>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "ui/Text.h"
 #include "ui/capture/KeyMessages.h"
 #include "ui/pages/Form.h"

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "gameside/Dota7Values.h"
+#include "gameside/dota7/Dota7Values.h"
 #include "ui/capture/Dota7KeyFields.h"
 
 namespace Ui {

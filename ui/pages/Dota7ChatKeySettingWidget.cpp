@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "ui/Text.h"
 #include "ui/capture/KeyMessages.h"
 #include "ui/chat/PhraseMenu.h"

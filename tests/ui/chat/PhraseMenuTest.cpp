@@ -16,7 +16,7 @@
 #include <QTranslator>
 
 #include "model/HotkeyConfig.h"
-#include "tests/gameside/Dota7Test.h"
+#include "tests/gameside/dota7/Dota7Test.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CChatRouletteSettingWidget.h"
 #include "ui/pages/ChatKeySettingWidget.h"

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "model/HotkeyConfig.h"
-#include "tests/gameside/Dota7Test.h"
+#include "tests/gameside/dota7/Dota7Test.h"
 #include "tests/ui/screens/PlayersScreens.h"
 
 class CHotkeySettingDlg;

@@ -10,7 +10,7 @@
 #include <QTest>
 #include <QTranslator>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "tests/support/ScopedRegistry.h"
 #include "ui/CHotkeySettingDlg.h"

@@ -12,7 +12,7 @@
 #include <QTest>
 
 #include "model/HotkeyConfig.h"
-#include "tests/gameside/Dota7Test.h"
+#include "tests/gameside/dota7/Dota7Test.h"
 #include "tests/ui/UiTest.h"
 #include "tests/ui/pages/PageChecks.h"
 

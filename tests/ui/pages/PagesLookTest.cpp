@@ -9,7 +9,7 @@
 #include <QTranslator>
 #include <QVBoxLayout>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "model/RecommendedScheme.h"
 #include "tests/ui/pages/PageChecks.h"

@@ -16,7 +16,7 @@
 #include <memory>
 #include <vector>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyScheme.h"
 #include "tests/ui/UiTest.h"
 #include "ui/CHotkeySettingDlg.h"

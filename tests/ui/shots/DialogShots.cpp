@@ -1,6 +1,6 @@
 // The settings dialog in both of its modes.
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "model/LoadReport.h"
 #include "model/RecommendedScheme.h"

@@ -1,6 +1,6 @@
 // The windows of the DotA 7 mode.
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "tests/ui/shots/Shots.h"
 #include "ui/pages/CDotA7BasicSetting.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"

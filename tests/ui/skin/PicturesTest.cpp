@@ -9,8 +9,8 @@
 #include <string>
 
 #include "tests/support/TempFolder.h"
-#include "ui/skin/source/Pictures.h"
-#include "ui/skin/source/Png.h"
+#include "tools/skin/Pictures.h"
+#include "tools/skin/Png.h"
 
 namespace brennet::skin {
 namespace {

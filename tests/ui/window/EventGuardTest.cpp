@@ -18,7 +18,7 @@
 
 #include <new>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "tests/support/ScopedRegistry.h"
 #include "ui/CHotkeySettingDlg.h"

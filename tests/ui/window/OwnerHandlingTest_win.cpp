@@ -13,7 +13,7 @@
 #include <functional>
 #include <stdexcept>
 
-#include "gameside/Dota7KeyInfoManager.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "platform/OwnerWindow.h"
 #include "tests/support/ScopedRegistry.h"

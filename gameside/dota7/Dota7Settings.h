@@ -1,0 +1,98 @@
+#pragma once
+
+#include <array>
+#include <bitset>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "gameside/dota7/Dota7Change.h"
+#include "gameside/dota7/Dota7Values.h"
+#include "platform/Registry.h"
+
+namespace brennet {
+
+class Dota7KeyInfoManager;
+
+// A key of the DotA 7 pages: the virtual-key codes of the key and of the modifier held with it.
+struct Dota7Key {
+  static constexpr int kNoModifier = 2;
+  static constexpr int kCtrl = 0x11;
+  static constexpr int kAlt = 0x12;
+
+  int code = 0;  // 1 to 255; 0: no key
+  int modifier = kNoModifier;
+
+  friend constexpr bool operator==(const Dota7Key&, const Dota7Key&) = default;
+};
+
+// The values that the DotA 7 pages show and edit. Each change is handed to the manager, which
+// records it and writes it at once.
+//
+// What the registry lacks, or holds in another length than it should, reads as its default: no key,
+// a switch that is off, an empty phrase. A number is what its four bytes say, whatever their type;
+// a phrase of another type is an empty one. The cast mode is no value of the registry; it is normal
+// at first. All rows come from the tables of Dota7Values.h.
+class Dota7Settings {
+ public:
+  // `manager` outlives this object, and is not used before load() or a change.
+  explicit Dota7Settings(Dota7KeyInfoManager& manager) : manager_(&manager) {}
+
+  // Reads everything from the registry. The cast mode stays.
+  void load();
+  // Reads the phrases and their keys alone.
+  void loadPhrases();
+
+  [[nodiscard]] Dota7Cast cast() const { return cast_; }
+  // From now on the fields that follow the cast mode show and edit the values of this one.
+  void setCast(Dota7Cast cast) { cast_ = cast; }
+
+  // The key of a field in the cast mode, and its text; empty for no key.
+  [[nodiscard]] Dota7Key key(const Dota7KeyField& field) const;
+  [[nodiscard]] std::u16string keyText(const Dota7KeyField& field) const;
+
+  // Stores the key of a field in the cast mode. Ctrl or Alt by itself is a key without a modifier;
+  // of other modifiers there are none.
+  // Returns false, and changes nothing, where another field has the same key with the same
+  // modifier; of a field that follows the cast mode only the key of that mode counts.
+  [[nodiscard]] bool storeKey(const Dota7KeyField& field, Dota7Key key);
+  void clearKey(const Dota7KeyField& field);
+
+  [[nodiscard]] bool isOn(const Dota7Switch& row) const;
+  void setOn(const Dota7Switch& row, bool on);
+
+  [[nodiscard]] const std::u16string& phrase(const Dota7Phrase& row) const;
+  // Stores a phrase; what goes beyond 260 bytes of UTF-8 is cut off, between characters. The phrase
+  // of a value that could not be read as one is not written unless it has changed or the player has
+  // typed it, be it the same.
+  void setPhrase(const Dota7Phrase& row, std::u16string_view text, bool isTyped = false);
+
+  // Gives every value its default, in both cast modes, and sets the normal one, also where the
+  // registry holds what could not be read. Values that are not there are not made.
+  void reset();
+
+ private:
+  using Keys = std::array<Dota7Key, 2>;  // by cast mode
+
+  void loadKeys(std::u16string_view keyPath);
+  [[nodiscard]] Dota7Key readKey(const platform::RegistryKey& source,
+                                 const Dota7ValuePair& values) const;
+  [[nodiscard]] bool isUsed(const Dota7KeyField& field, const Dota7Key& key) const;
+  [[nodiscard]] Dota7Key& keyPlace(const Dota7KeyField& field, Dota7Cast cast);
+  // Take a value and give what has to be written for it.
+  [[nodiscard]] Dota7FieldChange keyChange(const Dota7KeyField& field, Dota7Cast cast,
+                                           const Dota7Key& key);
+  [[nodiscard]] Dota7FieldChange switchChange(const Dota7Switch& row, bool on);
+  [[nodiscard]] Dota7FieldChange phraseChange(const Dota7Phrase& row, std::u16string stored);
+  void apply(const Dota7FieldChange& change);
+
+  Dota7KeyInfoManager* manager_;
+  Dota7Cast cast_ = Dota7Cast::Normal;
+  std::array<Keys, kDota7KeyFields> keys_;
+  std::array<bool, kDota7Switches> switches_{};
+  std::array<std::u16string, kDota7Phrases> phrases_;
+  // The values that phrases_ does not say the whole of.
+  std::bitset<kDota7Phrases> unreadable_;
+};
+
+}  // namespace brennet

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "markup/ResultLog.h"
+#include "markup/text/TextDecoding.h"
+#include "markup/text/TextForm.h"
+#include "platform/Files.h"
+
+namespace brennet {
+
+// The largest file that is read, in bytes. A settings file has some 20 KiB; one beyond this is not
+// worth the time and the memory of the host.
+inline constexpr std::uint64_t kLargestTextFile = 64U << 20U;
+
+// Reads the file at `path` into `text`: finds out its encoding (see EncodingDetection.h) and
+// converts the whole content to UTF-16, block by block (see TextDecoding.h). Appends to `log` what
+// it did. `form`, if given, receives how the text was written in the file.
+//
+// Returns false when the file cannot be read or is larger than kLargestTextFile; then "file_error"
+// is logged and `text` and `form` are left as they are. What cannot be converted is no failure.
+// Throws std::bad_alloc.
+bool readTextFile(std::u16string_view path, std::u16string& text, ResultLog& log,
+                  std::size_t blockSize = kReadBlockSize, TextForm* form = nullptr);
+
+// Makes `text`, converted to `encoding`, the content of the file at `path` (see TextEncoding.h).
+// The disk holds the whole old or the whole new content at every moment. `form` is the one that
+// reading gave, so that a file keeps its byte-order mark and its byte order. `old` tells what
+// becomes of the content that is replaced.
+//
+// Returns false when the file cannot be written; then "file_error" is logged and the old content
+// stands. Characters that `encoding` lacks are no failure ("conversion_loss" is logged).
+bool writeTextFile(std::u16string_view path, std::u16string_view text, std::u16string_view encoding,
+                   ResultLog& log, const TextForm& form = {},
+                   platform::OldContent old = platform::OldContent::Drop);
+
+}  // namespace brennet

@@ -1,0 +1,140 @@
+#include "platform/win/FileRights.h"
+
+#include <windows.h>
+// aclapi.h needs windows.h first.
+#include <aclapi.h>
+
+namespace brennet::platform {
+namespace {
+
+// What GetNamedSecurityInfoW gives, freed when it goes out of scope.
+struct Descriptor {
+  Descriptor() = default;
+  ~Descriptor() { LocalFree(data); }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+
+  PSECURITY_DESCRIPTOR data = nullptr;
+};
+
+// A user, or the owner that his new files have; both begin with the SID.
+struct User {
+  bool find(TOKEN_INFORMATION_CLASS what) {
+    HANDLE token = nullptr;
+    if (OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token) == FALSE) return false;
+    DWORD size = 0;
+    const BOOL isFound = GetTokenInformation(token, what, data, sizeof(data), &size);
+    CloseHandle(token);
+    return isFound != FALSE;
+  }
+  [[nodiscard]] PSID sid() const { return reinterpret_cast<const TOKEN_USER*>(data)->User.Sid; }
+
+  alignas(TOKEN_USER) BYTE data[sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE] = {};
+};
+
+// A folder, or what has its name, that is open to be asked about; the name leads nowhere else
+// meanwhile.
+class OpenFolder {
+ public:
+  explicit OpenFolder(const Path& path)
+      : handle_(CreateFileW(path.c_str(), READ_CONTROL | FILE_READ_ATTRIBUTES,
+                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                            OPEN_EXISTING,
+                            FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr)) {}
+  ~OpenFolder() {
+    if (handle_ != INVALID_HANDLE_VALUE) CloseHandle(handle_);
+  }
+  OpenFolder(const OpenFolder&) = delete;
+  OpenFolder& operator=(const OpenFolder&) = delete;
+
+  [[nodiscard]] HANDLE handle() const { return handle_; }
+
+  // Whether it is a folder by itself: no link, no junction, nothing that a driver puts there.
+  [[nodiscard]] bool isPlain() const {
+    BY_HANDLE_FILE_INFORMATION info{};
+    constexpr DWORD kAsked = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+    return handle_ != INVALID_HANDLE_VALUE && GetFileInformationByHandle(handle_, &info) != FALSE &&
+           (info.dwFileAttributes & kAsked) == FILE_ATTRIBUTE_DIRECTORY;
+  }
+
+ private:
+  HANDLE handle_;
+};
+
+}  // namespace
+
+struct OwnRights::Body {
+  // Whether all of it could be made.
+  bool make() {
+    auto* const entries = reinterpret_cast<ACL*>(list);
+    attributes = {sizeof(attributes), &descriptor, FALSE};
+    return user.find(TokenUser) && owner.find(TokenOwner) &&
+           InitializeAcl(entries, sizeof(list), ACL_REVISION) != FALSE &&
+           AddAccessAllowedAce(entries, ACL_REVISION, FILE_ALL_ACCESS, user.sid()) != FALSE &&
+           InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION) != FALSE &&
+           SetSecurityDescriptorDacl(&descriptor, TRUE, entries, FALSE) != FALSE &&
+           SetSecurityDescriptorControl(&descriptor, SE_DACL_PROTECTED, SE_DACL_PROTECTED) != FALSE;
+  }
+
+  [[nodiscard]] bool isOwn(PSID sid) const {
+    return EqualSid(sid, user.sid()) != FALSE || EqualSid(sid, owner.sid()) != FALSE;
+  }
+
+  // Without a list it is everybody's. Entries that deny something open nothing.
+  [[nodiscard]] bool opensToNobodyElse(ACL* entries) const {
+    if (entries == nullptr) return false;
+    for (DWORD i = 0; i < entries->AceCount; ++i) {
+      void* entry = nullptr;
+      if (GetAce(entries, i, &entry) == FALSE) return false;
+      const auto* const header = static_cast<const ACE_HEADER*>(entry);
+      if (header->AceType == ACCESS_DENIED_ACE_TYPE) continue;
+      if (header->AceType != ACCESS_ALLOWED_ACE_TYPE) return false;
+      const PSID sid = &static_cast<ACCESS_ALLOWED_ACE*>(entry)->SidStart;
+      const bool mayAnyway = IsWellKnownSid(sid, WinLocalSystemSid) != FALSE ||
+                             IsWellKnownSid(sid, WinBuiltinAdministratorsSid) != FALSE;
+      if (!mayAnyway && !isOwn(sid)) return false;
+    }
+    return true;
+  }
+
+  User user;
+  User owner;
+  alignas(ACL) BYTE list[sizeof(ACL) + sizeof(ACCESS_ALLOWED_ACE) + SECURITY_MAX_SID_SIZE] = {};
+  SECURITY_DESCRIPTOR descriptor{};
+  SECURITY_ATTRIBUTES attributes{};
+};
+
+OwnRights::OwnRights() : body_(std::make_unique<Body>()) {
+  if (!body_->make()) body_.reset();
+}
+
+OwnRights::~OwnRights() = default;
+
+void* OwnRights::attributes() const {
+  return body_ != nullptr ? &body_->attributes : nullptr;
+}
+
+bool OwnRights::areThoseOf(const Path& path) const {
+  if (body_ == nullptr) return false;
+  const OpenFolder folder(path);
+  if (!folder.isPlain()) return false;
+  Descriptor descriptor;
+  PSID owner = nullptr;
+  ACL* list = nullptr;
+  return GetSecurityInfo(folder.handle(), SE_FILE_OBJECT,
+                         OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION, &owner, nullptr,
+                         &list, nullptr, &descriptor.data) == ERROR_SUCCESS &&
+         body_->isOwn(owner) && body_->opensToNobodyElse(list);
+}
+
+void copyFileRights(const Path& path, void* file) {
+  Descriptor descriptor;
+  ACL* list = nullptr;
+  if (GetNamedSecurityInfoW(path.c_str(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr,
+                            nullptr, &list, nullptr, &descriptor.data) == ERROR_SUCCESS) {
+    // As it is; SetSecurityInfo would have the folder add to it.
+    SetKernelObjectSecurity(file, DACL_SECURITY_INFORMATION, descriptor.data);
+  }
+}
+
+}  // namespace brennet::platform

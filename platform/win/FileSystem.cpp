@@ -1,0 +1,447 @@
+#include "platform/FileSystem.h"
+
+#include <windows.h>
+// shlwapi.h needs windows.h first.
+#include <shlwapi.h>
+
+#include <algorithm>
+#include <bit>
+#include <string>
+
+#include "platform/Files.h"
+#include "platform/win/FileRights.h"
+
+namespace brennet::platform {
+namespace {
+
+constexpr DWORD kLargestPiece = 1U << 30U;
+constexpr std::uint64_t kLockedByte = std::uint64_t{1} << 40U;  // far behind the end of any file
+constexpr DWORD kPause = 20;                                    // milliseconds
+constexpr std::uint64_t kTicksPerSecond = 10'000'000;           // as times of files are counted
+constexpr std::uint64_t kSecondsBefore1970 = 11'644'473'600;    // since 1601, where they begin
+
+Obstacle obstacleOf(DWORD error) {
+  switch (error) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+      return Obstacle::Missing;
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+      return Obstacle::Exists;
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+      return Obstacle::Held;
+    case ERROR_ACCESS_DENIED:
+      return Obstacle::Denied;
+    default:
+      return Obstacle::Other;
+  }
+}
+
+FileError failure(DWORD error) {
+  return {obstacleOf(error), {static_cast<int>(error), std::system_category()}};
+}
+
+// The end of a call that gives 0 and the error in GetLastError where it fails.
+FileError ended(BOOL result) {
+  return result != FALSE ? FileError() : failure(GetLastError());
+}
+
+// The same for calls to which access is denied, too, while a file is about to go or to be moved.
+FileError endedOrHeld(BOOL result) {
+  FileError error = ended(result);
+  if (error.obstacle == Obstacle::Denied) error.obstacle = Obstacle::Held;
+  return error;
+}
+
+DWORD pieceOf(std::size_t size) {
+  return static_cast<DWORD>(std::min<std::size_t>(size, kLargestPiece));
+}
+
+OVERLAPPED at(std::uint64_t offset) {
+  OVERLAPPED place{};
+  place.Offset = static_cast<DWORD>(offset);
+  place.OffsetHigh = static_cast<DWORD>(offset >> 32U);
+  return place;
+}
+
+HANDLE handleOf(FileHandle file) {
+  return std::bit_cast<HANDLE>(file);
+}
+
+std::uint64_t joined(DWORD high, DWORD low) {
+  return (std::uint64_t{high} << 32U) | low;
+}
+
+std::uint64_t ticksNow() {
+  FILETIME now{};
+  GetSystemTimeAsFileTime(&now);
+  return joined(now.dwHighDateTime, now.dwLowDateTime);
+}
+
+std::uint64_t ageOf(const FILETIME& written) {
+  const std::uint64_t then = joined(written.dwHighDateTime, written.dwLowDateTime);
+  const std::uint64_t now = ticksNow();
+  return now > then ? (now - then) / kTicksPerSecond : 0;
+}
+
+// Whether the name itself is only one for another. Other files than links have reparse points, too:
+// deduplicated ones, and those that are kept elsewhere.
+bool isSymbolicLink(const std::wstring& path, DWORD attributes) {
+  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
+  WIN32_FIND_DATAW data{};
+  HANDLE const search = FindFirstFileW(path.c_str(), &data);
+  if (search == INVALID_HANDLE_VALUE) return false;
+  FindClose(search);
+  return data.dwReserved0 == IO_REPARSE_TAG_SYMLINK;
+}
+
+// How CreateFileW is to open a file.
+struct Opening {
+  DWORD access;
+  DWORD sharing;
+  DWORD creation;
+};
+
+Opening openingFor(OpenFor purpose) {
+  constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  switch (purpose) {
+    case OpenFor::Reading:
+      return {GENERIC_READ, kAll, OPEN_EXISTING};
+    // As the C runtime opens it: beside a program that has it open for writing and shares that.
+    case OpenFor::Writing:
+      return {GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING};
+    case OpenFor::Creating:
+      return {GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_ALWAYS};
+    case OpenFor::New:
+      return {GENERIC_WRITE, 0, CREATE_NEW};
+    case OpenFor::NewAndPrivate:
+      return {GENERIC_WRITE | WRITE_DAC, 0, CREATE_NEW};
+    case OpenFor::Keeping:
+      return {GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_READ, OPEN_ALWAYS};
+  }
+  return {};
+}
+
+// Access is denied to a folder and to what may not be written; that does not pass.
+bool isForbidden(const Path& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  constexpr DWORD kForbidden = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & kForbidden) != 0;
+}
+
+// A file that is about to go does not even tell its attributes.
+bool isAboutToGo(const Path& path) {
+  return GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES;
+}
+
+// Access is denied, too, to a file that is about to go. Under that name there can be no new one.
+// Where it stays, its access list denies the access, which does not pass.
+FileError openingError(const Path& path, OpenFor purpose) {
+  FileError error = failure(GetLastError());
+  if (error.obstacle != Obstacle::Denied || purpose == OpenFor::Reading) return error;
+  if (purpose == OpenFor::Writing && !isAboutToGo(path)) return error;
+  const bool isNew = purpose == OpenFor::New || purpose == OpenFor::NewAndPrivate;
+  error.obstacle = isNew ? Obstacle::Exists : Obstacle::Held;
+  return error;
+}
+
+// A file that is open for a look at what it is, which nobody who has it can refuse.
+struct OpenForFacts {
+  explicit OpenForFacts(const Path& path)
+      : file(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES,
+                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                         OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr)) {
+    isOpen = file != INVALID_HANDLE_VALUE && GetFileInformationByHandle(file, &info) != FALSE;
+  }
+  ~OpenForFacts() {
+    if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
+  }
+  OpenForFacts(const OpenForFacts&) = delete;
+  OpenForFacts& operator=(const OpenForFacts&) = delete;
+
+  HANDLE file;
+  BY_HANDLE_FILE_INFORMATION info{};
+  bool isOpen = false;
+};
+
+class WindowsFileSystem final : public FileSystem {
+ public:
+  FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
+    // Asked for first: the system may open such a file for an administrator all the same.
+    if (purpose == OpenFor::Writing && isForbidden(path)) return failure(ERROR_ACCESS_DENIED);
+    const bool isPrivate = purpose == OpenFor::NewAndPrivate || purpose == OpenFor::Keeping;
+    const Opening opening = openingFor(purpose);
+    HANDLE const opened = CreateFileW(path.c_str(), opening.access, opening.sharing,
+                                      isPrivate ? ownAttributes() : nullptr, opening.creation,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) return openingError(path, purpose);
+    const bool isNew = opening.creation == CREATE_NEW ||
+                       (opening.creation == OPEN_ALWAYS && GetLastError() != ERROR_ALREADY_EXISTS);
+    facts = {FileFacts::Kind::File};
+    const FileError error = isNew ? FileError() : factsOf(opened, facts);
+    if (error) {
+      CloseHandle(opened);
+    } else {
+      file = reinterpret_cast<FileHandle>(opened);
+    }
+    return error;
+  }
+
+  FileError read(FileHandle file, std::uint64_t offset, char* bytes, std::size_t size,
+                 std::size_t& count) override {
+    OVERLAPPED place = at(offset);
+    DWORD result = 0;
+    if (ReadFile(handleOf(file), bytes, pieceOf(size), &result, &place) == FALSE) {
+      const DWORD error = GetLastError();
+      if (error != ERROR_HANDLE_EOF) return failure(error);
+    }
+    count = result;
+    return {};
+  }
+
+  FileError write(FileHandle file, std::uint64_t offset, std::string_view bytes,
+                  std::size_t& count) override {
+    OVERLAPPED place = at(offset);
+    DWORD result = 0;
+    if (WriteFile(handleOf(file), bytes.data(), pieceOf(bytes.size()), &result, &place) == FALSE) {
+      return failure(GetLastError());
+    }
+    count = result;
+    return result != 0 ? FileError() : failure(ERROR_DISK_FULL);
+  }
+
+  FileError resize(FileHandle file, std::uint64_t size) override {
+    LARGE_INTEGER end{};
+    end.QuadPart = static_cast<LONGLONG>(size);
+    const FileError error = ended(SetFilePointerEx(handleOf(file), end, nullptr, FILE_BEGIN));
+    return error ? error : ended(SetEndOfFile(handleOf(file)));
+  }
+
+  FileError reserve(FileHandle file, std::uint64_t size) override {
+    FILE_ALLOCATION_INFO room{};
+    room.AllocationSize.QuadPart = static_cast<LONGLONG>(size);
+    LARGE_INTEGER now{};
+    if (GetFileSizeEx(handleOf(file), &now) == FALSE) return failure(GetLastError());
+    // Less room than the file has would cut it.
+    if (room.AllocationSize.QuadPart <= now.QuadPart) return {};
+    const FileError error =
+        ended(SetFileInformationByHandle(handleOf(file), FileAllocationInfo, &room, sizeof(room)));
+    return error.code.value() == ERROR_DISK_FULL ? error : FileError();
+  }
+
+  FileError flush(FileHandle file) override { return ended(FlushFileBuffers(handleOf(file))); }
+
+  FileError lock(FileHandle file, Sharing sharing) override {
+    OVERLAPPED place = at(kLockedByte);
+    const DWORD alone = sharing == Sharing::Alone ? LOCKFILE_EXCLUSIVE_LOCK : 0;
+    if (LockFileEx(handleOf(file), alone | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) != FALSE) {
+      return {};
+    }
+    const DWORD error = GetLastError();
+    const bool isLocked = error == ERROR_LOCK_VIOLATION || error == ERROR_IO_PENDING;
+    return isLocked ? failure(ERROR_LOCK_VIOLATION) : FileError();
+  }
+
+  // Closing may be where a failed write shows.
+  FileError close(FileHandle file) override { return ended(CloseHandle(handleOf(file))); }
+
+  void copyRights(const Path& path, FileHandle file) override {
+    copyFileRights(path, handleOf(file));
+  }
+
+  FileFacts look(const Path& path) override {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    FileFacts facts;
+    if (GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) == FALSE) return facts;
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) return facts;
+    facts.kind = kindOf(path, attributes);
+    facts.size = joined(data.nFileSizeHigh, data.nFileSizeLow);
+    facts.age = ageOf(data.ftLastWriteTime);
+    return facts;
+  }
+
+  FileError move(const Path& from, const Path& to) override {
+    return endedOrHeld(MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH));
+  }
+
+  // ReplaceFileW keeps what belongs to the old file, as far as this process may set it. It can fail
+  // half-way; its documentation tells the states in which it leaves the files then.
+  FileError exchange(const Path& replacement, const Path& path, const Path& backup) override {
+    FileError error = endedOrHeld(ReplaceFileW(path.c_str(), replacement.c_str(), backup.c_str(),
+                                               REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr));
+    switch (error.code.value()) {
+      case ERROR_UNABLE_TO_MOVE_REPLACEMENT_2:
+        error.obstacle = Obstacle::Halfway;
+        break;
+      // Both files have the names they had. Often told when somebody has one of them open.
+      case ERROR_UNABLE_TO_REMOVE_REPLACED:
+      case ERROR_UNABLE_TO_MOVE_REPLACEMENT:
+        error.obstacle = Obstacle::Held;
+        break;
+      default:
+        break;
+    }
+    return error;
+  }
+
+  // A name that could not be removed again, because somebody lets nobody remove the file, is none.
+  FileError link(const Path& path, const Path& second) override {
+    constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    HANDLE const file = CreateFileW(path.c_str(), DELETE, kAll, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return failure(GetLastError());
+    const FileError error = ended(CreateHardLinkW(second.c_str(), path.c_str(), nullptr));
+    CloseHandle(file);
+    return error;
+  }
+
+  // Both are open at the same time: the number of a file may be given anew when it is closed.
+  bool isSameFile(const Path& a, const Path& b) override {
+    const OpenForFacts first(a);
+    const OpenForFacts second(b);
+    return first.isOpen && second.isOpen &&
+           first.info.dwVolumeSerialNumber == second.info.dwVolumeSerialNumber &&
+           first.info.nFileIndexHigh == second.info.nFileIndexHigh &&
+           first.info.nFileIndexLow == second.info.nFileIndexLow;
+  }
+
+  FileError remove(const Path& path) override { return endedOrHeld(DeleteFileW(path.c_str())); }
+
+  FileError removeKept(FileHandle file, const Path& /*path*/) override {
+    return ended(removeWhenClosed(handleOf(file)));
+  }
+
+  // While the backup is held open here nobody can give its name to another file, so no replacement
+  // can begin after the look at `path`.
+  FileError removeBackup(const Path& backup, const Path& path) override {
+    HANDLE const file = CreateFileW(backup.c_str(), DELETE, 0, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return endedOrHeld(FALSE);
+    const bool isLast = look(path).kind != FileFacts::Kind::File;
+    const FileError error = isLast ? FileError() : endedOrHeld(removeWhenClosed(file));
+    CloseHandle(file);
+    return error;
+  }
+
+  FileError createFolder(const Path& path) override {
+    return ended(CreateDirectoryW(path.c_str(), nullptr));
+  }
+
+  FileError createPrivateFolder(const Path& path) override {
+    const FileError error = ended(CreateDirectoryW(path.c_str(), ownAttributes()));
+    if (error.obstacle != Obstacle::Exists) return error;
+    return own_.areThoseOf(path) ? FileError() : failure(ERROR_ACCESS_DENIED);
+  }
+
+  void removeFolder(const Path& path) override { RemoveDirectoryW(path.c_str()); }
+
+  // Moves write through.
+  FileError flushFolder(const Path& /*path*/) override { return {}; }
+
+  void list(const Path& folder, const std::function<void(const Path& name)>& visit) override {
+    struct Search {
+      ~Search() {
+        if (handle != INVALID_HANDLE_VALUE) FindClose(handle);
+      }
+      HANDLE handle;
+    };
+    WIN32_FIND_DATAW data{};
+    const Search search{FindFirstFileW((folder / L"*").c_str(), &data)};
+    if (search.handle == INVALID_HANDLE_VALUE) return;
+    do {
+      visit(data.cFileName);
+    } while (FindNextFileW(search.handle, &data) != FALSE);
+  }
+
+  // Names have no case here.
+  bool isSameName(std::wstring_view a, std::wstring_view b) override {
+    return CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(),
+                                static_cast<int>(b.size()), TRUE) == CSTR_EQUAL;
+  }
+
+  Path resolved(const Path& path) override { return path; }
+
+  Path identity(const Path& path) override {
+    const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+    std::wstring full(size, L'\0');
+    const DWORD length = GetFullPathNameW(path.c_str(), size, full.data(), nullptr);
+    if (length == 0 || length >= size) return {};
+    full.resize(length);
+    CharUpperBuffW(full.data(), length);
+    return full;
+  }
+
+  Path privateFolder() override {
+    wchar_t folder[MAX_PATH + 1] = {};
+    const DWORD length = GetTempPathW(MAX_PATH + 1, folder);
+    if (length == 0 || length > MAX_PATH) return {};
+    return Path(folder) / L"brennet-kept";
+  }
+
+  unsigned long process() override { return GetCurrentProcessId(); }
+
+  bool isRunning(unsigned long process) override {
+    HANDLE const opened = OpenProcess(SYNCHRONIZE, FALSE, process);
+    if (opened == nullptr) return GetLastError() != ERROR_INVALID_PARAMETER;
+    const bool isRunning = WaitForSingleObject(opened, 0) == WAIT_TIMEOUT;
+    CloseHandle(opened);
+    return isRunning;
+  }
+
+  std::int64_t wallTime() override {
+    FILETIME now{};
+    FILETIME local{};
+    GetSystemTimeAsFileTime(&now);
+    if (FileTimeToLocalFileTime(&now, &local) == FALSE) local = now;
+    const std::uint64_t seconds =
+        joined(local.dwHighDateTime, local.dwLowDateTime) / kTicksPerSecond;
+    return static_cast<std::int64_t>(seconds - kSecondsBefore1970);
+  }
+
+  void pause() override { Sleep(kPause); }
+
+ private:
+  static FileFacts::Kind kindOf(const Path& path, DWORD attributes) {
+    if (isSymbolicLink(path.native(), attributes)) return FileFacts::Kind::Link;
+    return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? FileFacts::Kind::Folder
+                                                        : FileFacts::Kind::File;
+  }
+
+  static FileError factsOf(HANDLE file, FileFacts& facts) {
+    if (GetFileType(file) != FILE_TYPE_DISK) return failure(ERROR_INVALID_HANDLE);
+    BY_HANDLE_FILE_INFORMATION info{};
+    if (GetFileInformationByHandle(file, &info) == FALSE) return failure(GetLastError());
+    facts = {FileFacts::Kind::File, joined(info.nFileSizeHigh, info.nFileSizeLow),
+             info.nNumberOfLinks, ageOf(info.ftLastWriteTime)};
+    return {};
+  }
+
+  // The file goes when it is closed, under whatever name it has then.
+  static BOOL removeWhenClosed(HANDLE file) {
+    FILE_DISPOSITION_INFO info{TRUE};
+    return SetFileInformationByHandle(file, FileDispositionInfo, &info, sizeof(info));
+  }
+
+  [[nodiscard]] SECURITY_ATTRIBUTES* ownAttributes() const {
+    return static_cast<SECURITY_ATTRIBUTES*>(own_.attributes());
+  }
+
+  OwnRights own_;
+};
+
+}  // namespace
+
+bool isMissing(const std::error_code& error) {
+  return (error.category() == std::system_category() &&
+          obstacleOf(static_cast<DWORD>(error.value())) == Obstacle::Missing) ||
+         error == std::make_error_code(std::errc::no_such_file_or_directory);
+}
+
+FileSystem& operatingSystem() {
+  static WindowsFileSystem system;
+  return system;
+}
+
+}  // namespace brennet::platform
