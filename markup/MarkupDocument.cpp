@@ -17,7 +17,7 @@ bool MarkupDocument::load(std::u16string_view path, std::size_t blockSize) {
   ResultLog log;
   std::u16string text;
   TextForm form;
-  if (!readTextFile(path, text, log, blockSize, &form)) {
+  if (!readTextFile(path, declaredEncodingOfBytes, text, log, blockSize, &form)) {
     log_ = std::move(log);
     return false;
   }

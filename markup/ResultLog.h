@@ -5,9 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include "markup/text/TextLog.h"
+
 namespace brennet {
 
-// What a document operation can have to report.
+// What reading a markup text can have to report; TextEvent has the rest.
 enum class LogEvent : std::uint8_t {
   // Syntax errors of single tokens: offset.
   FirstTagSyntax,
@@ -23,37 +25,21 @@ enum class LogEvent : std::uint8_t {
   // Errors of the whole document: nothing; offset.
   NoRootElement,
   RootHasSibling,
-  // Steps of reading and writing files: encoding, length in units of that encoding.
-  Read,
-  ConvertedTo,
-  ConvertedFrom,
-  // Units dropped from a block: count.
-  NullsRemoved,
-  // A block whose end cannot be examined: encoding.
-  TruncationError,
-  // msg, n (the system's error number).
-  FileError,
-  // Marks of what happened, without attributes.
-  Utf8Detection,
-  Bom,
-  EndianSwap,
-  ConversionLoss,
 };
 
 // The account of the last load, save or parse: a small markup text of empty elements, one per
 // event, such as `<read encoding="gb2312" length="123"/>`.
-class ResultLog {
+class ResultLog final : public TextLog {
  public:
   // The log takes no event once it has this many units.
   static constexpr std::size_t kFull = 1000;
-  // A number that is not known; its attribute is left out.
-  static constexpr std::int64_t kUnknown = -1;
-
   // Appends `event` with its attributes: a text, then numbers. What the event has no attribute
-  // for is not written. Does nothing when the log is full.
+  // for is not written, nor a number that is not known. Does nothing when the log is full.
   void add(LogEvent event, std::u16string_view text, std::int64_t number = kUnknown,
            std::int64_t number2 = kUnknown);
   void add(LogEvent event, std::int64_t number = kUnknown) { add(event, {}, number); }
+  using TextLog::add;
+  void add(TextEvent event, std::u16string_view text, std::int64_t number) override;
 
   // Whether further events are dropped, so that a caller need not prepare them.
   [[nodiscard]] bool isFull() const { return text_.size() >= kFull; }

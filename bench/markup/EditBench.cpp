@@ -6,6 +6,7 @@
 #include <string>
 
 #include "markup/MarkupDocument.h"
+#include "markup/ResultLog.h"
 #include "markup/text/TextEncoding.h"
 
 namespace brennet::bench {

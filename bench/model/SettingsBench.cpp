@@ -9,7 +9,9 @@
 #include <iterator>
 
 #include "bench/model/SampleSettings.h"
+#include "markup/DeclaredEncoding.h"
 #include "markup/MarkupDocument.h"
+#include "markup/ResultLog.h"
 #include "markup/text/TextEncoding.h"
 #include "markup/text/TextFile.h"
 
@@ -104,7 +106,7 @@ void readAndParse(benchmark::State& state) {
   for (auto _ : state) {
     std::u16string text;
     ResultLog log;
-    readTextFile(file, text, log);
+    readTextFile(file, declaredEncodingOfBytes, text, log);
     MarkupDocument document;
     benchmark::DoNotOptimize(document.setDoc(std::move(text)));
   }

@@ -1,4 +1,6 @@
 #include "fuzz/host/SessionWorld.h"
+#include "markup/DeclaredEncoding.h"
+#include "markup/ResultLog.h"
 
 #include <filesystem>
 #include <system_error>
@@ -146,7 +148,8 @@ bool loadBytes(HotkeyConfig& config, const std::optional<std::string>& bytes) {
   if (!bytes) return false;
   ResultLog log;
   MarkupDocument document;
-  return document.setDoc(decodeText(*bytes, log).text) && config.loadFrom(document);
+  return document.setDoc(decodeText(*bytes, declaredEncodingOfBytes, log).text) &&
+         config.loadFrom(document);
 }
 
 std::string savedBytes(const HotkeyConfig& config, std::uint32_t saveTime) {

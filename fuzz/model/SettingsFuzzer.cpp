@@ -5,7 +5,9 @@
 #include <string_view>
 
 #include "fuzz/Target.h"
+#include "markup/DeclaredEncoding.h"
 #include "markup/MarkupDocument.h"
+#include "markup/ResultLog.h"
 #include "markup/text/TextDecoding.h"
 #include "model/HotkeyConfig.h"
 
@@ -35,7 +37,7 @@ std::u16string savedText(const HotkeyConfig& config) {
 void checkSettings(std::string_view bytes) {
   ResultLog log;
   HotkeyConfig config;
-  if (!loadText(config, decodeText(bytes, log).text)) return;
+  if (!loadText(config, decodeText(bytes, declaredEncodingOfBytes, log).text)) return;
 
   // What the fixed form of a first save cannot carry is settled by loading it once.
   HotkeyConfig settled;

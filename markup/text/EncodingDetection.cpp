@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "markup/DeclaredEncoding.h"
 #include "markup/text/AsciiRuns.h"
 #include "markup/text/DoubleByteCodec.h"
 #include "markup/text/EncodingNames.h"
@@ -151,10 +150,10 @@ CodePage convertibleCodePage(CodePage codePage) {
   return isKnown ? codePage : platform::ansiCodePage();
 }
 
-DetectedEncoding detectEncoding(std::string_view bytes) {
+DetectedEncoding detectEncoding(std::string_view bytes, DeclaredEncodingFinder findDeclared) {
   if (auto encoding = encodingOfMark(bytes)) return *std::move(encoding);
   if (auto encoding = encodingOfSignature(bytes)) return *std::move(encoding);
-  std::u16string name = declaredEncodingOfBytes(bytes);
+  std::u16string name = findDeclared(bytes);
   CodePage declared = encodingToCodePage(name);
   // What a name that nobody knows stands for was written in the system's own code page.
   if (declared == 0 && !name.empty()) declared = platform::ansiCodePage();

@@ -8,7 +8,7 @@
 namespace brennet {
 namespace {
 
-void logLength(ResultLog& log, LogEvent event, std::u16string_view encoding, std::size_t length) {
+void logLength(TextLog& log, TextEvent event, std::u16string_view encoding, std::size_t length) {
   log.add(event, encoding, static_cast<std::int64_t>(length));
 }
 
@@ -24,7 +24,7 @@ DecodedBlock decodeOne(BlockDecoder& decoder, std::string_view bytes, std::size_
 }
 
 void decodeBlocks(std::string_view bytes, const DetectedEncoding& encoding, std::size_t blockSize,
-                  std::u16string& text, ResultLog& log) {
+                  std::u16string& text, TextLog& log) {
   BlockDecoder decoder(encoding.codePage);
   const std::size_t unit = unitSize(encoding.codePage);
   // A little more than there are units, as what has no meaning may become longer.
@@ -32,17 +32,17 @@ void decodeBlocks(std::string_view bytes, const DetectedEncoding& encoding, std:
   text.reserve(units + units / 100);
   while (!bytes.empty()) {
     const std::size_t read = std::min(blockSize, bytes.size());
-    logLength(log, LogEvent::Read, encoding.name, read / unit);
+    logLength(log, TextEvent::Read, encoding.name, read / unit);
     if (read < bytes.size() && !decoder.canExamineEnd()) {
-      log.add(LogEvent::TruncationError, encoding.name);
+      log.add(TextEvent::TruncationError, encoding.name);
       blockSize = bytes.size();
     }
     const std::size_t before = text.size();
     const DecodedBlock block = decodeOne(decoder, bytes, blockSize, text);
-    if (block.bytes != read) logLength(log, LogEvent::Read, encoding.name, block.bytes / unit);
-    if (block.nulls > 0) log.add(LogEvent::NullsRemoved, static_cast<std::int64_t>(block.nulls));
+    if (block.bytes != read) logLength(log, TextEvent::Read, encoding.name, block.bytes / unit);
+    if (block.nulls > 0) log.add(TextEvent::NullsRemoved, static_cast<std::int64_t>(block.nulls));
     if (!isUtf16(encoding.codePage)) {
-      logLength(log, LogEvent::ConvertedTo, u"UTF-16", text.size() - before);
+      logLength(log, TextEvent::ConvertedTo, u"UTF-16", text.size() - before);
     }
     bytes.remove_prefix(block.bytes);
   }
@@ -50,19 +50,20 @@ void decodeBlocks(std::string_view bytes, const DetectedEncoding& encoding, std:
 
 }  // namespace
 
-DecodedText decodeText(std::string_view bytes, ResultLog& log, std::size_t blockSize) {
+DecodedText decodeText(std::string_view bytes, DeclaredEncodingFinder findDeclared, TextLog& log,
+                       std::size_t blockSize) {
   DecodedText decoded;
-  const DetectedEncoding encoding = detectEncoding(bytes);
+  const DetectedEncoding encoding = detectEncoding(bytes, findDeclared);
   if (!bytes.empty()) {
     decoded.form = {encoding.codePage, encoding.markLength > 0};
-    if (encoding.source == DetectedEncoding::Source::Mark) log.add(LogEvent::Bom);
+    if (encoding.source == DetectedEncoding::Source::Mark) log.add(TextEvent::Bom);
     if (encoding.source == DetectedEncoding::Source::Utf8Detection) {
-      log.add(LogEvent::Utf8Detection);
+      log.add(TextEvent::Utf8Detection);
     }
     bytes.remove_prefix(encoding.markLength);
   }
   if (bytes.empty()) {
-    log.add(LogEvent::Read, encoding.name, 0);
+    log.add(TextEvent::Read, encoding.name, 0);
     return decoded;
   }
   const std::size_t wholeSize = std::min(std::max(blockSize, std::size_t{1}), bytes.size());

@@ -4,8 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "markup/ResultLog.h"
+#include "markup/text/EncodingDetection.h"
 #include "markup/text/TextForm.h"
+#include "markup/text/TextLog.h"
 
 namespace brennet {
 
@@ -17,7 +18,8 @@ struct DecodedText {
   TextForm form;
 };
 
-// The text in the whole content of a document file, whose encoding is found out.
+// The text in the whole content of a document file, whose encoding is found out (see
+// EncodingDetection.h).
 //
 // The bytes are taken in blocks of `blockSize` (at least 1). Of each block, "read" is logged with
 // its length in units of the encoding; zero units are removed ("nulls_removed"); bytes of a
@@ -26,7 +28,7 @@ struct DecodedText {
 // the code page, "truncation_error" is logged and the block takes all the rest. The text is the
 // same for every block size. A character that the end of the file cuts off, like any other bytes
 // without a meaning, becomes the system's default character or U+FFFD. Throws std::bad_alloc.
-[[nodiscard]] DecodedText decodeText(std::string_view bytes, ResultLog& log,
-                                     std::size_t blockSize = kReadBlockSize);
+[[nodiscard]] DecodedText decodeText(std::string_view bytes, DeclaredEncodingFinder findDeclared,
+                                     TextLog& log, std::size_t blockSize = kReadBlockSize);
 
 }  // namespace brennet

@@ -71,7 +71,7 @@ bool isSameEncoding(CodePage left, CodePage right) {
 
 }  // namespace
 
-std::string encodeText(std::u16string_view text, std::u16string_view encoding, ResultLog& log,
+std::string encodeText(std::u16string_view text, std::u16string_view encoding, TextLog& log,
                        const TextForm& form) {
   CodePage codePage = convertibleCodePage(encodingToCodePage(encoding));
   bool hasMark = unitSize(codePage) > 1;
@@ -82,10 +82,10 @@ std::string encodeText(std::u16string_view text, std::u16string_view encoding, R
   std::string bytes(hasMark ? markOf(codePage) : std::string_view());
   const bool lost = appendEncoded(text, codePage, bytes);
   if (!isUtf16(codePage)) {
-    log.add(LogEvent::ConvertedFrom, u"UTF-16", static_cast<std::int64_t>(text.size()));
+    log.add(TextEvent::ConvertedFrom, u"UTF-16", static_cast<std::int64_t>(text.size()));
   }
-  if (isUtf16(codePage) && isBigEndian(codePage)) log.add(LogEvent::EndianSwap);
-  if (lost) log.add(LogEvent::ConversionLoss);
+  if (isUtf16(codePage) && isBigEndian(codePage)) log.add(TextEvent::EndianSwap);
+  if (lost) log.add(TextEvent::ConversionLoss);
   return bytes;
 }
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "markup/ResultLog.h"
 #include "markup/text/TextForm.h"
+#include "markup/text/TextLog.h"
 
 namespace brennet {
 
@@ -16,6 +16,6 @@ namespace brennet {
 // Logs "converted_from" and, when a character had no representation, "conversion_loss"; UTF-16 is
 // not converted, but "endian_swap" is logged when its bytes are swapped. Throws std::bad_alloc.
 [[nodiscard]] std::string encodeText(std::u16string_view text, std::u16string_view encoding,
-                                     ResultLog& log, const TextForm& form = {});
+                                     TextLog& log, const TextForm& form = {});
 
 }  // namespace brennet

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "markup/ResultLog.h"
 #include "markup/text/TextDecoding.h"
 #include "markup/text/TextForm.h"
+#include "markup/text/TextLog.h"
 #include "platform/Files.h"
 
 namespace brennet {
@@ -23,8 +23,9 @@ inline constexpr std::uint64_t kLargestTextFile = 64U << 20U;
 // Returns false when the file cannot be read or is larger than kLargestTextFile; then "file_error"
 // is logged and `text` and `form` are left as they are. What cannot be converted is no failure.
 // Throws std::bad_alloc.
-bool readTextFile(std::u16string_view path, std::u16string& text, ResultLog& log,
-                  std::size_t blockSize = kReadBlockSize, TextForm* form = nullptr);
+bool readTextFile(std::u16string_view path, DeclaredEncodingFinder findDeclared,
+                  std::u16string& text, TextLog& log, std::size_t blockSize = kReadBlockSize,
+                  TextForm* form = nullptr);
 
 // Makes `text`, converted to `encoding`, the content of the file at `path` (see TextEncoding.h).
 // The disk holds the whole old or the whole new content at every moment. `form` is the one that
@@ -34,7 +35,7 @@ bool readTextFile(std::u16string_view path, std::u16string& text, ResultLog& log
 // Returns false when the file cannot be written; then "file_error" is logged and the old content
 // stands. Characters that `encoding` lacks are no failure ("conversion_loss" is logged).
 bool writeTextFile(std::u16string_view path, std::u16string_view text, std::u16string_view encoding,
-                   ResultLog& log, const TextForm& form = {},
+                   TextLog& log, const TextForm& form = {},
                    platform::OldContent old = platform::OldContent::Drop);
 
 }  // namespace brennet

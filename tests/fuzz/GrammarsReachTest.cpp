@@ -10,7 +10,9 @@
 
 #include "fuzz/grammar/Grammar.h"
 #include "gameside/prefs/War3PrefsFile.h"
+#include "markup/DeclaredEncoding.h"
 #include "markup/MarkupDocument.h"
+#include "markup/ResultLog.h"
 #include "markup/text/EncodingDetection.h"
 #include "model/BlockBytes.h"
 #include "model/HotkeyConfig.h"
@@ -38,7 +40,9 @@ TEST(SettingsGrammar, ReachesEverySettingOfTheFile) {
     ResultLog log;
     MarkupDocument document;
     HotkeyConfig config;
-    if (!document.setDoc(decodeText(bytes, log).text) || !config.loadFrom(document)) return;
+    if (!document.setDoc(decodeText(bytes, declaredEncodingOfBytes, log).text) ||
+        !config.loadFrom(document))
+      return;
     ++loaded;
     for (const DroppedKey& key : config.loadReport().droppedKeys) dropped.insert(key.slot.setting);
     for (std::size_t i = 0; i < kSettingCount; ++i) {
@@ -115,11 +119,14 @@ TEST(RecordGrammar, ChangesEveryByteThatHasAMeaning) {
 TEST(TextFileGrammar, HasFilesInEveryKindOfEncoding) {
   std::set<platform::CodePage> codePages;
   forDocuments(fuzz::textFileGrammar(), [&](const std::string& bytes) {
-    codePages.insert(detectEncoding(std::string_view(bytes).substr(1)).codePage);
+    codePages.insert(
+        detectEncoding(std::string_view(bytes).substr(1), declaredEncodingOfBytes).codePage);
   });
   // Not every system knows GB18030 as a code page.
   const platform::CodePage gb18030 =
-      detectEncoding("<?xml version=\"1.0\" encoding=\"gb18030\"?><a>\xC4\xE3</a>").codePage;
+      detectEncoding("<?xml version=\"1.0\" encoding=\"gb18030\"?><a>\xC4\xE3</a>",
+                     declaredEncodingOfBytes)
+          .codePage;
   for (const platform::CodePage codePage :
        {platform::kUtf8, platform::kUtf16LittleEndian, platform::kUtf16BigEndian,
         platform::kUtf32LittleEndian, platform::kUtf32BigEndian, platform::CodePage{936},

@@ -1,7 +1,9 @@
 // Documents and the files they are kept in.
 #include <gtest/gtest.h>
 
+#include "markup/DeclaredEncoding.h"
 #include "markup/MarkupDocument.h"
+#include "markup/ResultLog.h"
 #include "markup/text/TextEncoding.h"
 #include "markup/text/TextFile.h"
 #include "platform/CodePages.h"
@@ -188,7 +190,7 @@ TEST_F(DocumentFiles, ReadTextFileKeepsItsArgumentsWhenItFails) {
   std::u16string text = u"kept";
   TextForm form{1200, true};
   ResultLog log;
-  EXPECT_FALSE(readTextFile(path(), text, log, kReadBlockSize, &form));
+  EXPECT_FALSE(readTextFile(path(), declaredEncodingOfBytes, text, log, kReadBlockSize, &form));
   EXPECT_EQ(text, u"kept");
   EXPECT_EQ(form.codePage, 1200U);
 }

@@ -6,6 +6,8 @@
 #include <algorithm>
 
 #include "fuzz/grammar/Grammar.h"
+#include "markup/DeclaredEncoding.h"
+#include "markup/ResultLog.h"
 #include "markup/text/TextDecoding.h"
 #include "markup/text/Utf8.h"
 #include "tests/markup/NaiveMarkup.h"
@@ -112,7 +114,8 @@ TEST(NaiveDecoding, ReadsWhatTheDocumentReads) {
     if (!naive) continue;
     ++read;
     ResultLog log;
-    ASSERT_EQ(decodeText(bytes, log).text, *naive) << testing::PrintToString(bytes);
+    ASSERT_EQ(decodeText(bytes, declaredEncodingOfBytes, log).text, *naive)
+        << testing::PrintToString(bytes);
   }
   EXPECT_GT(read, 10000U);
 }

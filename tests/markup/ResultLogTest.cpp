@@ -21,20 +21,34 @@ TEST(ResultLog, WritesEachEventWithItsAttributes) {
       {LogEvent::LoneEndTag, u"<lone_end_tag tagname=\"t\" offset=\"1\"/>"},
       {LogEvent::NoRootElement, u"<no_root_element/>"},
       {LogEvent::RootHasSibling, u"<root_has_sibling offset=\"1\"/>"},
-      {LogEvent::Read, u"<read encoding=\"t\" length=\"1\"/>"},
-      {LogEvent::ConvertedTo, u"<converted_to encoding=\"t\" length=\"1\"/>"},
-      {LogEvent::ConvertedFrom, u"<converted_from encoding=\"t\" length=\"1\"/>"},
-      {LogEvent::NullsRemoved, u"<nulls_removed count=\"1\"/>"},
-      {LogEvent::TruncationError, u"<truncation_error encoding=\"t\"/>"},
-      {LogEvent::FileError, u"<file_error msg=\"t\" n=\"1\"/>"},
-      {LogEvent::Utf8Detection, u"<utf8_detection/>"},
-      {LogEvent::Bom, u"<bom/>"},
-      {LogEvent::EndianSwap, u"<endian_swap/>"},
-      {LogEvent::ConversionLoss, u"<conversion_loss/>"},
   };
   for (const Case& test : kCases) {
     ResultLog log;
     log.add(test.event, u"t", 1, 2);
+    EXPECT_EQ(log.text(), test.written);
+  }
+}
+
+TEST(ResultLog, WritesTheStepsOfReadingAndWritingToo) {
+  struct Case {
+    TextEvent event;
+    std::u16string_view written;
+  };
+  const Case kCases[] = {
+      {TextEvent::Read, u"<read encoding=\"t\" length=\"1\"/>"},
+      {TextEvent::ConvertedTo, u"<converted_to encoding=\"t\" length=\"1\"/>"},
+      {TextEvent::ConvertedFrom, u"<converted_from encoding=\"t\" length=\"1\"/>"},
+      {TextEvent::NullsRemoved, u"<nulls_removed count=\"1\"/>"},
+      {TextEvent::TruncationError, u"<truncation_error encoding=\"t\"/>"},
+      {TextEvent::FileError, u"<file_error msg=\"t\" n=\"1\"/>"},
+      {TextEvent::Utf8Detection, u"<utf8_detection/>"},
+      {TextEvent::Bom, u"<bom/>"},
+      {TextEvent::EndianSwap, u"<endian_swap/>"},
+      {TextEvent::ConversionLoss, u"<conversion_loss/>"},
+  };
+  for (const Case& test : kCases) {
+    ResultLog log;
+    log.add(test.event, u"t", 1);
     EXPECT_EQ(log.text(), test.written);
   }
 }
@@ -47,20 +61,20 @@ TEST(ResultLog, LeavesOutANumberThatIsNotKnown) {
 
 TEST(ResultLog, EscapesValues) {
   ResultLog log;
-  log.add(LogEvent::FileError, u"a<b>&\"c\"", 5);
+  log.add(TextEvent::FileError, u"a<b>&\"c\"", 5);
   EXPECT_EQ(log.text(), u"<file_error msg=\"a&lt;b&gt;&amp;&quot;c&quot;\" n=\"5\"/>");
 }
 
 TEST(ResultLog, TakesNothingFromAThousandUnitsOn) {
   ResultLog log;
   const std::u16string frame = u"<truncation_error encoding=\"\"/>";
-  log.add(LogEvent::TruncationError, std::u16string(ResultLog::kFull - 1 - frame.size(), u'x'));
+  log.add(TextEvent::TruncationError, std::u16string(ResultLog::kFull - 1 - frame.size(), u'x'));
   ASSERT_EQ(log.text().size(), ResultLog::kFull - 1);
   EXPECT_FALSE(log.isFull());
-  log.add(LogEvent::Bom);
+  log.add(TextEvent::Bom);
   EXPECT_TRUE(log.isFull());
   const std::u16string full = log.text();
-  log.add(LogEvent::Bom);
+  log.add(TextEvent::Bom);
   EXPECT_EQ(log.text(), full);
 }
 

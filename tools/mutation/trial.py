@@ -11,9 +11,9 @@ import time
 
 # The test programs for what is in a folder, those of its own first: "program" or "program:filter".
 PROGRAMS = {
-    "platform": ("platform", "faults", "platform_faults", "settings_faults", "gameside:-Dota7*"),
-    "markup": ("markup", "model", "host", "gameside:-Dota7*"),
-    "gameside": ("gameside", "model", "host"),
+    "platform": ("platform", "faults", "platform_faults", "settings_faults", "prefs"),
+    "markup": ("markup", "model", "host", "prefs"),
+    "gameside": ("prefs", "dota7", "model", "host"),
     "model": ("model", "host", "settings_faults"),
 }
 # A mutant may ask for all the memory there is, need not leave a core, and ends after ten minutes

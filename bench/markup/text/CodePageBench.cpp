@@ -11,6 +11,7 @@
 
 #include "bench/markup/SampleTexts.h"
 #include "markup/MarkupDocument.h"
+#include "markup/ResultLog.h"
 #include "markup/text/DoubleByteCodec.h"
 #include "markup/text/TextDecoding.h"
 

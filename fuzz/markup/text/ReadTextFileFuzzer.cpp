@@ -10,6 +10,7 @@
 
 #include "fuzz/Target.h"
 #include "markup/DeclaredEncoding.h"
+#include "markup/ResultLog.h"
 #include "markup/text/TextDecoding.h"
 #include "markup/text/TextEncoding.h"
 #include "tests/markup/text/NaiveDecoding.h"
@@ -25,9 +26,9 @@ void checkFile(std::string_view input) {
   const std::string_view bytes = input.substr(1);
 
   ResultLog log;
-  const DecodedText whole = decodeText(bytes, log);
+  const DecodedText whole = decodeText(bytes, declaredEncodingOfBytes, log);
   ResultLog logOfBlocks;
-  const DecodedText blocks = decodeText(bytes, logOfBlocks, blockSize);
+  const DecodedText blocks = decodeText(bytes, declaredEncodingOfBytes, logOfBlocks, blockSize);
   require(blocks.text == whole.text);
   require(blocks.form.codePage == whole.form.codePage);
   require(whole.text.find(u'\0') == std::u16string::npos);
@@ -38,7 +39,7 @@ void checkFile(std::string_view input) {
   const std::string written =
       encodeText(whole.text, u"utf-8", logOfWriting, {platform::kUtf8, true});
   const bool lost = logOfWriting.text().find(u"conversion_loss") != std::u16string::npos;
-  const DecodedText again = decodeText(written, log);
+  const DecodedText again = decodeText(written, declaredEncodingOfBytes, log);
   require(lost || again.text == whole.text);
   require(again.text.size() == whole.text.size());
 

@@ -90,7 +90,7 @@ TEST(DeclaredEncoding, IsTheSameForBytesAndForText) {
 void expectDetected(std::span<const DetectionCase> cases) {
   for (const DetectionCase& test : cases) {
     SCOPED_TRACE(test.what);
-    const DetectedEncoding encoding = detectEncoding(test.bytes);
+    const DetectedEncoding encoding = detectEncoding(test.bytes, declaredEncodingOfBytes);
     EXPECT_EQ(encoding.source, test.source);
     EXPECT_EQ(encoding.codePage, test.codePage);
     EXPECT_EQ(encoding.name, test.name);

@@ -1,3 +1,5 @@
+#include "markup/DeclaredEncoding.h"
+#include "markup/ResultLog.h"
 #include "markup/text/TextDecoding.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +21,7 @@ struct Decoded {
 
 Decoded decode(std::string_view bytes, std::size_t blockSize = kReadBlockSize) {
   ResultLog log;
-  std::u16string text = decodeText(bytes, log, blockSize).text;
+  std::u16string text = decodeText(bytes, declaredEncodingOfBytes, log, blockSize).text;
   return {std::move(text), log.text()};
 }
 
@@ -170,11 +172,11 @@ TEST(TextDecoding, CountsEachZeroOnce) {
 
 TEST(TextDecoding, TellsHowTheTextWasWritten) {
   ResultLog log;
-  EXPECT_EQ(decodeText("\xEF\xBB\xBF<a/>", log).form.codePage, 65001U);
-  EXPECT_TRUE(decodeText("\xEF\xBB\xBF<a/>", log).form.hasMark);
-  EXPECT_FALSE(decodeText("<a/>", log).form.hasMark);
-  EXPECT_EQ(decodeText("\0<\0a"sv, log).form.codePage, 1201U);
-  EXPECT_EQ(decodeText("", log).form.codePage, 0U);
+  EXPECT_EQ(decodeText("\xEF\xBB\xBF<a/>", declaredEncodingOfBytes, log).form.codePage, 65001U);
+  EXPECT_TRUE(decodeText("\xEF\xBB\xBF<a/>", declaredEncodingOfBytes, log).form.hasMark);
+  EXPECT_FALSE(decodeText("<a/>", declaredEncodingOfBytes, log).form.hasMark);
+  EXPECT_EQ(decodeText("\0<\0a"sv, declaredEncodingOfBytes, log).form.codePage, 1201U);
+  EXPECT_EQ(decodeText("", declaredEncodingOfBytes, log).form.codePage, 0U);
 }
 
 }  // namespace

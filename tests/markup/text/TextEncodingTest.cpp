@@ -1,3 +1,4 @@
+#include "markup/ResultLog.h"
 #include "markup/text/TextEncoding.h"
 
 #include <gtest/gtest.h>
