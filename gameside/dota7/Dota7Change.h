@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -34,6 +35,17 @@ struct Dota7Change {
 struct Dota7FieldChange {
   std::u16string_view objectName;  // of a table of Dota7Values.h
   Dota7Change change;
+};
+
+// Where changes go that are to be written.
+class Dota7ChangeSink {
+ public:
+  // The changes, in their order; valid during the call. Throws std::bad_alloc.
+  virtual void apply(std::span<const Dota7FieldChange> changes) = 0;
+
+ protected:
+  Dota7ChangeSink() = default;
+  ~Dota7ChangeSink() = default;
 };
 
 // `text` as it stands in the registry: UTF-8 without a zero at the end, cut between characters to

@@ -24,7 +24,7 @@ namespace brennet {
 // was, or will be again when the next run begins. Where the journal cannot be written, changes are
 // made all the same. What the registry does not let us write is passed over in silence; no key is
 // created. GUI thread only.
-class Dota7KeyInfoManager : public QObject {
+class Dota7KeyInfoManager : public QObject, private Dota7ChangeSink {
   Q_OBJECT
 
  public:
@@ -62,7 +62,7 @@ class Dota7KeyInfoManager : public QObject {
   // The same for many, one after the other; the journal is written once.
   void writeValues(std::span<const Dota7Change> changes);
   // Writes the changes of fields and records them.
-  void apply(std::span<const Dota7FieldChange> changes);
+  void apply(std::span<const Dota7FieldChange> changes) override;
 
   // The player is content: writes the recorded changes once more and forgets them and what stood
   // there before. From the moment on in which the journal is gone, nothing undoes them.
@@ -94,7 +94,7 @@ class Dota7KeyInfoManager : public QObject {
   Dota7Undos before_;
   Dota7Journal journal_;
   bool isJournalBehind_ = false;  // something was noted since it was last written
-  Dota7Settings settings_{*this};
+  Dota7Settings settings_{names_, *this};
 };
 
 }  // namespace brennet

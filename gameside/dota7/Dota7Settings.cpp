@@ -4,7 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "markup/text/Utf8.h"
 
 namespace brennet {
@@ -117,7 +116,7 @@ Dota7Key Dota7Settings::readKey(const platform::RegistryKey& source,
   Dota7Key key{static_cast<int>(code), Dota7Key::kNoModifier};
   const std::optional<std::string> text = textIn(source.read(values.text).value);
   for (const int modifier : {Dota7Key::kNoModifier, Dota7Key::kCtrl, Dota7Key::kAlt}) {
-    if (text != dota7TextBytes(manager_->keyText(key.code, modifier))) continue;
+    if (text != dota7TextBytes(names_->keyText(key.code, modifier))) continue;
     key.modifier = modifier;
     break;
   }
@@ -134,7 +133,7 @@ Dota7Key Dota7Settings::key(const Dota7KeyField& field) const {
 
 std::u16string Dota7Settings::keyText(const Dota7KeyField& field) const {
   const Dota7Key shown = key(field);
-  return shown.code == 0 ? std::u16string() : manager_->keyText(shown.code, shown.modifier);
+  return shown.code == 0 ? std::u16string() : names_->keyText(shown.code, shown.modifier);
 }
 
 bool Dota7Settings::isUsed(const Dota7KeyField& field, const Dota7Key& wanted) const {
@@ -162,14 +161,14 @@ void Dota7Settings::clearKey(const Dota7KeyField& field) {
 }
 
 void Dota7Settings::apply(const Dota7FieldChange& change) {
-  manager_->apply({&change, 1});
+  changes_->apply({&change, 1});
 }
 
 Dota7FieldChange Dota7Settings::keyChange(const Dota7KeyField& field, Dota7Cast cast,
                                           const Dota7Key& key) {
   const Dota7ValuePair& values = field.values(cast);
   const std::u16string text =
-      key.code == 0 ? std::u16string() : manager_->keyText(key.code, key.modifier);
+      key.code == 0 ? std::u16string() : names_->keyText(key.code, key.modifier);
   Dota7Change change = changeOf(field.keyPath, values.text, text);
   change.valueName = values.code;
   change.value = static_cast<std::uint32_t>(key.code);
@@ -237,7 +236,7 @@ void Dota7Settings::reset() {
     if (phrase(row).empty() && !holdsOther(phrases, row.valueName, nothing)) continue;
     changes.push_back(phraseChange(row, {}));
   }
-  manager_->apply(changes);
+  changes_->apply(changes);
   cast_ = Dota7Cast::Normal;
 }
 

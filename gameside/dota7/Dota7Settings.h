@@ -7,12 +7,11 @@
 #include <string_view>
 
 #include "gameside/dota7/Dota7Change.h"
+#include "gameside/dota7/Dota7KeyNames.h"
 #include "gameside/dota7/Dota7Values.h"
 #include "platform/Registry.h"
 
 namespace brennet {
-
-class Dota7KeyInfoManager;
 
 // A key of the DotA 7 pages: the virtual-key codes of the key and of the modifier held with it.
 struct Dota7Key {
@@ -26,8 +25,8 @@ struct Dota7Key {
   friend constexpr bool operator==(const Dota7Key&, const Dota7Key&) = default;
 };
 
-// The values that the DotA 7 pages show and edit. Each change is handed to the manager, which
-// records it and writes it at once.
+// The values that the DotA 7 pages show and edit. Each change is handed on at once, to
+// be recorded and written.
 //
 // What the registry lacks, or holds in another length than it should, reads as its default: no key,
 // a switch that is off, an empty phrase. A number is what its four bytes say, whatever their type;
@@ -35,8 +34,9 @@ struct Dota7Key {
 // at first. All rows come from the tables of Dota7Values.h.
 class Dota7Settings {
  public:
-  // `manager` outlives this object, and is not used before load() or a change.
-  explicit Dota7Settings(Dota7KeyInfoManager& manager) : manager_(&manager) {}
+  // Both outlive this object, and are not used before load() or a change.
+  Dota7Settings(Dota7KeyNames& names, Dota7ChangeSink& changes)
+      : names_(&names), changes_(&changes) {}
 
   // Reads everything from the registry. The cast mode stays.
   void load();
@@ -86,7 +86,8 @@ class Dota7Settings {
   [[nodiscard]] Dota7FieldChange phraseChange(const Dota7Phrase& row, std::u16string stored);
   void apply(const Dota7FieldChange& change);
 
-  Dota7KeyInfoManager* manager_;
+  Dota7KeyNames* names_;
+  Dota7ChangeSink* changes_;
   Dota7Cast cast_ = Dota7Cast::Normal;
   std::array<Keys, kDota7KeyFields> keys_;
   std::array<bool, kDota7Switches> switches_{};
