@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "model/KeyAssignment.h"
+#include "model/SchemeAssignment.h"
 
 namespace brennet {
 namespace {
@@ -64,7 +65,7 @@ HotkeyConfig HotkeyConfig::operator=(const HotkeyConfig& other) {
 
 // The schemes are made before anything changes: out of memory, this object stays whole.
 HotkeyConfig::Schemes HotkeyConfig::assigned(Schemes target, const Schemes& source) {
-  for (std::size_t i = 0; i < target.size(); ++i) target[i].assign(source[i]);
+  for (std::size_t i = 0; i < target.size(); ++i) assignScheme(target[i], source[i]);
   return target;
 }
 

@@ -29,7 +29,7 @@ class HotkeyConfig {
   HotkeyConfig() = default;
   // Defaults, then everything that an assignment copies.
   HotkeyConfig(const HotkeyConfig& other);
-  // Copies the switch, the current index, the save time and every scheme (HotkeyScheme::assign).
+  // Copies the switch, the current index, the save time and every scheme (assignScheme).
   // The result is a copy of the assigned object, not a reference to this one.
   HotkeyConfig operator=(const HotkeyConfig& other);
   ~HotkeyConfig() = default;

@@ -3,25 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "model/KeyAssignment.h"
-
 namespace brennet {
-namespace {
-
-// The keys that an assignment copies behind the choice of an item preset.
-constexpr KeyWord HotkeyScheme::*kCopiedAfterPreset[] = {
-    &HotkeyScheme::ShowFBlood,   &HotkeyScheme::ShowEBlood,   &HotkeyScheme::HotkeyContrl,
-    &HotkeyScheme::WinLockMouse, &HotkeyScheme::QuickChatKey,
-};
-
-void fillAbsent(Phrases& phrases) {
-  for (std::optional<std::u16string>& phrase : phrases) {
-    if (!phrase) phrase.emplace();
-  }
-}
-
-}  // namespace
-
 void HotkeyScheme::reset() {
   HotkeyScheme fresh;
   fresh.QuickChat = std::move(QuickChat);
@@ -32,23 +14,10 @@ void HotkeyScheme::reset() {
   *this = std::move(fresh);
 }
 
-void HotkeyScheme::assign(const HotkeyScheme& source) {
-  HotkeyScheme result = source;
-  fillAbsent(result.QuickChat);
-  fillAbsent(result.ChatWheel);
-
-  // What is copied behind a choice still has this scheme's value when the choice is checked.
-  for (KeyWord HotkeyScheme::*key : kCopiedAfterPreset) result.*key = this->*key;
-  result.ChatWheelkey = ChatWheelkey;
-  result.QuickChatIndex = QuickChatIndex;
-  result.NumComboKeyIndex = NumComboKeyIndex;
-  choosePreset(result, source.NumComboKeyIndex);
-
-  for (KeyWord HotkeyScheme::*key : kCopiedAfterPreset) result.*key = source.*key;
-  chooseQuickChatKeys(result, source.QuickChatIndex);
-
-  result.ChatWheelkey = source.ChatWheelkey;
-  *this = std::move(result);
+void fillAbsent(Phrases& phrases) {
+  for (std::optional<std::u16string>& phrase : phrases) {
+    if (!phrase) phrase.emplace();
+  }
 }
 
 Phrases HotkeyScheme::emptyPhrases() {

@@ -98,10 +98,6 @@ struct HotkeyScheme {
   // switches stay as they are.
   void reset();
 
-  // Takes over `source`. A preset or quick-chat key set that conflicts with the keys copied before
-  // it is refused and this scheme's own choice stays.
-  void assign(const HotkeyScheme& source);
-
   friend bool operator==(const HotkeyScheme&, const HotkeyScheme&) = default;
 
  private:
@@ -110,6 +106,9 @@ struct HotkeyScheme {
 
 // The slot's index in HotkeyScheme::ItemKey, or nothing for a code that is no inventory slot.
 [[nodiscard]] std::optional<std::size_t> itemSlotIndex(int slotCode);
+
+// Makes phrases that were never set empty ones.
+void fillAbsent(Phrases& phrases);
 
 // The first kPhraseUnits units of `text`, or one less where that would cut a character in two.
 [[nodiscard]] std::u16string_view cutPhrase(std::u16string_view text);

@@ -1,16 +1,48 @@
 #include "model/KeyAssignment.h"
 
 #include <algorithm>
+#include <variant>
 
 #include "model/KeyConflicts.h"
 
 namespace brennet {
+namespace {
+
+// The checked change of one key of an existing slot.
+struct AssignKey {
+  HotkeyScheme& scheme;
+  KeySlot slot;
+  KeyWord key;
+
+  bool operator()(const RemapSetting&) const {
+    KeyRemap& field = scheme.HotKey[slot.index / 2U];
+    KeyRemap remap = field;
+    (slot.index % 2 == 0 ? remap.Src : remap.Dest) = key;
+    return assignRemap(scheme, field, remap);
+  }
+  bool operator()(const ComboSetting&) const {
+    ComboKeys keys = scheme.ComboKey;
+    keys.*kComboKeys[slot.index] = key;
+    return assignCombo(scheme, keys);
+  }
+  template <class PlainKeys>
+  bool operator()(const PlainKeys&) const {
+    return assignKey(scheme, *keyField(scheme, slot), key);
+  }
+};
+
+}  // namespace
 
 bool assignKey(const HotkeyScheme& scheme, KeyWord& field, KeyWord key) {
   if (field.sameKey(key)) return true;
   if (!isKeyAssignable(scheme, key)) return false;
   field = key;
   return true;
+}
+
+bool assignKey(HotkeyScheme& scheme, KeySlot slot, KeyWord key) {
+  return keyField(scheme, slot) != nullptr &&
+         std::visit(AssignKey{scheme, slot, key}, setting(slot.setting).kind);
 }
 
 bool assignRemap(const HotkeyScheme& scheme, KeyRemap& field, const KeyRemap& remap) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "model/HotkeyScheme.h"
+#include "model/KeySlot.h"
 
 namespace brennet {
 
@@ -13,6 +14,9 @@ namespace brennet {
 // Puts `key` into `field`, a member of `scheme`. The key that the field holds already is accepted
 // without a check and without a change; any other must be assignable (KeyConflicts.h).
 bool assignKey(const HotkeyScheme& scheme, KeyWord& field, KeyWord key);
+
+// Puts `key` into `slot`, by the rules for what it is a part of. False for a slot that is none.
+bool assignKey(HotkeyScheme& scheme, KeySlot slot, KeyWord key);
 
 // Puts `remap` into `field`, a member of `scheme`. Only the destination is checked; an unchanged
 // destination needs no check, so that the source alone can be edited.

@@ -3,8 +3,6 @@
 #include <iterator>
 #include <variant>
 
-#include "model/KeyAssignment.h"
-
 namespace brennet {
 namespace {
 
@@ -18,10 +16,6 @@ struct CountKeys {
     return 0;
   }
 };
-
-bool exists(KeySlot slot) {
-  return slot.index < keyCount(slot.setting);
-}
 
 // The member of `scheme` that an existing slot names.
 struct FieldOf {
@@ -41,50 +35,25 @@ struct FieldOf {
   }
 };
 
-KeyWord& fieldOf(HotkeyScheme& scheme, KeySlot slot) {
-  return *std::visit(FieldOf{scheme, slot.index}, setting(slot.setting).kind);
-}
-
-// The checked change of one key of an existing slot.
-struct AssignKey {
-  HotkeyScheme& scheme;
-  KeySlot slot;
-  KeyWord key;
-
-  bool operator()(const RemapSetting&) const {
-    KeyRemap& field = scheme.HotKey[slot.index / 2U];
-    KeyRemap remap = field;
-    (slot.index % 2 == 0 ? remap.Src : remap.Dest) = key;
-    return assignRemap(scheme, field, remap);
-  }
-  bool operator()(const ComboSetting&) const {
-    ComboKeys keys = scheme.ComboKey;
-    keys.*kComboKeys[slot.index] = key;
-    return assignCombo(scheme, keys);
-  }
-  template <class PlainKeys>
-  bool operator()(const PlainKeys&) const {
-    return assignKey(scheme, fieldOf(scheme, slot), key);
-  }
-};
-
 }  // namespace
 
 std::size_t keyCount(SettingId setting) {
   return std::visit(CountKeys(), brennet::setting(setting).kind);
 }
 
-KeyWord keyAt(const HotkeyScheme& scheme, KeySlot slot) {
-  // Nothing is changed: only a reference to the key is looked for.
-  return exists(slot) ? fieldOf(const_cast<HotkeyScheme&>(scheme), slot) : kNoKey;
+KeyWord* keyField(HotkeyScheme& scheme, KeySlot slot) {
+  if (slot.index >= keyCount(slot.setting)) return nullptr;
+  return std::visit(FieldOf{scheme, slot.index}, setting(slot.setting).kind);
 }
 
-bool assignKey(HotkeyScheme& scheme, KeySlot slot, KeyWord key) {
-  return exists(slot) && std::visit(AssignKey{scheme, slot, key}, setting(slot.setting).kind);
+KeyWord keyAt(const HotkeyScheme& scheme, KeySlot slot) {
+  // Nothing is changed: only a reference to the key is looked for.
+  const KeyWord* const key = keyField(const_cast<HotkeyScheme&>(scheme), slot);
+  return key != nullptr ? *key : kNoKey;
 }
 
 void storeKey(HotkeyScheme& scheme, KeySlot slot, KeyWord key) {
-  if (exists(slot)) fieldOf(scheme, slot) = key;
+  if (KeyWord* const field = keyField(scheme, slot)) *field = key;
 }
 
 }  // namespace brennet

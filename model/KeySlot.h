@@ -42,9 +42,8 @@ inline constexpr KeySlot kComboTarget{SettingId::ComboKey, 3};
 // The key that `scheme` has in `slot`; kNoKey for a slot that is none.
 [[nodiscard]] KeyWord keyAt(const HotkeyScheme& scheme, KeySlot slot);
 
-// Puts `key` into `slot` where the scheme allows it (KeyAssignment.h). Returns whether it is in
-// place now; a refused key changes nothing. False for a slot that is none.
-bool assignKey(HotkeyScheme& scheme, KeySlot slot, KeyWord key);
+// The member of `scheme` that `slot` names; null for a slot that is none.
+[[nodiscard]] KeyWord* keyField(HotkeyScheme& scheme, KeySlot slot);
 
 // Puts `key` into `slot` without a check; a slot that is none is left out.
 void storeKey(HotkeyScheme& scheme, KeySlot slot, KeyWord key);

@@ -6,6 +6,7 @@
 #include <random>
 #include <vector>
 
+#include "model/KeyAssignment.h"
 #include "model/KeyConflicts.h"
 #include "tests/model/Keys.h"
 
