@@ -45,10 +45,6 @@ std::error_code readFile(const Path& path, std::string& bytes, std::uint64_t lim
   return error.code;
 }
 
-bool isTooLarge(const std::error_code& error) {
-  return error == std::errc::file_too_large;
-}
-
 std::error_code replaceFile(const Path& path, std::string_view bytes, OldContent old) {
   Patience patience;
   return replaceFile(path, bytes, old, patience);

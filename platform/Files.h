@@ -5,12 +5,11 @@
 #include <string_view>
 #include <system_error>
 
+#include "platform/FileErrors.h"
+#include "platform/OldContent.h"
 #include "platform/Paths.h"
 
 namespace brennet::platform {
-
-// For files of any size.
-inline constexpr std::uint64_t kAnySize = ~std::uint64_t{0};
 
 class Patience;
 
@@ -24,20 +23,6 @@ class Patience;
 [[nodiscard]] std::error_code readFile(const Path& path, std::string& bytes, std::uint64_t limit);
 [[nodiscard]] std::error_code readFile(const Path& path, std::string& bytes, std::uint64_t limit,
                                        Patience& patience);
-
-// What an error of the functions here says.
-[[nodiscard]] bool isMissing(const std::error_code& error);
-[[nodiscard]] bool isTooLarge(const std::error_code& error);
-
-// What becomes of the content that is replaced.
-enum class OldContent {
-  Drop,
-  // It stays beside the new one, as NAME.kept-YYYYMMDD-HHMMSS by the local time. Three such files
-  // stay, the oldest goes once the new content is in its place. Where the old content cannot be
-  // kept, the file is replaced all the same; it is written in place only where the folder takes no
-  // new file at all.
-  Keep,
-};
 
 // Makes `bytes` the content of the file at `path`, creating it where it is missing.
 //

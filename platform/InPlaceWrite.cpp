@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/FileErrors.h"
 #include "platform/KeptWrite.h"
 
 namespace brennet::platform {

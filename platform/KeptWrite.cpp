@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "platform/Checksum.h"
+#include "platform/FileErrors.h"
 
 namespace brennet::platform {
 namespace {

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "platform/FileSystem.h"
-#include "platform/Files.h"
 
 namespace brennet::platform {
 

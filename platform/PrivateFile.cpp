@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "platform/Files.h"
 #include "platform/Leftovers.h"
 #include "platform/Patience.h"
 #include "platform/Replacement.h"

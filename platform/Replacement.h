@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "platform/FileSystem.h"
-#include "platform/Files.h"
+#include "platform/OldContent.h"
 #include "platform/Patience.h"
 
 // How the content of a file gets another: through a temporary file that takes its place, or, where

@@ -15,7 +15,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/Files.h"
+#include "platform/FileErrors.h"
 #include "platform/posix/FileRights.h"
 
 namespace brennet::platform {

@@ -8,7 +8,7 @@
 #include <bit>
 #include <string>
 
-#include "platform/Files.h"
+#include "platform/FileErrors.h"
 #include "platform/win/FileRights.h"
 
 namespace brennet::platform {
