@@ -13,6 +13,7 @@
 #include "model/HotkeyConfig.h"
 #include "model/LoadReport.h"
 #include "ui/capture/SlotText.h"
+#include "ui/capture/TabOrder.h"
 #include "ui/capture/VirtualKey.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
@@ -27,7 +28,6 @@
 #include "ui/window/ModalRun.h"
 #include "ui/window/ScreenFit.h"
 #include "ui/window/StyleSheet.h"
-#include "ui/window/TabOrder.h"
 #include "ui/window/WindowDrag.h"
 #include "ui_CHotkeySettingDlg.h"
 

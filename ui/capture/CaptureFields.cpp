@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/Text.h"
 #include "ui/capture/SlotCapture.h"
+#include "ui/window/Text.h"
 
 namespace brennet {
 

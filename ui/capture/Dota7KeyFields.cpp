@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
-#include "ui/Text.h"
 #include "ui/capture/SlotCapture.h"
+#include "ui/window/Text.h"
 
 namespace brennet {
 namespace {

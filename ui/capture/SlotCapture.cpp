@@ -1,5 +1,7 @@
 #include "ui/capture/SlotCapture.h"
 
+#include "model/KeyAssignment.h"
+
 namespace brennet {
 namespace {
 

@@ -3,10 +3,10 @@
 #include <QDebug>
 #include <QLineEdit>
 
-#include "ui/Text.h"
 #include "ui/capture/FeatureKeys.h"
 #include "ui/capture/KeyMessages.h"
 #include "ui/capture/SlotCapture.h"
+#include "ui/window/Text.h"
 
 namespace brennet {
 namespace {

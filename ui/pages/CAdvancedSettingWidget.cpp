@@ -5,11 +5,11 @@
 
 #include <cstdint>
 
-#include "ui/Text.h"
 #include "ui/capture/FeatureKeys.h"
 #include "ui/capture/KeyMessages.h"
 #include "ui/chat/CCustomMsgTableModel.h"
 #include "ui/pages/Form.h"
+#include "ui/window/Text.h"
 #include "ui_CAdvancedSettingWidget.h"
 
 namespace {

@@ -6,11 +6,11 @@
 #include <QWindow>
 
 #include "model/RecommendedScheme.h"
+#include "ui/capture/TabOrder.h"
 #include "ui/pages/BasicCapture.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
-#include "ui/window/TabOrder.h"
 #include "ui_CHotkeySettingPage.h"
 
 using brennet::HotkeyScheme;

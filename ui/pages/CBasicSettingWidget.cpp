@@ -3,10 +3,10 @@
 #include <QCoreApplication>
 #include <QLineEdit>
 
+#include "ui/capture/TabOrder.h"
 #include "ui/pages/BasicCapture.h"
 #include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
-#include "ui/window/TabOrder.h"
 #include "ui_CBasicSettingWidget.h"
 
 using brennet::HotkeyScheme;

@@ -8,7 +8,6 @@
 #include <QTextDocument>
 #include <QTreeWidgetItem>
 
-#include "ui/Text.h"
 #include "ui/capture/FeatureKeys.h"
 #include "ui/capture/KeyMessages.h"
 #include "ui/chat/CCustomLineEdit.h"
@@ -17,6 +16,7 @@
 #include "ui/chat/RingLayout.h"
 #include "ui/chat/TypedPhrase.h"
 #include "ui/pages/Form.h"
+#include "ui/window/Text.h"
 #include "ui_CChatRouletteSettingWidget.h"
 
 namespace {

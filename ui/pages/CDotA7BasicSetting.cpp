@@ -7,11 +7,11 @@
 #include <iterator>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
-#include "ui/Text.h"
 #include "ui/capture/KeyMessages.h"
+#include "ui/capture/TabOrder.h"
 #include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
-#include "ui/window/TabOrder.h"
+#include "ui/window/Text.h"
 #include "ui_CDotA7BasicSetting.h"
 
 using brennet::Dota7Cast;

@@ -1,9 +1,9 @@
 #include "ui/pages/COrrerySettingDlg.h"
 
+#include "ui/capture/TabOrder.h"
 #include "ui/window/EventGuard.h"
 #include "ui/window/ScreenFit.h"
 #include "ui/window/StyleSheet.h"
-#include "ui/window/TabOrder.h"
 #include "ui/window/WindowDrag.h"
 #include "ui_COrrerySettingDlg.h"
 

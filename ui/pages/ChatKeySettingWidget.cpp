@@ -2,11 +2,11 @@
 
 #include <string_view>
 
-#include "ui/Text.h"
 #include "ui/capture/KeyMessages.h"
 #include "ui/chat/PhraseMenu.h"
 #include "ui/chat/TypedPhrase.h"
 #include "ui/pages/Form.h"
+#include "ui/window/Text.h"
 #include "ui_ChatKeySettingWidget.h"
 
 namespace {

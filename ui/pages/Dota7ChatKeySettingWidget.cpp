@@ -4,12 +4,12 @@
 #include <QLineEdit>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
-#include "ui/Text.h"
 #include "ui/capture/KeyMessages.h"
+#include "ui/capture/TabOrder.h"
 #include "ui/chat/PhraseMenu.h"
 #include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
-#include "ui/window/TabOrder.h"
+#include "ui/window/Text.h"
 #include "ui_Dota7ChatKeySettingWidget.h"
 
 namespace {

@@ -10,8 +10,8 @@
 
 #include "tests/ui/pages/ChatPageTest.h"
 #include "tests/ui/pages/PageChecks.h"
-#include "ui/Text.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
+#include "ui/window/Text.h"
 
 namespace brennet::test {
 namespace {

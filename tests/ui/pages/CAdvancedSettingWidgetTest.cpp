@@ -17,8 +17,8 @@
 
 #include "tests/ui/pages/ChatPageTest.h"
 #include "tests/ui/pages/PageChecks.h"
-#include "ui/Text.h"
 #include "ui/chat/CCustomMsgTableModel.h"
+#include "ui/window/Text.h"
 
 namespace brennet::test {
 namespace {

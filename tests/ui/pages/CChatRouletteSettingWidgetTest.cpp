@@ -7,8 +7,8 @@
 #include <QRegularExpression>
 
 #include "tests/ui/pages/WheelPage.h"
-#include "ui/Text.h"
 #include "ui/chat/ChatPhrases.h"
+#include "ui/window/Text.h"
 
 namespace brennet::test {
 namespace {

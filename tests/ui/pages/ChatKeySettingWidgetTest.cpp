@@ -15,7 +15,7 @@
 
 #include "tests/ui/pages/ChatPageTest.h"
 #include "tests/ui/pages/PageChecks.h"
-#include "ui/Text.h"
+#include "ui/window/Text.h"
 
 namespace brennet::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/window/TabOrder.h"
+#include "ui/capture/TabOrder.h"
 
 #include <QGridLayout>
 #include <QWidget>
