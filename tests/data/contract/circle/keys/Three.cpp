@@ -1,0 +1,3 @@
+#include "keys/Three.h"
+
+#include "keys/One.h"

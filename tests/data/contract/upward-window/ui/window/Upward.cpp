@@ -1,0 +1,1 @@
+#include "ui/pages/Page.h"
