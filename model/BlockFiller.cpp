@@ -6,6 +6,7 @@
 #include "markup/text/Utf8.h"
 #include "model/BlockBytes.h"
 #include "model/KeyConflicts.h"
+#include "model/KeySlot.h"
 #include "model/SettingTable.h"
 
 namespace brennet {
@@ -60,8 +61,9 @@ class BlockFiller {
   }
 
   void operator()(const RemapSetting& row) const {
-    for (std::size_t i = 0; i < scheme_.HotKey.size(); ++i) {
-      const KeyRemap& remap = scheme_.HotKey[i];
+    const auto& remaps = scheme_.*row.field;
+    for (std::size_t i = 0; i < remaps.size(); ++i) {
+      const KeyRemap& remap = remaps[i];
       if (!remap.Src.isSet() || !remap.Dest.isSet()) continue;
       const std::size_t offset = row.offset + i * kRemapSize;
       store16(bytes_, offset + kRemapSrc, remap.Src.raw());
@@ -71,18 +73,17 @@ class BlockFiller {
 
   // D alone says whether there is a combination.
   void operator()(const ComboSetting& row) const {
-    const ComboKeys& combo = scheme_.ComboKey;
+    const ComboKeys& combo = scheme_.*row.field;
     if (!combo.Key_D.isSet()) return;
-    const KeyWord keys[] = {combo.Key_A, combo.Key_B, combo.Key_C, combo.Key_D};
-    for (std::size_t i = 0; i < std::size(keys); ++i) {
-      storeKey(row.offset + i * sizeof(std::uint16_t), keys[i]);
+    for (std::size_t i = 0; i < std::size(kComboKeys); ++i) {
+      storeKey(row.offset + i * sizeof(std::uint16_t), combo.*kComboKeys[i]);
     }
   }
 
   void operator()(const PresetSetting&) const {}  // shows in the item keys
 
   void operator()(const QuickChatSetSetting& row) const {
-    store16(bytes_, row.offset, static_cast<std::uint16_t>(scheme_.QuickChatIndex));
+    store16(bytes_, row.offset, static_cast<std::uint16_t>(scheme_.*row.field));
   }
 
   void operator()(const PhraseSetting& row) const {
@@ -113,7 +114,7 @@ void fillBlock(HotkeyConfig& config, HotkeyBlock& block) {
   block.size = sizeof(HotkeyBlock);
   block.flags = config.enable() ? kEnableFlag : 0;
   const BlockFiller filler(config.scheme(), bytesOf(block));
-  for (const SettingId id : blockOrder()) std::visit(filler, setting(id).kind);
+  for (const SettingId id : kBlockOrder) std::visit(filler, setting(id).kind);
   config.markBlockBuilt();
 }
 

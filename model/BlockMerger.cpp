@@ -95,12 +95,13 @@ struct ClearChangedKeys : Merge {
     }
   }
   void operator()(const RemapSetting& row) const {
-    for (std::size_t i = 0; i < scheme.HotKey.size(); ++i) {
-      if (remapDiffers(row.offset + i * kRemapSize)) scheme.HotKey[i] = KeyRemap();
+    auto& remaps = scheme.*row.field;
+    for (std::size_t i = 0; i < remaps.size(); ++i) {
+      if (remapDiffers(row.offset + i * kRemapSize)) remaps[i] = KeyRemap();
     }
   }
   void operator()(const ComboSetting& row) const {
-    if (comboDiffers(row.offset)) scheme.ComboKey = ComboKeys();
+    if (comboDiffers(row.offset)) scheme.*row.field = ComboKeys();
   }
   template <class NoKeys>
   void operator()(const NoKeys&) const {}
@@ -143,10 +144,11 @@ struct TakeChanges : Merge {
 
   bool operator()(const RemapSetting& row) const {
     bool differs = false;
-    for (std::size_t i = 0; i < scheme.HotKey.size(); ++i) {
+    auto& remaps = scheme.*row.field;
+    for (std::size_t i = 0; i < remaps.size(); ++i) {
       const std::size_t offset = row.offset + i * kRemapSize;
       if (!remapDiffers(offset)) continue;
-      assignRemap(scheme, scheme.HotKey[i], remapAt(returned, offset));
+      assignRemap(scheme, remaps[i], remapAt(returned, offset));
       differs = true;
     }
     return differs;
@@ -216,8 +218,8 @@ bool mergeBlock(const HotkeyBlock& current, const HotkeyBlock& returned, std::si
   HotkeyScheme* scheme = config.editableScheme();
   const Merge merge{bytesOf(current), bytesOf(returned), carried,
                     scheme != nullptr ? *scheme : nowhere};
-  for (const SettingId id : blockOrder()) std::visit(ClearChangedKeys{merge}, setting(id).kind);
-  for (const SettingId id : blockOrder()) {
+  for (const SettingId id : kBlockOrder) std::visit(ClearChangedKeys{merge}, setting(id).kind);
+  for (const SettingId id : kBlockOrder) {
     differs = std::visit(TakeChanges{merge}, setting(id).kind) || differs;
   }
   return differs;

@@ -81,7 +81,7 @@ void HotkeyConfig::Reset() {
   lastSaveTime_ = 0;
   enable_ = false;
   index_ = 0;
-  for (HotkeyScheme& scheme : schemes_) scheme.reset();
+  for (HotkeyScheme& scheme : schemes_) resetScheme(scheme);
   loadReport_ = {};
   blockBuilt_ = false;
   blockBuffer_ = HotkeyBlock{};
@@ -90,7 +90,7 @@ void HotkeyConfig::Reset() {
 void HotkeyConfig::ResetAndCopyFrom(const HotkeyConfig& main) {
   if (this == &main) return;
   Schemes schemes = schemes_;
-  for (HotkeyScheme& scheme : schemes) scheme.reset();
+  for (HotkeyScheme& scheme : schemes) resetScheme(scheme);
   schemes = assigned(std::move(schemes), main.schemes_);
   Reset();
   copyFrom(main, std::move(schemes));

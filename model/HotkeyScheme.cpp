@@ -1,18 +1,8 @@
 #include "model/HotkeyScheme.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace brennet {
-void HotkeyScheme::reset() {
-  HotkeyScheme fresh;
-  fresh.QuickChat = std::move(QuickChat);
-  fresh.HeroSkillAutocast = HeroSkillAutocast;
-  fresh.ItemAutocast = ItemAutocast;
-  fresh.DisableLeftAlt = DisableLeftAlt;
-  fresh.DisableLeftAltShowHP = DisableLeftAltShowHP;
-  *this = std::move(fresh);
-}
 
 void fillAbsent(Phrases& phrases) {
   for (std::optional<std::u16string>& phrase : phrases) {

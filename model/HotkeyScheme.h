@@ -94,10 +94,6 @@ struct HotkeyScheme {
   std::uint8_t DisableLeftAlt = 0;
   std::uint8_t DisableLeftAltShowHP = 0;
 
-  // Puts the defaults in place. The quick-chat phrases, the quick-cast marks and the two left-Alt
-  // switches stay as they are.
-  void reset();
-
   friend bool operator==(const HotkeyScheme&, const HotkeyScheme&) = default;
 
  private:

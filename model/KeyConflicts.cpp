@@ -1,8 +1,12 @@
 #include "model/KeyConflicts.h"
 
 #include <algorithm>
+#include <functional>
 #include <span>
 #include <utility>
+#include <variant>
+
+#include "model/SettingTable.h"
 
 namespace brennet {
 namespace {
@@ -11,19 +15,6 @@ namespace {
 constexpr std::uint8_t kBackspace = 0x08;
 constexpr std::uint8_t kEnter = 0x0D;
 constexpr std::uint8_t kDelete = 0x2E;
-
-struct SingleKey {
-  SettingId setting;
-  KeyWord HotkeyScheme::*key;
-};
-constexpr SingleKey kSingleKeys[] = {
-    {SettingId::ShowFBlood, &HotkeyScheme::ShowFBlood},
-    {SettingId::ShowEBlood, &HotkeyScheme::ShowEBlood},
-    {SettingId::HotkeyContrl, &HotkeyScheme::HotkeyContrl},
-    {SettingId::WinLockMouse, &HotkeyScheme::WinLockMouse},
-    {SettingId::QuickChatKey, &HotkeyScheme::QuickChatKey},
-    {SettingId::ChatWheelkey, &HotkeyScheme::ChatWheelkey},
-};
 
 bool canBeBound(KeyWord key) {
   const std::uint8_t vk = key.virtualKey();
@@ -39,21 +30,65 @@ bool anyOf(const Keys& keys, Predicate predicate) {
   return any;
 }
 
-// The keys that no other setting may have, group by group: calls `look` with the slot of the first
-// key, the distance of the slots, the group, and the way from one of its elements to the key.
+// Calls `look` for the keys of a row that no other setting may have: with the slot of the first of
+// them, the distance of their slots, what holds them, and the way from an element of it to its key.
+template <class Look>
+struct LookAtKeys {
+  const HotkeyScheme& scheme;
+  SettingId id;
+  Look look;
+
+  void operator()(const KeySetting& row) const {
+    look(KeySlot{id}, 1, std::span(&(scheme.*row.field), 1), std::identity());
+  }
+  void operator()(const KeyListSetting& row) const {
+    look(KeySlot{id}, 1, row.keysOf(scheme), std::identity());
+  }
+  void operator()(const RemapSetting& row) const {
+    constexpr auto sent = [](const KeyRemap& remap) { return remap.Dest; };
+    look(remapDestination(0), 2, std::span(scheme.*row.field), sent);
+  }
+  void operator()(const ComboSetting& row) const {
+    look(kComboTarget, 1, std::span(&(scheme.*row.field).Key_D, 1), std::identity());
+  }
+  template <class NoKeys>
+  void operator()(const NoKeys&) const {}
+};
+
 template <class Look>
 void lookAtGuardedKeys(const HotkeyScheme& scheme, Look look) {
-  constexpr auto itself = [](KeyWord key) { return key; };
-  constexpr auto sent = [](const KeyRemap& remap) { return remap.Dest; };
-  look(KeySlot{SettingId::HeroSkillKey}, 1, scheme.HeroSkillKey, itself);
-  look(KeySlot{SettingId::ItemKey}, 1, scheme.ItemKey, itself);
-  look(remapDestination(0), 2, scheme.HotKey, sent);
-  look(kComboTarget, 1, std::span(&scheme.ComboKey.Key_D, 1), itself);
-  look(KeySlot{SettingId::SecretaryKey}, 1, scheme.SecretaryKey, itself);
-  for (const SingleKey& single : kSingleKeys) {
-    look(KeySlot{single.setting}, 1, std::span(&(scheme.*single.key), 1), itself);
-  }
+  forEachSetting([&](auto id) {
+    constexpr const Setting& row = setting(id);
+    if constexpr (row.role == KeyRole::Guarded) {
+      std::visit(LookAtKeys<Look&>{scheme, id, look}, row.kind);
+    }
+  });
 }
+
+// Whether a row has a key that the player can press, of the virtual key `vk`.
+struct IsPressed {
+  const HotkeyScheme& scheme;
+  std::uint8_t vk;
+
+  bool operator()(const KeySetting& row) const { return is(scheme.*row.field); }
+  bool operator()(const KeyListSetting& row) const {
+    const ItemPreset* const preset = row.followsPreset ? chosenItemPreset(scheme) : nullptr;
+    return anyOf(preset != nullptr ? std::span<const KeyWord>(*preset) : row.keysOf(scheme),
+                 [this](KeyWord key) { return is(key); });
+  }
+  bool operator()(const RemapSetting& row) const {
+    return anyOf(scheme.*row.field,
+                 [this](const KeyRemap& remap) { return remap.Dest.isSet() && is(remap.Src); });
+  }
+  bool operator()(const ComboSetting& row) const { return is((scheme.*row.field).Key_D); }
+  template <class NoKeys>
+  bool operator()(const NoKeys&) const {
+    return false;
+  }
+
+ private:
+  [[nodiscard]] bool is(KeyWord key) const { return key.isSet() && key.virtualKey() == vk; }
+};
 
 // The place of `key` among `keys`, a fixed set; nothing when it is none of them.
 template <class Keys>
@@ -148,15 +183,14 @@ bool isKeyAssignable(const HotkeyScheme& scheme, KeyWord key) {
 }
 
 bool isKeyUsed(const HotkeyScheme& scheme, std::uint8_t vk) {
-  const auto uses = [vk](KeyWord key) { return key.isSet() && key.virtualKey() == vk; };
-  const ItemPreset* preset = chosenItemPreset(scheme);
-  return anyOf(scheme.HeroSkillKey, uses) ||
-         anyOf(preset != nullptr ? *preset : scheme.ItemKey, uses) ||
-         anyOf(scheme.HotKey,
-               [&](const KeyRemap& remap) { return remap.Dest.isSet() && uses(remap.Src); }) ||
-         uses(scheme.ComboKey.Key_D) || anyOf(scheme.MouseKey, uses) ||
-         anyOf(scheme.SecretaryKey, uses) ||
-         anyOf(kSingleKeys, [&](const SingleKey& single) { return uses(scheme.*single.key); });
+  bool isUsed = false;
+  forEachSetting([&](auto id) {
+    constexpr const Setting& row = setting(id);
+    if constexpr (row.role != KeyRole::None) {
+      isUsed = isUsed || std::visit(IsPressed{scheme, vk}, row.kind);
+    }
+  });
+  return isUsed;
 }
 
 const ItemPreset* chosenItemPreset(const HotkeyScheme& scheme) {

@@ -2,6 +2,7 @@
 
 #include "model/CardPositions.h"
 #include "model/KeyAssignment.h"
+#include "model/SchemeAssignment.h"
 
 namespace brennet {
 namespace {
@@ -18,7 +19,7 @@ KeyWord skillKey(CardPosition position) {
 }  // namespace
 
 void recommend(HotkeyScheme& scheme) {
-  scheme.reset();
+  resetScheme(scheme);
   for (std::size_t i = 0; i < kCommandCard.size(); ++i) {
     assignKey(scheme, scheme.HeroSkillKey[i], skillKey(kCommandCard[i]));
   }

@@ -1,37 +1,61 @@
 #include "model/SchemeAssignment.h"
 
+#include <algorithm>
 #include <utility>
+#include <variant>
 
 #include "model/KeyAssignment.h"
+#include "model/SettingTable.h"
 
 namespace brennet {
 namespace {
 
-// The keys that an assignment copies behind the choice of an item preset.
-constexpr KeyWord HotkeyScheme::*kCopiedAfterPreset[] = {
-    &HotkeyScheme::ShowFBlood,   &HotkeyScheme::ShowEBlood,   &HotkeyScheme::HotkeyContrl,
-    &HotkeyScheme::WinLockMouse, &HotkeyScheme::QuickChatKey,
+// Copies a setting as it is, without the quick-cast marks of its keys.
+struct Copy {
+  HotkeyScheme& target;
+  const HotkeyScheme& source;
+
+  void operator()(const KeyListSetting& row) const {
+    std::ranges::copy(row.keysOf(source), row.keys(target).begin());
+  }
+  template <class Row>
+  void operator()(const Row& row) const {
+    target.*row.field = source.*row.field;
+  }
+};
+
+// Copies a setting with its marks, and a choice only where the keys that are copied by then let it.
+struct Assign : Copy {
+  using Copy::operator();
+
+  void operator()(const KeyListSetting& row) const {
+    Copy::operator()(row);
+    if (row.autocast == nullptr) return;
+    std::ranges::copy(row.autocastOf(source), row.autocast(target).begin());
+  }
+  void operator()(const PresetSetting& row) const { choosePreset(target, source.*row.field); }
+  void operator()(const QuickChatSetSetting& row) const {
+    chooseQuickChatKeys(target, source.*row.field);
+  }
+  void operator()(const PhraseSetting& row) const {
+    Copy::operator()(row);
+    fillAbsent(target.*row.field);
+  }
 };
 
 }  // namespace
 
 void assignScheme(HotkeyScheme& target, const HotkeyScheme& source) {
-  HotkeyScheme result = source;
-  fillAbsent(result.QuickChat);
-  fillAbsent(result.ChatWheel);
-
-  // What is copied behind a choice still has the target's value when the choice is checked.
-  for (KeyWord HotkeyScheme::*key : kCopiedAfterPreset) result.*key = target.*key;
-  result.ChatWheelkey = target.ChatWheelkey;
-  result.QuickChatIndex = target.QuickChatIndex;
-  result.NumComboKeyIndex = target.NumComboKeyIndex;
-  choosePreset(result, source.NumComboKeyIndex);
-
-  for (KeyWord HotkeyScheme::*key : kCopiedAfterPreset) result.*key = source.*key;
-  chooseQuickChatKeys(result, source.QuickChatIndex);
-
-  result.ChatWheelkey = source.ChatWheelkey;
+  HotkeyScheme result = target;
+  for (const Setting& row : kSettings) std::visit(Assign{{result, source}}, row.kind);
   target = std::move(result);
+}
+
+void resetScheme(HotkeyScheme& scheme) {
+  const HotkeyScheme defaults;
+  for (const Setting& row : kSettings) {
+    if (row.onReset == OnReset::Default) std::visit(Copy{scheme, defaults}, row.kind);
+  }
 }
 
 }  // namespace brennet

@@ -157,7 +157,7 @@ bool findSetting(MarkupDocument& document, SettingId id) {
 
 std::vector<DroppedKey> readScheme(MarkupDocument& document, HotkeyScheme& scheme) {
   KeyOffers offers(scheme);
-  for (const SettingId id : loadOrder()) {
+  for (const SettingId id : kLoadOrder) {
     if (!findSetting(document, id)) continue;
     std::visit(SettingReader(document, scheme, offers, id), setting(id).kind);
   }

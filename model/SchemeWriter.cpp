@@ -46,32 +46,34 @@ class SettingWriter {
     return closeList() && ok;
   }
 
-  bool operator()(const RemapSetting&) const {
+  bool operator()(const RemapSetting& row) const {
+    const auto& remaps = scheme_.*row.field;
     bool ok = openList();
-    for (std::size_t i = 0; i < scheme_.HotKey.size(); ++i) {
+    for (std::size_t i = 0; i < remaps.size(); ++i) {
       ok = addEntry(u"Key", i, {}) && document_.intoElem() && ok;
-      ok = addChild(u"Src", keyText(scheme_.HotKey[i].Src)) && ok;
-      ok = addChild(u"Dest", keyText(scheme_.HotKey[i].Dest)) && ok;
+      ok = addChild(u"Src", keyText(remaps[i].Src)) && ok;
+      ok = addChild(u"Dest", keyText(remaps[i].Dest)) && ok;
       ok = document_.outOfElem() && ok;
     }
     return closeList() && ok;
   }
 
-  bool operator()(const ComboSetting&) const {
+  bool operator()(const ComboSetting& row) const {
+    const ComboKeys& keys = scheme_.*row.field;
     bool ok = openList();
-    ok = addChild(u"Key_A", keyText(scheme_.ComboKey.Key_A)) && ok;
-    ok = addChild(u"Key_B", keyText(scheme_.ComboKey.Key_B)) && ok;
-    ok = addChild(u"Key_C", keyText(scheme_.ComboKey.Key_C)) && ok;
-    ok = addChild(u"Key_D", keyText(scheme_.ComboKey.Key_D)) && ok;
+    ok = addChild(u"Key_A", keyText(keys.Key_A)) && ok;
+    ok = addChild(u"Key_B", keyText(keys.Key_B)) && ok;
+    ok = addChild(u"Key_C", keyText(keys.Key_C)) && ok;
+    ok = addChild(u"Key_D", keyText(keys.Key_D)) && ok;
     return closeList() && ok;
   }
 
-  bool operator()(const PresetSetting&) const {
-    return addValue(decimalText(scheme_.NumComboKeyIndex));
+  bool operator()(const PresetSetting& row) const {
+    return addValue(decimalText(scheme_.*row.field));
   }
 
-  bool operator()(const QuickChatSetSetting&) const {
-    return addValue(decimalText(scheme_.QuickChatIndex));
+  bool operator()(const QuickChatSetSetting& row) const {
+    return addValue(decimalText(scheme_.*row.field));
   }
 
   bool operator()(const PhraseSetting& row) const {
@@ -109,7 +111,7 @@ bool writeScheme(MarkupDocument& document, const HotkeyScheme& scheme,
                  const HotkeyScheme& current) {
   SettingWriter writer(document, scheme, current);
   bool ok = true;
-  for (const Setting& setting : settings()) ok = writer.write(setting) && ok;
+  for (const Setting& setting : kSettings) ok = writer.write(setting) && ok;
   return ok;
 }
 

@@ -1,90 +1,27 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
-#include <span>
 #include <string_view>
-#include <variant>
+#include <type_traits>
+#include <utility>
 
+#include "brennet/HotkeyBlock.h"
 #include "model/HotkeyScheme.h"
+#include "model/KeyLists.h"
+#include "model/SettingKinds.h"
 
+// The settings of a scheme, one row each. Everything that is done with all of them walks the rows:
+// reset and assignment (SchemeAssignment.h), loading and saving (SchemeReader.h, SchemeWriter.h),
+// filling a block and taking one back (BlockFiller.h, BlockMerger.h), and the questions of who has
+// a key (KeyConflicts.h). A new setting is a member of HotkeyScheme with its default, a number in
+// SettingId and a row here.
 namespace brennet {
 
-// The settings of a scheme, one row each: what it is called in the settings file, which member
-// holds it, and where it stands in a HotkeyBlock. Reading and writing the file, filling a block and
-// taking one back all walk these rows. A new setting is a member of HotkeyScheme, a row here and
-// its place in the orders below.
-
-// A switch, 0 or 1. In the block a bit of the flag word, or a byte of its own.
-struct SwitchSetting {
-  static constexpr std::uint8_t kWholeByte = 0xFF;
-
-  std::uint8_t HotkeyScheme::*field;
-  std::size_t offset;
-  std::uint8_t mask;  // a bit of the byte at `offset`, or kWholeByte
-};
-
-// A number in one byte.
-struct ByteSetting {
-  std::uint8_t HotkeyScheme::*field;
-  std::size_t offset;
-};
-
-// A single feature key.
-struct KeySetting {
-  KeyWord HotkeyScheme::*field;
-  std::size_t offset;
-};
-
-// A row of keys, with quick-cast marks where the game can cast without a second click.
-struct KeyListSetting {
-  std::span<KeyWord> (*keys)(HotkeyScheme&);
-  std::span<const std::uint16_t> ids;      // the `id` attribute of each key
-  std::span<const std::uint16_t> offsets;  // where each key stands in the block
-  std::span<std::optional<bool>> (*autocast)(HotkeyScheme&) = nullptr;
-  bool followsPreset = false;  // a chosen item preset takes the place of the keys in the block
-
-  // The same for a scheme that is only read; the accessors change nothing themselves.
-  [[nodiscard]] std::span<const KeyWord> keysOf(const HotkeyScheme& scheme) const {
-    return keys(const_cast<HotkeyScheme&>(scheme));
-  }
-  [[nodiscard]] std::span<const std::optional<bool>> autocastOf(const HotkeyScheme& scheme) const {
-    return autocast(const_cast<HotkeyScheme&>(scheme));
-  }
-};
-
-struct RemapSetting {
-  std::size_t offset;
-};
-
-struct ComboSetting {
-  std::size_t offset;
-};
-
-struct PresetSetting {};
-
-struct QuickChatSetSetting {
-  std::size_t offset;
-};
-
-struct PhraseSetting {
-  Phrases HotkeyScheme::*field;
-  std::size_t offset;
-  std::size_t size;  // bytes of the area in the block
-};
-
-using SettingKind =
-    std::variant<SwitchSetting, ByteSetting, KeySetting, KeyListSetting, RemapSetting, ComboSetting,
-                 PresetSetting, QuickChatSetSetting, PhraseSetting>;
-
-struct Setting {
-  std::u16string_view element;
-  SettingKind kind;
-};
-
-// In the order in which they are written to the settings file; the number of a row in kSettings.
+// In the order in which they are written to the settings file and assigned; the number of a row in
+// kSettings.
 enum class SettingId : std::uint8_t {
   ZoomValue,
   HeroSkillKey,
@@ -121,14 +58,173 @@ enum class SettingId : std::uint8_t {
 inline constexpr std::size_t kSettingCount =
     static_cast<std::size_t>(SettingId::DisableLeftAltShowHP) + 1;
 
-[[nodiscard]] std::span<const Setting, kSettingCount> settings();
-[[nodiscard]] const Setting& setting(SettingId id);
+// What a setting means to a key that is to be bound.
+enum class KeyRole : std::uint8_t {
+  None,         // it holds no keys, or those of another row
+  PressedOnly,  // its keys are used; others may have them all the same
+  Guarded,      // no other setting may have the key that it sends or waits for
+};
+
+// What a reset of the scheme makes of a setting. Quick-cast marks always stay.
+enum class OnReset : std::uint8_t { Default, Stays };
+
+// The rank of a setting that is not in the block: it shows in others.
+inline constexpr int kNotInBlock = 0;
+
+struct Setting {
+  SettingId id;
+  std::u16string_view element;  // what it is called in the settings file
+  SettingKind kind;             // with the member that holds it and its place in the block
+  // Its places in the orders in which a settings file is read and a returned block is merged: any
+  // number between those of the neighbours. Of two keys that are the same, the earlier one stays.
+  int loadRank;
+  int blockRank;
+  KeyRole role = KeyRole::None;
+  OnReset onReset = OnReset::Default;
+};
+
+namespace detail {
+
+constexpr SwitchSetting flagBit(std::uint8_t HotkeyScheme::*field, unsigned bit) {
+  return {field, offsetof(HotkeyBlock, flags), static_cast<std::uint8_t>(1U << bit)};
+}
+constexpr SwitchSetting wholeByte(std::uint8_t HotkeyScheme::*field, std::size_t offset) {
+  return {field, offset, SwitchSetting::kWholeByte};
+}
+
+// clang-format off
+constexpr std::array<Setting, kSettingCount> table() {
+  using enum SettingId;
+  using enum KeyRole;
+  using Scheme = HotkeyScheme;
+  using Block = HotkeyBlock;
+  constexpr auto kStays = OnReset::Stays;
+  return {{
+      {ZoomValue, u"ZoomValue",
+       ByteSetting{&Scheme::ZoomValue, offsetof(Block, zoomValue)}, 10, 10},
+
+      {HeroSkillKey, u"HeroSkillKey", kHeroSkillRow, 20, 90, Guarded},
+      {ItemKey, u"ItemKey", kItemRow, 40, 100, Guarded},
+      {MouseKey, u"MouseKey", kMouseRow, 30, 130, PressedOnly},
+      {SecretaryKey, u"SecretaryKey", kLedgerRow, 50, 140, Guarded},
+
+      {DisableLWinFlag, u"DisableLWinFlag", flagBit(&Scheme::DisableLWinFlag, 0), 60, 20},
+      {LockMouseFlag, u"LockMouseFlag", flagBit(&Scheme::LockMouseFlag, 1), 70, 30},
+      {ShowFBloodFlag, u"ShowFBloodFlag", flagBit(&Scheme::ShowFBloodFlag, 2), 80, 40},
+      {ShowEBloodFlag, u"ShowEBloodFlag", flagBit(&Scheme::ShowEBloodFlag, 3), 90, 50},
+      {ShowFManaFlag, u"ShowFManaFlag", flagBit(&Scheme::ShowFManaFlag, 7), 100, 80},
+      {ViewNoDragFlag, u"ViewNoDragFlag", flagBit(&Scheme::ViewNoDragFlag, 4), 160, 60},
+      {StartJSQFlag, u"StartJSQFlag", flagBit(&Scheme::StartJSQFlag, 5), 170, 70},
+
+      {HotKey, u"HotKey",
+       RemapSetting{&Scheme::HotKey, offsetof(Block, keyRemaps)}, 180, 110, Guarded},
+      {ComboKey, u"ComboKey",
+       ComboSetting{&Scheme::ComboKey, offsetof(Block, comboKeys)}, 190, 120, Guarded},
+      {ComboKey3to1, u"ComboKey3to1",  // the same keys once more
+       ComboSetting{&Scheme::ComboKey, offsetof(Block, comboKeys)}, 200, kNotInBlock},
+      {NumComboKeyIndex, u"NumComboKeyIndex",
+       PresetSetting{&Scheme::NumComboKeyIndex}, 210, kNotInBlock},
+
+      {ShowFBlood, u"ShowFBlood",
+       KeySetting{&Scheme::ShowFBlood, offsetof(Block, showFBlood)}, 220, 150, Guarded},
+      {ShowEBlood, u"ShowEBlood",
+       KeySetting{&Scheme::ShowEBlood, offsetof(Block, showEBlood)}, 230, 160, Guarded},
+      {HotkeyContrl, u"HotkeyContrl",
+       KeySetting{&Scheme::HotkeyContrl, offsetof(Block, hotkeyContrl)}, 300, 170, Guarded},
+      {WinLockMouse, u"WinLockMouse",
+       KeySetting{&Scheme::WinLockMouse, offsetof(Block, winLockMouse)}, 250, 180, Guarded},
+      {QuickChatKey, u"QuickChatKey",
+       KeySetting{&Scheme::QuickChatKey, offsetof(Block, quickChatKey)}, 260, 190, Guarded},
+      {QuickChatIndex, u"QuickChatIndex",
+       QuickChatSetSetting{&Scheme::QuickChatIndex, offsetof(Block, quickChatIndex)}, 270, 210},
+      {ChatWheelkey, u"ChatWheelkey",
+       KeySetting{&Scheme::ChatWheelkey, offsetof(Block, chatWheelKey)}, 240, 200, Guarded},
+
+      {QuickChat, u"QuickChat",
+       PhraseSetting{&Scheme::QuickChat, offsetof(Block, quickChat), sizeof(Block::quickChat)},
+       280, 220, KeyRole::None, kStays},
+      {ChatWheel, u"ChatWheel",
+       PhraseSetting{&Scheme::ChatWheel, offsetof(Block, chatWheel), sizeof(Block::chatWheel)},
+       290, 230},
+
+      {HideUI, u"HideUI",
+       wholeByte(&Scheme::HideUI, offsetof(Block, hideUI)), 110, 240},
+      {SkillHeroOnly, u"SkillHeroOnly",
+       wholeByte(&Scheme::SkillHeroOnly, offsetof(Block, skillHeroOnly)), 120, 250},
+      {CombokeyHeroOnly, u"CombokeyHeroOnly",
+       wholeByte(&Scheme::CombokeyHeroOnly, offsetof(Block, combokeyHeroOnly)), 130, 260},
+      {DisableLeftAlt, u"DisableLeftAlt",
+       wholeByte(&Scheme::DisableLeftAlt, offsetof(Block, disableLeftAlt)),
+       140, 270, KeyRole::None, kStays},
+      {DisableLeftAltShowHP, u"DisableLeftAltShowHP",
+       wholeByte(&Scheme::DisableLeftAltShowHP, offsetof(Block, disableLeftAltShowHP)),
+       150, 280, KeyRole::None, kStays},
+  }};
+}
+// clang-format on
+
+}  // namespace detail
+
+inline constexpr std::array<Setting, kSettingCount> kSettings = detail::table();
+
+[[nodiscard]] constexpr const Setting& setting(SettingId id) {
+  return kSettings[static_cast<std::size_t>(id)];
+}
+
+namespace detail {
+
+// The settings that have a rank, in the order of the ranks.
+template <int Setting::*Rank>
+constexpr auto rankedBy() {
+  constexpr auto isRanked = [](const Setting& row) { return row.*Rank != kNotInBlock; };
+  constexpr auto kCount = std::count_if(kSettings.begin(), kSettings.end(), isRanked);
+  std::array<SettingId, static_cast<std::size_t>(kCount)> order{};
+  std::size_t n = 0;
+  for (const Setting& row : kSettings) {
+    if (isRanked(row)) order[n++] = row.id;
+  }
+  std::sort(order.begin(), order.end(),
+            [](SettingId a, SettingId b) { return setting(a).*Rank < setting(b).*Rank; });
+  return order;
+}
+
+template <int Setting::*Rank, std::size_t Count>
+constexpr bool areRanksDistinct(const std::array<SettingId, Count>& order) {
+  return std::adjacent_find(order.begin(), order.end(), [](SettingId a, SettingId b) {
+           return setting(a).*Rank == setting(b).*Rank;
+         }) == order.end();
+}
+
+constexpr bool areRowsNumbered() {
+  for (std::size_t i = 0; i < kSettings.size(); ++i) {
+    if (kSettings[i].id != static_cast<SettingId>(i)) return false;
+  }
+  return true;
+}
+
+}  // namespace detail
 
 // The order in which a file is read: a key that is read earlier wins a conflict.
-[[nodiscard]] std::span<const SettingId, kSettingCount> loadOrder();
+inline constexpr auto kLoadOrder = detail::rankedBy<&Setting::loadRank>();
 
-// The settings that a HotkeyBlock carries, in the order in which a returned block is merged. The
-// item preset is not among them: it shows in the item keys only.
-[[nodiscard]] std::span<const SettingId> blockOrder();
+// The settings that a HotkeyBlock carries, in the order in which a returned block is merged.
+inline constexpr auto kBlockOrder = detail::rankedBy<&Setting::blockRank>();
+
+static_assert(detail::areRowsNumbered(), "put the rows of the table in the order of SettingId");
+static_assert(kLoadOrder.size() == kSettingCount, "give every setting a load rank");
+static_assert(detail::areRanksDistinct<&Setting::loadRank>(kLoadOrder),
+              "give the new setting a load rank between those of its neighbours");
+static_assert(detail::areRanksDistinct<&Setting::blockRank>(kBlockOrder),
+              "give the new setting a block rank between those of its neighbours");
+
+// Calls `visit` for each row, in their order, with its SettingId as a constant: what a row says can
+// then choose the code that is made for it.
+template <class Visit>
+constexpr void forEachSetting(Visit visit) {
+  [&]<std::size_t... Rows>(std::index_sequence<Rows...>) {
+    (visit(std::integral_constant<SettingId, static_cast<SettingId>(Rows)>()), ...);
+  }
+  (std::make_index_sequence<kSettingCount>());
+}
 
 }  // namespace brennet

@@ -74,7 +74,7 @@ struct Describe {
 TEST(Formats, ListTheSettings) {
   HotkeyScheme fresh;
   std::vector<Row> expected;
-  for (const Setting& setting : settings()) {
+  for (const Setting& setting : kSettings) {
     Row row = std::visit(Describe{fresh}, setting.kind);
     row.insert(row.begin(), narrow(setting.element));
     expected.push_back(std::move(row));

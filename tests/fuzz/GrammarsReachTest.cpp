@@ -46,14 +46,14 @@ TEST(SettingsGrammar, ReachesEverySettingOfTheFile) {
     ++loaded;
     for (const DroppedKey& key : config.loadReport().droppedKeys) dropped.insert(key.slot.setting);
     for (std::size_t i = 0; i < kSettingCount; ++i) {
-      const std::u16string tag = u"<" + std::u16string(settings()[i].element) + u">";
+      const std::u16string tag = u"<" + std::u16string(kSettings[i].element) + u">";
       isNamed[i] = isNamed[i] || document.doc().find(tag) != std::u16string::npos;
     }
   });
   EXPECT_GT(loaded, kDocuments / 2);
   EXPECT_LT(loaded, kDocuments);
   for (std::size_t i = 0; i < kSettingCount; ++i) {
-    EXPECT_TRUE(isNamed[i]) << testing::PrintToString(settings()[i].element);
+    EXPECT_TRUE(isNamed[i]) << testing::PrintToString(kSettings[i].element);
   }
   EXPECT_GT(dropped.size(), 8U) << "keys of most settings are refused at times";
 }

@@ -17,7 +17,7 @@ using namespace test;
 
 std::vector<KeySlot> allSlots() {
   std::vector<KeySlot> slots;
-  for (const SettingId id : loadOrder()) {
+  for (const SettingId id : kLoadOrder) {
     if (id == SettingId::ComboKey3to1) continue;  // the keys of ComboKey once more
     for (std::size_t i = 0; i < keyCount(id); ++i) {
       slots.push_back({id, static_cast<std::uint8_t>(i)});

@@ -6,6 +6,7 @@
 #include <QWindow>
 
 #include "model/RecommendedScheme.h"
+#include "model/SchemeAssignment.h"
 #include "ui/capture/TabOrder.h"
 #include "ui/pages/BasicCapture.h"
 #include "ui/pages/COrrerySettingDlg.h"
@@ -198,7 +199,7 @@ void CBasicSetting7Widget::refreshMarks() {
 
 void CBasicSetting7Widget::reset() {
   if (HotkeyScheme* const scheme = config_.editableScheme()) {
-    scheme->reset();
+    brennet::resetScheme(*scheme);
     // A reset of a scheme spares these; a player who clears the page sees them here, and means all.
     scheme->HeroSkillAutocast = {};
     scheme->ItemAutocast = {};

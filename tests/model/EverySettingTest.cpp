@@ -1,0 +1,242 @@
+// That a row of the table is a whole setting: each one gets a value that nothing else has, and has
+// to give it back from the file, the block, a copy, a reset, a comparison and the questions of
+// keys.
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <variant>
+
+#include "markup/MarkupDocument.h"
+#include "model/BlockFiller.h"
+#include "model/BlockMerger.h"
+#include "model/HotkeyConfig.h"
+#include "model/KeyConflicts.h"
+#include "model/KeySlot.h"
+#include "model/SchemeAssignment.h"
+#include "model/SchemeReader.h"
+#include "model/SchemeWriter.h"
+#include "model/SettingTable.h"
+#include "tests/model/Keys.h"
+
+namespace brennet {
+
+void PrintTo(const HotkeyScheme& scheme, std::ostream* out) {
+  MarkupDocument document;
+  document.addElem(u"Scheme");
+  writeScheme(document, scheme, scheme);
+  for (const char16_t unit : document.doc()) *out << static_cast<char>(unit);
+}
+
+namespace {
+
+std::string nameOf(SettingId id) {
+  const std::u16string_view element = setting(id).element;
+  return {element.begin(), element.end()};
+}
+
+// A key that no other slot gets, without a modifier, as those of fixed choices have one.
+KeyWord keyFor(KeySlot slot) {
+  std::size_t number = slot.index;
+  for (const Setting& row : kSettings) {
+    if (row.id < slot.setting) number += keyCount(row.id);
+  }
+  return KeyWord(static_cast<std::uint8_t>('0' + number), 0);
+}
+
+// Puts into a setting a value that no other one has.
+struct PutValue {
+  HotkeyScheme& scheme;
+  SettingId id;
+
+  void operator()(const SwitchSetting& row) const { scheme.*row.field = 1; }
+  void operator()(const ByteSetting& row) const {
+    scheme.*row.field = static_cast<std::uint8_t>(200U + static_cast<unsigned>(id));
+  }
+  void operator()(const PresetSetting& row) const { scheme.*row.field = 2; }
+  void operator()(const QuickChatSetSetting& row) const { scheme.*row.field = 0; }
+  void operator()(const PhraseSetting& row) const {
+    for (auto& phrase : scheme.*row.field) {
+      phrase = std::u16string(setting(id).element) +
+               static_cast<char16_t>(u'0' + (&phrase - (scheme.*row.field).data()));
+    }
+  }
+  void operator()(const KeyListSetting& row) const {
+    putKeys();
+    if (row.autocast == nullptr) return;
+    for (auto& mark : row.autocast(scheme)) mark = true;
+  }
+  template <class Keys>
+  void operator()(const Keys&) const {
+    putKeys();
+  }
+
+ private:
+  void putKeys() const {
+    for (std::uint8_t i = 0; i < keyCount(id); ++i) storeKey(scheme, {id, i}, keyFor({id, i}));
+  }
+};
+
+void put(HotkeyScheme& scheme, SettingId id) {
+  std::visit(PutValue{scheme, id}, setting(id).kind);
+}
+
+// What was never set reads as what it is without it: a file and a block do not tell them apart.
+HotkeyScheme whole(HotkeyScheme scheme) {
+  for (auto& mark : scheme.HeroSkillAutocast) mark = mark.value_or(false);
+  for (auto& mark : scheme.ItemAutocast) mark = mark.value_or(false);
+  fillAbsent(scheme.QuickChat);
+  fillAbsent(scheme.ChatWheel);
+  return scheme;
+}
+
+HotkeyScheme savedAndLoaded(const HotkeyScheme& scheme) {
+  MarkupDocument document;
+  document.addElem(u"Scheme");
+  writeScheme(document, scheme, scheme);
+  MarkupDocument file;
+  file.setDoc(document.doc());
+  file.findElem(u"Scheme");
+  file.intoElem();
+  HotkeyScheme loaded;
+  static_cast<void>(readScheme(file, loaded));
+  return loaded;
+}
+
+HotkeyScheme filledAndMerged(const HotkeyScheme& scheme) {
+  HotkeyConfig config;
+  HotkeyBlock current;
+  fillBlock(config, current);
+  HotkeyConfig changed;
+  *changed.editableScheme() = scheme;
+  HotkeyBlock returned;
+  fillBlock(changed, returned);
+  mergeBlock(current, returned, sizeof(returned), config);
+  return config.scheme();
+}
+
+class EverySetting : public testing::TestWithParam<SettingId> {
+ protected:
+  EverySetting() { put(changed_, GetParam()); }
+
+  [[nodiscard]] const Setting& row() const { return setting(GetParam()); }
+
+  const HotkeyScheme defaults_;
+  HotkeyScheme changed_;
+};
+
+TEST_P(EverySetting, IsCompared) {
+  EXPECT_NE(changed_, defaults_);
+}
+
+TEST_P(EverySetting, IsSavedAndLoaded) {
+  EXPECT_EQ(whole(savedAndLoaded(changed_)), whole(changed_));
+}
+
+TEST_P(EverySetting, GoesIntoTheBlockAndBackUnlessItsRowSaysNot) {
+  if (row().blockRank == kNotInBlock && row().role == KeyRole::None) return;
+  EXPECT_EQ(whole(filledAndMerged(changed_)), whole(changed_));
+}
+
+TEST_P(EverySetting, IsCopied) {
+  HotkeyScheme copy;
+  assignScheme(copy, changed_);
+  EXPECT_EQ(whole(copy), whole(changed_));
+}
+
+TEST_P(EverySetting, IsResetAsItsRowSays) {
+  HotkeyScheme expected = row().onReset == OnReset::Stays ? changed_ : defaults_;
+  expected.HeroSkillAutocast = changed_.HeroSkillAutocast;
+  expected.ItemAutocast = changed_.ItemAutocast;
+  HotkeyScheme scheme = changed_;
+  resetScheme(scheme);
+  EXPECT_EQ(scheme, expected);
+}
+
+// Of a remap and a combination only the keys that are sent are guarded.
+TEST_P(EverySetting, HasItsKeysForItselfAsItsRowSays) {
+  if (row().role == KeyRole::None) return;
+  std::size_t guarded = 0;
+  for (std::uint8_t i = 0; i < keyCount(GetParam()); ++i) {
+    const KeySlot slot{GetParam(), i};
+    if (isKeyFree(changed_, keyFor(slot))) continue;
+    ++guarded;
+    EXPECT_EQ(holderOf(changed_, keyFor(slot)), slot);
+  }
+  const bool isRemap = std::holds_alternative<RemapSetting>(row().kind);
+  const bool isCombo = std::holds_alternative<ComboSetting>(row().kind);
+  const std::size_t own = isCombo ? 1 : keyCount(GetParam()) / (isRemap ? 2 : 1);
+  EXPECT_EQ(guarded, row().role == KeyRole::Guarded ? own : 0U)
+      << "say KeyRole::Guarded in the row of " << nameOf(GetParam())
+      << " in model/SettingTable.h, or what else its keys are";
+}
+
+// Of a remap the keys that are pressed are used, of a combination the one that is sent.
+TEST_P(EverySetting, UsesItsKeysAsItsRowSays) {
+  std::size_t used = 0;
+  for (std::uint8_t i = 0; i < keyCount(GetParam()); ++i) {
+    used += isKeyUsed(changed_, keyFor({GetParam(), i}).virtualKey()) ? 1U : 0U;
+  }
+  const bool isRemap = std::holds_alternative<RemapSetting>(row().kind);
+  const bool isCombo = std::holds_alternative<ComboSetting>(row().kind);
+  const std::size_t own = isCombo ? 1 : keyCount(GetParam()) / (isRemap ? 2 : 1);
+  EXPECT_EQ(used, own) << "give the row of " << nameOf(GetParam())
+                       << " in model/SettingTable.h a KeyRole";
+}
+
+INSTANTIATE_TEST_SUITE_P(, EverySetting, testing::ValuesIn(kLoadOrder),
+                         [](const auto& suite) { return nameOf(suite.param); });
+
+// All of them but the preset, in whose place the item keys stand in the block.
+TEST(AllSettings, StayApart) {
+  HotkeyScheme scheme;
+  for (const Setting& row : kSettings) {
+    if (row.id != SettingId::NumComboKeyIndex) put(scheme, row.id);
+  }
+  EXPECT_EQ(savedAndLoaded(scheme), scheme);
+  EXPECT_EQ(filledAndMerged(scheme), scheme);
+  HotkeyScheme copy;
+  assignScheme(copy, scheme);
+  EXPECT_EQ(copy, scheme);
+}
+
+// Stands for any member.
+struct AnyMember {
+  template <class Member>
+  operator Member() const;  // NOLINT(google-explicit-constructor): it is to be found by itself
+};
+
+template <class Type, class... Members>
+consteval std::size_t countMembers() {
+  if constexpr (requires { Type{Members()..., AnyMember()}; }) {
+    return countMembers<Type, Members..., AnyMember>();
+  } else {
+    return sizeof...(Members);
+  }
+}
+
+struct AddressesOf {
+  HotkeyScheme& scheme;
+  std::set<const void*>& found;
+
+  void operator()(const KeyListSetting& row) const {
+    found.insert(row.keys(scheme).data());
+    if (row.autocast != nullptr) found.insert(row.autocast(scheme).data());
+  }
+  template <class Row>
+  void operator()(const Row& row) const {
+    found.insert(&(scheme.*row.field));
+  }
+};
+
+TEST(AllSettings, HaveARowForEachMemberOfTheScheme) {
+  HotkeyScheme scheme;
+  std::set<const void*> found;
+  for (const Setting& row : kSettings) std::visit(AddressesOf{scheme, found}, row.kind);
+  EXPECT_EQ(found.size(), countMembers<HotkeyScheme>())
+      << "give the new member of HotkeyScheme a row of its own in model/SettingTable.h";
+}
+
+}  // namespace
+}  // namespace brennet
