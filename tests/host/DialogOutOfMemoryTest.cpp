@@ -21,6 +21,7 @@
 #include "tests/host/FailingNew.h"
 #include "tests/support/FaultPoints.h"
 #include "tests/support/ScopedRegistry.h"
+#include "tests/support/ToleratedLeaks.h"
 #include "tests/ui/pages/PageChecks.h"
 
 namespace brennet::test {

@@ -49,16 +49,6 @@ class WithoutFailures {
   bool wasSuspended_ = false;
 };
 
-// What is allocated as long as this lives is no leak to the leak sanitizer: code that Qt generates
-// loses layouts that are in no window yet when it ends with an exception.
-class ToleratedLeaks {
- public:
-  ToleratedLeaks();
-  ~ToleratedLeaks();
-  ToleratedLeaks(const ToleratedLeaks&) = delete;
-  ToleratedLeaks& operator=(const ToleratedLeaks&) = delete;
-};
-
 // The number of allocations of `act`, of which none fails.
 template <class Act>
 long allocationsOf(Act act, Whose whose = Whose::All) {

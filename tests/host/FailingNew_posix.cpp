@@ -8,18 +8,6 @@
 
 #include "tests/host/FailingNew.h"
 
-// GCC says it by a macro, clang by a feature.
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define BRENNET_HAS_LEAK_SANITIZER
-#endif
-#elif defined(__SANITIZE_ADDRESS__)
-#define BRENNET_HAS_LEAK_SANITIZER
-#endif
-#ifdef BRENNET_HAS_LEAK_SANITIZER
-#include <sanitizer/lsan_interface.h>
-#endif
-
 namespace brennet::test {
 namespace {
 
@@ -66,17 +54,5 @@ bool isOurs(const void* caller) {
       std::find_if(first, end, [](const void* frame) { return !code.library.holds(frame); });
   return behind != end && code.program.holds(*behind);
 }
-
-#ifdef BRENNET_HAS_LEAK_SANITIZER
-ToleratedLeaks::ToleratedLeaks() {
-  __lsan_disable();
-}
-ToleratedLeaks::~ToleratedLeaks() {
-  __lsan_enable();
-}
-#else
-ToleratedLeaks::ToleratedLeaks() = default;
-ToleratedLeaks::~ToleratedLeaks() = default;
-#endif
 
 }  // namespace brennet::test

@@ -7,8 +7,4 @@ bool isOurs(const void* /*caller*/) {
   return true;
 }
 
-// There is no leak sanitizer.
-ToleratedLeaks::ToleratedLeaks() = default;
-ToleratedLeaks::~ToleratedLeaks() = default;
-
 }  // namespace brennet::test

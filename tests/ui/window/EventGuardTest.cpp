@@ -21,6 +21,7 @@
 #include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "tests/support/ScopedRegistry.h"
+#include "tests/support/ToleratedLeaks.h"
 #include "ui/CHotkeySettingDlg.h"
 #include "ui/window/ModalRun.h"
 
@@ -82,6 +83,7 @@ TEST(AGuardedRun, EndsWithoutResultWhereAnEventFails) {
 }
 
 TEST(AGuardedRun, EndsWithoutResultWhereASlotFails) {
+  const ToleratedLeaks ofTheButton;
   GuardedDialog dialog;
   QPushButton button(&dialog);
   QObject::connect(&button, &QPushButton::clicked, &dialog, [] { runOut(); });
