@@ -8,9 +8,7 @@
 #include <limits>
 #include <utility>
 
-#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "host/LoadTrace.h"
-#include "host/ProcessConfigs.h"
 #include "host/WideText.h"
 #include "model/BlockFiller.h"
 #include "model/BlockMerger.h"
@@ -61,13 +59,6 @@ Result orElse(Result failure, Operation operation) noexcept {
 
 }  // namespace
 
-CBrennetImpl::CBrennetImpl() : config_(&mainConfig()) {}
-
-CBrennetImpl& CBrennetImpl::instance() {
-  static CBrennetImpl impl;
-  return impl;
-}
-
 bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
   if (path == nullptr) return false;
   std::u16string name;
@@ -75,7 +66,7 @@ bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
     name = fromWide(path);
   } catch (const std::exception&) {
     // The file that was loaded before is not the one that the host means now.
-    config_->Reset();
+    config_.Reset();
     settingsPath_.clear();
     return false;
   }
@@ -83,14 +74,14 @@ bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
   isLoadTold_ = false;
   unreadFile_ = platform::OldContent::Keep;
   try {
-    if (!config_->Load(settingsPath_)) return false;
+    if (!config_.Load(settingsPath_)) return false;
   } catch (const std::exception&) {
-    config_->Reset();
+    config_.Reset();
     return false;
   }
   unreadFile_ = platform::OldContent::Drop;
   try {
-    trace(config_->loadReport());
+    trace(config_.loadReport());
   } catch (const std::exception&) {
     // The settings are there; what is missing is a line for whoever looks after them.
   }
@@ -119,10 +110,11 @@ bool CBrennetImpl::ShowSettingsDialog(bool* saved, std::uint32_t saveTime) noexc
 }
 
 bool CBrennetImpl::runDialog() {
-  workingCopy().ResetAndCopyFrom(*config_);
-  CHotkeySettingDlg dialog(workingCopy(), Dota7KeyInfoManager::instance());
+  workingCopy_.ResetAndCopyFrom(config_);
+  if (!dota7_) dota7_.emplace();
+  CHotkeySettingDlg dialog(workingCopy_, *dota7_);
   dialog.setDataFolder(dataFolder_);
-  if (!std::exchange(isLoadTold_, true)) dialog.tellDroppedKeys(config_->loadReport());
+  if (!std::exchange(isLoadTold_, true)) dialog.tellDroppedKeys(config_.loadReport());
   return runModal(dialog) == QDialog::Accepted;
 }
 
@@ -131,36 +123,36 @@ bool CBrennetImpl::FillHotkeyBlock(HotkeyBlock* block) noexcept {
   const std::uint32_t size = announcedSize(block);
 
   HotkeyBlock filled;
-  fillBlock(*config_, filled);
+  fillBlock(config_, filled);
   filled.size = size;
   std::memcpy(block, &filled, sharedSize(size));
   return true;
 }
 
 std::uint8_t CBrennetImpl::GetDisableLWinFlag() noexcept {
-  return config_->scheme().DisableLWinFlag;
+  return config_.scheme().DisableLWinFlag;
 }
 
 std::uint32_t CBrennetImpl::GetLastSaveTime() noexcept {
-  return config_->LastSaveTime();
+  return config_.LastSaveTime();
 }
 
 bool CBrennetImpl::SetEnabled(bool enable, std::uint32_t saveTime) noexcept {
-  if (enable == config_->enable()) return false;
-  config_->setEnable(enable);
-  return orElse(false, [&] { return save(*config_, saveTime); });
+  if (enable == config_.enable()) return false;
+  config_.setEnable(enable);
+  return orElse(false, [&] { return save(config_, saveTime); });
 }
 
 std::uint8_t CBrennetImpl::GetViewNoDragFlag() noexcept {
-  return config_->scheme().ViewNoDragFlag;
+  return config_.scheme().ViewNoDragFlag;
 }
 
 bool CBrennetImpl::IsCapsLockUsed() noexcept {
-  return isKeyUsed(config_->scheme(), kVirtualKeyCapsLock);
+  return isKeyUsed(config_.scheme(), kVirtualKeyCapsLock);
 }
 
 bool CBrennetImpl::IsShiftUsed() noexcept {
-  return isKeyUsed(config_->scheme(), kVirtualKeyShift);
+  return isKeyUsed(config_.scheme(), kVirtualKeyShift);
 }
 
 std::int32_t CBrennetImpl::ApplyHotkeyBlock(HotkeyBlock* block, std::uint32_t saveTime) noexcept {
@@ -174,21 +166,21 @@ std::int32_t CBrennetImpl::ApplyHotkeyBlock(HotkeyBlock* block, std::uint32_t sa
   if (isDialogOpen_) return kNotApplied;
 
   HotkeyBlock current;
-  fillBlock(*config_, current);
+  fillBlock(config_, current);
   // What an older, shorter record does not carry is not changed.
   HotkeyBlock returned = current;
   std::memcpy(&returned, block, sharedSize(size));
 
   return orElse(kNotApplied, [&] {
-    workingCopy().ResetAndCopyFrom(*config_);
+    workingCopy_.ResetAndCopyFrom(config_);
     const bool applied =
-        mergeBlock(current, returned, sharedSize(size), workingCopy()) && saveWorkingCopy(saveTime);
+        mergeBlock(current, returned, sharedSize(size), workingCopy_) && saveWorkingCopy(saveTime);
     return applied ? kApplied : kNotApplied;
   });
 }
 
 std::uint8_t CBrennetImpl::GetStartJSQFlag() noexcept {
-  return config_->scheme().StartJSQFlag;
+  return config_.scheme().StartJSQFlag;
 }
 
 bool CBrennetImpl::save(HotkeyConfig& config, std::uint32_t saveTime) {
@@ -199,10 +191,10 @@ bool CBrennetImpl::save(HotkeyConfig& config, std::uint32_t saveTime) {
 
 bool CBrennetImpl::saveWorkingCopy(std::uint32_t saveTime) {
   // The copy is made first: once the file is written, nothing may fail any more.
-  HotkeyConfig saved = *config_;
-  saved.ResetAndCopyFrom(workingCopy());
-  if (!save(workingCopy(), saveTime)) return false;
-  config_->swap(saved);
+  HotkeyConfig saved = config_;
+  saved.ResetAndCopyFrom(workingCopy_);
+  if (!save(workingCopy_, saveTime)) return false;
+  config_.swap(saved);
   return true;
 }
 

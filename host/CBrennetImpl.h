@@ -1,19 +1,22 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "brennet/IBrennet.h"
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "platform/Files.h"
 
 namespace brennet {
 
-// The only implementation of IBrennet, one object for the life of the library. IBrennet.h says what
-// each operation promises to the host.
+// The only implementation of IBrennet, and all that it remembers from call to call: the library has
+// one such object (GetBrennetPtr.cpp), each test its own. IBrennet.h says what each operation
+// promises to the host.
 class CBrennetImpl final : public IBrennet {
  public:
-  static CBrennetImpl& instance();
-
+  CBrennetImpl() = default;
+  ~CBrennetImpl() = default;
   CBrennetImpl(const CBrennetImpl&) = delete;
   CBrennetImpl& operator=(const CBrennetImpl&) = delete;
 
@@ -31,16 +34,17 @@ class CBrennetImpl final : public IBrennet {
                                              std::uint32_t saveTime) noexcept override;
   std::uint8_t BRENNET_CALL GetStartJSQFlag() noexcept override;
 
- private:
-  CBrennetImpl();
-  ~CBrennetImpl() = default;
+  // What the player has saved, which all operations answer from.
+  [[nodiscard]] const HotkeyConfig& config() const { return config_; }
 
+ private:
   // The dialog on the working copy; whether the player confirmed.
   bool runDialog();
 
-  // Saves the working copy and, when that succeeded, makes it the main configuration.
   // Saves `config` to the settings file.
   bool save(HotkeyConfig& config, std::uint32_t saveTime);
+
+  // Saves the working copy and, when that succeeded, makes it what the player has saved.
   bool saveWorkingCopy(std::uint32_t saveTime);
 
   std::u16string settingsPath_;
@@ -49,7 +53,9 @@ class CBrennetImpl final : public IBrennet {
   platform::OldContent unreadFile_ = platform::OldContent::Drop;
   bool isDialogOpen_ = false;  // which edits the working copy
   bool isLoadTold_ = true;     // the player has seen what the last load could not use
-  HotkeyConfig* config_;       // the main configuration, not owned
+  HotkeyConfig config_;
+  HotkeyConfig workingCopy_;  // what the dialog and a returned block change before it is saved
+  std::optional<Dota7KeyInfoManager> dota7_;  // from the first dialog on
 };
 
 }  // namespace brennet

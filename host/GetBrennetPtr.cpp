@@ -17,5 +17,6 @@ const OnLoad onLoad;
 // The one object, built on the first call. The library owns it. Building it takes no memory, so
 // there is nothing to be thrown, and no null to be returned.
 extern "C" BRENNET_EXPORT brennet::IBrennet* GetBrennetPtr() noexcept {
-  return &brennet::CBrennetImpl::instance();
+  static brennet::CBrennetImpl brennet;
+  return &brennet;
 }

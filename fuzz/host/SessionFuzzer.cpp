@@ -19,7 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const auto handler =
       qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   static_cast<void>(handler);
-  static brennet::fuzz::Session session(brennet::CBrennetImpl::instance());
+  static brennet::CBrennetImpl brennet;
+  static brennet::fuzz::Session session(brennet);
   session.run(brennet::fuzz::bytesOf(data, size));
   return 0;
 }

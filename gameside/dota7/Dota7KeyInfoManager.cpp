@@ -45,11 +45,6 @@ void forEachPart(std::span<const Dota7Change> changes, Visit visit) {
 
 }  // namespace
 
-Dota7KeyInfoManager& Dota7KeyInfoManager::instance() {
-  static Dota7KeyInfoManager manager;
-  return manager;
-}
-
 void Dota7KeyInfoManager::record(std::u16string_view objectName, Dota7Change change) {
   records_.insert_or_assign(std::u16string(objectName), std::move(change));
 }

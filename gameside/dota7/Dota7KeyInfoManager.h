@@ -28,11 +28,6 @@ class Dota7KeyInfoManager : public QObject, private Dota7ChangeSink {
   Q_OBJECT
 
  public:
-  // The one of this process, built on first use.
-  static Dota7KeyInfoManager& instance();
-
-  Dota7KeyInfoManager() = default;
-
   // The name of a key, and the text of a key with a modifier key; see Dota7KeyNames.h.
   std::u16string keyName(int code) { return names_.keyName(code); }
   std::u16string keyText(int keyCode, int modifierCode) {

@@ -19,6 +19,7 @@
 #include "gameside/dota7/Dota7Values.h"
 #include "tests/host/DialogFixture.h"
 #include "tests/host/FailingNew.h"
+#include "tests/host/SettingsWithoutMarks.h"
 #include "tests/support/FaultPoints.h"
 #include "tests/support/ScopedRegistry.h"
 #include "tests/support/ToleratedLeaks.h"
@@ -136,7 +137,7 @@ class DialogOutOfMemory : public DialogFixture, public testing::WithParamInterfa
   void reset() {
     renewRegistry();
     writeBytes(preferences_, kPreferences);
-    ASSERT_TRUE(loadText(withoutMarks()));
+    ASSERT_TRUE(loadText(settingsWithoutMarks()));
     ASSERT_TRUE(loadText(kDefaults));
     files_ = folder_.listing();
   }

@@ -12,14 +12,12 @@
 
 namespace brennet::test {
 
-// The one interface object of the process, on files of the test's own. Whatever an earlier test
-// left in it is gone: the fixture starts with a settings file of defaults, loaded.
+// The interface on files of the test's own, with a settings file of defaults loaded.
 class HostFixture : public testing::Test {
  protected:
   HostFixture() : profile_(folder_.path()) {
     std::filesystem::create_directories(preferences_.parent_path());
     writeBytes(preferences_, kPreferences);
-    EXPECT_TRUE(loadText(withoutMarks()));
     EXPECT_TRUE(loadText(kDefaults));
   }
 
@@ -36,23 +34,6 @@ class HostFixture : public testing::Test {
   }
 
   static constexpr char kPreferences[] = "[Gameplay]\r\ncustomkeys=0\r\n\r\n";
-  // A reset leaves quick-cast marks alone; a file that names them all takes them away.
-  static std::string withoutMarks() {
-    std::string text = "<KeyInfo><LastSaveTime>1</LastSaveTime>";
-    for (int scheme = 0; scheme < 3; ++scheme) {
-      const std::string element = "KeyInfo_" + std::to_string(scheme) + ">";
-      text += "<" + element;
-      for (const char* const keys : {"HeroSkillKey>", "ItemKey>"}) {
-        text += std::string("<") + keys;
-        for (const int id : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 97, 98, 100, 101, 103, 104}) {
-          text += "<Key id=\"" + std::to_string(id) + "\" autocast=\"0\">65280</Key>";
-        }
-        text += std::string("</") + keys;
-      }
-      text += "</" + element;
-    }
-    return text + "</KeyInfo>";
-  }
   // The phrases and left-Alt switches are named because a reset leaves them alone.
   static constexpr char kDefaults[] =
       "<KeyInfo enable=\"1\" index=\"0\"><LastSaveTime>77</LastSaveTime><KeyInfo_0>"
@@ -64,7 +45,8 @@ class HostFixture : public testing::Test {
   ScopedProfile profile_;
   std::filesystem::path settings_ = folder_ / "KeyInfo.xml";
   std::filesystem::path preferences_ = folder_ / "Documents/Warcraft III/War3Preferences.txt";
-  IBrennet& brennet_ = testedBrennet();
+  const std::shared_ptr<IBrennet> object_ = testedBrennet();
+  IBrennet& brennet_ = *object_;
 };
 
 }  // namespace brennet::test

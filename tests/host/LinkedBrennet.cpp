@@ -3,8 +3,8 @@
 
 namespace brennet::test {
 
-IBrennet& testedBrennet() {
-  return CBrennetImpl::instance();
+std::shared_ptr<IBrennet> testedBrennet() {
+  return std::make_shared<CBrennetImpl>();
 }
 
 }  // namespace brennet::test

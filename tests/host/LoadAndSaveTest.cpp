@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "host/CBrennetImpl.h"
-#include "host/ProcessConfigs.h"
 #include "tests/host/HostFixture.h"
 
 namespace brennet {
@@ -10,11 +8,6 @@ namespace {
 using namespace test;
 
 using LoadAndSave = HostFixture;
-
-TEST_F(LoadAndSave, KeepsOneObject) {
-  EXPECT_EQ(&CBrennetImpl::instance(), &CBrennetImpl::instance());
-  EXPECT_NE(&mainConfig(), &workingCopy());
-}
 
 TEST_F(LoadAndSave, TakesANullPathAsNothing) {
   EXPECT_FALSE(brennet_.LoadSettings(nullptr));

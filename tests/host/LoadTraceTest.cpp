@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/ProcessConfigs.h"
+#include "host/CBrennetImpl.h"
 #include "tests/host/HostFixture.h"
 
 namespace brennet {
@@ -95,14 +95,15 @@ TEST_F(LoadTraceOf, ALoadIsThereUntilTheNextOne) {
   std::string text = kDefaults;
   text.replace(text.find("22272"), 5, "20736");
   ASSERT_TRUE(loadText(text));
-  EXPECT_EQ(mainConfig().loadReport().droppedKeys.size(), 1U);
+  const LoadReport& report = static_cast<const CBrennetImpl&>(brennet_).config().loadReport();
+  EXPECT_EQ(report.droppedKeys.size(), 1U);
   HotkeyBlock block = filled();
   block.zoomValue = 90;
   ASSERT_EQ(brennet_.ApplyHotkeyBlock(&block, 5), 0);
   ASSERT_TRUE(brennet_.SetEnabled(false, 6));
-  EXPECT_EQ(mainConfig().loadReport().droppedKeys.size(), 1U);
+  EXPECT_EQ(report.droppedKeys.size(), 1U);
   ASSERT_TRUE(loadText(readBytes(settings_)));
-  EXPECT_EQ(mainConfig().loadReport().droppedKeys.size(), 0U);
+  EXPECT_EQ(report.droppedKeys.size(), 0U);
 }
 
 }  // namespace

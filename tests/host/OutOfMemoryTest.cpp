@@ -5,6 +5,7 @@
 
 #include "tests/host/FailingNew.h"
 #include "tests/host/HostFixture.h"
+#include "tests/host/SettingsWithoutMarks.h"
 #include "tests/support/FaultPoints.h"
 
 namespace brennet {
@@ -28,7 +29,7 @@ class OutOfMemory : public HostFixture, public testing::WithParamInterface<Lasts
   // The state before each try.
   void reset() {
     writeBytes(preferences_, kPreferences);
-    ASSERT_TRUE(loadText(withoutMarks()));
+    ASSERT_TRUE(loadText(settingsWithoutMarks()));
     ASSERT_TRUE(loadText(text_));
     preferencesBefore_ = readBytes(preferences_);
     before_ = filled();

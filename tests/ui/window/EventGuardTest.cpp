@@ -213,7 +213,8 @@ TEST(AGuard, IsThereForWhatQtCallsPastIt) {
 TEST(TheSettingsDialog, IsGuardedInAllItsWindows) {
   const ScopedRegistry registry;
   HotkeyConfig config;
-  CHotkeySettingDlg dialog(config, Dota7KeyInfoManager::instance());
+  Dota7KeyInfoManager dota7;
+  CHotkeySettingDlg dialog(config, dota7);
   dialog.show();
   const EventGuard* const guard = EventGuard::current();
   ASSERT_NE(guard, nullptr);
