@@ -38,10 +38,6 @@ constexpr unsigned kEscape = 0x1B;
 
 constexpr int kMostToldKeys = 4;  // of those that a load could not use; a tool tip has all
 
-// The pages of the stack.
-constexpr int kBasicPage = 0;
-constexpr int kDota7Page = 1;
-
 }  // namespace
 
 CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
@@ -49,14 +45,14 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
     : QDialog(nullptr, Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
                            Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
       guard_(std::make_unique<brennet::EventGuard>(*this)),
-      config_(&config),
-      manager_(&manager),
+      config_(config),
+      manager_(manager),
       form_(std::make_unique<Ui::CHotkeySettingDlg>()) {
   setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
   setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
   form_->setupUi(this);
   fit_ = new brennet::ScreenFit(*this);
-  manager_->beginRun();
+  manager_.beginRun();
   createPages();
   fillForm();
   connectForm();
@@ -71,42 +67,43 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
 CHotkeySettingDlg::~CHotkeySettingDlg() {
   if (result() == Accepted) return;
   try {
-    manager_->cancelChanges();
+    manager_.cancelChanges();
   } catch (const std::bad_alloc&) {
     // The registry has back what it had; what the pages show is read again by the next dialog.
   }
 }
 
 void CHotkeySettingDlg::createPages() {
-  advanced_ = new CAdvancedSettingWidget(*config_, this);
-  olderBasic_ = new CBasicSettingWidget(*config_, this);
-  basic_ = new CBasicSetting7Widget(*config_, this);
-  chatWheel_ = new CChatRouletteSettingWidget(*config_, this);
-  dota7_ = new CDotA7BasicSetting(*manager_, this, config_);
-  quickChat_ = new ChatKeySettingWidget(*config_, this);
-  dota7Chat_ = new Dota7ChatKeySettingWidget(*manager_, this, config_);
+  advanced_ = new CAdvancedSettingWidget(config_, this);
+  olderBasic_ = new CBasicSettingWidget(config_, this);
+  basic_ = new CBasicSetting7Widget(config_, this);
+  chatWheel_ = new CChatRouletteSettingWidget(config_, this);
+  dota7_ = new CDotA7BasicSetting(manager_, this, &config_);
+  quickChat_ = new ChatKeySettingWidget(config_, this);
+  dota7Chat_ = new Dota7ChatKeySettingWidget(manager_, this, &config_);
 
   stack_ = new QStackedLayout(form_->pageArea);
   stack_->addWidget(basic_);
   stack_->addWidget(dota7_);
-  advanced_->hide();
-  olderBasic_->hide();
-  chatWheel_->hide();
-  for (QWidget* const page : std::initializer_list<QWidget*>{basic_, dota7_}) {
-    for (QPushButton* const button : page->findChildren<QPushButton*>()) {
-      button->setAutoDefault(false);  // Return is no click in this dialog
-    }
+  for (QWidget* const aside : std::initializer_list<QWidget*>{advanced_, olderBasic_, chatWheel_}) {
+    aside->hide();
   }
+  // In the order in which they show a choice.
+  pages_ = {{basic_, Mode::Platform},
+            {quickChat_, Mode::Platform},
+            {advanced_, Mode::Platform},
+            {chatWheel_, Mode::Platform},
+            {dota7_, Mode::Dota7}};
 }
 
 void CHotkeySettingDlg::fillForm() {
   form_->cmbHotkeySetting->addItems(
       {tr("setting group 1"), tr("setting group 2"), tr("setting group 3")});
-  const auto index = static_cast<int>(config_->index());
+  const auto index = static_cast<int>(config_.index());
   // Where the file names a scheme that there is not, none is shown, and each can be chosen.
   const bool isThere = index < form_->cmbHotkeySetting->count();
   form_->cmbHotkeySetting->setCurrentIndex(isThere ? index : -1);
-  form_->chkUseHotkeySettings->setChecked(config_->enable());
+  form_->chkUseHotkeySettings->setChecked(config_.enable());
   for (QLabel* const link : {form_->lblResetToDefaultSetting, form_->lblUseRecommendedSetting}) {
     link->installEventFilter(this);
   }
@@ -132,20 +129,13 @@ void CHotkeySettingDlg::connectForm() {
 
 void CHotkeySettingDlg::connectPages() {
   using Dialog = CHotkeySettingDlg;
-  // The quick-chat window follows the advanced page. Where that has taken a refused choice back
-  // already, there is nothing to follow, and nothing to tell once more.
-  for (const int set : {1, 2}) {
-    const QString name = QStringLiteral("optChatKey_%1").arg(set);
-    auto* const button = advanced_->findChild<QAbstractButton*>(name);
-    connect(button, &QAbstractButton::toggled, quickChat_, [this, button, set](bool isChecked) {
-      if (isChecked != button->isChecked()) return;
-      if (set == 1) {
-        quickChat_->onToggled_ChatKey_1(isChecked);
-      } else {
-        quickChat_->onToggled_ChatKey_2(isChecked);
-      }
-    });
-  }
+  advanced_->tellOfQuickChatKeys([this](int set, bool isChosen) {
+    if (set == 0) {
+      quickChat_->onToggled_ChatKey_1(isChosen);
+    } else {
+      quickChat_->onToggled_ChatKey_2(isChosen);
+    }
+  });
   connect(basic_, &CBasicSetting7Widget::showHotKeySettingDlg, this,
           &Dialog::onShowHotKeySettingDlg);
   connect(basic_, &CBasicSetting7Widget::showDota7SettingDlg, this,
@@ -162,7 +152,7 @@ void CHotkeySettingDlg::setDataFolder(std::u16string_view folder) {
 void CHotkeySettingDlg::tellDroppedKeys(const brennet::LoadReport& report) {
   QStringList keys;
   for (const brennet::DroppedKey& dropped : report.droppedKeys) {
-    keys += brennet::droppedKeyText(dropped, static_cast<int>(config_->index()));
+    keys += brennet::droppedKeyText(dropped, static_cast<int>(config_.index()));
   }
   if (keys.isEmpty()) return;
   QString list = keys.constFirst();
@@ -178,36 +168,35 @@ void CHotkeySettingDlg::tellDroppedKeys(const brennet::LoadReport& report) {
 }
 
 void CHotkeySettingDlg::setMode(Mode mode) {
+  const struct {
+    QWidget* widget;
+    Mode mode;
+  } kShownIn[] = {
+      {form_->lblSetting, Mode::Platform},
+      {form_->cmbHotkeySetting, Mode::Platform},
+      {form_->chkUseHotkeySettings, Mode::Platform},
+      {form_->btnSwitchPlat, Mode::Dota7},
+  };
   mode_ = mode;
-  const bool isPlatform = mode == Mode::Platform;
-  stack_->setCurrentIndex(isPlatform ? kBasicPage : kDota7Page);
-  form_->btnSwitchPlat->setVisible(!isPlatform);
+  stack_->setCurrentWidget(mode == Mode::Platform ? static_cast<QWidget*>(basic_) : dota7_);
+  for (const auto& row : kShownIn) row.widget->setVisible(row.mode == mode);
   form_->btnSwitchDota7->hide();
-  form_->lblSetting->setVisible(isPlatform);
-  form_->cmbHotkeySetting->setVisible(isPlatform);
-  form_->chkUseHotkeySettings->setVisible(isPlatform);
 }
 
 // No connection leads to the next four; clients know them.
 void CHotkeySettingDlg::onSwitchSettingUI() {}
 
 void CHotkeySettingDlg::onSwitchBasicSettingUI() {
-  stack_->setCurrentIndex(kBasicPage);
+  stack_->setCurrentWidget(basic_);
 }
 
 void CHotkeySettingDlg::onSwitchAdvancedSettingUI() {
-  stack_->setCurrentIndex(kDota7Page);
+  stack_->setCurrentWidget(dota7_);
 }
 
+// The chat wheel's page is not in the stack: what was shown stays.
 void CHotkeySettingDlg::onSwitchChatWheelSettingUI() {
-  constexpr int kNoPage = 2;  // the stack has none behind the DotA 7 page
-  stack_->setCurrentIndex(kNoPage);
-  chatWheel_->setFocus();
-  for (QWidget* const inner : chatWheel_->findChildren<QWidget*>()) {
-    if (inner->focusPolicy() == Qt::NoFocus) continue;
-    inner->setFocus();
-    return;
-  }
+  chatWheel_->focusFirst();
 }
 
 // A key field that has the focus ends what was begun in it before the changes are counted.
@@ -219,7 +208,7 @@ void CHotkeySettingDlg::onClickedOkBtn() {
   leaveField();
   // What was begun in the field may be lost: then nothing is confirmed.
   if (guard_->hasFailed()) return;
-  manager_->acceptChanges();
+  manager_.acceptChanges();
   setResult(Accepted);  // also where the window cannot be closed in order
   accept();
 }
@@ -230,12 +219,12 @@ void CHotkeySettingDlg::onClickedCancelBtn() {
 
 void CHotkeySettingDlg::reject() {
   leaveField();
-  manager_->cancelChanges();
+  manager_.cancelChanges();
   QDialog::reject();
 }
 
 void CHotkeySettingDlg::onToggled_UseHotkeySettings(bool bChecked) {
-  config_->setEnable(bChecked);
+  config_.setEnable(bChecked);
 }
 
 bool CHotkeySettingDlg::isConfirmed(int icon, const QString& title, const QString& question) {
@@ -255,13 +244,7 @@ void CHotkeySettingDlg::onResetSetting() {
                "you sure to continue?",
                "DotA 7");
   if (!isConfirmed(QMessageBox::Warning, tr("reset settings"), question)) return;
-  if (mode_ == Mode::Platform) {
-    basic_->reset();
-    resetChat();
-  } else {
-    dota7_->reset();
-    refreshDota7();
-  }
+  clearSettings(mode_);
 }
 
 void CHotkeySettingDlg::onUseRecommendedSetting() {
@@ -271,30 +254,24 @@ void CHotkeySettingDlg::onUseRecommendedSetting() {
   }
   if (mode_ != Mode::Platform) return;
   basic_->useRecommended();
-  resetChat();
+  clearSettings(Mode::Platform, basic_);
 }
 
-// The other pages show the same scheme, also while they are hidden.
-void CHotkeySettingDlg::resetChat() {
-  quickChat_->reset();
-  advanced_->refresh();
-  chatWheel_->load();
+// Pages show what is set also while they are hidden.
+void CHotkeySettingDlg::showSettings() {
+  for (const Page& row : pages_) row.page->showSettings();
+}
+
+void CHotkeySettingDlg::clearSettings(Mode mode, const brennet::SettingPage* spared) {
+  for (const Page& row : pages_) {
+    if (row.mode == mode && row.page != spared) row.page->clearSettings();
+  }
 }
 
 void CHotkeySettingDlg::onCurrentIndexChanged_HotkeySetting(int index) {
   if (index < 0 || index >= brennet::HotkeyConfig::kSchemes) return;
-  config_->setIndex(static_cast<std::uint32_t>(index));
-  basic_->refresh();
-  quickChat_->load();
-  advanced_->refresh();
-  chatWheel_->load();
-  refreshDota7();
-}
-
-// What was recorded is in the registry already; Cancel can still take it back.
-void CHotkeySettingDlg::refreshDota7() {
-  manager_->refresh();
-  dota7_->load();
+  config_.setIndex(static_cast<std::uint32_t>(index));
+  showSettings();
 }
 
 void CHotkeySettingDlg::onShowHotKeySettingDlg() {
@@ -307,17 +284,17 @@ void CHotkeySettingDlg::onSwitchPlatKeySettingDlg() {
 }
 
 void CHotkeySettingDlg::onSwitchDota7KeySettingDlg() {
-  refreshDota7();
+  dota7_->showSettings();
   setMode(Mode::Dota7);
 }
 
 void CHotkeySettingDlg::onShowDota7HotKeySettingDlg() {
-  dota7Chat_->load();
+  dota7Chat_->showSettings();
   dota7Chat_->raise();
   if (brennet::runWindow(*dota7Chat_) == QDialog::Accepted) {
     dota7Chat_->savePhrases();
   } else {
-    dota7Chat_->load();
+    dota7Chat_->showSettings();
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string_view>
+#include <vector>
 
 namespace Ui {
 class CHotkeySettingDlg;
@@ -15,6 +16,7 @@ class EventGuard;
 class HotkeyConfig;
 struct LoadReport;
 class ScreenFit;
+class SettingPage;
 }  // namespace brennet
 class CAdvancedSettingWidget;
 class CBasicSetting7Widget;
@@ -80,23 +82,29 @@ class CHotkeySettingDlg : public QDialog {
  private:
   enum class Mode { Platform = 1, Dota7 = 2 };
 
+  // A page that shows what is chosen in the dialog, and the mode that it belongs to.
+  struct Page {
+    brennet::SettingPage* page;
+    Mode mode;
+  };
+
   void createPages();
   void fillForm();
   void connectForm();
   void connectPages();
   void setMode(Mode mode);
-  void refreshDota7();
   void leaveField();
   [[nodiscard]] bool isLinkClicked(const QLabel& link, const QEvent& event);
   [[nodiscard]] bool applySkin();
   void fitToSkin();
-  void resetChat();
+  void showSettings();
+  void clearSettings(Mode mode, const brennet::SettingPage* spared = nullptr);
   [[nodiscard]] bool isConfirmed(int icon, const QString& title, const QString& question);
   [[nodiscard]] brennet::DraggableWindow dragged() const;
 
   std::unique_ptr<brennet::EventGuard> guard_;
-  brennet::HotkeyConfig* config_;
-  brennet::Dota7KeyInfoManager* manager_;
+  brennet::HotkeyConfig& config_;
+  brennet::Dota7KeyInfoManager& manager_;
   std::unique_ptr<Ui::CHotkeySettingDlg> form_;
   QStackedLayout* stack_ = nullptr;
   // Children of this widget.
@@ -108,6 +116,7 @@ class CHotkeySettingDlg : public QDialog {
   CDotA7BasicSetting* dota7_ = nullptr;
   ChatKeySettingWidget* quickChat_ = nullptr;
   Dota7ChatKeySettingWidget* dota7Chat_ = nullptr;
+  std::vector<Page> pages_;
   Mode mode_ = Mode::Platform;
   bool isFirstShow_ = true;
   const QLabel* keyIsDownOn_ = nullptr;  // the link on which Space or Enter was pressed

@@ -39,7 +39,7 @@ void refresh(benchmark::State& state) {
   unsigned scheme = 0;
   for ([[maybe_unused]] auto _ : state) {
     shown.config.setIndex(++scheme % 2);
-    shown.page->refresh();
+    shown.page->showSettings();
   }
 }
 BENCHMARK(refresh)->Name("refresh/brennet/basic");
@@ -50,7 +50,7 @@ void setTexts(benchmark::State& state) {
   std::vector<QString> texts[2];
   for (unsigned scheme = 0; scheme < 2; ++scheme) {
     shown.config.setIndex(scheme);
-    shown.page->refresh();
+    shown.page->showSettings();
     for (const QLineEdit* const field : fields) texts[scheme].push_back(field->text());
   }
   std::size_t scheme = 0;

@@ -91,7 +91,7 @@ class AnyPlayer : public Dota7Test {
     if (result == QDialog::Accepted) {
       chat.savePhrases();
     } else {
-      chat.load();
+      chat.showSettings();
     }
   }
 

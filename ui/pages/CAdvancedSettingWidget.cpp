@@ -39,18 +39,18 @@ std::unique_ptr<Ui::CAdvancedSettingWidget> makeForm(QWidget& page) {
 
 CAdvancedSettingWidget::CAdvancedSettingWidget(brennet::HotkeyConfig& config, QWidget* parent)
     : QWidget(parent),
-      config_(&config),
-      ui_(makeForm(*this)),
+      config_(config),
+      form_(makeForm(*this)),
       phrases_(new CCustomMsgTableModel(this)),
-      presets_({ui_->chkGroupKey1, ui_->chkGroupKey2, ui_->chkGroupKey3}, config),
-      chatKeys_({ui_->optChatKey_1, ui_->optChatKey_2}, config),
+      presets_({form_->chkGroupKey1, form_->chkGroupKey2, form_->chkGroupKey3}, config),
+      chatKeys_({form_->optChatKey_1, form_->optChatKey_2}, config),
       keys_({.style = {},
              .slotOf = brennet::featureKeyOf,
              .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
             config) {
   buildTable();
   keys_.install(*this, *this);
-  refresh();
+  CAdvancedSettingWidget::showSettings();
   connectControls();
 }
 
@@ -62,7 +62,7 @@ void CAdvancedSettingWidget::buildTable() {
     phrases_->setData(phrases_->index(row, kLabelColumn), tr("message %1:").arg(row + 1),
                       Qt::EditRole);
   }
-  QTableView& table = *ui_->tableStatement;
+  QTableView& table = *form_->tableStatement;
   table.setModel(phrases_);
   table.horizontalHeader()->setSectionResizeMode(kLabelColumn, QHeaderView::ResizeToContents);
   table.setColumnWidth(kPhraseColumn, kPhraseWidth);
@@ -74,15 +74,15 @@ void CAdvancedSettingWidget::buildTable() {
 
 void CAdvancedSettingWidget::connectControls() {
   using This = CAdvancedSettingWidget;
-  connect(ui_->chkGroupKey1, &QCheckBox::toggled, this, &This::onToggled_GroupKey1);
-  connect(ui_->chkGroupKey2, &QCheckBox::toggled, this, &This::onToggled_GroupKey2);
-  connect(ui_->chkGroupKey3, &QCheckBox::toggled, this, &This::onToggled_GroupKey3);
-  connect(ui_->optChatKey_1, &QRadioButton::toggled, this, &This::onToggled_ChatKey_1);
-  connect(ui_->optChatKey_2, &QRadioButton::toggled, this, &This::onToggled_ChatKey_2);
+  connect(form_->chkGroupKey1, &QCheckBox::toggled, this, &This::onToggled_GroupKey1);
+  connect(form_->chkGroupKey2, &QCheckBox::toggled, this, &This::onToggled_GroupKey2);
+  connect(form_->chkGroupKey3, &QCheckBox::toggled, this, &This::onToggled_GroupKey3);
+  connect(form_->optChatKey_1, &QRadioButton::toggled, this, &This::onToggled_ChatKey_1);
+  connect(form_->optChatKey_2, &QRadioButton::toggled, this, &This::onToggled_ChatKey_2);
   connect(phrases_, &CCustomMsgTableModel::dataChanged, this, &This::onDataChanged_Table);
 }
 
-void CAdvancedSettingWidget::refresh() {
+void CAdvancedSettingWidget::showSettings() {
   presets_.refresh();
   chatKeys_.refresh();
   keys_.refresh();
@@ -92,7 +92,7 @@ void CAdvancedSettingWidget::refresh() {
 // The table has to hear of the texts, so the signal cannot be blocked.
 void CAdvancedSettingWidget::refreshPhrases() {
   const QScopedValueRollback<bool> filling(isFillingTable_, true);
-  const brennet::Phrases& phrases = config_->scheme().QuickChat;
+  const brennet::Phrases& phrases = config_.scheme().QuickChat;
   for (int row = 0; row < brennet::kPhrases; ++row) {
     const auto& phrase = phrases[static_cast<std::size_t>(row)];
     if (!phrase) continue;
@@ -114,11 +114,18 @@ void CAdvancedSettingWidget::onToggled_GroupKey3(bool bChecked) {
 }
 
 void CAdvancedSettingWidget::onToggled_ChatKey_1(bool bChecked) {
-  chatKeys_.toggled(0, bChecked);
+  toggleQuickChatKeys(0, bChecked);
 }
 
 void CAdvancedSettingWidget::onToggled_ChatKey_2(bool bChecked) {
-  chatKeys_.toggled(1, bChecked);
+  toggleQuickChatKeys(1, bChecked);
+}
+
+// A refused choice has been taken back by then: nobody is to follow it.
+void CAdvancedSettingWidget::toggleQuickChatKeys(int set, bool isChecked) {
+  chatKeys_.toggled(set, isChecked);
+  const QRadioButton& button = set == 0 ? *form_->optChatKey_1 : *form_->optChatKey_2;
+  if (button.isChecked() == isChecked) followQuickChatKeys_(set, isChecked);
 }
 
 void CAdvancedSettingWidget::onDataChanged_Table(const QModelIndex& topLeft,
@@ -129,7 +136,7 @@ void CAdvancedSettingWidget::onDataChanged_Table(const QModelIndex& topLeft,
   const int row = topLeft.row();
   const bool isPhrase = topLeft == bottomRight && topLeft.column() == kPhraseColumn && row >= 0 &&
                         row < brennet::kPhrases;
-  brennet::HotkeyScheme* const scheme = config_->editableScheme();
+  brennet::HotkeyScheme* const scheme = config_.editableScheme();
   if (!isPhrase || scheme == nullptr) return;
   const std::u16string text = topLeft.data(Qt::EditRole).toString().toStdU16String();
   scheme->QuickChat[static_cast<std::size_t>(row)] = brennet::cutPhrase(text);

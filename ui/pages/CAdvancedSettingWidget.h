@@ -3,11 +3,14 @@
 #include <QVector>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "ui/capture/CaptureFields.h"
 #include "ui/chat/QuickChatKeyButtons.h"
 #include "ui/pages/PresetBoxes.h"
+#include "ui/pages/SettingPage.h"
 
 class CCustomMsgTableModel;
 class QModelIndex;
@@ -19,7 +22,7 @@ class CAdvancedSettingWidget;
 // The advanced page: what the keypad stands for, the quick-chat phrases with their keys, and the
 // keys of five features. Every edit is stored in the current scheme at once. In no namespace:
 // catalogues of translations know it by this name.
-class CAdvancedSettingWidget : public QWidget {
+class CAdvancedSettingWidget : public QWidget, public brennet::SettingPage {
   Q_OBJECT
 
  public:
@@ -27,9 +30,13 @@ class CAdvancedSettingWidget : public QWidget {
   CAdvancedSettingWidget(brennet::HotkeyConfig& config, QWidget* parent);
   ~CAdvancedSettingWidget() override;
 
-  // Shows the current scheme. Stores nothing. The row of a phrase that the scheme lacks stays as it
-  // is.
-  void refresh();
+  // The row of a phrase that the scheme lacks stays as it is.
+  void showSettings() override;
+
+  // Calls `follow` where the player has chosen quick-chat key set 0 or 1, or has left it. No
+  // signal: clients know those of the page by their places.
+  using Follow = std::function<void(int set, bool isChosen)>;
+  void tellOfQuickChatKeys(Follow follow) { followQuickChatKeys_ = std::move(follow); }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -48,12 +55,14 @@ class CAdvancedSettingWidget : public QWidget {
   void buildTable();
   void connectControls();
   void refreshPhrases();
+  void toggleQuickChatKeys(int set, bool isChecked);
 
-  brennet::HotkeyConfig* config_;
-  std::unique_ptr<Ui::CAdvancedSettingWidget> ui_;
+  brennet::HotkeyConfig& config_;
+  std::unique_ptr<Ui::CAdvancedSettingWidget> form_;
   CCustomMsgTableModel* phrases_;  // a child of the page
   bool isFillingTable_ = false;
   brennet::PresetBoxes presets_;
   brennet::QuickChatKeyButtons chatKeys_;
   brennet::CaptureFields keys_;
+  Follow followQuickChatKeys_ = [](int, bool) {};
 };

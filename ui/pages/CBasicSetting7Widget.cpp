@@ -76,8 +76,8 @@ std::span<const CBasicSetting7Widget::Option> CBasicSetting7Widget::options() {
   return kOptions;
 }
 
-CBasicSetting7Widget::CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidget* dialog)
-    : QWidget(dialog),
+CBasicSetting7Widget::CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidget* parent)
+    : QWidget(parent),
       config_(config),
       form_(brennet::formOn<Ui::CHotkeySettingPage>(*this)),
       orrery_(std::make_unique<COrrerySettingDlg>()),
@@ -91,7 +91,7 @@ CBasicSetting7Widget::CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidge
   fields_.install(*this, *this);
   // The Orrery window has no rules of its own: its keys are captured here.
   fields_.install(*orrery_, *this);
-  refresh();
+  CBasicSetting7Widget::showSettings();
 }
 
 // The Orrery window sends its events here to the end.
@@ -136,7 +136,7 @@ void CBasicSetting7Widget::connectSwitches() {
   using Page = CBasicSetting7Widget;
   switches_.add(*form_->chkSkillHero, &HotkeyScheme::SkillHeroOnly);
   switches_.add(*form_->chkKeyModifyHero, &HotkeyScheme::CombokeyHeroOnly);
-  switches_.add(*orreryMana(), &HotkeyScheme::ShowFManaFlag);
+  switches_.add(orrery_->manaBox(), &HotkeyScheme::ShowFManaFlag);
   connect(form_->chkSkillHero, &QCheckBox::toggled, this, &Page::onToggled_checkBox_Skill_Hero);
   connect(form_->chkKeyModifyHero, &QCheckBox::toggled, this,
           &Page::onToggled_checkBox_KeyModify_Hero);
@@ -165,20 +165,15 @@ void CBasicSetting7Widget::connectButtons() {
   }
 }
 
-QCheckBox* CBasicSetting7Widget::orreryMana() const {
-  return orrery_->findChild<QCheckBox*>(QStringLiteral("chkShowFriendsMana"));
-}
-
 // Where the file names a scheme that there is not, nothing typed here would be kept.
 void CBasicSetting7Widget::enableEdits() {
   const bool hasScheme = config_.editableScheme() != nullptr;
   for (QGroupBox* const group : findChildren<QGroupBox*>()) group->setEnabled(hasScheme);
-  for (QLineEdit* const field : orrery_->findChildren<QLineEdit*>()) field->setEnabled(hasScheme);
-  orreryMana()->setEnabled(hasScheme);
+  orrery_->setEditable(hasScheme);
   form_->btnTalkSetting->setEnabled(hasScheme);
 }
 
-void CBasicSetting7Widget::refresh() {
+void CBasicSetting7Widget::showSettings() {
   enableEdits();
   fields_.refresh();
   switches_.refresh();
@@ -197,7 +192,7 @@ void CBasicSetting7Widget::refreshMarks() {
   }
 }
 
-void CBasicSetting7Widget::reset() {
+void CBasicSetting7Widget::clearSettings() {
   if (HotkeyScheme* const scheme = config_.editableScheme()) {
     brennet::resetScheme(*scheme);
     // A reset of a scheme spares these; a player who clears the page sees them here, and means all.
@@ -206,12 +201,12 @@ void CBasicSetting7Widget::reset() {
     scheme->DisableLeftAlt = 0;
     scheme->DisableLeftAltShowHP = 0;
   }
-  refresh();
+  showSettings();
 }
 
 void CBasicSetting7Widget::useRecommended() {
   if (HotkeyScheme* const scheme = config_.editableScheme()) brennet::recommend(*scheme);
-  refresh();
+  showSettings();
 }
 
 void CBasicSetting7Widget::setDota7Offered(bool offered) {
@@ -245,7 +240,7 @@ void CBasicSetting7Widget::onToggled_LockMouse(bool bChecked) {
 void CBasicSetting7Widget::onToggled_ShowFriendBlood(bool bChecked) {
   switches_.store(&HotkeyScheme::ShowFBloodFlag, bChecked);
   // Mana is not shown without health. The check box tells onToggled_ShowFirendMana.
-  if (!bChecked) orreryMana()->setChecked(false);
+  if (!bChecked) orrery_->manaBox().setChecked(false);
 }
 
 void CBasicSetting7Widget::onToggled_ShowFirendMana(bool bChecked) {

@@ -9,30 +9,30 @@
 #include "ui/capture/CaptureFields.h"
 #include "ui/capture/EditControl.h"
 #include "ui/pages/PresetBoxes.h"
+#include "ui/pages/SettingPage.h"
 #include "ui/pages/SwitchBoxes.h"
 
 namespace Ui {
 class CHotkeySettingPage;
 }
 class COrrerySettingDlg;
-class QCheckBox;
 class QGridLayout;
 class QPushButton;
 
 // The basic page: the keys of hero skills, items, remaps and the mouse wheel, the switches of the
 // game, and the ways to the other windows. Each change is in the current scheme at once.
-class CBasicSetting7Widget : public QWidget {
+class CBasicSetting7Widget : public QWidget, public brennet::SettingPage {
   Q_OBJECT
 
  public:
-  // `config` outlives the page. `dialog` is its parent; it may be null.
-  CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidget* dialog);
+  // `config` outlives the page.
+  CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidget* parent);
   ~CBasicSetting7Widget() override;
 
-  // Shows the current scheme, here and in the Orrery window. Stores nothing.
-  void refresh();
+  // Here and in the Orrery window.
+  void showSettings() override;
   // Takes away all that the page shows, and what else a reset takes, from the current scheme.
-  void reset();
+  void clearSettings() override;
   // Resets the current scheme and puts the recommended keys into it (RecommendedScheme.h).
   void useRecommended();
 
@@ -89,7 +89,6 @@ class CBasicSetting7Widget : public QWidget {
   void connectButtons();
   void refreshMarks();
   void setSkillMarks(bool on);
-  [[nodiscard]] QCheckBox* orreryMana() const;
 
   brennet::HotkeyConfig& config_;
   std::unique_ptr<Ui::CHotkeySettingPage> form_;

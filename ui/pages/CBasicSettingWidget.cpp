@@ -17,8 +17,8 @@ constexpr int kSkills = 7;
 
 }  // namespace
 
-CBasicSettingWidget::CBasicSettingWidget(brennet::HotkeyConfig& config, QWidget* dialog)
-    : QWidget(dialog),
+CBasicSettingWidget::CBasicSettingWidget(brennet::HotkeyConfig& config, QWidget* parent)
+    : QWidget(parent),
       form_(brennet::formOn<Ui::CBasicSettingWidget>(*this)),
       fields_(brennet::basicCapturePage(brennet::BasicPage::Older, *this), config),
       switches_(config) {

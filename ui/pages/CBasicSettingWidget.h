@@ -19,8 +19,8 @@ class CBasicSettingWidget : public QWidget {
   Q_OBJECT
 
  public:
-  // `config` outlives the page. `dialog` is its parent; it may be null.
-  CBasicSettingWidget(brennet::HotkeyConfig& config, QWidget* dialog);
+  // `config` outlives the page.
+  CBasicSettingWidget(brennet::HotkeyConfig& config, QWidget* parent);
   ~CBasicSettingWidget() override;
 
   // Which setting the field of this name edits; writes a trace line.

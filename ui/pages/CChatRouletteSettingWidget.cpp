@@ -65,31 +65,31 @@ void showFromStart(QLineEdit& field) {
 CChatRouletteSettingWidget::CChatRouletteSettingWidget(brennet::HotkeyConfig& config,
                                                        QWidget* parent)
     : QWidget(parent),
-      config_(&config),
-      ui_(brennet::formOn<Ui::CChatRouletteSettingWidget>(*this)),
+      config_(config),
+      form_(brennet::formOn<Ui::CChatRouletteSettingWidget>(*this)),
       capture_(
           {.style = {},
-           .captures = [this](const QLineEdit& field) { return &field == ui_->edtChatWheelKey; },
+           .captures = [this](const QLineEdit& field) { return &field == form_->edtChatWheelKey; },
            .slotOf = brennet::featureKeyOf,
            .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
           config) {
   makeSlots();
   capture_.install(*this, *this);
   fillTree();
-  load();
+  CChatRouletteSettingWidget::showSettings();
   connectAll();
 }
 
 CChatRouletteSettingWidget::~CChatRouletteSettingWidget() = default;
 
 void CChatRouletteSettingWidget::makeSlots() {
-  auto* const ring = new brennet::RingLayout(kPicture, kRing, ui_->ChatWheel);
+  auto* const ring = new brennet::RingLayout(kPicture, kRing, form_->ChatWheel);
   ring->setContentsMargins(0, 0, 0, kRoomBelow);
   // In two steps, since Qt sees no difference between an order and one that starts elsewhere: the
   // slots go behind the key, before the check box, and then the key goes behind them.
-  QWidget* before = ui_->edtChatWheelKey;
+  QWidget* before = form_->edtChatWheelKey;
   for (int n = 1; n <= brennet::kPhrases; ++n) {
-    auto* const field = new CCustomLineEdit(ui_->ChatWheel);
+    auto* const field = new CCustomLineEdit(form_->ChatWheel);
     field->setObjectName(QStringLiteral("edtChatWheel_%1").arg(n));
     field->setAccessibleName(tr("轮盘短语 %1").arg(n));
     field->setReadOnly(true);
@@ -103,9 +103,9 @@ void CChatRouletteSettingWidget::makeSlots() {
     before = field;
     slots_.push_back(field);
   }
-  setTabOrder(before, ui_->edtChatWheelKey);
+  setTabOrder(before, form_->edtChatWheelKey);
   // In its own letters: those of phrases may come from another font.
-  ui_->edtChatWheelKey->setMinimumWidth(
+  form_->edtChatWheelKey->setMinimumWidth(
       fontMetrics().horizontalAdvance(QLatin1String(kLongestKey)));
 }
 
@@ -115,15 +115,16 @@ void CChatRouletteSettingWidget::fillTree() {
     for (const char* const key : category.phrases) {
       branch->addChild(new QTreeWidgetItem({translated(key)}));
     }
-    ui_->ChatPhrases->addTopLevelItem(branch.release());
+    form_->ChatPhrases->addTopLevelItem(branch.release());
   }
-  ui_->ChatPhrases->setMinimumWidth(widthOf(kTreeCharacters, *this));
-  ui_->ChatPhrases->setItemDelegate(new brennet::PhraseDelegate(ui_->ChatPhrases));
-  ui_->ChatPhrases->expandAll();
+  form_->ChatPhrases->setMinimumWidth(widthOf(kTreeCharacters, *this));
+  form_->ChatPhrases->setItemDelegate(new brennet::PhraseDelegate(form_->ChatPhrases));
+  form_->ChatPhrases->expandAll();
   // As wide as the widest phrase: there is a scroll bar where that is wider than the tree. Once is
   // enough, as the phrases stay; the header would measure them each time that anything changes.
-  ui_->ChatPhrases->resizeColumnToContents(0);
-  ui_->ChatPhrases->header()->setMinimumSectionSize(ui_->ChatPhrases->columnWidth(0) + kSkinIndent);
+  form_->ChatPhrases->resizeColumnToContents(0);
+  form_->ChatPhrases->header()->setMinimumSectionSize(form_->ChatPhrases->columnWidth(0) +
+                                                      kSkinIndent);
 }
 
 void CChatRouletteSettingWidget::connectAll() {
@@ -131,13 +132,22 @@ void CChatRouletteSettingWidget::connectAll() {
   for (const CCustomLineEdit* const field : slots_) {
     connect(field, &QLineEdit::textChanged, this, &This::OnChatPhraseChanged);
   }
-  connect(ui_->chkShowMana, &QCheckBox::toggled, this, &This::onToggled_ShowFMana);
-  connect(ui_->ChatPhrases, &QTreeWidget::itemClicked, this, &This::onChatPhraseSelected);
+  connect(form_->chkShowMana, &QCheckBox::toggled, this, &This::onToggled_ShowFMana);
+  connect(form_->ChatPhrases, &QTreeWidget::itemClicked, this, &This::onChatPhraseSelected);
 }
 
-void CChatRouletteSettingWidget::load() {
+void CChatRouletteSettingWidget::focusFirst() {
+  setFocus();
+  for (QWidget* const inner : findChildren<QWidget*>()) {
+    if (inner->focusPolicy() == Qt::NoFocus) continue;
+    inner->setFocus();
+    return;
+  }
+}
+
+void CChatRouletteSettingWidget::showSettings() {
   for (std::size_t n = 0; n < slots_.size(); ++n) {
-    const auto& phrase = config_->scheme().ChatWheel[n];
+    const auto& phrase = config_.scheme().ChatWheel[n];
     if (!phrase) continue;
     // What is stored may be longer than what would be stored of it.
     const QSignalBlocker blocker(slots_[n]);
@@ -145,7 +155,7 @@ void CChatRouletteSettingWidget::load() {
     showFromStart(*slots_[n]);
   }
   capture_.refresh();
-  ui_->chkShowMana->hide();
+  form_->chkShowMana->hide();
 }
 
 void CChatRouletteSettingWidget::OnChatPhraseChanged() {
@@ -154,7 +164,7 @@ void CChatRouletteSettingWidget::OnChatPhraseChanged() {
   const std::size_t number = slotNumber(*field);
   if (number == 0) return;
   showFromStart(*field);
-  brennet::HotkeyScheme* const scheme = config_->editableScheme();
+  brennet::HotkeyScheme* const scheme = config_.editableScheme();
   if (scheme == nullptr) return;
   scheme->ChatWheel[number - 1] = brennet::cutTypedPhrase(field->text().toStdU16String());
 }
@@ -169,7 +179,7 @@ void CChatRouletteSettingWidget::onChatPhraseSelected(QTreeWidgetItem* item, int
 }
 
 void CChatRouletteSettingWidget::onToggled_ShowFMana(bool bChecked) {
-  brennet::HotkeyScheme* const scheme = config_->editableScheme();
+  brennet::HotkeyScheme* const scheme = config_.editableScheme();
   if (scheme != nullptr) scheme->ShowFManaFlag = bChecked ? 1 : 0;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ui/capture/CaptureFields.h"
+#include "ui/pages/SettingPage.h"
 
 class CCustomLineEdit;
 class QTreeWidgetItem;
@@ -17,7 +18,7 @@ class CChatRouletteSettingWidget;
 // The chat wheel page: the eight phrases of the current scheme around a wheel, ready-made phrases
 // to click or to drag onto them, and the key that opens the wheel in game. All changes are stored
 // at once. In no namespace: the style sheet and catalogues of translations know it by this name.
-class CChatRouletteSettingWidget : public QWidget {
+class CChatRouletteSettingWidget : public QWidget, public brennet::SettingPage {
   Q_OBJECT
 
  public:
@@ -25,9 +26,11 @@ class CChatRouletteSettingWidget : public QWidget {
   CChatRouletteSettingWidget(brennet::HotkeyConfig& config, QWidget* parent);
   ~CChatRouletteSettingWidget() override;
 
-  // Shows the current scheme. Stores nothing. The field of a phrase that the scheme lacks stays as
-  // it is.
-  void load();
+  // The field of a phrase that the scheme lacks stays as it is.
+  void showSettings() override;
+
+  // Gives the keyboard to the first part of the page that takes it.
+  void focusFirst();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,8 +49,8 @@ class CChatRouletteSettingWidget : public QWidget {
   void fillTree();
   void connectAll();
 
-  brennet::HotkeyConfig* config_;
-  std::unique_ptr<Ui::CChatRouletteSettingWidget> ui_;
+  brennet::HotkeyConfig& config_;
+  std::unique_ptr<Ui::CChatRouletteSettingWidget> form_;
   std::vector<CCustomLineEdit*> slots_;
   brennet::CaptureFields capture_;
 };

@@ -85,14 +85,14 @@ void addSkills(QGridLayout& grid, int row, Dota7Cast cast, const QString& what) 
 CDotA7BasicSetting::CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QWidget* parent,
                                        brennet::HotkeyConfig* config)
     : QWidget(parent),
-      manager_(&manager),
+      manager_(manager),
       form_(brennet::formOn<Ui::CDotA7BasicSetting>(*this)),
       fields_(manager, config, [this] { brennet::tellKeyIsUsed(this); }) {
   buildRows();
   connectButtons();
   fields_.install(*this, *this);
   manager.settings().setCast(Dota7Cast::Normal);
-  load();
+  CDotA7BasicSetting::showSettings();
 }
 
 CDotA7BasicSetting::~CDotA7BasicSetting() = default;
@@ -131,18 +131,18 @@ void CDotA7BasicSetting::connectButtons() {
   onClick(form_->chk_QuickUse, &Page::onClickedQuickUse);
 }
 
-void CDotA7BasicSetting::load() {
-  manager_->settings().load();
-  refresh();
+void CDotA7BasicSetting::showSettings() {
+  manager_.refresh();
+  showValues();
 }
 
-void CDotA7BasicSetting::reset() {
-  manager_->settings().reset();
-  refresh();
+void CDotA7BasicSetting::clearSettings() {
+  manager_.settings().reset();
+  showSettings();
 }
 
-void CDotA7BasicSetting::refresh() {
-  const brennet::Dota7Settings& settings = manager_->settings();
+void CDotA7BasicSetting::showValues() {
+  const brennet::Dota7Settings& settings = manager_.settings();
   for (const brennet::Dota7Switch& row : brennet::dota7Switches()) {
     auto* const box = findChild<QAbstractButton*>(brennet::toQString(row.objectName));
     box->setChecked(settings.isOn(row));
@@ -155,13 +155,13 @@ void CDotA7BasicSetting::refresh() {
 
 // From now on the fields with two pairs of values show and edit those of this mode.
 void CDotA7BasicSetting::setCast(Dota7Cast cast) {
-  manager_->settings().setCast(cast);
+  manager_.settings().setCast(cast);
   fields_.refresh();
 }
 
 void CDotA7BasicSetting::store(const QAbstractButton& box) {
   const auto* const row = brennet::findDota7Switch(brennet::viewOf(box.objectName()));
-  manager_->settings().setOn(*row, box.isChecked());
+  manager_.settings().setOn(*row, box.isChecked());
 }
 
 bool CDotA7BasicSetting::eventFilter(QObject* watched, QEvent* event) {

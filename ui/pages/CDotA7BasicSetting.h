@@ -7,6 +7,7 @@
 
 #include "gameside/dota7/Dota7Values.h"
 #include "ui/capture/Dota7KeyFields.h"
+#include "ui/pages/SettingPage.h"
 
 namespace Ui {
 class CDotA7BasicSetting;
@@ -15,7 +16,7 @@ class QAbstractButton;
 
 // The page of the DotA 7 mode: keys and options that the map reads from the registry. Each change
 // is there at once. In no namespace: catalogues of translations know it by this name.
-class CDotA7BasicSetting : public QWidget {
+class CDotA7BasicSetting : public QWidget, public brennet::SettingPage {
   Q_OBJECT
 
  public:
@@ -25,10 +26,11 @@ class CDotA7BasicSetting : public QWidget {
                      brennet::HotkeyConfig* config = nullptr);
   ~CDotA7BasicSetting() override;
 
-  // Reads the registry again and shows what it holds.
-  void load();
+  // Reads the registry again and shows what it holds. What was recorded is in the registry already;
+  // Cancel can still take it back.
+  void showSettings() override;
   // Gives all keys and options their defaults: no key, off, normal cast.
-  void reset();
+  void clearSettings() override;
 
  signals:
   void showDota7HotKeySettingDlg();
@@ -49,10 +51,10 @@ class CDotA7BasicSetting : public QWidget {
   void buildRows();
   void connectButtons();
   void setCast(brennet::Dota7Cast cast);
-  void refresh();
+  void showValues();
   void store(const QAbstractButton& box);
 
-  brennet::Dota7KeyInfoManager* manager_;
+  brennet::Dota7KeyInfoManager& manager_;
   std::unique_ptr<Ui::CDotA7BasicSetting> form_;
   brennet::Dota7KeyFields fields_;
 };

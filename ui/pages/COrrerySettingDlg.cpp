@@ -24,6 +24,15 @@ COrrerySettingDlg::COrrerySettingDlg(QWidget* parent)
 
 COrrerySettingDlg::~COrrerySettingDlg() = default;
 
+QCheckBox& COrrerySettingDlg::manaBox() const {
+  return *form_->chkShowFriendsMana;
+}
+
+void COrrerySettingDlg::setEditable(bool isEditable) {
+  for (QLineEdit* const field : findChildren<QLineEdit*>()) field->setEnabled(isEditable);
+  manaBox().setEnabled(isEditable);
+}
+
 void COrrerySettingDlg::mousePressEvent(QMouseEvent* event) {
   if (!brennet::startDrag({.window = *this}, *event)) QDialog::mousePressEvent(event);
 }

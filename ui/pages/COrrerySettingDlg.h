@@ -10,6 +10,7 @@ class COrrerySettingDlg;
 namespace brennet {
 class ScreenFit;
 }
+class QCheckBox;
 
 // The keys of the Ledger panel and the switch for allied mana: a small window beside the settings.
 // The basic page owns it, captures its keys and stores them.
@@ -19,6 +20,11 @@ class COrrerySettingDlg : public QDialog {
  public:
   explicit COrrerySettingDlg(QWidget* parent = nullptr);
   ~COrrerySettingDlg() override;
+
+  // The switch for allied mana, which the basic page stores.
+  [[nodiscard]] QCheckBox& manaBox() const;
+  // Whether keys and switch can be changed.
+  void setEditable(bool isEditable);
 
  signals:
   // The check box of this name was toggled.

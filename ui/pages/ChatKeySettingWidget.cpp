@@ -30,9 +30,9 @@ std::unique_ptr<Ui::ChatKeySettingWidget> makeForm(QDialog& dialog) {
 
 ChatKeySettingWidget::ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidget* parent)
     : MovableDialog(parent),
-      config_(&config),
-      ui_(makeForm(*this)),
-      keyButtons_({ui_->optChatKey_1, ui_->optChatKey_2}, config),
+      config_(config),
+      form_(makeForm(*this)),
+      keyButtons_({form_->optChatKey_1, form_->optChatKey_2}, config),
       capture_({.style = {},
                 .slotOf = [](std::u16string_view) { return std::nullopt; },
                 .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
@@ -42,40 +42,40 @@ ChatKeySettingWidget::ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidge
     field(n).setAccessibleName(tr("喊话 %1").arg(n + 1));
     brennet::offerPhraseMenu(field(n));
   }
-  load();
+  ChatKeySettingWidget::showSettings();
   using This = ChatKeySettingWidget;
-  connect(ui_->optChatKey_1, &QRadioButton::toggled, this, &This::onToggled_ChatKey_1);
-  connect(ui_->optChatKey_2, &QRadioButton::toggled, this, &This::onToggled_ChatKey_2);
-  connect(ui_->btnCancel, &QPushButton::clicked, this, &This::onClickedCancelBtn);
-  connect(ui_->btnOK, &QPushButton::clicked, this, &This::onClickedOkBtn);
+  connect(form_->optChatKey_1, &QRadioButton::toggled, this, &This::onToggled_ChatKey_1);
+  connect(form_->optChatKey_2, &QRadioButton::toggled, this, &This::onToggled_ChatKey_2);
+  connect(form_->btnCancel, &QPushButton::clicked, this, &This::onClickedCancelBtn);
+  connect(form_->btnOK, &QPushButton::clicked, this, &This::onClickedOkBtn);
   setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
 }
 
 ChatKeySettingWidget::~ChatKeySettingWidget() = default;
 
 QLineEdit& ChatKeySettingWidget::field(std::size_t phrase) const {
-  QLineEdit* const fields[] = {ui_->chatLineEdit_1, ui_->chatLineEdit_2, ui_->chatLineEdit_3,
-                               ui_->chatLineEdit_4, ui_->chatLineEdit_5, ui_->chatLineEdit_6,
-                               ui_->chatLineEdit_7, ui_->chatLineEdit_8};
+  QLineEdit* const fields[] = {form_->chatLineEdit_1, form_->chatLineEdit_2, form_->chatLineEdit_3,
+                               form_->chatLineEdit_4, form_->chatLineEdit_5, form_->chatLineEdit_6,
+                               form_->chatLineEdit_7, form_->chatLineEdit_8};
   return *fields[phrase];
 }
 
-void ChatKeySettingWidget::load() {
+void ChatKeySettingWidget::showSettings() {
   keyButtons_.refresh();
   QString text;
   for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
-    const auto& phrase = config_->scheme().QuickChat[n];
+    const auto& phrase = config_.scheme().QuickChat[n];
     // What was found for one field is kept for those behind it that find nothing.
     if (phrase) text = brennet::toQString(*phrase);
     field(n).setText(text);
   }
 }
 
-void ChatKeySettingWidget::reset() {
-  ui_->optChatKey_2->setChecked(true);
+void ChatKeySettingWidget::clearSettings() {
+  form_->optChatKey_2->setChecked(true);
   // The button says nothing if it was checked already, whatever the scheme has by now.
-  config_->SetQuickChatIndex(kAltFunctionKeys);
-  brennet::HotkeyScheme* const scheme = config_->editableScheme();
+  config_.SetQuickChatIndex(kAltFunctionKeys);
+  brennet::HotkeyScheme* const scheme = config_.editableScheme();
   for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
     if (scheme != nullptr) scheme->QuickChat[n].emplace();
     field(n).clear();
@@ -83,7 +83,7 @@ void ChatKeySettingWidget::reset() {
 }
 
 void ChatKeySettingWidget::onClickedOkBtn() {
-  if (brennet::HotkeyScheme* const scheme = config_->editableScheme()) {
+  if (brennet::HotkeyScheme* const scheme = config_.editableScheme()) {
     for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
       scheme->QuickChat[n] = brennet::cutTypedPhrase(field(n).text().toStdU16String());
     }

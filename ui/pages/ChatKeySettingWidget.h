@@ -4,6 +4,7 @@
 
 #include "ui/capture/CaptureFields.h"
 #include "ui/chat/QuickChatKeyButtons.h"
+#include "ui/pages/SettingPage.h"
 #include "ui/window/MovableDialog.h"
 
 class QLineEdit;
@@ -15,7 +16,7 @@ class ChatKeySettingWidget;
 // The quick-chat dialog: the eight phrases of the current scheme, which OK stores, and the keys
 // that send them, which are stored at once. In no namespace: style sheets and catalogues of
 // translations know it by this name.
-class ChatKeySettingWidget : public brennet::MovableDialog {
+class ChatKeySettingWidget : public brennet::MovableDialog, public brennet::SettingPage {
   Q_OBJECT
 
  public:
@@ -23,13 +24,12 @@ class ChatKeySettingWidget : public brennet::MovableDialog {
   ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidget* parent);
   ~ChatKeySettingWidget() override;
 
-  // Shows the current scheme. Stores nothing. The field of a phrase that the scheme lacks shows the
-  // same text as the field before it.
-  void load();
+  // The field of a phrase that the scheme lacks shows the same text as the field before it.
+  void showSettings() override;
 
   // Chooses Alt+F1 to Alt+F8 and empties all phrases, in the fields and in the current scheme.
   // Where one of these keys is used otherwise, the player is told and the choice stays.
-  void reset();
+  void clearSettings() override;
 
  protected:
   // Captures keys as the pages do, without a setting to store them in. Nothing has this filter: the
@@ -45,8 +45,8 @@ class ChatKeySettingWidget : public brennet::MovableDialog {
  private:
   [[nodiscard]] QLineEdit& field(std::size_t phrase) const;
 
-  brennet::HotkeyConfig* config_;
-  std::unique_ptr<Ui::ChatKeySettingWidget> ui_;
+  brennet::HotkeyConfig& config_;
+  std::unique_ptr<Ui::ChatKeySettingWidget> form_;
   brennet::QuickChatKeyButtons keyButtons_;
   brennet::CaptureFields capture_;
 };

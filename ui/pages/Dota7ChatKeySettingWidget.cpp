@@ -41,7 +41,7 @@ QLineEdit* newPhraseField(const QString& objectName, const QString& accessibleNa
 Dota7ChatKeySettingWidget::Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManager& manager,
                                                      QWidget* parent, brennet::HotkeyConfig* config)
     : MovableDialog(parent),
-      manager_(&manager),
+      manager_(manager),
       form_(brennet::formOn<Ui::Dota7ChatKeySettingWidget>(*this)),
       keys_(manager, config, [this] { brennet::tellKeyIsUsed(this); }) {
   buildRows();
@@ -50,7 +50,7 @@ Dota7ChatKeySettingWidget::Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManage
   connect(form_->btnOK, &QPushButton::clicked, this, &Dota7ChatKeySettingWidget::onClickedOkBtn);
   setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
   keys_.install(*this, *this);
-  load();
+  Dota7ChatKeySettingWidget::showSettings();
 }
 
 Dota7ChatKeySettingWidget::~Dota7ChatKeySettingWidget() = default;
@@ -81,11 +81,11 @@ void Dota7ChatKeySettingWidget::buildRows() {
   brennet::setTabOrderOfLayouts(*this);
 }
 
-void Dota7ChatKeySettingWidget::load() {
-  manager_->settings().loadPhrases();
+void Dota7ChatKeySettingWidget::showSettings() {
+  manager_.settings().loadPhrases();
   for (const brennet::Dota7Phrase& row : brennet::dota7Phrases()) {
     findChild<QLineEdit*>(brennet::toQString(row.objectName))
-        ->setText(brennet::toQString(manager_->settings().phrase(row)));
+        ->setText(brennet::toQString(manager_.settings().phrase(row)));
   }
   keys_.refresh();
 }
@@ -94,7 +94,7 @@ void Dota7ChatKeySettingWidget::savePhrases() {
   for (const brennet::Dota7Phrase& row : brennet::dota7Phrases()) {
     const auto* const field = findChild<QLineEdit*>(brennet::toQString(row.objectName));
     const QString text = field->text();
-    manager_->settings().setPhrase(row, brennet::viewOf(text), field->isModified());
+    manager_.settings().setPhrase(row, brennet::viewOf(text), field->isModified());
   }
 }
 

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "ui/capture/Dota7KeyFields.h"
+#include "ui/pages/SettingPage.h"
 #include "ui/window/MovableDialog.h"
 
 namespace Ui {
@@ -12,7 +13,7 @@ class Dota7ChatKeySettingWidget;
 // The chat dialog of the DotA 7 mode: phrases that keys send, and phrases that are said when a game
 // starts. Phrases are stored when the owner asks for it, keys at once. In no namespace: style
 // sheets and catalogues of translations know it by this name.
-class Dota7ChatKeySettingWidget : public brennet::MovableDialog {
+class Dota7ChatKeySettingWidget : public brennet::MovableDialog, public brennet::SettingPage {
   Q_OBJECT
 
  public:
@@ -22,8 +23,8 @@ class Dota7ChatKeySettingWidget : public brennet::MovableDialog {
                             brennet::HotkeyConfig* config = nullptr);
   ~Dota7ChatKeySettingWidget() override;
 
-  // Reads the phrases and their keys from the registry again and shows them.
-  void load();
+  // Reads the phrases and their keys from the registry again.
+  void showSettings() override;
   // Writes the phrases as the fields have them.
   void savePhrases();
 
@@ -37,7 +38,7 @@ class Dota7ChatKeySettingWidget : public brennet::MovableDialog {
  private:
   void buildRows();
 
-  brennet::Dota7KeyInfoManager* manager_;
+  brennet::Dota7KeyInfoManager& manager_;
   std::unique_ptr<Ui::Dota7ChatKeySettingWidget> form_;
   brennet::Dota7KeyFields keys_;
 };

@@ -80,7 +80,7 @@ TYPED_TEST(BothBasicPages, LeaveSchemesThatTheyCannotEditAlone) {
 TEST_F(BasicPage, RefusesAUsedKeyInTheOrreryWindow) {
   scheme.HeroSkillKey[0] = KeyWord('Q', 0);
   scheme.SecretaryKey[0] = KeyWord('W', 0);
-  page.refresh();
+  page.showSettings();
   auto& ledger = test::find<QLineEdit>(orrery(), QStringLiteral("edtOpenCloseLedger"));
   expectWarning(page, "IDS_KEY_USED", [&] { pressKey(ledger, Qt::Key_Q); });
   EXPECT_EQ(ledger.text(), QString());

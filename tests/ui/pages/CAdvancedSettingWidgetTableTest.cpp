@@ -60,7 +60,7 @@ TEST_F(PhraseTable, CutsWhatIsTooLongAndShowsItUntilTheNextRefresh) {
     EXPECT_EQ(scheme().QuickChat[4], whole) << text.size();
     EXPECT_EQ(at(4).data().toString(), toQString(text));
   }
-  page().refresh();
+  page().showSettings();
   EXPECT_EQ(at(4).data().toString(), toQString(whole));
   const std::u16string almost(41, u'字');
   type(at(4), toQString(almost + u"😀"));
@@ -113,7 +113,7 @@ TEST_F(PhraseTable, AndThePageDoNothingWhereThereIsNoScheme) {
   for (std::uint32_t index = 3; index <= HotkeyConfig::kLargestIndex; ++index) {
     ASSERT_TRUE(config.setIndex(index));
     const CAdvancedSettingWidget another(config, nullptr);
-    page().refresh();
+    page().showSettings();
     expectWarning(page(), "IDS_GROUP_KEY_USED", [&] { family.click(); });
     EXPECT_TRUE(other.isChecked());
     expectWarning(page(), "IDS_KEY_USED", [&] { pressKey(field, Qt::Key_F8); });

@@ -188,7 +188,7 @@ TEST_F(AdvancedPage, ShowsTheCurrentScheme) {
   std::uint8_t key = 'A';
   for (const KeyField& row : kFields) scheme(1).*row.key = KeyWord(key++, KeyWord::kCtrl | kAlt);
   ASSERT_TRUE(config.setIndex(1));
-  page().refresh();
+  page().showSettings();
   expectPresets(false, true, false);
   expectFamily(1);
   char16_t letter = u'A';
@@ -200,7 +200,7 @@ TEST_F(AdvancedPage, ShowsTheCurrentScheme) {
   EXPECT_EQ(cell(7), QStringLiteral("八"));
   for (const std::int32_t chosen : {0, 1, 2, -1}) {
     scheme(1).NumComboKeyIndex = chosen;
-    page().refresh();
+    page().showSettings();
     expectPresets(chosen == 0, chosen == 1, chosen == 2);
   }
 }
@@ -211,7 +211,7 @@ TEST_F(AdvancedPage, LeavesTheRowOfAMissingPhraseAlone) {
   scheme(1).QuickChat[0] = u"";
   page();
   ASSERT_TRUE(config.setIndex(1));
-  page().refresh();
+  page().showSettings();
   EXPECT_EQ(cell(0), QString());
   EXPECT_EQ(cell(1), QStringLiteral("b"));
   EXPECT_FALSE(scheme(1).QuickChat[1].has_value());
@@ -230,7 +230,7 @@ TEST_F(AdvancedPage, StoresNothingAndAsksNothingWhenItRefreshes) {
       scheme().NumComboKeyIndex = chosen;
       const HotkeyScheme before = scheme();
       const CaughtMessages messages;
-      page().refresh();
+      page().showSettings();
       EXPECT_EQ(scheme(), before);
       EXPECT_EQ(messages.texts(), QStringList());
     }
@@ -285,7 +285,7 @@ TEST_F(AdvancedPage, RefusesAKeySetWithAWarning) {
 
   scheme().QuickChatIndex = 0;
   scheme().HeroSkillKey[1] = KeyWord(kF1 + 7, kAlt);
-  page().refresh();
+  page().showSettings();
   expectWarning(page(), "IDS_GROUP_KEY_USED", [&] { family(2).click(); });
   expectFamily(1);
   EXPECT_EQ(scheme().QuickChatIndex, 0U);
@@ -322,7 +322,7 @@ TEST_F(AdvancedPage, RefusesAKeyThatIsUsed) {
                        {Qt::Key_F1, Qt::AltModifier}};
   for (const Used& row : used) {
     scheme().ShowEBlood = KeyWord('Z', 0);
-    page().refresh();
+    page().showSettings();
     expectWarning(page(), "IDS_KEY_USED",
                   [&] { pressKey(field("ShowEBlood"), row.key, row.modifiers); });
     EXPECT_EQ(field("ShowEBlood").text(), QString());

@@ -51,7 +51,7 @@ TEST_F(BasicPage, StoresTheKeyOfEachField) {
     row.key = kNoKey;
     EXPECT_EQ(scheme, expected) << "nothing else has changed";
     row.key = kCtrlAltQ;
-    page.refresh();
+    page.showSettings();
     EXPECT_EQ(field(row.field).text(), QStringLiteral("CTRL + Alt + Q"));
     pressKey(field(row.field), Qt::Key_Delete);
     EXPECT_EQ(row.key, kNoKey);
@@ -103,10 +103,10 @@ TEST_F(BasicPage, StoresEachSwitch) {
     expected.*row.field = 0;
     EXPECT_EQ(scheme, expected);
     scheme.*row.field = 1;
-    page.refresh();
+    page.showSettings();
     EXPECT_TRUE(box(row.box).isChecked());
     scheme.*row.field = 0;
-    page.refresh();
+    page.showSettings();
   }
 }
 
@@ -219,7 +219,7 @@ TEST_F(BasicPage, CapturesTheKeysOfTheOrreryWindow) {
     EXPECT_EQ(ledger->text(), QStringLiteral(" ") + QChar(key));
   }
   scheme.SecretaryKey[1] = kNoKey;
-  page.refresh();
+  page.showSettings();
   EXPECT_EQ(orrery().findChild<QLineEdit*>(QLatin1String(names[1]))->text(), QString());
 }
 
@@ -233,7 +233,7 @@ TEST_F(BasicPage, StoresNothingWhileItShowsAScheme) {
   const HotkeyScheme expected[] = {config.scheme(0), config.scheme(1), config.scheme(2)};
   for (const unsigned index : {0U, 1U, 2U, 0U}) {
     config.setIndex(index);
-    page.refresh();
+    page.showSettings();
   }
   for (int i = 0; i < 3; ++i) EXPECT_EQ(config.scheme(i), expected[i]);
   EXPECT_EQ(field("edtSkill_1").text(), QStringLiteral("Q"));
@@ -248,8 +248,8 @@ TEST_F(BasicPage, ClearsTheSchemeOnReset) {
   scheme.DisableLeftAlt = 1;
   scheme.LockMouseFlag = 1;
   scheme.QuickChat[2] = u"glhf";
-  page.refresh();
-  page.reset();
+  page.showSettings();
+  page.clearSettings();
   HotkeyScheme expected;
   expected.QuickChat[2] = u"glhf";
   EXPECT_EQ(scheme, expected);
@@ -272,13 +272,13 @@ TEST_F(BasicPage, LeavesSchemesThatItCannotEditAlone) {
   for (unsigned index = HotkeyConfig::kSchemes; index <= 10; ++index) {
     SCOPED_TRACE(index);
     ASSERT_TRUE(config.setIndex(index));
-    page.refresh();
+    page.showSettings();
     for (QCheckBox* const each : page.findChildren<QCheckBox*>()) each->click();
     button("btn_SetAll_AutoCast").click();
     button("btn_goods_cast_7").click();
     pressKey(field("edtSkill_1"), Qt::Key_Delete);
     expectWarning(page, "IDS_KEY_USED", [&] { pressKey(field("edtSkill_1"), Qt::Key_Q); });
-    page.reset();
+    page.clearSettings();
     page.useRecommended();
     for (int i = 0; i < 3; ++i) EXPECT_EQ(config.scheme(i), expected[i]);
   }

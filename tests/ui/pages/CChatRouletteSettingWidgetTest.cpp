@@ -147,7 +147,7 @@ TEST_F(WheelPage, ShowsTheCurrentSchemeAndStoresNothing) {
 
   ASSERT_TRUE(config.setIndex(1));
   scheme().ChatWheel[7].reset();
-  page().load();
+  page().showSettings();
   EXPECT_EQ(slot(1).text(), QString());
   EXPECT_EQ(slot(1).toolTip(), QString());
   EXPECT_EQ(slot(8).text(), QStringLiteral("gank")) << "what is missing leaves the field";
@@ -159,7 +159,7 @@ TEST_F(WheelPage, CutsNothingByShowingIt) {
   EXPECT_EQ(slot(4).text(), QString());
   const std::u16string longPhrase(50, u'字');
   scheme().ChatWheel[3] = longPhrase;
-  page().load();
+  page().showSettings();
   EXPECT_EQ(slot(4).text(), toQString(longPhrase));
   EXPECT_EQ(stored(4), longPhrase);
 }
@@ -174,7 +174,7 @@ TEST_F(WheelPage, HidesTheCheckBoxThatStillWorks) {
   show();
   EXPECT_FALSE(mana().isVisible());
   mana().show();
-  page().load();
+  page().showSettings();
   EXPECT_FALSE(mana().isVisible());
   mana().setChecked(true);
   EXPECT_EQ(scheme().ShowFManaFlag, 1);
@@ -194,7 +194,7 @@ TEST_F(WheelPage, StoresWhatASlotShowsCut) {
     EXPECT_EQ(stored(6), std::u16string(static_cast<std::size_t>(row.stored), u'x')) << row.length;
     EXPECT_EQ(slot(6).text(), text) << "the field keeps all of it";
   }
-  page().load();
+  page().showSettings();
   EXPECT_EQ(slot(6).text().size(), 42);
   slot(6).setText(QString(43, QChar(u'\u5B57')));
   EXPECT_EQ(stored(6), std::u16string(42, u'\u5B57') + u'\u5B00');

@@ -218,7 +218,7 @@ TEST_F(Dota7Page, StoresItsOptions) {
     EXPECT_FALSE(button(row.box).isChecked());
     button(row.box).click();
     EXPECT_EQ(number(row.value), 1U) << row.box;
-    page->load();
+    page->showSettings();
     EXPECT_TRUE(button(row.box).isChecked()) << row.box;
     button(row.box).click();
     EXPECT_EQ(number(row.value), 0U) << row.box;
@@ -262,19 +262,19 @@ TEST_F(Dota7Page, TakesTheKeyOfTheChatWheelAwayForAPaste) {
 
 TEST_F(Dota7Page, ShowsWhatTheRegistryHolds) {
   registry.set(kDota7ControlPath, u"HScoreboardKeyCode", platform::dwordValue(0x09));
-  page->load();
+  page->showSettings();
   EXPECT_EQ(fieldOf(u"edt_HScoreboardKey").text(), QStringLiteral("Tab"));
 }
 
 TEST_F(Dota7Page, GivesAllBackWhenItIsCancelled) {
   registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
-  page->load();
+  page->showSettings();
   const platform::RegFile before = registry.content();
   pressKey(fieldOf(u"edt_HStopKey"), Qt::Key_X);
   pressKey(fieldOf(u"edt_HHoldKey"), Qt::Key_Y);
   button("chk_SLegacyKeys").click();
   manager.cancelChanges();
-  page->load();
+  page->showSettings();
   EXPECT_EQ(registry.content(), before);
   EXPECT_EQ(fieldOf(u"edt_HStopKey").text(), QStringLiteral("S"));
   EXPECT_EQ(fieldOf(u"edt_HHoldKey").text(), QString());
@@ -284,7 +284,7 @@ TEST_F(Dota7Page, ResetsAllToNothing) {
   pressKey(fieldOf(u"edt_HStopKey"), Qt::Key_X);
   button("chk_SLegacyKeys").click();
   button("chk_QuickUse").click();
-  page->reset();
+  page->clearSettings();
   EXPECT_EQ(fieldOf(u"edt_HStopKey").text(), QString());
   EXPECT_EQ(number(u"HStopKeyCode"), 0U);
   EXPECT_EQ(number(u"SLegacyKeys"), 0U);
@@ -337,7 +337,7 @@ TEST(Dota7PageWithoutRegistry, StaysQuiet) {
   pressKey(stop, Qt::Key_S);
   EXPECT_EQ(stop.text(), QStringLiteral(" S"));
   page.findChild<QAbstractButton*>(QStringLiteral("chk_SLegacyKeys"))->click();
-  page.reset();
+  page.clearSettings();
   QCoreApplication::processEvents();
   EXPECT_EQ(registry.content(), before) << "no key is made";
 }

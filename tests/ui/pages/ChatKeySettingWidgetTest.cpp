@@ -128,7 +128,7 @@ TEST_F(ChatDialog, LoadsTheCurrentScheme) {
   EXPECT_EQ(shown().join(QLatin1Char(' ')), QStringLiteral("一 2 3 4 5 6 7 8"));
   expectFamily(1);
   config.setIndex(1);
-  dialog().load();
+  dialog().showSettings();
   EXPECT_EQ(shown().join(QLatin1Char(' ')), QStringLiteral("a b c d e f g h"));
   expectFamily(2);
 }
@@ -138,7 +138,7 @@ TEST_F(ChatDialog, CarriesATextOverPhrasesThatAreMissing) {
   scheme().QuickChat[1] = u"b";
   scheme().QuickChat[4] = u"";
   scheme().QuickChat[6] = u"g";
-  dialog().load();
+  dialog().showSettings();
   EXPECT_EQ(shown().join(QLatin1Char(',')), QStringLiteral(",b,b,b,,,g,g"));
 }
 
@@ -150,7 +150,7 @@ TEST_F(ChatDialog, StoresNothingAndAsksNothingWhenItLoads) {
   for (const std::uint32_t set : {0U, 1U, 0U}) {
     scheme().QuickChatIndex = set;
     const HotkeyScheme before = scheme();
-    dialog().load();
+    dialog().showSettings();
     expectFamily(static_cast<int>(set) + 1);
     EXPECT_EQ(scheme(), before);
   }
@@ -251,7 +251,7 @@ TEST_F(ChatDialog, AsksOnceWhenNoKeysCanBeHad) {
   expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { family(1).click(); });
   expectFamily(2);
   scheme().QuickChatIndex = 0;
-  dialog().load();
+  dialog().showSettings();
   expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { family(2).click(); });
   expectFamily(1);
   EXPECT_EQ(scheme().QuickChatIndex, 0U);
@@ -264,7 +264,7 @@ TEST_F(ChatDialog, ResetsKeysAndPhrases) {
   scheme(1).QuickChat = {u"a", u"b", u"c", u"d", u"e", u"f", u"g", std::nullopt};
   const HotkeyScheme other = scheme(0);
   phrase(5).setText(QStringLiteral("typed"));
-  dialog().reset();
+  dialog().clearSettings();
   expectFamily(2);
   EXPECT_EQ(shown(), kNothing);
   EXPECT_EQ(scheme(1).QuickChatIndex, 1U);
@@ -275,7 +275,7 @@ TEST_F(ChatDialog, ResetsKeysAndPhrases) {
 TEST_F(ChatDialog, ResetsKeysThatWereChosenElsewhere) {
   expectFamily(2);
   scheme().QuickChatIndex = 0;
-  dialog().reset();
+  dialog().clearSettings();
   EXPECT_EQ(scheme().QuickChatIndex, 1U);
 }
 
@@ -283,7 +283,7 @@ TEST_F(ChatDialog, ResetsThePhrasesEvenIfTheKeysAreUsed) {
   scheme().QuickChatIndex = 0;
   scheme().QuickChat[0] = u"a";
   scheme().HeroSkillKey[0] = KeyWord(kF1 + 7, kAlt);
-  expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { dialog().reset(); });
+  expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { dialog().clearSettings(); });
   expectFamily(1);
   EXPECT_EQ(scheme().QuickChatIndex, 0U);
   EXPECT_EQ(scheme().QuickChat[0], u"");
@@ -302,9 +302,9 @@ TEST_F(ChatDialog, StoresNothingWhereThereIsNoScheme) {
     button("btnOK").click();
     EXPECT_EQ(dialog().result(), QDialog::Accepted);
     const NoBoxes noBoxes;
-    dialog().reset();
+    dialog().clearSettings();
     EXPECT_EQ(shown(), kNothing);
-    dialog().load();
+    dialog().showSettings();
     for (int n = 0; n < HotkeyConfig::kSchemes; ++n) EXPECT_EQ(scheme(n), HotkeyScheme());
   }
 }

@@ -82,7 +82,7 @@ TEST_F(Dota7ChatDialog, WritesPhrasesOnlyWhenItIsTold) {
 TEST_F(Dota7ChatDialog, LeavesAPhraseThatItCannotReadUntilThePlayerTypesIt) {
   const auto unreadable = bytesValue("gg\xFF");
   registry.set(kDota7PhrasesPath, u"SOnStartString0", unreadable);
-  dialog->load();
+  dialog->showSettings();
   atStart(1).setText(QStringLiteral("glhf"));
   dialog->savePhrases();
   EXPECT_EQ(phrases(u"SOnStartString0"), unreadable);
@@ -112,7 +112,7 @@ TEST_F(Dota7ChatDialog, ForgetsPhrasesAndKeepsKeysWhenItIsCancelled) {
   pressKey(keyField(3), Qt::Key_F6);
   dialog->findChild<QPushButton*>(QStringLiteral("btnCancel"))->click();
   EXPECT_EQ(dialog->result(), QDialog::Rejected);
-  dialog->load();
+  dialog->showSettings();
   EXPECT_EQ(phrase(3).text(), QString());
   EXPECT_EQ(keyField(3).text(), QStringLiteral("F6"));
   EXPECT_EQ(phrases(u"HQuickChatHot3KeyCode"), platform::dwordValue(0x75));
@@ -124,7 +124,7 @@ TEST_F(Dota7ChatDialog, KeepsPhrasesOfAllLengths) {
     SCOPED_TRACE(length);
     phrase(1).setText(QString(length, QChar(u'\u8C22')));
     dialog->savePhrases();
-    dialog->load();
+    dialog->showSettings();
     EXPECT_EQ(phrase(1).text(), QString(qMin(length, 86), QChar(u'\u8C22')));
   }
 }

@@ -183,7 +183,7 @@ TEST(TheBasicPage, KeepsItsLookWhenItShowsAnotherScheme) {
     widget->installEventFilter(&restyled);
   }
   config.setIndex(1);
-  page->refresh();
+  page->showSettings();
   QCoreApplication::processEvents();
   EXPECT_EQ(restyled.count, 0);
   window.setStyleSheet(QString());

@@ -74,7 +74,7 @@ TEST_F(WheelPage, RefusesAKeyThatIsUsed) {
       {Qt::Key_Q, Qt::NoModifier}, {Qt::Key_E, Qt::AltModifier}, {Qt::Key_F2, Qt::AltModifier}};
   for (const Row& row : used) {
     scheme().ChatWheelkey = KeyWord('Y', 0);
-    page().load();
+    page().showSettings();
     expectWarning(page(), "IDS_KEY_USED", [&] { pressKey(key(), row.key, row.modifiers); });
     EXPECT_EQ(key().text(), QString());
     EXPECT_EQ(scheme().ChatWheelkey, kNoKey) << row.key;
@@ -85,7 +85,7 @@ TEST_F(WheelPage, ClearsTheKeyWithoutAWord) {
   const NoBoxes none;
   for (const Qt::Key clear : {Qt::Key_Backspace, Qt::Key_Delete}) {
     scheme().ChatWheelkey = KeyWord('Y', 0);
-    page().load();
+    page().showSettings();
     pressKey(key(), clear);
     EXPECT_EQ(key().text(), QString());
     EXPECT_EQ(scheme().ChatWheelkey, kNoKey);
@@ -95,7 +95,7 @@ TEST_F(WheelPage, ClearsTheKeyWithoutAWord) {
 
 TEST_F(WheelPage, NeverKeepsThePasteKey) {
   scheme().ChatWheelkey = KeyWord('V', kCtrl);
-  page().load();
+  page().showSettings();
   expectWarning(page(), "IDS_KEY_USED", [&] { pressKey(key(), Qt::Key_V, Qt::ControlModifier); });
   EXPECT_EQ(key().text(), QString());
   EXPECT_EQ(scheme().ChatWheelkey, kNoKey);
@@ -103,7 +103,7 @@ TEST_F(WheelPage, NeverKeepsThePasteKey) {
 
 TEST_F(WheelPage, ForgetsALoneModifier) {
   scheme().ChatWheelkey = KeyWord('Y', 0);
-  page().load();
+  page().showSettings();
   pressKey(key(), Qt::Key_Control);
   EXPECT_EQ(key().text(), QStringLiteral("CTRL +"));
   releaseKey(key(), Qt::Key_Control);
@@ -135,7 +135,7 @@ TEST_F(WheelPage, StoresNothingForAnIndexWithoutAScheme) {
     pressKey(key(), Qt::Key_Delete);
     expectWarning(page(), "IDS_KEY_USED", [&] { pressKey(key(), Qt::Key_Y); });
     expectWarning(page(), "IDS_KEY_USED", [&] { pressKey(key(), Qt::Key_V, Qt::ControlModifier); });
-    page().load();
+    page().showSettings();
     EXPECT_EQ(slot(1).text(), QString()) << "the defaults have empty phrases";
     EXPECT_EQ(key().text(), QString());
     for (int n = 0; n < HotkeyConfig::kSchemes; ++n) EXPECT_EQ(config.scheme(n), HotkeyScheme());
