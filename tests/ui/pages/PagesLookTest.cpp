@@ -12,63 +12,25 @@
 #include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "model/RecommendedScheme.h"
+#include "tests/support/ScopedRegistry.h"
+#include "tests/ui/AllWindows.h"
 #include "tests/ui/pages/PageChecks.h"
-#include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
-#include "ui/pages/CBasicSettingWidget.h"
-#include "ui/pages/CChatRouletteSettingWidget.h"
-#include "ui/pages/CDotA7BasicSetting.h"
-#include "ui/pages/COrrerySettingDlg.h"
-#include "ui/pages/ChatKeySettingWidget.h"
-#include "ui/pages/Dota7ChatKeySettingWidget.h"
 #include "ui/window/CMsgBox.h"
 #include "ui/window/StyleSheet.h"
 
 namespace brennet::test {
 namespace {
 
-using Make = QWidget* (*)(HotkeyConfig&, QWidget*);
-
-template <class Page>
-QWidget* make(HotkeyConfig& config, QWidget* parent) {
-  return new Page(config, parent);
-}
-template <>
-QWidget* make<COrrerySettingDlg>(HotkeyConfig& /*config*/, QWidget* parent) {
-  return new COrrerySettingDlg(parent);
-}
-
-// What they show is the registry's, which has nothing for them.
-template <class Window>
-QWidget* makeDota7(HotkeyConfig& /*config*/, QWidget* parent) {
-  static Dota7KeyInfoManager manager;
-  return new Window(manager, parent);
-}
-
-struct PageRow {
-  const char* name;
-  Make make;
-};
-const PageRow kPages[] = {
-    {"basic", make<CBasicSetting7Widget>},
-    {"older basic", make<CBasicSettingWidget>},
-    {"advanced", make<CAdvancedSettingWidget>},
-    {"chat wheel", make<CChatRouletteSettingWidget>},
-    {"quick chat", make<ChatKeySettingWidget>},
-    {"Orrery", make<COrrerySettingDlg>},
-    {"DotA 7", makeDota7<CDotA7BasicSetting>},
-    {"DotA 7 chat", makeDota7<Dota7ChatKeySettingWidget>},
-};
-
 class PagesLook : public testing::Test {
  protected:
   ~PagesLook() override { QApplication::setFont(font_); }
 
   // In a window in the skin, as large as it asks for and as small as it lets itself be made.
-  void checkPage(const PageRow& row) {
+  void checkPage(const WindowRow& row) {
     QWidget window;
     auto* const layout = new QVBoxLayout(&window);
-    QWidget* const page = row.make(config_, &window);
+    QWidget* const page = row.make(config_, manager_, &window).release();  // the window has it
     page->setWindowFlags(Qt::Widget);
     layout->addWidget(page);
     loadStyleSheet(window, QStringLiteral(":/skin/war3key.qss"));
@@ -101,15 +63,17 @@ class PagesLook : public testing::Test {
       font.setPointSizeF(9.0 * percent / 100);
       QApplication::setFont(font);
       checkBox();
-      for (const PageRow& row : kPages) {
-        SCOPED_TRACE(row.name);
-        checkPage(row);
+      for (const WindowRow& row : allWindows()) {
+        SCOPED_TRACE(row.form);
+        if (row.isPage) checkPage(row);
       }
     }
   }
 
   const QFont font_ = QApplication::font();
+  const ScopedRegistry registry_;
   HotkeyConfig config_;
+  Dota7KeyInfoManager manager_;
 };
 
 TEST_F(PagesLook, HasRoomForLettersOfAllSizes) {

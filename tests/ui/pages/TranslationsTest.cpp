@@ -18,19 +18,11 @@
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyScheme.h"
+#include "tests/ui/AllWindows.h"
 #include "tests/ui/UiTest.h"
-#include "ui/CHotkeySettingDlg.h"
 #include "ui/capture/KeyMessages.h"
 #include "ui/chat/CCustomMsgTableModel.h"
 #include "ui/chat/ChatPhrases.h"
-#include "ui/pages/CAdvancedSettingWidget.h"
-#include "ui/pages/CBasicSetting7Widget.h"
-#include "ui/pages/CBasicSettingWidget.h"
-#include "ui/pages/CChatRouletteSettingWidget.h"
-#include "ui/pages/CDotA7BasicSetting.h"
-#include "ui/pages/COrrerySettingDlg.h"
-#include "ui/pages/ChatKeySettingWidget.h"
-#include "ui/pages/Dota7ChatKeySettingWidget.h"
 #include "ui/window/CMsgBox.h"
 
 namespace brennet::test {
@@ -156,16 +148,8 @@ bool isOfQt(const QString& context) {
 
 std::vector<std::unique_ptr<QWidget>> makeWindows(HotkeyConfig& config) {
   std::vector<std::unique_ptr<QWidget>> windows;
-  windows.push_back(std::make_unique<CAdvancedSettingWidget>(config, nullptr));
-  windows.push_back(std::make_unique<CBasicSetting7Widget>(config, nullptr));
-  windows.push_back(std::make_unique<CBasicSettingWidget>(config, nullptr));
-  windows.push_back(std::make_unique<CChatRouletteSettingWidget>(config, nullptr));
-  windows.push_back(std::make_unique<COrrerySettingDlg>());
-  windows.push_back(std::make_unique<ChatKeySettingWidget>(config, nullptr));
   static Dota7KeyInfoManager manager;
-  windows.push_back(std::make_unique<CDotA7BasicSetting>(manager, nullptr));
-  windows.push_back(std::make_unique<Dota7ChatKeySettingWidget>(manager, nullptr));
-  windows.push_back(std::make_unique<CHotkeySettingDlg>(config, manager));
+  for (const WindowRow& row : allWindows()) windows.push_back(row.make(config, manager, nullptr));
   QMessageBox::StandardButtons all;
   for (int bit = QMessageBox::FirstButton; bit <= QMessageBox::LastButton; bit *= 2) {
     all |= static_cast<QMessageBox::StandardButton>(bit);

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+#include <span>
+
+#include "model/HotkeyConfig.h"
+
+namespace brennet {
+class Dota7KeyInfoManager;
+}
+
+namespace brennet::test {
+
+// A window or page with a form of its own.
+struct WindowRow {
+  const char* form;  // the name of its form, ui/.../NAME.ui
+  std::unique_ptr<QWidget> (*make)(HotkeyConfig&, Dota7KeyInfoManager&, QWidget* parent);
+  bool isPage = true;  // what the dialog shows in itself or beside it; not the dialog
+};
+
+// All there are. What holds for every window is tested for each row: its look with all fonts and
+// sizes, its texts in all languages.
+[[nodiscard]] std::span<const WindowRow> allWindows();
+
+}  // namespace brennet::test
