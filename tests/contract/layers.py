@@ -34,6 +34,7 @@ BELOW["tools/skin"] = ()
 PUBLIC = {
     "brennet/HotkeyBlock.h": "model/include/brennet/HotkeyBlock.h",
     "brennet/IBrennet.h": "host/include/brennet/IBrennet.h",
+    "brennet/Version.h": "host/include/brennet/Version.h",
 }
 # The bodies for one system belong to the header of the same name.
 BODIES = re.compile(r"^platform/(posix|win)/")

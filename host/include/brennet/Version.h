@@ -1,0 +1,21 @@
+// The version of the Brennet library that these headers belong to.
+//
+// The library says its own version in its version resource on Windows (GetFileVersionInfo) and in
+// the name of its file elsewhere (libbrennet.so.MAJOR.MINOR.PATCH). A library of the same or a
+// later version has every operation that these headers have. To call one that was appended later
+// than slot 11, a host that may meet an older library compares that version with the one in which
+// the operation came; each says so in IBrennet.h. The twelve up to slot 11 are in every version.
+//
+// This header stands alone and compiles as C++11 and in resource scripts.
+#ifndef BRENNET_VERSION_H
+#define BRENNET_VERSION_H
+
+#define BRENNET_VERSION_MAJOR 0
+#define BRENNET_VERSION_MINOR 1
+#define BRENNET_VERSION_PATCH 0
+
+// One number that grows with the version, for the preprocessor: 0.1.0 is 100, 1.2.3 is 10203.
+#define BRENNET_VERSION \
+  (BRENNET_VERSION_MAJOR * 10000 + BRENNET_VERSION_MINOR * 100 + BRENNET_VERSION_PATCH)
+
+#endif  // BRENNET_VERSION_H
