@@ -8,7 +8,8 @@
 // GetBrennetPtr; SetDataFolder and LoadSettings; then the other operations, in any order and any
 // number of times.
 //
-// This header stands alone and compiles as C++11.
+// This header stands alone and compiles as C++11. It is the contract; CONTRACT.md tells it at
+// length.
 #ifndef BRENNET_I_BRENNET_H
 #define BRENNET_I_BRENNET_H
 
@@ -26,8 +27,12 @@ namespace brennet {
 struct HotkeyBlock;  // HotkeyBlock.h
 
 // Twelve operations in a fixed order. The order of the slots is law: hosts are compiled against
-// it. New operations are only ever appended. No destructor and no data belong here.
-// Nothing throws; failures are the stated results.
+// it. New operations are only ever appended; Version.h says how a host finds out whether a library
+// has them. No destructor and no data belong here. Nothing throws; failures are the stated results.
+//
+// Each slot says in brackets on which thread and when it may be called, who owns what is passed,
+// and what a failure is. "Any time" is any time after GetBrennetPtr, before the first load and
+// while the dialog is open included.
 class IBrennet {
  public:
   // Slot 0. Reads the player's settings from the file at `path` (UTF-16; copied) and keeps the
@@ -37,10 +42,16 @@ class IBrennet {
   // quick-chat phrases, quick-cast marks and left-Alt switches of an earlier load stay then. Where
   // memory runs out for the path itself, there is no path then, and saves fail until the next load.
   // False with nothing changed when `path` is null.
+  // [GUI thread; any time; first of all after slot 1]
+  // [owns: the host its text, which is copied]
+  // [failure: false: the defaults are in place, or, for null, nothing has changed]
   virtual bool BRENNET_CALL LoadSettings(const wchar_t* path) = 0;
 
   // Slot 1. Stores the folder (copied) that holds Tollamere.reg, with a path separator at its end
   // or without; null stores an empty name.
+  // [GUI thread; any time; before slot 2]
+  // [owns: the host its text, which is copied]
+  // [failure: cannot fail]
   virtual void BRENNET_CALL SetDataFolder(const wchar_t* folder) = 0;
 
   // Slot 2. Opens the settings dialog, modal over the host's window, on a copy of the settings.
@@ -48,34 +59,59 @@ class IBrennet {
   // succeeded, and if so the copy becomes the active configuration.
   // Returns whether the player confirmed; false when `saved` is null, without a QApplication, while
   // the dialog is open already, and when memory runs out, as far as Qt bears that.
+  // [GUI thread, and holds it until the dialog closes; after slots 0 and 1, with a `QApplication`;
+  // not while the dialog is open]
+  // [owns: the host the `bool`, which is written]
+  // [failure: false; true with `*saved` false when only the save failed]
   virtual bool BRENNET_CALL ShowSettingsDialog(bool* saved, std::uint32_t saveTime) = 0;
 
   // Slot 3. Fills `block` with the active bindings. The caller writes the number of bytes it
   // provides into `block->size` first: a shorter, older record gets its prefix, a longer one keeps
   // its tail, and `size` itself is left as it was.
   // Returns false when `block` is null or its memory is not known to be writable.
+  // [GUI thread; any time; the defaults before slot 0]
+  // [owns: the host the record, which is written]
+  // [failure: false, nothing is written]
   virtual bool BRENNET_CALL FillHotkeyBlock(HotkeyBlock* block) = 0;
 
   // Slot 4. 1 when the left Windows key is disabled in game, else 0.
+  // [GUI thread; any time]
+  // [owns: nothing is passed]
+  // [failure: cannot fail]
   virtual std::uint8_t BRENNET_CALL GetDisableLWinFlag() = 0;
 
   // Slot 5. The save time that the last load found in the file; 0 before any load and after a
   // failed one. Saving does not change it. The library never reads a clock: the value is the
   // host's own.
+  // [GUI thread; any time; 0 before slot 0]
+  // [owns: nothing is passed]
+  // [failure: 0, after a load that failed]
   virtual std::uint32_t BRENNET_CALL GetLastSaveTime() = 0;
 
   // Slot 6. Switches the whole feature on or off and saves with `saveTime`.
   // Returns false and does nothing when `enable` is the state already; else the save's result.
   // The new state stands in memory also when the save fails.
+  // [GUI thread; after slot 0, which gives the path]
+  // [owns: nothing but numbers]
+  // [failure: false: it was so already, or was not saved]
   virtual bool BRENNET_CALL SetEnabled(bool enable, std::uint32_t saveTime) = 0;
 
   // Slot 7. 1 when the picture is kept unstretched, else 0.
+  // [GUI thread; any time]
+  // [owns: nothing is passed]
+  // [failure: cannot fail]
   virtual std::uint8_t BRENNET_CALL GetViewNoDragFlag() = 0;
 
   // Slot 8. Whether the active bindings use Caps Lock.
+  // [GUI thread; any time]
+  // [owns: nothing is passed]
+  // [failure: cannot fail]
   virtual bool BRENNET_CALL IsCapsLockUsed() = 0;
 
   // Slot 9. Whether the active bindings use Shift as a key of its own.
+  // [GUI thread; any time]
+  // [owns: nothing is passed]
+  // [failure: cannot fail]
   virtual bool BRENNET_CALL IsShiftUsed() = 0;
 
   // Slot 10. Takes back a block that was changed in game, merges what differs into the settings
@@ -83,10 +119,16 @@ class IBrennet {
   // Returns 0 after a successful save, and 0 when `block` is null or any of its `size` bytes is
   // not writable; -1 when nothing differs, the save fails, the settings dialog is open, or whether
   // the memory is writable cannot be found out.
+  // [GUI thread; after slot 0, which gives the path; not while the dialog is open]
+  // [owns: the host the record, which is read]
+  // [failure: -1, the old settings stay; 0 when the record is null or not writable]
   virtual std::int32_t BRENNET_CALL ApplyHotkeyBlock(HotkeyBlock* block,
                                                      std::uint32_t saveTime) = 0;
 
   // Slot 11. 1 when delay optimisation is on, else 0.
+  // [GUI thread; any time]
+  // [owns: nothing is passed]
+  // [failure: cannot fail]
   virtual std::uint8_t BRENNET_CALL GetStartJSQFlag() = 0;
 
  protected:
