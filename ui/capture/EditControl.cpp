@@ -1,7 +1,10 @@
 #include "ui/capture/EditControl.h"
 
+#include <algorithm>
 #include <limits>
 #include <optional>
+
+#include "model/FixedKeys.h"
 
 namespace brennet {
 namespace {
@@ -14,21 +17,49 @@ constexpr unsigned bits(unsigned first, unsigned last) {
 }
 constexpr unsigned kGoods = bits(1, 2) | bits(4, 5) | bits(7, 8);
 
-// A name that is `prefix` and one digit.
+// The slot that a number in a name stands for: all count from 1, but for items, which are named by
+// their digits on the numeric keypad.
+using SlotOfNumber = KeySlot (*)(std::uint8_t number);
+
+template <SettingId Setting>
+constexpr KeySlot nthKey(std::uint8_t number) {
+  return {Setting, static_cast<std::uint8_t>(number - 1)};
+}
+constexpr KeySlot itemOfDigit(std::uint8_t digit) {
+  constexpr std::uint16_t kNumpad0 = 0x60;
+  const auto item = std::ranges::find(kItemSlotCodes, kNumpad0 + digit) - kItemSlotCodes.begin();
+  return {SettingId::ItemKey, static_cast<std::uint8_t>(item)};
+}
+constexpr KeySlot remapSourceOf(std::uint8_t number) {
+  return remapSource(number - 1U);
+}
+constexpr KeySlot remapDestinationOf(std::uint8_t number) {
+  return remapDestination(number - 1U);
+}
+constexpr KeySlot comboTarget(std::uint8_t /*number*/) {
+  return kComboTarget;
+}
+
+// A name that is `prefix` and a number.
 struct NumberedName {
   std::u16string_view prefix;
   Counter counter;
   unsigned olderPage, currentPage;  // the accepted numbers
+  SlotOfNumber slotOf;
 };
+// Both group remaps are views of the same combination keys.
+constexpr auto kComboKey = nthKey<SettingId::ComboKey>;
 constexpr NumberedName kNumberedNames[] = {
-    {u"edtSkill_", &EditControl::nSkillIndex, bits(1, 7), bits(1, 12)},
-    {u"edtGoodsKey_", &EditControl::nGoodsIndex, kGoods, kGoods},
-    {u"edt_skillex_L_", &EditControl::nSkillExSrcIndex, bits(1, 5), bits(1, 5)},
-    {u"edt_skillex_R_", &EditControl::nSkillExDstIndex, bits(1, 5), bits(1, 5)},
-    {u"edt_skillex_GROUP_L_", &EditControl::nSkillGroupSrcIndex, bits(1, 2), bits(1, 2)},
-    {u"edt_skillex_GROUP_R_", &EditControl::nSkillGroupDstIndex, bits(1, 1), bits(1, 1)},
-    {u"edt_skillex_GROUP_2_L_", &EditControl::nSkillGroup2SrcIndex, 0, bits(1, 3)},
-    {u"edt_skillex_GROUP_2_R_", &EditControl::nSkillGroup2DstIndex, 0, bits(1, 1)},
+    {u"edtSkill_", &EditControl::nSkillIndex, bits(1, 7), bits(1, 12),
+     nthKey<SettingId::HeroSkillKey>},
+    {u"edtGoodsKey_", &EditControl::nGoodsIndex, kGoods, kGoods, itemOfDigit},
+    {u"edt_skillex_L_", &EditControl::nSkillExSrcIndex, bits(1, 5), bits(1, 5), remapSourceOf},
+    {u"edt_skillex_R_", &EditControl::nSkillExDstIndex, bits(1, 5), bits(1, 5), remapDestinationOf},
+    {u"edt_skillex_GROUP_L_", &EditControl::nSkillGroupSrcIndex, bits(1, 2), bits(1, 2), kComboKey},
+    {u"edt_skillex_GROUP_R_", &EditControl::nSkillGroupDstIndex, bits(1, 1), bits(1, 1),
+     comboTarget},
+    {u"edt_skillex_GROUP_2_L_", &EditControl::nSkillGroup2SrcIndex, 0, bits(1, 3), kComboKey},
+    {u"edt_skillex_GROUP_2_R_", &EditControl::nSkillGroup2DstIndex, 0, bits(1, 1), comboTarget},
 };
 
 // A name that stands for itself.
@@ -36,14 +67,17 @@ struct FixedName {
   std::u16string_view name;
   Counter counter;
   std::uint8_t number;
+  SlotOfNumber slotOf;
 };
+constexpr auto kMouseKey = nthKey<SettingId::MouseKey>;
+constexpr auto kLedgerKey = nthKey<SettingId::SecretaryKey>;
 constexpr FixedName kFixedNames[] = {
-    {u"edtMouseWheelUpKey", &EditControl::nMouseWheelIndex, 1},
-    {u"edtMouseWheelMiddleKey", &EditControl::nMouseWheelIndex, 2},
-    {u"edtMouseWheelDownKey", &EditControl::nMouseWheelIndex, 3},
-    {u"edtOpenCloseLedger", &EditControl::nLedgerIndex, 1},
-    {u"edtShowHideLedgerData", &EditControl::nLedgerIndex, 2},
-    {u"edtHotKeyLedgerSkill", &EditControl::nLedgerIndex, 3},
+    {u"edtMouseWheelUpKey", &EditControl::nMouseWheelIndex, 1, kMouseKey},
+    {u"edtMouseWheelMiddleKey", &EditControl::nMouseWheelIndex, 2, kMouseKey},
+    {u"edtMouseWheelDownKey", &EditControl::nMouseWheelIndex, 3, kMouseKey},
+    {u"edtOpenCloseLedger", &EditControl::nLedgerIndex, 1, kLedgerKey},
+    {u"edtShowHideLedgerData", &EditControl::nLedgerIndex, 2, kLedgerKey},
+    {u"edtHotKeyLedgerSkill", &EditControl::nLedgerIndex, 3, kLedgerKey},
 };
 
 // The decimal number that `digits` are; 0 when they are no number, or none that a counter holds.
@@ -77,26 +111,44 @@ std::optional<std::u16string_view> digitsOf(std::u16string_view name, const Numb
   return name.substr(row.prefix.size());
 }
 
-}  // namespace
+// What a name says: the counter that it selects, its number, and the slot, where the page has it.
+struct Selection {
+  Counter counter;
+  std::uint8_t number;
+  std::optional<KeySlot> slot;
+};
 
-bool getEditControlTypeByParseName(std::u16string_view name, BasicPage page, EditControl& control) {
-  control = {};
+std::optional<Selection> selectionOf(std::u16string_view name, BasicPage page) {
   for (const NumberedName& row : kNumberedNames) {
     const unsigned accepted = page == BasicPage::Current ? row.currentPage : row.olderPage;
     if (accepted == 0) continue;
     if (const auto digits = digitsOf(name, row, page)) {
-      const unsigned number = numberOf(*digits);
-      control.*row.counter = static_cast<std::uint8_t>(number);
-      return number < std::numeric_limits<unsigned>::digits && (accepted >> number & 1U) != 0;
+      const auto number = static_cast<std::uint8_t>(numberOf(*digits));
+      Selection selection{row.counter, number, {}};
+      const bool isAccepted =
+          number < std::numeric_limits<unsigned>::digits && (accepted >> number & 1U) != 0;
+      if (isAccepted) selection.slot = row.slotOf(number);
+      return selection;
     }
   }
   for (const FixedName& row : kFixedNames) {
-    if (name == row.name) {
-      control.*row.counter = row.number;
-      return true;
-    }
+    if (name == row.name) return Selection{row.counter, row.number, row.slotOf(row.number)};
   }
-  return false;
+  return std::nullopt;
+}
+
+}  // namespace
+
+bool getEditControlTypeByParseName(std::u16string_view name, BasicPage page, EditControl& control) {
+  control = {};
+  const std::optional<Selection> selection = selectionOf(name, page);
+  if (selection) control.*selection->counter = selection->number;
+  return selection && selection->slot;
+}
+
+std::optional<KeySlot> slotOfField(std::u16string_view name, BasicPage page) {
+  const std::optional<Selection> selection = selectionOf(name, page);
+  return selection ? selection->slot : std::nullopt;
 }
 
 }  // namespace brennet

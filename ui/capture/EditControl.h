@@ -1,7 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
+
+#include "model/KeySlot.h"
 
 namespace brennet {
 
@@ -28,5 +31,8 @@ enum class BasicPage { Older, Current };
 // Fills `control` from the object name of a field. Returns false for a name that selects nothing,
 // and for one whose number the page has not; the number stands in its counter then.
 bool getEditControlTypeByParseName(std::u16string_view name, BasicPage page, EditControl& control);
+
+// The key of a scheme that the field of this name edits; nothing where the above returns false.
+[[nodiscard]] std::optional<KeySlot> slotOfField(std::u16string_view name, BasicPage page);
 
 }  // namespace brennet

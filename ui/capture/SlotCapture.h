@@ -4,13 +4,9 @@
 
 #include "model/HotkeyConfig.h"
 #include "model/KeySlot.h"
-#include "ui/capture/EditControl.h"
 #include "ui/capture/KeyCapture.h"
 
 namespace brennet {
-
-// The key of a scheme that the field of a basic page edits; nothing when its name selected nothing.
-[[nodiscard]] std::optional<KeySlot> slotOf(const EditControl& control);
 
 // Ctrl+V is a paste everywhere in the game's chat, where the key of the chat wheel would open that
 // instead.

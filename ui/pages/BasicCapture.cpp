@@ -5,7 +5,6 @@
 
 #include "ui/capture/FeatureKeys.h"
 #include "ui/capture/KeyMessages.h"
-#include "ui/capture/SlotCapture.h"
 #include "ui/window/Text.h"
 
 namespace brennet {
@@ -28,9 +27,7 @@ constexpr Counter kCounters[] = {
 
 std::optional<KeySlot> slotOfName(std::u16string_view name, BasicPage kind) {
   if (const auto feature = featureKeyOf(name)) return feature;
-  EditControl control;
-  if (!getEditControlTypeByParseName(name, kind, control)) return std::nullopt;
-  return slotOf(control);
+  return slotOfField(name, kind);
 }
 
 }  // namespace

@@ -21,9 +21,7 @@ namespace brennet {
 namespace {
 
 std::optional<KeySlot> basicSlot(std::u16string_view name) {
-  EditControl control;
-  if (!getEditControlTypeByParseName(name, BasicPage::Current, control)) return std::nullopt;
-  return slotOf(control);
+  return slotOfField(name, BasicPage::Current);
 }
 
 class Page : public QWidget {

@@ -85,5 +85,33 @@ TEST(EditControl, OfTheOlderPageHasNeither) {
   expectRows(kRows, std::size(kRows), BasicPage::Older);
 }
 
+TEST(EditControl, HasTheSlotThatTheNameSelects) {
+  struct SlotRow {
+    std::u16string_view name;
+    KeySlot slot;
+  };
+  constexpr SlotRow kRows[] = {
+      {u"edtSkill_1", {SettingId::HeroSkillKey, 0}},
+      {u"edtSkill_12", {SettingId::HeroSkillKey, 11}},
+      {u"edtGoodsKey_7", {SettingId::ItemKey, 0}},
+      {u"edtGoodsKey_2", {SettingId::ItemKey, 5}},
+      {u"edt_skillex_L_1", remapSource(0)},
+      {u"edt_skillex_R_5", remapDestination(4)},
+      {u"edt_skillex_GROUP_L_2", {SettingId::ComboKey, 1}},
+      {u"edt_skillex_GROUP_R_1", kComboTarget},
+      {u"edt_skillex_GROUP_2_L_3", {SettingId::ComboKey, 2}},
+      {u"edt_skillex_GROUP_2_R_1", kComboTarget},
+      {u"edtMouseWheelMiddleKey", {SettingId::MouseKey, 1}},
+      {u"edtHotKeyLedgerSkill", {SettingId::SecretaryKey, 2}},
+  };
+  for (const SlotRow& row : kRows) {
+    EXPECT_EQ(slotOfField(row.name, BasicPage::Current), row.slot);
+  }
+  EXPECT_FALSE(slotOfField(u"edtSkill_13", BasicPage::Current));
+  EXPECT_FALSE(slotOfField(u"edtGoodsKey_3", BasicPage::Current)) << "it is no inventory slot";
+  EXPECT_FALSE(slotOfField(u"edtSkill_8", BasicPage::Older));
+  EXPECT_FALSE(slotOfField(u"chatLineEdit_1", BasicPage::Current));
+}
+
 }  // namespace
 }  // namespace brennet

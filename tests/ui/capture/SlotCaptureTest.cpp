@@ -43,34 +43,6 @@ KeyWord keyOf(const HotkeyConfig& config, KeySlot slot) {
   return keyAt(config.scheme(), slot);
 }
 
-TEST(SlotCapture, FindsTheSlotThroughTheNameOfTheField) {
-  struct Row {
-    std::u16string_view name;
-    KeySlot slot;
-  };
-  constexpr Row kRows[] = {
-      {u"edtSkill_1", {SettingId::HeroSkillKey, 0}},
-      {u"edtSkill_12", {SettingId::HeroSkillKey, 11}},
-      {u"edtGoodsKey_7", {SettingId::ItemKey, 0}},
-      {u"edtGoodsKey_2", {SettingId::ItemKey, 5}},
-      {u"edt_skillex_L_1", remapSource(0)},
-      {u"edt_skillex_R_5", remapDestination(4)},
-      {u"edt_skillex_GROUP_L_2", {SettingId::ComboKey, 1}},
-      {u"edt_skillex_GROUP_R_1", kComboTarget},
-      {u"edt_skillex_GROUP_2_L_3", {SettingId::ComboKey, 2}},
-      {u"edt_skillex_GROUP_2_R_1", kComboTarget},
-      {u"edtMouseWheelMiddleKey", {SettingId::MouseKey, 1}},
-      {u"edtHotKeyLedgerSkill", {SettingId::SecretaryKey, 2}},
-  };
-  for (const Row& row : kRows) {
-    EditControl control;
-    ASSERT_TRUE(getEditControlTypeByParseName(row.name, BasicPage::Current, control));
-    EXPECT_EQ(slotOf(control), row.slot) << nameOf(row.slot);
-  }
-  EXPECT_FALSE(slotOf(EditControl()));
-  EXPECT_FALSE(slotOf({.nGoodsIndex = 3})) << "keypad 3 is no inventory slot";
-}
-
 TEST(SlotCapture, TakesAFreeKeyAndGivesItUp) {
   for (const KeySlot slot : kSlots) {
     SCOPED_TRACE(nameOf(slot));
