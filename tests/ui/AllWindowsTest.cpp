@@ -2,12 +2,24 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QCheckBox>
 #include <QDirIterator>
 #include <QFileInfo>
+#include <QLineEdit>
+
 #include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
+#include "model/KeySlot.h"
 #include "tests/support/ScopedRegistry.h"
+#include "ui/capture/EditControl.h"
+#include "ui/capture/FeatureKeys.h"
+#include "ui/pages/COrrerySettingDlg.h"
+#include "ui/window/Text.h"
 
 namespace brennet::test {
 namespace {
@@ -34,6 +46,78 @@ TEST(AllWindows, AreKnownByTheNamesOfTheirForms) {
   for (const WindowRow& row : allWindows()) {
     const auto window = row.make(config, manager, nullptr);
     EXPECT_EQ(window->objectName().toStdString(), row.form);
+  }
+}
+
+std::string nameOf(const Setting& row) {
+  return {row.element.begin(), row.element.end()};
+}
+
+// All windows but the dialog, which is made of them.
+class AllPages : public testing::Test {
+ protected:
+  AllPages() {
+    for (const WindowRow& row : allWindows()) {
+      if (row.isPage) pages_.push_back(row.make(config_, manager_, nullptr));
+    }
+  }
+
+  template <class Control>
+  [[nodiscard]] QList<Control*> controls() const {
+    QList<Control*> found;
+    for (const auto& page : pages_) found += page->template findChildren<Control*>();
+    return found;
+  }
+
+  // The Orrery window is the basic page's, which listens to the one that it has made itself.
+  [[nodiscard]] static QList<QCheckBox*> boxesOfTheOrrery() {
+    QList<QCheckBox*> boxes;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+      if (qobject_cast<COrrerySettingDlg*>(window)) boxes += window->findChildren<QCheckBox*>();
+    }
+    return boxes;
+  }
+
+  const ScopedRegistry registry_;
+  HotkeyConfig config_;
+  Dota7KeyInfoManager manager_;
+  std::vector<std::unique_ptr<QWidget>> pages_;
+};
+
+TEST_F(AllPages, HaveAFieldForEachKey) {
+  constexpr KeySlot kShownNowhere[] = {remapSource(5), remapDestination(5)};
+  std::vector<KeySlot> found(std::begin(kShownNowhere), std::end(kShownNowhere));
+  for (const QLineEdit* const field : controls<QLineEdit>()) {
+    const QString name = field->objectName();
+    if (const auto slot = featureKeyOf(viewOf(name))) found.push_back(*slot);
+    if (const auto slot = slotOfField(viewOf(name), BasicPage::Current)) found.push_back(*slot);
+  }
+  for (const Setting& row : kSettings) {
+    if (row.role == KeyRole::None) continue;
+    for (std::uint8_t i = 0; i < keyCount(row.id); ++i) {
+      EXPECT_NE(std::ranges::find(found, KeySlot{row.id, i}), found.end())
+          << "give key " << int{i} << " of " << nameOf(row)
+          << " a field, and its name a row in ui/capture/FeatureKeys.cpp";
+    }
+  }
+}
+
+TEST_F(AllPages, HaveABoxForEachSwitch) {
+  std::set<SettingId> found;
+  for (QCheckBox* const box : controls<QCheckBox>() + boxesOfTheOrrery()) {
+    const HotkeyScheme before = config_.scheme();
+    box->toggle();
+    for (const Setting& row : kSettings) {
+      const auto* const kind = std::get_if<SwitchSetting>(&row.kind);
+      if (kind != nullptr && before.*kind->field != config_.scheme().*kind->field) {
+        found.insert(row.id);
+      }
+    }
+  }
+  for (const Setting& row : kSettings) {
+    if (!std::holds_alternative<SwitchSetting>(row.kind)) continue;
+    EXPECT_TRUE(found.contains(row.id))
+        << "give " << nameOf(row) << " a row in options() of ui/pages/CBasicSetting7Widget.cpp";
   }
 }
 

@@ -7,8 +7,8 @@
 
 namespace brennet {
 
-// The key that a field edits that stands for one feature of its own (health bars, cursor lock, chat
-// and so on), by its object name: the same name on every page that has it.
+// The key that a field edits whose name says nothing else (health bars, cursor lock, chat and so
+// on): the same name on every page that has it. Names of new fields belong here.
 [[nodiscard]] std::optional<KeySlot> featureKeyOf(std::u16string_view objectName);
 
 }  // namespace brennet
