@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <functional>
 #include <span>
+#include <type_traits>
 #include <utility>
-#include <variant>
 
 #include "model/SettingTable.h"
 
@@ -30,65 +30,52 @@ bool anyOf(const Keys& keys, Predicate predicate) {
   return any;
 }
 
-// Calls `look` for the keys of a row that no other setting may have: with the slot of the first of
-// them, the distance of their slots, what holds them, and the way from an element of it to its key.
-template <class Look>
-struct LookAtKeys {
-  const HotkeyScheme& scheme;
-  SettingId id;
-  Look look;
+// The keys of a row, as many as the compiler can see.
+template <const KeyListSetting& Row>
+std::span<const KeyWord, Row.ids.size()> keysOf(const HotkeyScheme& scheme) {
+  return std::span<const KeyWord, Row.ids.size()>(Row.keysOf(scheme));
+}
 
-  void operator()(const KeySetting& row) const {
-    look(KeySlot{id}, 1, std::span(&(scheme.*row.field), 1), std::identity());
-  }
-  void operator()(const KeyListSetting& row) const {
-    look(KeySlot{id}, 1, row.keysOf(scheme), std::identity());
-  }
-  void operator()(const RemapSetting& row) const {
-    constexpr auto sent = [](const KeyRemap& remap) { return remap.Dest; };
-    look(remapDestination(0), 2, std::span(scheme.*row.field), sent);
-  }
-  void operator()(const ComboSetting& row) const {
-    look(kComboTarget, 1, std::span(&(scheme.*row.field).Key_D, 1), std::identity());
-  }
-  template <class NoKeys>
-  void operator()(const NoKeys&) const {}
-};
-
+// The keys that no other setting may have, row by row: calls `look` with the slot of the first key,
+// the distance of the slots, what holds the keys, and the way from an element of it to its key.
 template <class Look>
 void lookAtGuardedKeys(const HotkeyScheme& scheme, Look look) {
+  constexpr auto sent = [](const KeyRemap& remap) { return remap.Dest; };
   forEachSetting([&](auto id) {
-    constexpr const Setting& row = setting(id);
-    if constexpr (row.role == KeyRole::Guarded) {
-      std::visit(LookAtKeys<Look&>{scheme, id, look}, row.kind);
+    if constexpr (setting(id).role == KeyRole::Guarded) {
+      constexpr const auto& row = kKindOf<id>;
+      using Row = std::remove_cvref_t<decltype(row)>;
+      if constexpr (std::is_same_v<Row, KeyListSetting>) {
+        look(KeySlot{id}, 1, keysOf<row>(scheme), std::identity());
+      } else if constexpr (std::is_same_v<Row, RemapSetting>) {
+        look(remapDestination(0), 2, scheme.*row.field, sent);
+      } else if constexpr (std::is_same_v<Row, ComboSetting>) {
+        look(kComboTarget, 1, std::span<const KeyWord, 1>(&(scheme.*row.field).Key_D, 1),
+             std::identity());
+      } else {
+        look(KeySlot{id}, 1, std::span<const KeyWord, 1>(&(scheme.*row.field), 1), std::identity());
+      }
     }
   });
 }
 
-// Whether a row has a key that the player can press, of the virtual key `vk`.
-struct IsPressed {
-  const HotkeyScheme& scheme;
-  std::uint8_t vk;
-
-  bool operator()(const KeySetting& row) const { return is(scheme.*row.field); }
-  bool operator()(const KeyListSetting& row) const {
+// Whether a row has a key that the player can press, of which `uses` is true.
+template <SettingId Id, class Uses>
+bool isPressed(const HotkeyScheme& scheme, Uses uses) {
+  constexpr const auto& row = kKindOf<Id>;
+  using Row = std::remove_cvref_t<decltype(row)>;
+  if constexpr (std::is_same_v<Row, KeyListSetting>) {
     const ItemPreset* const preset = row.followsPreset ? chosenItemPreset(scheme) : nullptr;
-    return anyOf(preset != nullptr ? std::span<const KeyWord>(*preset) : row.keysOf(scheme),
-                 [this](KeyWord key) { return is(key); });
-  }
-  bool operator()(const RemapSetting& row) const {
+    return preset != nullptr ? anyOf(*preset, uses) : anyOf(keysOf<row>(scheme), uses);
+  } else if constexpr (std::is_same_v<Row, RemapSetting>) {
     return anyOf(scheme.*row.field,
-                 [this](const KeyRemap& remap) { return remap.Dest.isSet() && is(remap.Src); });
+                 [&](const KeyRemap& remap) { return remap.Dest.isSet() && uses(remap.Src); });
+  } else if constexpr (std::is_same_v<Row, ComboSetting>) {
+    return uses((scheme.*row.field).Key_D);
+  } else {
+    return uses(scheme.*row.field);
   }
-  bool operator()(const ComboSetting& row) const { return is((scheme.*row.field).Key_D); }
-  template <class NoKeys>
-  bool operator()(const NoKeys&) const {
-    return false;
-  }
-
- private:
-  [[nodiscard]] bool is(KeyWord key) const { return key.isSet() && key.virtualKey() == vk; }
-};
+}
 
 // The place of `key` among `keys`, a fixed set; nothing when it is none of them.
 template <class Keys>
@@ -183,11 +170,11 @@ bool isKeyAssignable(const HotkeyScheme& scheme, KeyWord key) {
 }
 
 bool isKeyUsed(const HotkeyScheme& scheme, std::uint8_t vk) {
+  const auto uses = [vk](KeyWord key) { return key.isSet() && key.virtualKey() == vk; };
   bool isUsed = false;
   forEachSetting([&](auto id) {
-    constexpr const Setting& row = setting(id);
-    if constexpr (row.role != KeyRole::None) {
-      isUsed = isUsed || std::visit(IsPressed{scheme, vk}, row.kind);
+    if constexpr (setting(id).role != KeyRole::None) {
+      isUsed = isUsed || isPressed<id>(scheme, uses);
     }
   });
   return isUsed;

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <variant>
 
 #include "brennet/HotkeyBlock.h"
 #include "model/HotkeyScheme.h"
@@ -170,6 +171,10 @@ inline constexpr std::array<Setting, kSettingCount> kSettings = detail::table();
 [[nodiscard]] constexpr const Setting& setting(SettingId id) {
   return kSettings[static_cast<std::size_t>(id)];
 }
+
+// The kind of a row, as the type that it is.
+template <SettingId Id>
+inline constexpr const auto& kKindOf = std::get<setting(Id).kind.index()>(setting(Id).kind);
 
 namespace detail {
 
