@@ -93,80 +93,79 @@ constexpr SwitchSetting wholeByte(std::uint8_t HotkeyScheme::*field, std::size_t
   return {field, offset, SwitchSetting::kWholeByte};
 }
 
+using enum SettingId;
+using enum KeyRole;
+using Scheme = HotkeyScheme;
+using Block = HotkeyBlock;
+inline constexpr auto kStays = OnReset::Stays;
+
 // clang-format off
-constexpr std::array<Setting, kSettingCount> table() {
-  using enum SettingId;
-  using enum KeyRole;
-  using Scheme = HotkeyScheme;
-  using Block = HotkeyBlock;
-  constexpr auto kStays = OnReset::Stays;
-  return {{
-      {ZoomValue, u"ZoomValue",
-       ByteSetting{&Scheme::ZoomValue, offsetof(Block, zoomValue)}, 10, 10},
+inline constexpr std::array<Setting, kSettingCount> kSettings = {{
+    {ZoomValue, u"ZoomValue",
+     ByteSetting{&Scheme::ZoomValue, offsetof(Block, zoomValue)}, 10, 10},
 
-      {HeroSkillKey, u"HeroSkillKey", kHeroSkillRow, 20, 90, Guarded},
-      {ItemKey, u"ItemKey", kItemRow, 40, 100, Guarded},
-      {MouseKey, u"MouseKey", kMouseRow, 30, 130, PressedOnly},
-      {SecretaryKey, u"SecretaryKey", kLedgerRow, 50, 140, Guarded},
+    {HeroSkillKey, u"HeroSkillKey", kHeroSkillRow, 20, 90, Guarded},
+    {ItemKey, u"ItemKey", kItemRow, 40, 100, Guarded},
+    {MouseKey, u"MouseKey", kMouseRow, 30, 130, PressedOnly},
+    {SecretaryKey, u"SecretaryKey", kLedgerRow, 50, 140, Guarded},
 
-      {DisableLWinFlag, u"DisableLWinFlag", flagBit(&Scheme::DisableLWinFlag, 0), 60, 20},
-      {LockMouseFlag, u"LockMouseFlag", flagBit(&Scheme::LockMouseFlag, 1), 70, 30},
-      {ShowFBloodFlag, u"ShowFBloodFlag", flagBit(&Scheme::ShowFBloodFlag, 2), 80, 40},
-      {ShowEBloodFlag, u"ShowEBloodFlag", flagBit(&Scheme::ShowEBloodFlag, 3), 90, 50},
-      {ShowFManaFlag, u"ShowFManaFlag", flagBit(&Scheme::ShowFManaFlag, 7), 100, 80},
-      {ViewNoDragFlag, u"ViewNoDragFlag", flagBit(&Scheme::ViewNoDragFlag, 4), 160, 60},
-      {StartJSQFlag, u"StartJSQFlag", flagBit(&Scheme::StartJSQFlag, 5), 170, 70},
+    {DisableLWinFlag, u"DisableLWinFlag", flagBit(&Scheme::DisableLWinFlag, 0), 60, 20},
+    {LockMouseFlag, u"LockMouseFlag", flagBit(&Scheme::LockMouseFlag, 1), 70, 30},
+    {ShowFBloodFlag, u"ShowFBloodFlag", flagBit(&Scheme::ShowFBloodFlag, 2), 80, 40},
+    {ShowEBloodFlag, u"ShowEBloodFlag", flagBit(&Scheme::ShowEBloodFlag, 3), 90, 50},
+    {ShowFManaFlag, u"ShowFManaFlag", flagBit(&Scheme::ShowFManaFlag, 7), 100, 80},
+    {ViewNoDragFlag, u"ViewNoDragFlag", flagBit(&Scheme::ViewNoDragFlag, 4), 160, 60},
+    {StartJSQFlag, u"StartJSQFlag", flagBit(&Scheme::StartJSQFlag, 5), 170, 70},
 
-      {HotKey, u"HotKey",
-       RemapSetting{&Scheme::HotKey, offsetof(Block, keyRemaps)}, 180, 110, Guarded},
-      {ComboKey, u"ComboKey",
-       ComboSetting{&Scheme::ComboKey, offsetof(Block, comboKeys)}, 190, 120, Guarded},
-      {ComboKey3to1, u"ComboKey3to1",  // the same keys once more
-       ComboSetting{&Scheme::ComboKey, offsetof(Block, comboKeys)}, 200, kNotInBlock},
-      {NumComboKeyIndex, u"NumComboKeyIndex",
-       PresetSetting{&Scheme::NumComboKeyIndex}, 210, kNotInBlock},
+    {HotKey, u"HotKey",
+     RemapSetting{&Scheme::HotKey, offsetof(Block, keyRemaps)}, 180, 110, Guarded},
+    {ComboKey, u"ComboKey",
+     ComboSetting{&Scheme::ComboKey, offsetof(Block, comboKeys)}, 190, 120, Guarded},
+    {ComboKey3to1, u"ComboKey3to1",  // the same keys once more
+     ComboSetting{&Scheme::ComboKey, offsetof(Block, comboKeys)}, 200, kNotInBlock},
+    {NumComboKeyIndex, u"NumComboKeyIndex",
+     PresetSetting{&Scheme::NumComboKeyIndex}, 210, kNotInBlock},
 
-      {ShowFBlood, u"ShowFBlood",
-       KeySetting{&Scheme::ShowFBlood, offsetof(Block, showFBlood)}, 220, 150, Guarded},
-      {ShowEBlood, u"ShowEBlood",
-       KeySetting{&Scheme::ShowEBlood, offsetof(Block, showEBlood)}, 230, 160, Guarded},
-      {HotkeyContrl, u"HotkeyContrl",
-       KeySetting{&Scheme::HotkeyContrl, offsetof(Block, hotkeyContrl)}, 300, 170, Guarded},
-      {WinLockMouse, u"WinLockMouse",
-       KeySetting{&Scheme::WinLockMouse, offsetof(Block, winLockMouse)}, 250, 180, Guarded},
-      {QuickChatKey, u"QuickChatKey",
-       KeySetting{&Scheme::QuickChatKey, offsetof(Block, quickChatKey)}, 260, 190, Guarded},
-      {QuickChatIndex, u"QuickChatIndex",
-       QuickChatSetSetting{&Scheme::QuickChatIndex, offsetof(Block, quickChatIndex)}, 270, 210},
-      {ChatWheelkey, u"ChatWheelkey",
-       KeySetting{&Scheme::ChatWheelkey, offsetof(Block, chatWheelKey)}, 240, 200, Guarded},
+    {ShowFBlood, u"ShowFBlood",
+     KeySetting{&Scheme::ShowFBlood, offsetof(Block, showFBlood)}, 220, 150, Guarded},
+    {ShowEBlood, u"ShowEBlood",
+     KeySetting{&Scheme::ShowEBlood, offsetof(Block, showEBlood)}, 230, 160, Guarded},
+    {HotkeyContrl, u"HotkeyContrl",
+     KeySetting{&Scheme::HotkeyContrl, offsetof(Block, hotkeyContrl)}, 300, 170, Guarded},
+    {WinLockMouse, u"WinLockMouse",
+     KeySetting{&Scheme::WinLockMouse, offsetof(Block, winLockMouse)}, 250, 180, Guarded},
+    {QuickChatKey, u"QuickChatKey",
+     KeySetting{&Scheme::QuickChatKey, offsetof(Block, quickChatKey)}, 260, 190, Guarded},
+    {QuickChatIndex, u"QuickChatIndex",
+     QuickChatSetSetting{&Scheme::QuickChatIndex, offsetof(Block, quickChatIndex)}, 270, 210},
+    {ChatWheelkey, u"ChatWheelkey",
+     KeySetting{&Scheme::ChatWheelkey, offsetof(Block, chatWheelKey)}, 240, 200, Guarded},
 
-      {QuickChat, u"QuickChat",
-       PhraseSetting{&Scheme::QuickChat, offsetof(Block, quickChat), sizeof(Block::quickChat)},
-       280, 220, KeyRole::None, kStays},
-      {ChatWheel, u"ChatWheel",
-       PhraseSetting{&Scheme::ChatWheel, offsetof(Block, chatWheel), sizeof(Block::chatWheel)},
-       290, 230},
+    {QuickChat, u"QuickChat",
+     PhraseSetting{&Scheme::QuickChat, offsetof(Block, quickChat), sizeof(Block::quickChat)},
+     280, 220, KeyRole::None, kStays},
+    {ChatWheel, u"ChatWheel",
+     PhraseSetting{&Scheme::ChatWheel, offsetof(Block, chatWheel), sizeof(Block::chatWheel)},
+     290, 230},
 
-      {HideUI, u"HideUI",
-       wholeByte(&Scheme::HideUI, offsetof(Block, hideUI)), 110, 240},
-      {SkillHeroOnly, u"SkillHeroOnly",
-       wholeByte(&Scheme::SkillHeroOnly, offsetof(Block, skillHeroOnly)), 120, 250},
-      {CombokeyHeroOnly, u"CombokeyHeroOnly",
-       wholeByte(&Scheme::CombokeyHeroOnly, offsetof(Block, combokeyHeroOnly)), 130, 260},
-      {DisableLeftAlt, u"DisableLeftAlt",
-       wholeByte(&Scheme::DisableLeftAlt, offsetof(Block, disableLeftAlt)),
-       140, 270, KeyRole::None, kStays},
-      {DisableLeftAltShowHP, u"DisableLeftAltShowHP",
-       wholeByte(&Scheme::DisableLeftAltShowHP, offsetof(Block, disableLeftAltShowHP)),
-       150, 280, KeyRole::None, kStays},
-  }};
-}
+    {HideUI, u"HideUI",
+     wholeByte(&Scheme::HideUI, offsetof(Block, hideUI)), 110, 240},
+    {SkillHeroOnly, u"SkillHeroOnly",
+     wholeByte(&Scheme::SkillHeroOnly, offsetof(Block, skillHeroOnly)), 120, 250},
+    {CombokeyHeroOnly, u"CombokeyHeroOnly",
+     wholeByte(&Scheme::CombokeyHeroOnly, offsetof(Block, combokeyHeroOnly)), 130, 260},
+    {DisableLeftAlt, u"DisableLeftAlt",
+     wholeByte(&Scheme::DisableLeftAlt, offsetof(Block, disableLeftAlt)),
+     140, 270, KeyRole::None, kStays},
+    {DisableLeftAltShowHP, u"DisableLeftAltShowHP",
+     wholeByte(&Scheme::DisableLeftAltShowHP, offsetof(Block, disableLeftAltShowHP)),
+     150, 280, KeyRole::None, kStays},
+}};
 // clang-format on
 
 }  // namespace detail
 
-inline constexpr std::array<Setting, kSettingCount> kSettings = detail::table();
+using detail::kSettings;
 
 [[nodiscard]] constexpr const Setting& setting(SettingId id) {
   return kSettings[static_cast<std::size_t>(id)];
