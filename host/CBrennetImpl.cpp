@@ -39,7 +39,8 @@ std::size_t sharedSize(std::uint32_t announced) {
   return std::min<std::size_t>(announced, sizeof(HotkeyBlock));
 }
 
-// Whether the announced bytes of a record can be written, the first `most` of them, and its size.
+// Whether a record's size and its announced bytes, at most the first `most` of them, can be
+// written.
 Writability probeBlock(HotkeyBlock* block, std::size_t most) {
   if (block == nullptr) return Writability::NotWritable;
   const Writability size = platform::probeMemory(block, sizeof(std::uint32_t));
@@ -47,7 +48,7 @@ Writability probeBlock(HotkeyBlock* block, std::size_t most) {
   return platform::probeMemory(block, std::min<std::size_t>(announcedSize(block), most));
 }
 
-// Nothing is thrown across the interface: what memory runs out for fails like the rest.
+// Nothing is thrown across the interface: running out of memory is a failure like any other.
 template <class Result, class Operation>
 Result orElse(Result failure, Operation operation) noexcept {
   try {
@@ -65,7 +66,7 @@ bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
   try {
     name = fromWide(path);
   } catch (const std::exception&) {
-    // The file that was loaded before is not the one that the host means now.
+    // The host no longer means the file that was loaded before.
     config_.Reset();
     settingsPath_.clear();
     return false;
@@ -83,7 +84,7 @@ bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
   try {
     trace(config_.loadReport());
   } catch (const std::exception&) {
-    // The settings are there; what is missing is a line for whoever looks after them.
+    // The settings are loaded; only lines of the trace are missing.
   }
   return true;
 }
@@ -158,16 +159,16 @@ bool CBrennetImpl::IsShiftUsed() noexcept {
 std::int32_t CBrennetImpl::ApplyHotkeyBlock(HotkeyBlock* block, std::uint32_t saveTime) noexcept {
   constexpr std::size_t kWhole = std::numeric_limits<std::uint32_t>::max();
   const Writability writability = probeBlock(block, kWhole);
-  // Zero says as well that there was nothing to be applied: no record, or none that can be written.
+  // Zero also means that there was nothing to apply: no record, or one that cannot be written.
   if (writability == Writability::NotWritable) return kApplied;
   if (writability == Writability::Unknown) return kNotApplied;
   const std::uint32_t size = announcedSize(block);
-  // The player's own changes are being made in the working copy, and would be lost.
+  // The working copy holds changes that the player is making, which would be lost.
   if (isDialogOpen_) return kNotApplied;
 
   HotkeyBlock current;
   fillBlock(config_, current);
-  // What an older, shorter record does not carry is not changed.
+  // What an older, shorter record does not carry stays unchanged.
   HotkeyBlock returned = current;
   std::memcpy(&returned, block, sharedSize(size));
 
@@ -190,7 +191,7 @@ bool CBrennetImpl::save(HotkeyConfig& config, std::uint32_t saveTime) {
 }
 
 bool CBrennetImpl::saveWorkingCopy(std::uint32_t saveTime) {
-  // The copy is made first: once the file is written, nothing may fail any more.
+  // The copy is made first: once the file is written, nothing may fail.
   HotkeyConfig saved = config_;
   saved.ResetAndCopyFrom(workingCopy_);
   if (!save(workingCopy_, saveTime)) return false;

@@ -10,9 +10,9 @@
 
 namespace brennet {
 
-// The only implementation of IBrennet, and all that it remembers from call to call: the library has
-// one such object (GetBrennetPtr.cpp), each test its own. IBrennet.h says what each operation
-// promises to the host.
+// The only implementation of IBrennet, and all its state between calls. The library has one such
+// object (GetBrennetPtr.cpp), each test its own. IBrennet.h says what each operation promises to
+// the host.
 class CBrennetImpl final : public IBrennet {
  public:
   CBrennetImpl() = default;
@@ -34,24 +34,24 @@ class CBrennetImpl final : public IBrennet {
                                              std::uint32_t saveTime) noexcept override;
   std::uint8_t BRENNET_CALL GetStartJSQFlag() noexcept override;
 
-  // What the player has saved, which all operations answer from.
+  // What the player has saved; all operations answer from it.
   [[nodiscard]] const HotkeyConfig& config() const { return config_; }
 
  private:
-  // The dialog on the working copy; whether the player confirmed.
+  // Runs the dialog on the working copy. Returns whether the player confirmed.
   bool runDialog();
 
   // Saves `config` to the settings file.
   bool save(HotkeyConfig& config, std::uint32_t saveTime);
 
-  // Saves the working copy and, when that succeeded, makes it what the player has saved.
+  // Saves the working copy and, if that succeeds, makes it the saved configuration.
   bool saveWorkingCopy(std::uint32_t saveTime);
 
   std::u16string settingsPath_;
   std::u16string dataFolder_;
-  // What was not read is not overwritten unseen.
+  // A file that could not be loaded is put aside before it is overwritten.
   platform::OldContent unreadFile_ = platform::OldContent::Drop;
-  bool isDialogOpen_ = false;  // which edits the working copy
+  bool isDialogOpen_ = false;  // it edits the working copy
   bool isLoadTold_ = true;     // the player has seen what the last load could not use
   HotkeyConfig config_;
   HotkeyConfig workingCopy_;  // what the dialog and a returned block change before it is saved

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Before anything else of what is shared is used.
+// Runs before anything else uses the shared libraries.
 struct OnLoad {
   OnLoad() { brennet::platform::keepSharedLibraries(); }
 };
@@ -14,8 +14,8 @@ const OnLoad onLoad;
 
 }  // namespace
 
-// The one object, built on the first call. The library owns it. Building it takes no memory, so
-// there is nothing to be thrown, and no null to be returned.
+// The one object, built on the first call. The library owns it. Building it allocates nothing, so
+// it throws nothing, and null is never returned.
 extern "C" BRENNET_EXPORT brennet::IBrennet* GetBrennetPtr() noexcept {
   static brennet::CBrennetImpl brennet;
   return &brennet;

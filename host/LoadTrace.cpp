@@ -93,7 +93,7 @@ QStringList inWords(const LoadReport& report) {
 
 void trace(const LoadReport& report) {
   for (const QString& line : inWords(report)) {
-    // Not by a stream: that one writes when it is destroyed, where running out of memory is fatal.
+    // Not a stream: that writes when it is destroyed, where running out of memory is fatal.
     QMessageLogger(nullptr, 0, nullptr, kLoadCategory).debug("%s", qUtf8Printable(line));
   }
 }

@@ -7,14 +7,15 @@
 
 namespace brennet {
 
-// The category of Qt's debug output under which a load tells of itself.
+// The category of Qt's debug output that a load writes to.
 inline constexpr char kLoadCategory[] = "brennet.load";
 
-// Each dropped key in a line of plain English, for whoever looks after a settings file: where it
-// stands, what it was for and why it was dropped.
+// A line of plain English for each dropped key, for whoever maintains a settings file: where it is,
+// what it was for and why it was dropped.
 [[nodiscard]] QStringList inWords(const LoadReport& report);
 
-// Writes those lines to Qt's debug output. Throws std::bad_alloc; some lines may be out then.
+// Writes those lines to Qt's debug output. Throws std::bad_alloc; some lines may have been written
+// by then.
 void trace(const LoadReport& report);
 
 }  // namespace brennet

@@ -8,8 +8,8 @@
 // GetBrennetPtr; SetDataFolder and LoadSettings; then the other operations, in any order and any
 // number of times.
 //
-// This header stands alone and compiles as C++11. It is the contract; CONTRACT.md tells it at
-// length.
+// This header is self-contained and compiles as C++11. It is the contract; CONTRACT.md gives the
+// details.
 #ifndef BRENNET_I_BRENNET_H
 #define BRENNET_I_BRENNET_H
 
@@ -26,29 +26,30 @@ namespace brennet {
 
 struct HotkeyBlock;  // HotkeyBlock.h
 
-// Twelve operations in a fixed order. The order of the slots is law: hosts are compiled against
-// it. New operations are only ever appended; Version.h says how a host finds out whether a library
-// has them. No destructor and no data belong here. Nothing throws; failures are the stated results.
+// Twelve operations in a fixed order. The order of the slots never changes: hosts are compiled
+// against it. New operations are only ever appended; Version.h says how a host finds out whether a
+// library has them. No destructor and no data belong here. Nothing throws; failures are the stated
+// results.
 //
 // Each slot says in brackets on which thread and when it may be called, who owns what is passed,
-// and what a failure is. "Any time" is any time after GetBrennetPtr, before the first load and
-// while the dialog is open included.
+// and what a failure is. "Any time" is any time after GetBrennetPtr, including before the first
+// load and while the dialog is open.
 class IBrennet {
  public:
   // Slot 0. Reads the player's settings from the file at `path` (UTF-16; copied) and keeps the
-  // path for every later save, also when the load fails. A successful load rewrites the hotkey
+  // path for every later save, even when the load fails. A successful load rewrites the hotkey
   // sections of the game's preference file.
   // Returns false, with the defaults in place, when the file is missing, unreadable or damaged; the
-  // quick-chat phrases, quick-cast marks and left-Alt switches of an earlier load stay then. Where
-  // memory runs out for the path itself, there is no path then, and saves fail until the next load.
+  // quick-chat phrases, quick-cast marks and left-Alt switches of an earlier load stay then. When
+  // memory runs out for the path itself, there is no path, and saves fail until the next load.
   // False with nothing changed when `path` is null.
   // [GUI thread; any time; first of all after slot 1]
   // [owns: the host its text, which is copied]
   // [failure: false: the defaults are in place, or, for null, nothing has changed]
   virtual bool BRENNET_CALL LoadSettings(const wchar_t* path) = 0;
 
-  // Slot 1. Stores the folder (copied) that holds Tollamere.reg, with a path separator at its end
-  // or without; null stores an empty name.
+  // Slot 1. Stores the folder (copied) that holds Tollamere.reg, with or without a path separator
+  // at its end; null stores an empty name.
   // [GUI thread; any time; before slot 2]
   // [owns: the host its text, which is copied]
   // [failure: cannot fail]
@@ -58,7 +59,7 @@ class IBrennet {
   // When the player confirms, the copy is saved with `saveTime`, `*saved` tells whether that
   // succeeded, and if so the copy becomes the active configuration.
   // Returns whether the player confirmed; false when `saved` is null, without a QApplication, while
-  // the dialog is open already, and when memory runs out, as far as Qt bears that.
+  // the dialog is open already, and when memory runs out, as far as Qt survives that.
   // [GUI thread, and holds it until the dialog closes; after slots 0 and 1, with a `QApplication`;
   // not while the dialog is open]
   // [owns: the host the `bool`, which is written]
@@ -89,8 +90,8 @@ class IBrennet {
   virtual std::uint32_t BRENNET_CALL GetLastSaveTime() = 0;
 
   // Slot 6. Switches the whole feature on or off and saves with `saveTime`.
-  // Returns false and does nothing when `enable` is the state already; else the save's result.
-  // The new state stands in memory also when the save fails.
+  // Returns false and does nothing when `enable` is already the state; else the save's result. The
+  // new state holds in memory even when the save fails.
   // [GUI thread; after slot 0, which gives the path]
   // [owns: nothing but numbers]
   // [failure: false: it was so already, or was not saved]
@@ -117,8 +118,8 @@ class IBrennet {
   // Slot 10. Takes back a block that was changed in game, merges what differs into the settings
   // and saves them with `saveTime`. Reads `block->size` bytes, at most one record.
   // Returns 0 after a successful save, and 0 when `block` is null or any of its `size` bytes is
-  // not writable; -1 when nothing differs, the save fails, the settings dialog is open, or whether
-  // the memory is writable cannot be found out.
+  // not writable; -1 when nothing differs, the save fails, the settings dialog is open, or it
+  // cannot be found out whether the memory is writable.
   // [GUI thread; after slot 0, which gives the path; not while the dialog is open]
   // [owns: the host the record, which is read]
   // [failure: -1, the old settings stay; 0 when the record is null or not writable]

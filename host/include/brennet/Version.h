@@ -1,12 +1,12 @@
 // The version of the Brennet library that these headers belong to.
 //
-// The library says its own version in its version resource on Windows (GetFileVersionInfo) and in
-// the name of its file elsewhere (libbrennet.so.MAJOR.MINOR.PATCH). A library of the same or a
-// later version has every operation that these headers have. To call one that was appended later
-// than slot 11, a host that may meet an older library compares that version with the one in which
-// the operation came; each says so in IBrennet.h. The twelve up to slot 11 are in every version.
+// The library states its own version in its version resource on Windows (GetFileVersionInfo) and in
+// its file name elsewhere (libbrennet.so.MAJOR.MINOR.PATCH). A library of the same or a later
+// version has every operation that these headers have. Slots 0 to 11 are in every version. A host
+// that calls a later one and may meet an older library compares that version with the one in which
+// the operation was added, which IBrennet.h states for each.
 //
-// This header stands alone and compiles as C++11 and in resource scripts.
+// This header is self-contained and compiles as C++11 and in resource scripts.
 #ifndef BRENNET_VERSION_H
 #define BRENNET_VERSION_H
 

@@ -1,7 +1,7 @@
 // The record of active key bindings that the host hands to the game and back.
 //
 // A wire format: offsets, widths and encodings never change. Integers are little-endian. This
-// header stands alone and compiles as C++11.
+// header is self-contained and compiles as C++11.
 #ifndef BRENNET_HOTKEY_BLOCK_H
 #define BRENNET_HOTKEY_BLOCK_H
 
@@ -16,7 +16,7 @@ namespace brennet {
 // 0x02 Ctrl, 0x04 Alt). A field of 0 means that no key is bound. In the hero skill and item fields
 // 0x08 marks quick cast.
 struct HotkeyBlock {
-  // Bytes that the caller provides from here on, this field included. Only that many are touched.
+  // Bytes that the caller provides, counted from this field on. Only that many are touched.
   std::uint32_t size;
   // Bits 0-5 and 7: DisableLWinFlag, LockMouseFlag, ShowFBloodFlag, ShowEBloodFlag,
   // ViewNoDragFlag, StartJSQFlag, ShowFManaFlag. Bit 31: the global switch. The others are 0.
