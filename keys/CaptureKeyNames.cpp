@@ -5,8 +5,8 @@
 namespace brennet {
 namespace {
 
-// Wording and coverage differ from Dota7KeyNames on purpose: the two families of screens name keys
-// each in its own way.
+// Wording and coverage differ from Dota7KeyNames on purpose: the two families of windows each name
+// keys in their own way.
 constexpr KeyName kCaptureNames[] = {
     {0x08, u"BACK"},       {0x09, u"TAB"},      {0x0C, u"CLEAR"},      {0x0D, u"RETURN"},
     {0x10, u"SHIFT"},      {0x11, u"CTRL"},     {0x12, u"ALT"},        {0x13, u"Pause"},

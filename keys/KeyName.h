@@ -12,8 +12,7 @@ struct KeyName {
   std::u16string_view name;
 };
 
-// Whether the rows, which have a code each, stand in ascending order of their codes, each code
-// once.
+// Whether the codes of the rows are strictly ascending.
 template <class Rows>
 constexpr bool isSortedByCode(const Rows& rows) {
   const auto notAscending = [](const auto& a, const auto& b) { return a.code >= b.code; };

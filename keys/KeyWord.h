@@ -13,7 +13,7 @@ class KeyWord {
   static constexpr std::uint8_t kShift = 0x01;
   static constexpr std::uint8_t kCtrl = 0x02;
   static constexpr std::uint8_t kAlt = 0x04;
-  // The quick-cast mark. It means something only inside a HotkeyBlock.
+  // The quick-cast mark, which has a meaning only inside a HotkeyBlock.
   static constexpr std::uint8_t kQuickCast = 0x08;
   static constexpr std::uint8_t kModifiers = kShift | kCtrl | kAlt;
 
@@ -47,7 +47,7 @@ class KeyWord {
     return KeyWord(static_cast<std::uint16_t>(raw_ & ~flags));
   }
 
-  // Equal in every bit; sameKey() is the question that conflicts ask.
+  // Equal in every bit; conflicts are decided by sameKey().
   friend constexpr bool operator==(KeyWord, KeyWord) = default;
 
  private:

@@ -12,7 +12,7 @@ struct ModifierText {
   std::u16string_view text;
 };
 
-// In the order of the text. The mixed casing is what players know.
+// In the order of the text. Players know the mixed casing.
 constexpr ModifierText kModifierTexts[] = {
     {KeyWord::kCtrl, u"CTRL + "},
     {KeyWord::kAlt, u"Alt + "},

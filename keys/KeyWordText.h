@@ -8,9 +8,9 @@ namespace brennet {
 
 // The text of a key with its modifiers, for example "CTRL + Alt + SHIFT + Q".
 //
-// The modifiers stand in this fixed order, whatever the player pressed first; the quick-cast mark
-// is not shown. Returns false, with `out` empty, where the key itself has no name (no key
-// included).
+// The modifiers are in this fixed order, whatever the player pressed first; the quick-cast mark is
+// not shown. Returns false, with `out` empty, if the key itself has no name, as when there is no
+// key.
 bool formatKeyWord(KeyWord word, std::u16string& out);
 
 }  // namespace brennet

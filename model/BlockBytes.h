@@ -9,7 +9,7 @@
 
 namespace brennet {
 
-// A HotkeyBlock as the bytes of its wire format, for fields that are reached by their offset.
+// A HotkeyBlock as the bytes of its wire format, for access to fields by their offsets.
 
 using BlockBytes = std::span<unsigned char, sizeof(HotkeyBlock)>;
 using ConstBlockBytes = std::span<const unsigned char, sizeof(HotkeyBlock)>;
@@ -29,7 +29,7 @@ inline void store16(BlockBytes bytes, std::size_t offset, std::uint16_t value) {
   bytes[offset + 1] = static_cast<unsigned char>(value >> 8U);
 }
 
-// The two halves of a key remap: the low one, the key sent, stands first.
+// The two halves of a key remap: the low one, the key sent, comes first.
 inline constexpr std::size_t kRemapDest = 0;
 inline constexpr std::size_t kRemapSrc = 2;
 inline constexpr std::size_t kRemapSize = 4;

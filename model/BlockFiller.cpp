@@ -22,12 +22,12 @@ void packPhrases(const Phrases& phrases, std::span<char> area) {
     if (phrases[n]) at += utf16ToUtf8(*phrases[n], area.subspan(at, room));
     area[at++] = '\0';
   }
-  // The conversion may have used the room behind the last phrase.
+  // The conversion may have written behind the last phrase.
   std::fill_n(area.begin() + static_cast<std::ptrdiff_t>(at),
               std::min(kLongestPackedPhrase, area.size() - at), '\0');
 }
 
-// Stores one setting of a scheme, by its kind, in a block that is zero so far.
+// Stores one setting of a scheme, by its kind, in a block that was all zero before.
 class BlockFiller {
  public:
   BlockFiller(const HotkeyScheme& scheme, BlockBytes bytes) : scheme_(scheme), bytes_(bytes) {}
@@ -71,7 +71,7 @@ class BlockFiller {
     }
   }
 
-  // D alone says whether there is a combination.
+  // There is a combination if there is a D.
   void operator()(const ComboSetting& row) const {
     const ComboKeys& combo = scheme_.*row.field;
     if (!combo.Key_D.isSet()) return;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t kLongestReturnedPhrase = 100;  // bytes
 
-// A field without a virtual-key code holds no key; the quick-cast mark is no part of the key.
+// A field without a virtual-key code holds no key; the quick-cast mark is not part of the key.
 KeyWord keyAt(ConstBlockBytes bytes, std::size_t offset) {
   const KeyWord raw(load16(bytes, offset));
   if (raw.virtualKey() == 0 || !raw.isSet()) return kNoKey;
@@ -37,13 +37,13 @@ ComboKeys comboAt(ConstBlockBytes bytes, std::size_t offset) {
           keyAt(bytes, offset + 3 * kWidth)};
 }
 
-// A bit of the flag word as 0 or 1; a byte of its own as it is.
+// A bit of the flag word as 0 or 1; a whole byte as it is.
 std::uint8_t switchAt(ConstBlockBytes bytes, const SwitchSetting& row) {
   if (row.mask == SwitchSetting::kWholeByte) return bytes[row.offset];
   return (bytes[row.offset] & row.mask) != 0 ? 1 : 0;
 }
 
-// The phrases of an area: what stands before each NUL. Those behind the end of the area are empty.
+// The phrases of an area, each ended by a NUL. Those beyond the end of the area are empty.
 std::array<std::string_view, kPhrases> splitPhrases(ConstBlockBytes bytes,
                                                     const PhraseSetting& row) {
   std::string_view rest(reinterpret_cast<const char*>(bytes.data() + row.offset), row.size);
@@ -55,7 +55,7 @@ std::array<std::string_view, kPhrases> splitPhrases(ConstBlockBytes bytes,
   return phrases;
 }
 
-// The longest start of `phrase` that fits and cuts no character.
+// The longest prefix of `phrase` that fits and cuts no character.
 std::string_view cutReturned(std::string_view phrase) {
   if (phrase.size() <= kLongestReturnedPhrase) return phrase;
   std::size_t end = kLongestReturnedPhrase;
@@ -82,8 +82,8 @@ struct Merge {
   }
 };
 
-// First pass: every key field that differs gives up its key, so that keys which changed places do
-// not stand in each other's way.
+// First pass: every key field that differs gives up its key, so that keys which were swapped do not
+// conflict.
 struct ClearChangedKeys : Merge {
   void operator()(const KeySetting& row) const {
     if (keyDiffers(row.offset)) scheme.*row.field = kNoKey;
@@ -107,7 +107,7 @@ struct ClearChangedKeys : Merge {
   void operator()(const NoKeys&) const {}
 };
 
-// Second pass: takes the returned values and tells whether there was a difference. A refused key
+// Second pass: takes the returned values and notes whether there was a difference. A refused key
 // leaves its field without a key.
 struct TakeChanges : Merge {
   bool operator()(const SwitchSetting& row) const {
@@ -170,7 +170,7 @@ struct TakeChanges : Merge {
   }
 
   // Only phrases whose bytes changed are set: the block cuts long ones, the scheme keeps them
-  // whole. Phrases that a shorter record does not carry to their ends stay as they are.
+  // whole. Phrases that a shorter record does not carry completely stay as they are.
   bool operator()(const PhraseSetting& row) const {
     const auto before = splitPhrases(current, row);
     const auto after = splitPhrases(returned, row);
@@ -194,8 +194,8 @@ struct TakeChanges : Merge {
     return phrase.data() + phrase.size() < start + carried;
   }
 
-  // A new key brings its mark along. The keys of a preset are delivered without marks, so there
-  // only a mark that the game has set says anything.
+  // A new key brings its mark along. The keys of a preset are sent without marks, so for them only
+  // a mark that the game has set means anything.
   bool takeMark(const KeyListSetting& row, std::size_t i) const {
     const std::size_t offset = row.offsets[i];
     const bool mark = markAt(returned, offset);

@@ -13,7 +13,7 @@ struct CardPosition {
   std::int32_t column;
 };
 
-// Where the hero skills stand on the command card, three rows of four: the first four are its
+// Where the hero skills are on the command card, three rows of four: the first four are in its
 // bottom row, which holds the skills that a hero learns.
 inline constexpr std::array<CardPosition, kHeroSkills> kCommandCard = {{
     {2, 0},
@@ -30,7 +30,7 @@ inline constexpr std::array<CardPosition, kHeroSkills> kCommandCard = {{
     {0, 3},
 }};
 
-// Where the item slots stand in the inventory, three rows of two.
+// Where the item slots are in the inventory, three rows of two.
 inline constexpr std::array<CardPosition, kItemSlots> kInventory = {{
     {0, 0},
     {0, 1},

@@ -7,10 +7,10 @@
 namespace brennet {
 
 // The number at the start of `text` by the rule of C's strtol: leading white space, a sign, decimal
-// digits; 0 where there are none. What exceeds 32 bits saturates at the limits.
+// digits; 0 if there are none. Numbers that exceed 32 bits saturate at the limits.
 [[nodiscard]] std::int32_t parseDecimal(std::u16string_view text);
 
-// Whether `text` is a decimal number and nothing else, but for white space around it.
+// Whether `text` is a decimal number and nothing else except white space around it.
 [[nodiscard]] bool isDecimal(std::u16string_view text);
 
 [[nodiscard]] std::u16string decimalText(std::int64_t number);

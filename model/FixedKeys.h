@@ -7,7 +7,7 @@
 
 namespace brennet {
 
-// Keys that are part of the game's controls or of this component and cannot be edited.
+// Keys that are built into the game's controls or into this component and cannot be edited.
 
 inline constexpr int kItemSlots = 6;
 inline constexpr int kItemPresets = 3;

@@ -45,7 +45,8 @@ void writeGamePreferences(HotkeyConfig& config) noexcept {
   try {
     updateSections(config);
   } catch (const std::exception&) {
-    // A file too large for our memory is the game's business; the player's settings are not in it.
+    // If memory runs out for the game's file, it stays as it is; the player's settings are not in
+    // it.
   }
 }
 

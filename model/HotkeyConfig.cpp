@@ -63,7 +63,7 @@ HotkeyConfig HotkeyConfig::operator=(const HotkeyConfig& other) {
   return other;
 }
 
-// The schemes are made before anything changes: out of memory, this object stays whole.
+// The schemes are made before anything changes: if memory runs out, this object stays whole.
 HotkeyConfig::Schemes HotkeyConfig::assigned(Schemes target, const Schemes& source) {
   for (std::size_t i = 0; i < target.size(); ++i) assignScheme(target[i], source[i]);
   return target;

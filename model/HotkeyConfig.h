@@ -19,7 +19,7 @@ class MarkupDocument;
 //
 // Every accessor takes a scheme argument last: 0, 1 or 2, or kCurrentScheme. A settings file may
 // name a current scheme from 3 to 10: such an index is kept and written back, reads through it
-// answer the defaults, and writes through it go nowhere.
+// return the defaults, and writes through it are ignored.
 class HotkeyConfig {
  public:
   static constexpr int kCurrentScheme = -1;
@@ -27,7 +27,7 @@ class HotkeyConfig {
   static constexpr std::uint32_t kLargestIndex = 10;
 
   HotkeyConfig() = default;
-  // Defaults, then everything that an assignment copies.
+  // Starts from the defaults, then copies everything that an assignment copies.
   HotkeyConfig(const HotkeyConfig& other);
   // Copies the switch, the current index, the save time and every scheme (assignScheme).
   // The result is a copy of the assigned object, not a reference to this one.
@@ -39,19 +39,19 @@ class HotkeyConfig {
   // Reset(), then assignment: no key of the old state can refuse a choice that `main` holds.
   void ResetAndCopyFrom(const HotkeyConfig& main);
 
-  // Exchanges everything with `other` but the report of the load.
+  // Exchanges everything with `other` except the report of the load.
   void swap(HotkeyConfig& other) noexcept;
 
   // Reads the settings file at `path`. Defaults first; returns false, with the defaults in place,
   // when the file is missing, unreadable or not well-formed, or lacks KeyInfo or LastSaveTime.
-  // Entries that make no sense are no failure: each falls back to its default or to no key.
+  // Entries that make no sense are not a failure: each falls back to its default or to no key.
   // After a successful load the game's preference file follows.
   bool Load(std::u16string_view path);
   // Writes the settings file with `lastSaveTime`; this object's own LastSaveTime is left alone.
   // A missing folder is created, one level. Returns whether the file was written whole; after a
-  // failure the old file stands. The game's preference file follows in either case, because it
-  // follows what is in memory.
-  // `old` tells what becomes of the file that is replaced.
+  // failure the old file is still there. The game's preference file follows in either case, because
+  // it follows what is in memory.
+  // `old` says what happens to the file that is replaced.
   bool Save(std::u16string_view path, std::uint32_t lastSaveTime,
             platform::OldContent old = platform::OldContent::Drop);
 
@@ -71,8 +71,8 @@ class HotkeyConfig {
   bool loadFrom(MarkupDocument& document);
   bool saveTo(MarkupDocument& document, std::uint32_t lastSaveTime) const;
 
-  // Checked setters. With `check` off the value is stored as it is. They return false, and change
-  // nothing, for a number out of range and for a refused key (KeyAssignment.h).
+  // Checked setters. With `check` off, the value is stored as it is. A number out of range or a
+  // refused key (KeyAssignment.h) changes nothing, and they return false.
   bool SetHeroSkillKey(int pos, KeyWord key, bool check, int scheme = kCurrentScheme);
   bool SetItemKey(int slotCode, KeyWord key, bool check, int scheme = kCurrentScheme);
   bool SetMouseKey(int n, KeyWord key, bool check, int scheme = kCurrentScheme);
@@ -83,16 +83,16 @@ class HotkeyConfig {
   bool SetComboKeys(bool check, int scheme, std::uint32_t keysAB, std::uint32_t keysCD);
   bool SetNumComboKeyIndex(std::int32_t mode, int scheme = kCurrentScheme);
   bool SetQuickChatIndex(std::uint32_t set, int scheme = kCurrentScheme);
-  // `text` ends in a zero. What goes beyond kPhraseUnits is cut off in the caller's buffer too, by
-  // zeros; null stores an empty phrase.
+  // `text` ends in a zero. What exceeds kPhraseUnits is overwritten with zeros in the caller's
+  // buffer too; null stores an empty phrase.
   bool SetQuickChatPhrase(std::uint32_t n, char16_t* text, int scheme = kCurrentScheme);
   bool SetChatWheelPhrase(std::uint32_t n, char16_t* text, int scheme = kCurrentScheme);
 
   bool SetHeroSkillAutocast(int pos, bool on, int scheme = kCurrentScheme);
   bool SetItemAutocast(int slotCode, bool on, int scheme = kCurrentScheme);
 
-  // False, with `*out` untouched, for a code that is no inventory slot, for a mark that was never
-  // set, and for a null `out`.
+  // False, with `*out` untouched, for a code that is not an inventory slot, for a mark that was
+  // never set, and for a null `out`.
   bool GetItemKey(int slotCode, KeyWord* out, int scheme = kCurrentScheme) const;
   bool GetItemAutocast(int slotCode, bool* out, int scheme = kCurrentScheme) const;
   bool GetShowFBlood(KeyWord* out, int scheme = kCurrentScheme) const;

@@ -18,7 +18,7 @@ inline constexpr int kKeyRemaps = 6;
 inline constexpr int kPhrases = 8;
 inline constexpr std::size_t kPhraseUnits = 42;
 
-// One key sent in the place of another. The 32-bit form holds the source in its high half.
+// One key sent instead of another. The 32-bit form holds the source in its high half.
 struct KeyRemap {
   KeyWord Src;
   KeyWord Dest;
@@ -45,8 +45,8 @@ struct ComboKeys {
   friend constexpr bool operator==(const ComboKeys&, const ComboKeys&) = default;
 };
 
-// Quick-cast marks and phrases know whether they were ever set: an absent mark reads as false and
-// an absent phrase as empty. An absent phrase is not written to the settings file.
+// Quick-cast marks and phrases may never have been set: an absent mark reads as false and an absent
+// phrase as empty. An absent phrase is not written to the settings file.
 template <std::size_t Count>
 using AutocastMarks = std::array<std::optional<bool>, Count>;
 using Phrases = std::array<std::optional<std::u16string>, kPhrases>;
@@ -100,10 +100,10 @@ struct HotkeyScheme {
   static Phrases emptyPhrases();
 };
 
-// The slot's index in HotkeyScheme::ItemKey, or nothing for a code that is no inventory slot.
+// The slot's index in HotkeyScheme::ItemKey, or nothing for a code that is not an inventory slot.
 [[nodiscard]] std::optional<std::size_t> itemSlotIndex(int slotCode);
 
-// Makes phrases that were never set empty ones.
+// Makes phrases that were never set empty.
 void fillAbsent(Phrases& phrases);
 
 // The first kPhraseUnits units of `text`, or one less where that would cut a character in two.

@@ -21,7 +21,7 @@ bool canBeBound(KeyWord key) {
   return key.isSet() && vk != kBackspace && vk != kDelete && vk != kEnter;
 }
 
-// Looks at all of the few keys instead of stopping at the first: no branches, and the compiler
+// Looks at all of the few keys instead of stopping at a match: without branches the compiler
 // compares several at a time.
 template <class Keys, class Predicate>
 bool anyOf(const Keys& keys, Predicate predicate) {

@@ -11,7 +11,7 @@ namespace brennet {
 
 // Questions about the keys of a scheme. Pure functions: nothing is changed, shown or allocated.
 
-// Whether `key` may be bound: it is a key, it is none of Backspace, Delete and Enter, and no hero
+// Whether `key` may be bound: it is a key other than Backspace, Delete and Enter, and no hero
 // skill, item of the item-key map, remap destination, combination key D, Ledger key or single
 // feature key has it. Mouse keys are not consulted: the wheel may repeat another key.
 [[nodiscard]] bool isKeyFree(const HotkeyScheme& scheme, KeyWord key);
@@ -22,11 +22,12 @@ namespace brennet {
 // Whether `key` is one of the eight keys of the quick-chat key set that the scheme has chosen.
 [[nodiscard]] bool isQuickChatKey(const HotkeyScheme& scheme, KeyWord key);
 
-// Free, no item preset key and no quick-chat key: what a new binding must pass.
+// Whether `key` is free and neither an item preset key nor a quick-chat key, as every new binding
+// must be.
 [[nodiscard]] bool isKeyAssignable(const HotkeyScheme& scheme, KeyWord key);
 
-// The setting that has `key`, of those whose keys isKeyFree looks at; the first one where several
-// have it, nothing where none has it or it is no key.
+// The setting that has `key`, of those whose keys isKeyFree looks at: the first one if several have
+// it, nothing if none has it or it is no key.
 [[nodiscard]] std::optional<KeySlot> holderOf(const HotkeyScheme& scheme, KeyWord key);
 
 // Why a scheme refuses a key.
@@ -46,9 +47,10 @@ struct KeyConflict {
   friend constexpr bool operator==(const KeyConflict&, const KeyConflict&) = default;
 };
 
-// Why `scheme` would refuse `key` in `slot`; nothing when it would take it (KeyAssignment.h). The
-// key that stands there already is taken, and so is any key that is only pressed: the source of a
-// remap, and A, B and C of a combination unless it sends them. Nothing for a slot that is none.
+// Why `scheme` would refuse `key` in `slot`; nothing when it would accept it (KeyAssignment.h). The
+// key that is already there is accepted, and so is any key that is only pressed: the source of a
+// remap, and A, B and C of a combination unless it sends them. Nothing for a slot that does not
+// exist.
 [[nodiscard]] std::optional<KeyConflict> conflictOf(const HotkeyScheme& scheme, KeySlot slot,
                                                     KeyWord key);
 
@@ -56,8 +58,8 @@ struct KeyConflict {
 [[nodiscard]] std::optional<KeyConflict> conflictOf(const HotkeyScheme& scheme,
                                                     const ComboKeys& keys);
 
-// Whether anything the player can press is bound to the virtual key `vk`, modifiers aside. This is
-// the one question that includes the mouse keys and the sources of remaps.
+// Whether anything the player can press is bound to the virtual key `vk`, modifiers aside. Only
+// here the mouse keys and the sources of remaps count too.
 [[nodiscard]] bool isKeyUsed(const HotkeyScheme& scheme, std::uint8_t vk);
 
 // The keys of the item preset that the scheme has chosen; null when its items use the item-key map.

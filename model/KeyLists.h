@@ -22,7 +22,7 @@ constexpr auto spanOf(HotkeyScheme& scheme) {
 inline constexpr std::array<std::uint16_t, kHeroSkills> kZeroToEleven = {0, 1, 2, 3, 4,  5,
                                                                          6, 7, 8, 9, 10, 11};
 
-// `count` keys that stand side by side in the block.
+// `count` keys side by side in the block.
 template <std::size_t Count>
 constexpr std::array<std::uint16_t, Count> consecutive(std::size_t first) {
   std::array<std::uint16_t, Count> offsets{};

@@ -9,7 +9,7 @@
 namespace brennet {
 namespace {
 
-// Puts a value in place, by the checked setter of its kind. A refused one changes nothing.
+// Puts a value in place with the checked setter of its kind. A refused value changes nothing.
 struct Take {
   HotkeyScheme& scheme;
   KeySlot slot;
@@ -22,7 +22,7 @@ struct Take {
   bool operator()(const ComboKeys& keys) const { return assignCombo(scheme, keys); }
 };
 
-// What a refused value leaves.
+// The value that is left after a refusal.
 struct Clear {
   HotkeyScheme& scheme;
   KeySlot slot;
@@ -33,13 +33,13 @@ struct Clear {
   void operator()(const ComboKeys&) const { scheme.ComboKey = ComboKeys(); }
 };
 
-// A key that can be pressed: a key code of 0 is none to the game.
+// Whether the key can be pressed: to the game a key code of 0 is no key.
 bool isRealKey(KeyWord key) {
   return key.isSet() && key.virtualKey() != 0;
 }
 
-// Whether the file names a key where it has none: no number of 16 bits, which says nothing of the
-// key that was meant. (65280 and 0 say that there is none.)
+// Whether the text is damaged: not a number of 16 bits, so that it does not say which key was
+// meant. (65280 and 0 say that there is none.)
 bool isDamaged(KeyWord key, const KeyEntry& entry) {
   if (isRealKey(key) || entry.text.empty()) return false;
   const std::int32_t number = parseDecimal(entry.text);

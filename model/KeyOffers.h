@@ -21,8 +21,8 @@ struct KeyEntry {
 
 // The keys of a settings file, offered to the scheme that is being read.
 //
-// Which keys a scheme refuses depends on its choice of quick-chat keys and of item keys, and a file
-// tells of those in the middle. So a key that is refused meanwhile is offered once more when all is
+// Which keys a scheme refuses depends on its choice of quick-chat keys and of item keys, which come
+// in the middle of a file. So a key that was refused is offered once more when everything has been
 // read: what the player was allowed to choose comes back, in whatever order the file has it.
 class KeyOffers {
  public:
@@ -37,16 +37,16 @@ class KeyOffers {
   // `scheme` has to outlive this object.
   explicit KeyOffers(HotkeyScheme& scheme) : scheme_(scheme) {}
 
-  // Each puts the value in place (KeyAssignment.h), or no key where it is refused. Only the last
-  // offer for a slot counts. `slot` holds one key; `remap` is the number of one, from 0. The
-  // entries of a combination are those of A to D.
+  // Each puts the value in place (KeyAssignment.h), or no key if it is refused. Only the last offer
+  // for a slot counts. `slot` holds one key; `remap` is the number of a remap, from 0. The entries
+  // of a combination are those of A to D.
   void offer(KeySlot slot, KeyWord key, KeyEntry entry);
   void offer(std::size_t remap, const KeyRemap& value, KeyEntry source, KeyEntry destination);
   void offer(const ComboKeys& value, std::array<KeyEntry, 4> entries);
 
-  // Offers once more, in the order of the refusals, what was refused and is a key: a remap by its
-  // destination, a combination by key D. What is refused now stays without a key. Returns what came
-  // to nothing, in the order of the document; what the file itself calls no key did not.
+  // Offers once more, in the order of the refusals, what was refused and is a key: of a remap the
+  // destination, of a combination key D. What is refused again stays without a key. Returns what
+  // came to nothing, in the order of the document, but not what the file itself calls no key.
   [[nodiscard]] std::vector<Dropped> settle();
 
  private:

@@ -47,7 +47,7 @@ KeyWord* keyField(HotkeyScheme& scheme, KeySlot slot) {
 }
 
 KeyWord keyAt(const HotkeyScheme& scheme, KeySlot slot) {
-  // Nothing is changed: only a reference to the key is looked for.
+  // Nothing is changed: the key is only looked up.
   const KeyWord* const key = keyField(const_cast<HotkeyScheme&>(scheme), slot);
   return key != nullptr ? *key : kNoKey;
 }

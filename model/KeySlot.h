@@ -12,8 +12,8 @@ namespace brennet {
 // Names one key of a scheme: a setting that holds keys, and which of its keys.
 //
 // `index` counts from 0. In a row of keys it is the position (for items that of the inventory slot,
-// not its code); in HotKey source and destination of each remap take turns; in ComboKey the keys
-// are A to D; a single key has index 0. ComboKey3to1 holds the keys of ComboKey once more.
+// not its code); in HotKey the source and the destination of each remap alternate; in ComboKey the
+// keys are A to D; a single key has index 0. ComboKey3to1 holds the keys of ComboKey again.
 struct KeySlot {
   SettingId setting = SettingId::HeroSkillKey;
   std::uint8_t index = 0;
@@ -36,16 +36,16 @@ inline constexpr KeyWord ComboKeys::*kComboKeys[] = {&ComboKeys::Key_A, &ComboKe
 // The key that a combination sends.
 inline constexpr KeySlot kComboTarget{SettingId::ComboKey, 3};
 
-// How many keys `setting` holds: 0 when it is none that holds keys.
+// How many keys `setting` holds: 0 if it holds none.
 [[nodiscard]] std::size_t keyCount(SettingId setting);
 
-// The key that `scheme` has in `slot`; kNoKey for a slot that is none.
+// The key that `scheme` has in `slot`; kNoKey for a slot that does not exist.
 [[nodiscard]] KeyWord keyAt(const HotkeyScheme& scheme, KeySlot slot);
 
-// The member of `scheme` that `slot` names; null for a slot that is none.
+// The member of `scheme` that `slot` names; null for a slot that does not exist.
 [[nodiscard]] KeyWord* keyField(HotkeyScheme& scheme, KeySlot slot);
 
-// Puts `key` into `slot` without a check; a slot that is none is left out.
+// Puts `key` into `slot` without a check; does nothing for a slot that does not exist.
 void storeKey(HotkeyScheme& scheme, KeySlot slot, KeyWord key);
 
 }  // namespace brennet

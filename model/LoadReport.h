@@ -14,21 +14,21 @@ namespace brennet {
 // one there.
 struct DroppedKey {
   int scheme = 0;  // 0 to 2
-  // What has no key now. Of a remap that was refused it is the destination, of a combination key D;
-  // the whole of it has no key then.
+  // What has no key now. For a refused remap it is the destination, for a combination key D; all
+  // its keys are gone then.
   KeySlot slot{};
   SettingId element = SettingId::HeroSkillKey;  // as slot.setting, or ComboKey3to1 for ComboKey
   KeyWord key;                                  // as it was understood
   std::u16string text;                          // as the file has it
-  // Why the scheme refused it, in the state in which the load left it; nothing where the text is
-  // damaged: it is no number, or none of 16 bits, and no key can be made of it.
+  // Why the scheme refused it, in the state in which the load left it; nothing if the text is
+  // damaged: it is not a number of 16 bits, so no key can be made of it.
   std::optional<KeyConflict> conflict;
   TextPosition position;  // of the element that holds the text, in the text of the file
 
   friend bool operator==(const DroppedKey&, const DroppedKey&) = default;
 };
 
-// What a load has to tell beside its result. Empty where it failed.
+// What a load reports besides its result. Empty if it failed.
 struct LoadReport {
   std::vector<DroppedKey> droppedKeys;  // scheme by scheme, in the order of the file
 };

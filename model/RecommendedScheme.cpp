@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kColumns = 4;
 
-// The rows of the command card, in the order in which they stand on it.
+// The rows of the command card, from top to bottom.
 constexpr const char kSkillKeys[][kColumns + 1] = {"ZXCV", "ASDF", "QWER"};
 
 KeyWord skillKey(CardPosition position) {

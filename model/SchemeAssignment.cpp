@@ -24,7 +24,7 @@ struct Copy {
   }
 };
 
-// Copies a setting with its marks, and a choice only where the keys that are copied by then let it.
+// Copies a setting with its marks, and a choice only if the keys copied so far allow it.
 struct Assign : Copy {
   using Copy::operator();
 

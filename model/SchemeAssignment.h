@@ -2,7 +2,7 @@
 
 #include "model/HotkeyScheme.h"
 
-// Changes of all settings of a scheme at once, by what the rows of the table say (SettingTable.h).
+// Changes to all settings of a scheme at once, by the rows of the table (SettingTable.h).
 namespace brennet {
 
 // Makes `target` take over `source`. A preset or quick-chat key set that conflicts with the keys

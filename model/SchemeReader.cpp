@@ -15,7 +15,7 @@
 namespace brennet {
 namespace {
 
-// Shift is no modifier of the game's hotkeys; files that carry it lose it here.
+// Shift is not a modifier of the game's hotkeys; if a file has it, it is dropped here.
 KeyWord keyFromText(std::u16string_view text) {
   return KeyWord(static_cast<std::uint16_t>(parseDecimal(text))).without(KeyWord::kShift);
 }
@@ -143,8 +143,8 @@ class SettingReader {
   SettingId id_;
 };
 
-// Moves to the element of a setting: forward from the one read last, else once from the first
-// child. The hero skill keys are searched forward only.
+// Moves to the element of a setting: forward from the one read last, then once from the first
+// child. The hero skill keys are searched for forward only.
 bool findSetting(MarkupDocument& document, SettingId id) {
   const std::u16string_view element = setting(id).element;
   if (document.findElem(element)) return true;

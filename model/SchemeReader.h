@@ -11,8 +11,8 @@ class MarkupDocument;
 
 // Reads the children of the element that `document` has entered into `scheme`. A missing element
 // leaves its members as they are; a key that conflicts with another one becomes no key: of two
-// that are the same the one that is read first is kept (KeyOffers.h). Returns the keys that came to
-// nothing, in the order of the document, all as of scheme 0.
+// equal keys the one that is read first is kept (KeyOffers.h). Returns the keys that came to
+// nothing, in the order of the document, all with scheme 0.
 std::vector<DroppedKey> readScheme(MarkupDocument& document, HotkeyScheme& scheme);
 
 }  // namespace brennet

@@ -10,11 +10,11 @@
 
 #include "model/HotkeyScheme.h"
 
-// The kinds of settings that a scheme has. What is done with a setting (reading and writing the
+// The kinds of settings that a scheme has. Each operation on a setting (reading and writing the
 // file, filling a block and taking one back, copying) is written once for each kind.
 namespace brennet {
 
-// A switch, 0 or 1. In the block a bit of the flag word, or a byte of its own.
+// A switch, 0 or 1. In the block it is a bit of the flag word, or a byte of its own.
 struct SwitchSetting {
   static constexpr std::uint8_t kWholeByte = 0xFF;
 
@@ -39,9 +39,9 @@ struct KeySetting {
 struct KeyListSetting {
   std::span<KeyWord> (*keys)(HotkeyScheme&);
   std::span<const std::uint16_t> ids;      // the `id` attribute of each key
-  std::span<const std::uint16_t> offsets;  // where each key stands in the block
+  std::span<const std::uint16_t> offsets;  // where each key is in the block
   std::span<std::optional<bool>> (*autocast)(HotkeyScheme&) = nullptr;
-  bool followsPreset = false;  // a chosen item preset takes the place of the keys in the block
+  bool followsPreset = false;  // a chosen item preset replaces the keys in the block
 
   // The same for a scheme that is only read; the accessors change nothing themselves.
   [[nodiscard]] constexpr std::span<const KeyWord> keysOf(const HotkeyScheme& scheme) const {
@@ -53,7 +53,7 @@ struct KeyListSetting {
   }
 };
 
-// Keys that are sent in the place of others.
+// Keys that are sent instead of others.
 struct RemapSetting {
   std::array<KeyRemap, kKeyRemaps> HotkeyScheme::*field;
   std::size_t offset;
@@ -65,7 +65,7 @@ struct ComboSetting {
   std::size_t offset;
 };
 
-// The choice of an item preset, which shows in the item keys of the block only.
+// The choice of an item preset, which the block shows only as the item keys.
 struct PresetSetting {
   std::int32_t HotkeyScheme::*field;
 };

@@ -14,15 +14,15 @@
 #include "model/KeyLists.h"
 #include "model/SettingKinds.h"
 
-// The settings of a scheme, one row each. Everything that is done with all of them walks the rows:
-// reset and assignment (SchemeAssignment.h), loading and saving (SchemeReader.h, SchemeWriter.h),
-// filling a block and taking one back (BlockFiller.h, BlockMerger.h), and the questions of who has
-// a key (KeyConflicts.h). A new setting is a member of HotkeyScheme with its default, a number in
+// The settings of a scheme, one row each. Everything that handles all of them walks the rows: reset
+// and assignment (SchemeAssignment.h), loading and saving (SchemeReader.h, SchemeWriter.h), filling
+// a block and taking one back (BlockFiller.h, BlockMerger.h), and the search for who has a key
+// (KeyConflicts.h). A new setting is a member of HotkeyScheme with its default, a number in
 // SettingId and a row here.
 namespace brennet {
 
-// In the order in which they are written to the settings file and assigned; the number of a row in
-// kSettings.
+// In the order in which they are written to the settings file and assigned, and also the index of
+// the row in kSettings.
 enum class SettingId : std::uint8_t {
   ZoomValue,
   HeroSkillKey,
@@ -59,25 +59,25 @@ enum class SettingId : std::uint8_t {
 inline constexpr std::size_t kSettingCount =
     static_cast<std::size_t>(SettingId::DisableLeftAltShowHP) + 1;
 
-// What a setting means to a key that is to be bound.
+// What a setting means for a key that is to be bound.
 enum class KeyRole : std::uint8_t {
-  None,         // it holds no keys, or those of another row
+  None,         // it holds no keys, or only those of another row
   PressedOnly,  // its keys are used; others may have them all the same
   Guarded,      // no other setting may have the key that it sends or waits for
 };
 
-// What a reset of the scheme makes of a setting. Quick-cast marks always stay.
+// What a reset of the scheme does to a setting. Quick-cast marks always stay.
 enum class OnReset : std::uint8_t { Default, Stays };
 
-// The rank of a setting that is not in the block: it shows in others.
+// The rank of a setting that is not in the block itself, but shows in others.
 inline constexpr int kNotInBlock = 0;
 
 struct Setting {
   SettingId id;
   std::u16string_view element;  // what it is called in the settings file
   SettingKind kind;             // with the member that holds it and its place in the block
-  // Its places in the orders in which a settings file is read and a returned block is merged: any
-  // number between those of the neighbours. Of two keys that are the same, the earlier one stays.
+  // Its ranks in reading a settings file and in merging a returned block: any number between those
+  // of its neighbours. Of two equal keys, the earlier one stays.
   int loadRank;
   int blockRank;
   KeyRole role = KeyRole::None;
@@ -221,8 +221,8 @@ static_assert(detail::areRanksDistinct<&Setting::loadRank>(kLoadOrder),
 static_assert(detail::areRanksDistinct<&Setting::blockRank>(kBlockOrder),
               "give the new setting a block rank between those of its neighbours");
 
-// Calls `visit` for each row, in their order, with its SettingId as a constant: what a row says can
-// then choose the code that is made for it.
+// Calls `visit` for each row, in their order, with its SettingId as a constant, so that code can be
+// chosen at compile time by what the row says.
 template <class Visit>
 constexpr void forEachSetting(Visit visit) {
   [&]<std::size_t... Rows>(std::index_sequence<Rows...>) {

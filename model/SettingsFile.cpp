@@ -22,17 +22,17 @@ constexpr char16_t kRoot[] = u"KeyInfo";
 constexpr std::u16string_view kSchemeElements[HotkeyConfig::kSchemes] = {u"KeyInfo_0", u"KeyInfo_1",
                                                                          u"KeyInfo_2"};
 
-// Folder names longer than this are no folders to the system that the files come from.
+// The system that the files come from does not accept longer folder names.
 constexpr std::size_t kLongestFolder = 260;
 
-// The folder of `path`: what stands before its last backslash, else before its last slash.
+// The folder of `path`: what comes before its last backslash, else before its last slash.
 std::u16string_view folderOf(std::u16string_view path) {
   std::size_t end = path.find_last_of(u'\\');
   if (end == std::u16string_view::npos) end = path.find_last_of(u'/');
   return end == std::u16string_view::npos ? std::u16string_view() : path.substr(0, end);
 }
 
-// Creates the missing folder of `path`, one level. Returns whether it was missing and is there now.
+// Creates the missing folder of `path`, one level. Returns whether it was missing and now exists.
 bool createFolderOf(std::u16string_view path) {
   const std::u16string_view name = folderOf(path);
   if (name.empty() || name.size() > kLongestFolder) return false;
@@ -121,7 +121,7 @@ bool HotkeyConfig::saveTo(MarkupDocument& document, std::uint32_t lastSaveTime) 
 bool HotkeyConfig::SaveScheme(int scheme, MarkupDocument& document) const {
   if (scheme < 0 || scheme >= kSchemes) return false;
   const HotkeyScheme& written = schemes_[static_cast<std::size_t>(scheme)];
-  // Where the current index names no scheme, each keeps its own marks.
+  // If the current index names no scheme, each keeps its own marks.
   return writeScheme(document, written, index_ < schemes_.size() ? this->scheme() : written);
 }
 
