@@ -123,6 +123,9 @@ class FileSystem {
   // The same, for the owner alone. No error where such a folder is there and belongs to this user
   // alone; where another thing has the name, Denied.
   virtual FileError createPrivateFolder(const Path& path) = 0;
+  // No error where such a folder is there and belongs to this user alone, Missing where nothing is
+  // or can be, and Denied where another thing has the name. Creates nothing.
+  virtual FileError checkPrivateFolder(const Path& path) = 0;
   // Removes a folder if it is empty.
   virtual void removeFolder(const Path& path) = 0;
   // Brings the names in the folder to the disk. Systems that cannot do that do it by themselves.

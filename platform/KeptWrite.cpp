@@ -39,10 +39,14 @@ Path keptName(const Path& folder, std::string_view file) {
 }
 
 // Whether there can be a kept file for any file at all; as a rule there is none.
-bool isAnyThere(FileSystem& system, const Path& folder) {
+FileError findAny(FileSystem& system, const Path& folder, bool& isAnyThere) {
+  isAnyThere = false;
+  if (folder.empty()) return {};
+  const FileError error = system.checkPrivateFolder(folder);
+  isAnyThere = !error;
   // A folder that anybody else may write into tells nothing that could be believed.
-  return !folder.empty() && system.look(folder).kind == FileFacts::Kind::Folder &&
-         !system.createPrivateFolder(folder);
+  const bool isNone = error.obstacle == Obstacle::Missing || error.obstacle == Obstacle::Denied;
+  return isNone ? FileError() : error;
 }
 
 // Which file the kept file tells of; none where it is gone, or not written yet.
@@ -80,16 +84,18 @@ KeptWrite::~KeptWrite() {
 FileError KeptWrite::find(FileSystem& system, const Path& path, std::vector<Identity>& names) {
   names.clear();
   const Path folder = system.privateFolder();
-  if (!isAnyThere(system, folder)) return {};
+  bool isAnyThere = false;
+  const FileError unknown = findAny(system, folder, isAnyThere);
+  if (unknown || !isAnyThere) return unknown;
   const Path ownIdentity = system.identity(path);
   const std::string identity = bytesOf(ownIdentity);
   const Path own = keptName(folder, identity);
   std::optional<std::string> file;
   FileError error = readFileName(system, own, file);
   if (error) return error;
-  const bool isOwnThere = system.look(own).kind == FileFacts::Kind::File;
   // One that has not been written yet will tell of the file that its name says.
-  if (isOwnThere && (!file || *file == identity)) names.push_back({ownIdentity, file.has_value()});
+  const bool isOwn = file ? *file == identity : system.look(own).kind == FileFacts::Kind::File;
+  if (isOwn) names.push_back({ownIdentity, file.has_value()});
   system.list(folder, [&](const Path& entry) {
     if (error || entry.extension() != kEnding || folder / entry == own) return;
     file.reset();

@@ -27,8 +27,7 @@ bool isGone(const FileError& error) {
 
 bool PrivateFile::isThere(std::string_view name) const {
   const Path folder = system_.privateFolder();
-  const bool isFolder = !folder.empty() && system_.look(folder).kind == FileFacts::Kind::Folder;
-  if (!isFolder || system_.createPrivateFolder(folder)) return false;
+  if (folder.empty() || system_.checkPrivateFolder(folder)) return false;
   const Path file = folder / name;
   return isFile(system_, lockOf(file)) || isFile(system_, file) ||
          isFile(system_, backupName(file));

@@ -291,9 +291,15 @@ class PosixFileSystem final : public FileSystem {
 
   FileError createPrivateFolder(const Path& path) override {
     const FileError error = ended(mkdir(path.c_str(), kPrivateFolderMode));
-    if (error.obstacle != Obstacle::Exists) return error;
+    return error.obstacle == Obstacle::Exists ? checkPrivateFolder(path) : error;
+  }
+
+  FileError checkPrivateFolder(const Path& path) override {
     struct stat status {};
-    if (lstat(path.c_str(), &status) != 0) return failure(errno);
+    if (lstat(path.c_str(), &status) != 0) {
+      const bool canBeNone = errno == ELOOP || errno == ENAMETOOLONG;
+      return failure(canBeNone ? ENOENT : errno);
+    }
     const bool isOwn =
         S_ISDIR(status.st_mode) && status.st_uid == geteuid() && (status.st_mode & 077U) == 0;
     return isOwn ? FileError() : failure(EACCES);

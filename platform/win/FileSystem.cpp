@@ -331,8 +331,16 @@ class WindowsFileSystem final : public FileSystem {
 
   FileError createPrivateFolder(const Path& path) override {
     const FileError error = ended(CreateDirectoryW(path.c_str(), ownAttributes()));
-    if (error.obstacle != Obstacle::Exists) return error;
-    return own_.areThoseOf(path) ? FileError() : failure(ERROR_ACCESS_DENIED);
+    return error.obstacle == Obstacle::Exists ? checkPrivateFolder(path) : error;
+  }
+
+  FileError checkPrivateFolder(const Path& path) override {
+    if (own_.areThoseOf(path)) return {};
+    if (GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES) {
+      return failure(ERROR_ACCESS_DENIED);
+    }
+    const FileError error = failure(GetLastError());
+    return error.obstacle == Obstacle::Missing ? error : failure(ERROR_ACCESS_DENIED);
   }
 
   void removeFolder(const Path& path) override { RemoveDirectoryW(path.c_str()); }

@@ -160,6 +160,10 @@ FileError FaultyFileSystem::createPrivateFolder(const Path& path) {
   return passed("createPrivateFolder", [&] { return system_.createPrivateFolder(path); });
 }
 
+FileError FaultyFileSystem::checkPrivateFolder(const Path& path) {
+  return passed("checkPrivateFolder", [&] { return system_.checkPrivateFolder(path); });
+}
+
 void FaultyFileSystem::removeFolder(const Path& path) {
   static_cast<void>(passed("removeFolder", [&] {
     system_.removeFolder(path);

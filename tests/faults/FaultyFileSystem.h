@@ -54,6 +54,7 @@ class FaultyFileSystem final : public PassingFileSystem {
   FileError removeBackup(const Path& backup, const Path& path) override;
   FileError createFolder(const Path& path) override;
   FileError createPrivateFolder(const Path& path) override;
+  FileError checkPrivateFolder(const Path& path) override;
   void removeFolder(const Path& path) override;
   FileError flushFolder(const Path& path) override;
   void list(const Path& folder, const std::function<void(const Path& name)>& visit) override;

@@ -317,8 +317,14 @@ FileError ModelFileSystem::createFolder(const Path& name) {
 }
 
 FileError ModelFileSystem::createPrivateFolder(const Path& path) {
+  if (others.beforePrivateFolder) others.beforePrivateFolder();
   const FileError error = createFolder(path);
   return error.obstacle == Obstacle::Exists ? FileError() : error;
+}
+
+FileError ModelFileSystem::checkPrivateFolder(const Path& path) {
+  if (others.beforePrivateFolder) others.beforePrivateFolder();
+  return failureOf(nodeAt(path) != nullptr ? Obstacle::None : Obstacle::Missing);
 }
 
 void ModelFileSystem::removeFolder(const Path& path) {

@@ -47,6 +47,7 @@ class ModelFileSystem final : public FileSystem {
   struct Others {
     std::function<void(const Path& path, OpenFor purpose)> beforeOpen;
     std::function<void(const Path& path)> beforeRead;
+    std::function<void()> beforePrivateFolder;  // is made, or asked for
   };
   Others others;
 
@@ -96,6 +97,7 @@ class ModelFileSystem final : public FileSystem {
   FileError removeBackup(const Path& backup, const Path& path) override;
   FileError createFolder(const Path& name) override;
   FileError createPrivateFolder(const Path& path) override;
+  FileError checkPrivateFolder(const Path& path) override;
   void removeFolder(const Path& path) override;
   FileError flushFolder(const Path& path) override;
   void list(const Path& folder, const std::function<void(const Path& name)>& visit) override;

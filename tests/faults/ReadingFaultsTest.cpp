@@ -7,6 +7,7 @@
 
 #include "platform/Files.h"
 #include "platform/KeptWrite.h"
+#include "platform/PrivateFile.h"
 #include "platform/Replacement.h"
 #include "tests/faults/StandIn.h"
 
@@ -171,6 +172,18 @@ TEST_F(Reading, IsNotDoneWhileTheFileIsWrittenInPlace) {
     EXPECT_FALSE(file.close());
     EXPECT_EQ(read(name), kOld);
   }
+}
+
+// Whoever had it may remove the empty folder at any moment.
+TEST_F(Reading, MakesNoFolderForKeptFiles) {
+  const Path folder = in_.model.privateFolder();
+  in_.model.makeFolder(folder);
+  in_.model.others.beforePrivateFolder = [&] { in_.model.removeFile(folder); };
+  EXPECT_EQ(read(kFile), kOld);
+  EXPECT_EQ(in_.model.listing("/private"), "");
+  in_.model.makeFolder(folder);
+  EXPECT_FALSE(platform::PrivateFile().isThere("file"));
+  EXPECT_EQ(in_.model.listing("/private"), "");
 }
 
 // Systems tell of a lock when the file is opened, or not before it is read.

@@ -126,11 +126,16 @@ TEST(TheSystem, KeepsABackupThatIsTheLastCopy) {
 TEST(TheSystem, HasAFolderForOneUser) {
   const TempFolder folder;
   FileSystem& system = operatingSystem();
+  EXPECT_EQ(system.checkPrivateFolder(folder / "own").obstacle, Obstacle::Missing);
+  EXPECT_EQ(folder.listing(), "") << "who asks makes none";
   EXPECT_FALSE(system.createPrivateFolder(folder / "own"));
   EXPECT_FALSE(system.createPrivateFolder(folder / "own")) << "it is there, and his own";
+  EXPECT_FALSE(system.checkPrivateFolder(folder / "own"));
   writeBytes(folder / "file", "");
   EXPECT_EQ(system.createPrivateFolder(folder / "file").obstacle, Obstacle::Denied);
+  EXPECT_EQ(system.checkPrivateFolder(folder / "file").obstacle, Obstacle::Denied);
   EXPECT_EQ(system.createPrivateFolder(folder / "missing/own").obstacle, Obstacle::Missing);
+  EXPECT_EQ(system.checkPrivateFolder(folder / "missing/own").obstacle, Obstacle::Missing);
   writeBytes(folder / "own/f", "");
   system.removeFolder(folder / "own");
   EXPECT_EQ(system.look(folder / "own").kind, FileFacts::Kind::Folder) << "it is not empty";

@@ -62,6 +62,9 @@ class PassingFileSystem : public platform::FileSystem {
   FileError createPrivateFolder(const Path& path) override {
     return system_.createPrivateFolder(path);
   }
+  FileError checkPrivateFolder(const Path& path) override {
+    return system_.checkPrivateFolder(path);
+  }
   void removeFolder(const Path& path) override { system_.removeFolder(path); }
   FileError flushFolder(const Path& path) override { return system_.flushFolder(path); }
   void list(const Path& folder, const std::function<void(const Path& name)>& visit) override {
