@@ -50,11 +50,16 @@ FileError putBack(FileSystem& system, const Path& path, OpenFile& file,
   return system.remove(path);
 }
 
-FileError undo(FileSystem& system, Patience& patience, const Path& path, const TornWrite& write) {
+// Puts back what the file held before `write`. `isDone` tells whether nothing of that is left to
+// do: not so where no file is, because its disk may be away, or somebody may have renamed it for a
+// moment.
+FileError undo(FileSystem& system, Patience& patience, const Path& path, const TornWrite& write,
+               bool& isDone) {
   std::optional<std::string> content;
   const auto read = [&] {
     const FileError error = readContent(system, patience, path, content);
-    // Somebody else has written it since.
+    // A file that is too large somebody else has written since.
+    isDone = content || !write.old || isTooLarge(error.code);
     return isTooLarge(error.code) ? FileError() : error;
   };
   if (const FileError error = read()) return error;
@@ -75,8 +80,15 @@ class InPlaceWrite {
   InPlaceWrite(FileSystem& system, Patience& patience, const Path& path, KeptWrite& kept)
       : system_(system), patience_(patience), path_(path), kept_(kept), file_(system) {}
 
-  FileError run(std::string_view bytes) {
+  // `isAway`: what is kept is still to be put back, into a file that was not found.
+  FileError run(std::string_view bytes, bool isAway) {
     FileError error = readOld();
+    if (isAway) {
+      // That goes only once a file can be made there, so the disk is not away.
+      if (!error) error = old_ ? busy() : create();
+      if (!error) error = putBack(system_, path_, file_, old_);
+      if (error) return error;
+    }
     if (!error) error = kept_.write(old_, bytes);
     if (!error && !old_) error = create();
     if (!error) error = reserve(bytes.size());
@@ -142,8 +154,19 @@ FileError undoByName(FileSystem& system, Patience& patience, const Path& path,
   if (const FileError error = kept.open()) {
     return error.obstacle == Obstacle::Exists ? FileError() : error;
   }
+  bool isDone = true;
   if (kept.found()) {
-    if (const FileError error = undo(system, patience, path, *kept.found())) return error;
+    if (const FileError error = undo(system, patience, path, *kept.found(), isDone)) return error;
+  }
+  return isDone ? kept.discard() : FileError();
+}
+
+// Forgets what was written into the file that had the name `identity`.
+FileError forgetByName(FileSystem& system, Patience& patience,
+                       const KeptWrite::Identity& identity) {
+  KeptWrite kept(system, patience, identity);
+  if (const FileError error = kept.open()) {
+    return error.obstacle == Obstacle::Exists ? FileError() : error;
   }
   return kept.discard();
 }
@@ -160,10 +183,11 @@ FileError writeInPlace(FileSystem& system, Patience& patience, const Path& path,
   if (const FileError error = mayWriteInPlace(0, bytes)) return error;
   KeptWrite kept(system, patience, path);
   if (const FileError error = kept.open()) return error;
+  bool isDone = true;
   if (kept.found()) {
-    if (const FileError error = undo(system, patience, path, *kept.found())) return error;
+    if (const FileError error = undo(system, patience, path, *kept.found(), isDone)) return error;
   }
-  return InPlaceWrite(system, patience, path, kept).run(bytes);
+  return InPlaceWrite(system, patience, path, kept).run(bytes, !isDone);
 }
 
 FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path) {
@@ -171,6 +195,15 @@ FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path
   if (const FileError error = KeptWrite::find(system, path, names)) return error;
   for (const KeptWrite::Identity& name : names) {
     if (const FileError error = undoByName(system, patience, path, name)) return error;
+  }
+  return {};
+}
+
+FileError forgetTornWrite(FileSystem& system, Patience& patience, const Path& path) {
+  std::vector<KeptWrite::Identity> names;
+  if (const FileError error = KeptWrite::find(system, path, names)) return error;
+  for (const KeptWrite::Identity& name : names) {
+    if (const FileError error = forgetByName(system, patience, name)) return error;
   }
   return {};
 }

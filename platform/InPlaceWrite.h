@@ -25,7 +25,11 @@ namespace brennet::platform {
                                      std::string_view bytes);
 
 // Puts the old content back if a write in place was not finished; waits for one that is under way.
+// Where the file is not found it stays kept until one is: the disk may be away.
 [[nodiscard]] FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path);
+
+// Has nothing put back into a file that is about to be made at `path`, where none is.
+[[nodiscard]] FileError forgetTornWrite(FileSystem& system, Patience& patience, const Path& path);
 
 // Whether a write in place is kept, so that the file may hold anything: one that is under way, or
 // one that was not finished. For who has the file locked there is none of the first kind. Throws

@@ -127,7 +127,9 @@ class Replacement {
         target_.isThere = false;
       }
     }
-    return moveTo(path_);
+    // The folder is there, so the disk is not away.
+    const FileError error = forgetTornWrite(system_, patience_, path_);
+    return error ? error : moveTo(path_);
   }
 
   FileError exchange() {

@@ -22,6 +22,7 @@ using platform::replaceFile;
 
 constexpr char kFile[] = "/folder/f";
 constexpr char kSecond[] = "/folder/second";
+constexpr char kAway[] = "/folder/away";
 constexpr char kOld[] = "the old content";
 constexpr char kNew[] = "THE NEW CONTENT";
 constexpr char kTorn[] = "THE NEW content";
@@ -140,6 +141,67 @@ TEST_F(Reading, TakesNoOtherFileForTheOneThatWasTorn) {
     tear(kFile);
     EXPECT_EQ(read("/folder/other"), content);
     EXPECT_EQ(read(kFile), kOld);
+  }
+}
+
+// Its disk is away for a while, or somebody has renamed it for a moment.
+TEST_F(Reading, PutsRightWhatWasTornOnceItIsBack) {
+  in_.model.removeFile(kSecond);
+  tear(kFile);
+  ASSERT_FALSE(in_.model.move(kFile, kAway));
+  EXPECT_EQ(read(kFile), "");
+  EXPECT_TRUE(platform::isMissing(error_));
+  ASSERT_FALSE(in_.model.move(kAway, kFile));
+  EXPECT_EQ(read(kFile), kOld) << error_.message();
+  EXPECT_EQ(in_.model.listing("/private"), "");
+}
+
+// The folder is there without its disk, and takes nothing.
+TEST_F(Reading, PutsRightWhatWasTornAfterASaveThatFailedMeanwhile) {
+  constexpr int kMoreThanAnySave = 120;
+  in_.model.removeFile(kSecond);
+  for (const Fault fault : {Fault::Fails, Fault::EndsBefore, Fault::EndsAfter}) {
+    for (int call = 0; call < kMoreThanAnySave; ++call) {
+      in_.model.makeFile(kFile, kOld);
+      tear(kFile);
+      ASSERT_FALSE(in_.model.move(kFile, kAway));
+      in_.model.nature.closedFolders.insert("/folder");
+      in_.faulty.plan(call, fault);
+      EXPECT_TRUE(replaceFile(kFile, kNew)) << described(in_, call);
+      in_.model.endPrograms();
+      in_.faulty.plan(-1, Fault::None);
+      in_.model.nature.closedFolders.clear();
+      ASSERT_FALSE(in_.model.move(kAway, kFile));
+      EXPECT_EQ(read(kFile), kOld) << described(in_, call) << error_.message();
+      EXPECT_EQ(in_.model.listing("/private"), "") << described(in_, call);
+    }
+  }
+}
+
+// The player has deleted the torn one.
+TEST_F(Reading, GivesAFileThatWasMadeAnewNothingOfOneThatWasTorn) {
+  constexpr int kMoreThanAnySave = 120;
+  in_.model.removeFile(kSecond);
+  for (const bool isInPlace : {false, true}) {
+    if (isInPlace) in_.model.nature.shortNames.insert("/folder");
+    for (const Fault fault : {Fault::Fails, Fault::EndsBefore, Fault::EndsInside}) {
+      for (int call = 0; call < kMoreThanAnySave; ++call) {
+        in_.model.makeFile(kFile, kOld);
+        tear(kFile);
+        in_.model.removeFile(kFile);
+        in_.faulty.plan(call, fault);
+        // Of the same content as the one that was not finished.
+        const std::error_code error = replaceFile(kFile, kNew);
+        in_.model.endPrograms();
+        in_.faulty.plan(-1, Fault::None);
+        const std::string found = read(kFile);
+        EXPECT_TRUE(found == kNew || (error && (found == kOld || platform::isMissing(error_))))
+            << described(in_, call) << found << error_.message();
+        EXPECT_FALSE(replaceFile(kFile, kNew));
+        EXPECT_EQ(read(kFile), kNew) << described(in_, call);
+        EXPECT_EQ(in_.model.listing("/private/kept"), "") << described(in_, call);
+      }
+    }
   }
 }
 
