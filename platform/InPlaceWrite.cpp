@@ -161,6 +161,15 @@ FileError undoByName(FileSystem& system, Patience& patience, const Path& path,
   return isDone ? kept.discard() : FileError();
 }
 
+// Undoes that in the file that has the name `now`.
+FileError undoMoved(FileSystem& system, Patience& patience, const Path& now,
+                    const KeptWrite::Identity& identity) {
+  KeptWrite kept(system, patience, identity);
+  if (const FileError error = kept.open()) return error;
+  bool isDone = false;
+  return kept.found() ? undo(system, patience, now, *kept.found(), isDone) : FileError();
+}
+
 // Forgets what was written into the file that had the name `identity`.
 FileError forgetByName(FileSystem& system, Patience& patience,
                        const KeptWrite::Identity& identity) {
@@ -197,6 +206,16 @@ FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path
     if (const FileError error = undoByName(system, patience, path, name)) return error;
   }
   return {};
+}
+
+FileError undoTornWriteOf(FileSystem& system, Patience& patience, const Path& path,
+                          const Path& now) {
+  std::vector<KeptWrite::Identity> names;
+  FileError error = KeptWrite::find(system, path, names);
+  for (const KeptWrite::Identity& name : names) {
+    if (!error && name.isWritten) error = undoMoved(system, patience, now, name);
+  }
+  return error;
 }
 
 FileError forgetTornWrite(FileSystem& system, Patience& patience, const Path& path) {

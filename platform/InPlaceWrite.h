@@ -28,6 +28,11 @@ namespace brennet::platform {
 // Where the file is not found it stays kept until one is: the disk may be away.
 [[nodiscard]] FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path);
 
+// The same for the file that was at `path`, where another is by this time, and is at `now`. What is
+// kept stays, for it may be of the other.
+[[nodiscard]] FileError undoTornWriteOf(FileSystem& system, Patience& patience, const Path& path,
+                                        const Path& now);
+
 // Has nothing put back into a file that is about to be made at `path`, where none is.
 [[nodiscard]] FileError forgetTornWrite(FileSystem& system, Patience& patience, const Path& path);
 

@@ -4,10 +4,12 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "platform/InPlaceWrite.h"
 #include "platform/TemporaryFile.h"
 
 namespace brennet::platform {
@@ -49,7 +51,15 @@ bool isStamp(TextView text) {
                     });
 }
 
-// Copies what the file at `path` holds, which nobody of ours writes meanwhile.
+// Somebody of ours may write the file at this moment, or may have ended while he did.
+FileError busyIfTorn(FileSystem& system, const Path& path) {
+  bool isTorn = false;
+  const FileError error = findTornWrite(system, path, isTorn);
+  return !error && isTorn ? busy() : error;
+}
+
+// Copies what the file at `path` holds, which nobody of ours writes meanwhile. Held where that is
+// torn.
 FileError copyContent(FileSystem& system, Patience& patience, const Path& path,
                       const OpenFile& copy) {
   OpenFile file(system);
@@ -65,7 +75,8 @@ FileError copyContent(FileSystem& system, Patience& patience, const Path& path,
     const FileError unread = retried(system, patience, [&] {
       return system.read(file.handle(), offset, piece.data(), kPiece, count);
     });
-    if (unread || count == 0) return unread;
+    if (unread) return unread;
+    if (count == 0) return busyIfTorn(system, path);
     const std::string_view bytes = std::string_view(piece).substr(0, count);
     if (const FileError unwritten = copy.writeAt(offset, bytes)) return unwritten;
     offset += count;
@@ -124,7 +135,7 @@ FileError KeptFiles::underFreeName(Path& name, Name give) {
   return error;
 }
 
-void KeptFiles::keep() {
+FileError KeptFiles::keep() {
   // Also where it has one: that may be another process's, which takes it away when its save fails.
   const FileError error =
       underFreeName(link_, [&](const Path& name) { return system_.link(path_, name); });
@@ -132,8 +143,11 @@ void KeptFiles::keep() {
     TemporaryFile copy(system_, patience_);
     if (!copy.create(path_, OpenFor::NewAndPrivate)) static_cast<void>(fill(copy));
   }
+  // What is torn has no whole content to put aside.
+  if (const FileError torn = busyIfTorn(system_, path_)) return torn;
   // Before the old content loses its place.
   static_cast<void>(system_.flushFolder(path_.parent_path()));
+  return {};
 }
 
 // The copy is whole before it has the kept name.
@@ -192,7 +206,19 @@ FileError KeptFiles::dropLinks() {
   return error;
 }
 
+// Somebody may have written the file in place, and ended while he did, after it got its second name
+// and before another file took its place.
+void KeptFiles::putRight() noexcept {
+  if (link_.empty()) return;
+  try {
+    static_cast<void>(undoTornWriteOf(system_, patience_, path_, link_));
+  } catch (const std::bad_alloc&) {
+    // It cannot be put right then.
+  }
+}
+
 void KeptFiles::stay() noexcept {
+  putRight();
   const bool isKept = !link_.empty() || !copy_.empty();
   // The same content, a second time; unless another process has replaced the file meanwhile.
   for (const Path& name : links_) {

@@ -37,11 +37,12 @@ class KeptFiles {
   [[nodiscard]] std::size_t links() const { return links_.size(); }
 
   // Puts the file aside by a second name, or as a copy where there are none. Passes over failures:
-  // the file can be replaced all the same.
-  void keep();
+  // the file can be replaced all the same. But Held where it is torn (findTornWrite), so that it
+  // has to be put right first.
+  FileError keep();
   // Puts the file aside as a copy, where that is not done yet, and takes its second names away, all
   // of that on the disk too. Not an error where the folder takes no new file, unless there are such
-  // names.
+  // names. Held where it is torn.
   FileError keepCopy();
   // The save is done: what was put aside stays, and the oldest go that are too many.
   void stay() noexcept;
@@ -52,6 +53,7 @@ class KeptFiles {
   FileError underFreeName(Path& name, Name give);
   bool isGone(const FileError& error);
   FileError dropLinks();
+  void putRight() noexcept;
 
   FileSystem& system_;
   Patience& patience_;

@@ -188,7 +188,9 @@ FileError replaceAt(FileSystem& system, Patience& patience, const Path& path,
                     std::string_view bytes, const Target& target, OldContent old, KeptFiles& kept) {
   const bool isShared = target.names > 1 + kept.links();
   if (!target.isLink && !isShared) {
-    if (old == OldContent::Keep && target.isThere) kept.keep();
+    if (old == OldContent::Keep && target.isThere) {
+      if (const FileError error = kept.keep()) return error;
+    }
     const Outcome outcome = Replacement(system, patience, path, target, bytes).run();
     if (outcome.way == Way::Gone) return outcome.error;
   }
@@ -220,24 +222,32 @@ bool isBeingReplaced(FileSystem& system, const Path& path, const FileError& erro
          (isFile(system, backupName(path)) || exists(system, path));
 }
 
+namespace {
+
+// Replaces the file once; Held also where somebody came in between.
+FileError replaceOnce(FileSystem& system, Patience& patience, const Path& path,
+                      std::string_view bytes, OldContent old) {
+  Target target;
+  FileError error = settle(system, patience, path);
+  if (!error) error = inspect(system, path, target);
+  if (error) return error;
+  removeLeftovers(system, path);
+  KeptFiles kept(system, patience, path);
+  if (old == OldContent::Keep || target.names > 1) kept.find();
+  error = replaceAt(system, patience, path, bytes, target, old, kept);
+  if (!error) kept.stay();
+  return error;
+}
+
+}  // namespace
+
 FileError replaceFileOn(FileSystem& system, Patience& patience, const Path& name,
                         std::string_view bytes, OldContent old) {
   if (name.empty()) {
     return {Obstacle::Missing, std::make_error_code(std::errc::no_such_file_or_directory)};
   }
   const Path path = system.resolved(name);
-  Target target;
-  const FileError unsettled = retried(system, patience, [&] {
-    const FileError error = settle(system, patience, path);
-    return error ? error : inspect(system, path, target);
-  });
-  if (unsettled) return unsettled;
-  removeLeftovers(system, path);
-  KeptFiles kept(system, patience, path);
-  if (old == OldContent::Keep || target.names > 1) kept.find();
-  const FileError error = replaceAt(system, patience, path, bytes, target, old, kept);
-  if (!error) kept.stay();
-  return error;
+  return retried(system, patience, [&] { return replaceOnce(system, patience, path, bytes, old); });
 }
 
 }  // namespace brennet::platform

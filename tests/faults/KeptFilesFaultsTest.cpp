@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/Files.h"
+#include "platform/KeptWrite.h"
 #include "tests/faults/StandIn.h"
 
 namespace brennet::test {
@@ -200,6 +201,33 @@ TEST_P(KeepingFaults, ThatTakeThePowerAwayLoseNothing) {
       checkNextSession(false, described(*in_, call) + ", way " + std::to_string(way));
       if (HasFailure()) return;
     }
+  }
+}
+
+// What a process leaves that ends while it writes the file in place.
+void tear(ModelFileSystem& system) {
+  platform::Patience patience;
+  platform::KeptWrite kept(system, patience, Path(kFile));
+  platform::OpenFile file(system);
+  if (kept.open() || file.open(kFile, OpenFor::Writing)) return;
+  EXPECT_FALSE(kept.write(kDamaged, kNext));
+  EXPECT_FALSE(file.writeAll(std::string_view(kNext).substr(0, 9)));
+}
+
+TEST_P(KeepingFaults, PutNothingAsideThatAnotherProcessHasTornMeanwhile) {
+  constexpr int kMoreThanAllOpenings = 20;
+  for (int opening = 0; opening < kMoreThanAllOpenings; ++opening) {
+    begin();
+    in_->faulty.plan(-1, Fault::None);
+    in_->model.others.beforeOpen = [&, left = opening](const Path&, OpenFor) mutable {
+      if (left-- != 0) return;
+      tear(in_->model);
+    };
+    const std::error_code error = save();
+    in_->model.others = {};
+    checkNextSession(!error && GetParam().needsCopy,
+                     "torn before opening " + std::to_string(opening));
+    if (HasFailure()) return;
   }
 }
 
