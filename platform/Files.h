@@ -48,9 +48,11 @@ class Patience;
 //
 // Temporary files of processes that have ended are removed.
 //
-// Returns the first error of any step, a failing flush included, or an empty one. After an error
-// the old content stands, or is put back by the next call, and no temporary file is left. Throws
-// std::bad_alloc, and then has changed nothing.
+// Returns the first error of any step, a failing flush of what was written included, or an empty
+// one. It is not told that the name of a file which has its place already could not be brought to
+// the disk: after a power loss the old content may stand there, or nothing where there was none.
+// After an error the old content stands, or is put back by the next call, and no temporary file is
+// left. Throws std::bad_alloc, and then has changed nothing.
 [[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes,
                                           OldContent old = OldContent::Drop);
 [[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes, OldContent old,

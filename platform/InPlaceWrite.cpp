@@ -98,7 +98,7 @@ class InPlaceWrite {
     }
     error = overwrite(file_, bytes, old_ ? old_->size() : 0);
     // A new name has to be on the disk before nothing tells any more that it may be missing.
-    if (!error && !old_) static_cast<void>(system_.flushFolder(path_.parent_path()));
+    if (!error && !old_) error = flushName();
     if (!error) error = kept_.discard();
     if (!error) return {};  // what was flushed is there, whatever closing says
     if (!putBack(system_, path_, file_, old_)) static_cast<void>(kept_.discard());
@@ -128,6 +128,12 @@ class InPlaceWrite {
       return {Obstacle::Exists, std::make_error_code(std::errc::file_exists)};
     }
     return orRemove(retried(system_, patience_, [&] { return file_.lock(Sharing::Alone); }));
+  }
+
+  FileError flushName() {
+    const FileError error = system_.flushFolder(path_.parent_path());
+    // Where the folder may not be looked into, that cannot be had.
+    return error.obstacle == Obstacle::Denied ? FileError() : error;
   }
 
   FileError reserve(std::uint64_t size) { return orRemove(file_.reserve(size)); }

@@ -223,6 +223,27 @@ TEST_P(ReplacementFaults, LeaveWhatWasDoneAfterAPowerLoss) {
   }
 }
 
+TEST(AFileMadeInPlace, IsToldAsDoneOnlyWithItsNameOnTheDisk) {
+  constexpr int kMoreThanAnySave = 60;
+  int flushes = 0;
+  for (int call = 0; call < kMoreThanAnySave; ++call) {
+    StandIn in;
+    in.model.makeFolder(kFolder);
+    in.model.nature.shortNames.insert(kFolder);
+    in.faulty.plan(call, Fault::Fails);
+    const std::error_code error = replaceFile(kFile, kNew);
+    if (in.faulty.faulty() != "flushFolder") continue;
+    ++flushes;
+    const std::string what = described(in, call);
+    in.faulty.plan(-1, Fault::None);
+    in.model.losePower(0);
+    std::string read;
+    EXPECT_EQ(platform::isMissing(readFile(kFile, read, kAnySize)), static_cast<bool>(error))
+        << what;
+  }
+  EXPECT_GE(flushes, 2);
+}
+
 TEST(CreateFolder, BringsItsNameToTheDisk) {
   StandIn in;
   in.model.makeFolder("/games");
