@@ -74,11 +74,16 @@ FileError undo(FileSystem& system, Patience& patience, const Path& path, const T
   return putBack(system, path, file, write.old);
 }
 
-// A write in place, its kept file being open.
+// A write in place, its kept file being open. Once something is written, no memory is taken.
 class InPlaceWrite {
  public:
   InPlaceWrite(FileSystem& system, Patience& patience, const Path& path, KeptWrite& kept)
-      : system_(system), patience_(patience), path_(path), kept_(kept), file_(system) {}
+      : system_(system),
+        patience_(patience),
+        path_(path),
+        folder_(path.parent_path()),
+        kept_(kept),
+        file_(system) {}
 
   // `isAway`: what is kept is still to be put back, into a file that was not found.
   FileError run(std::string_view bytes, bool isAway) {
@@ -131,7 +136,7 @@ class InPlaceWrite {
   }
 
   FileError flushName() {
-    const FileError error = system_.flushFolder(path_.parent_path());
+    const FileError error = system_.flushFolder(folder_);
     // Where the folder may not be looked into, that cannot be had.
     return error.obstacle == Obstacle::Denied ? FileError() : error;
   }
@@ -147,6 +152,7 @@ class InPlaceWrite {
   FileSystem& system_;
   Patience& patience_;
   const Path& path_;
+  Path folder_;
   KeptWrite& kept_;
   OpenFile file_;
   std::optional<std::string> old_;
