@@ -45,8 +45,8 @@ struct FileFacts {
 enum class OpenFor {
   Reading,   // one that is there; others may do with it what they like meanwhile
   Writing,   // one that is there; its content stays until something is written
-  Creating,  // an empty one where nothing is, also behind a link, with the rights that new files
-             // have
+  Creating,  // an empty one where nothing is, with the rights that new files have; also behind a
+             // link, where resolved() does not follow them
   New,       // an empty one where nothing is, with the rights that new files have
   NewAndPrivate,  // the same, for the owner alone
   Keeping,  // for reading and writing, where nothing is an empty one for the owner alone; it stays

@@ -218,8 +218,9 @@ FileError settle(FileSystem& system, Patience& patience, const Path& path) {
 }
 
 bool isBeingReplaced(FileSystem& system, const Path& path, const FileError& error) {
+  // A link to nothing is no file that has come meanwhile.
   return error.obstacle == Obstacle::Missing &&
-         (isFile(system, backupName(path)) || exists(system, path));
+         (isFile(system, backupName(path)) || isFile(system, path));
 }
 
 namespace {

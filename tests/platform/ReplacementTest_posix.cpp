@@ -42,6 +42,17 @@ class Crowded : public test::PassingFileSystem {
     if (whileWaiting) whileWaiting();
   }
 
+  // Of a system that follows links only when it opens files, where that is wanted.
+  FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
+    const bool follows = !resolvesLinks && purpose == OpenFor::Creating;
+    return PassingFileSystem::open(follows ? PassingFileSystem::resolved(path) : path, purpose,
+                                   file, facts);
+  }
+  Path resolved(const Path& path) override {
+    return resolvesLinks ? PassingFileSystem::resolved(path) : path;
+  }
+
+  bool resolvesLinks = true;
   std::function<FileError(const Path& path, const Path& backup)> beforeExchange;
   std::function<FileError(const Path& from, const Path& to)> beforeMove;
   std::function<void()> whileWaiting;
@@ -138,6 +149,17 @@ TEST_F(Replacing, WaitsForAFileThatIsHeldAndWritesInPlaceInTheEnd) {
     EXPECT_EQ(readBytes(path_), "new");
     EXPECT_EQ(folder_.listing(), "f\n");
   }
+}
+
+TEST_F(Replacing, MakesTheFileThatALinkToNothingNames) {
+  system_.resolvesLinks = false;
+  std::filesystem::remove(path_);
+  std::filesystem::create_symlink(folder_ / "g", path_);
+  EXPECT_FALSE(isBeingReplaced(system_, path_, obstacle(Obstacle::Missing)));
+  EXPECT_FALSE(replace());
+  EXPECT_EQ(system_.pauses, 0);
+  EXPECT_TRUE(std::filesystem::is_symlink(path_));
+  EXPECT_EQ(readBytes(folder_ / "g"), "new");
 }
 
 TEST_F(Replacing, EndsWhatStoppedHalfway) {
