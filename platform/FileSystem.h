@@ -106,7 +106,8 @@ class FileSystem {
   // and the new file has its own name.
   virtual FileError exchange(const Path& replacement, const Path& path, const Path& backup) = 0;
   // Gives the file `path` a second name, which must be free (else Exists). Held where somebody has
-  // the file in a way in which that name could not be removed again.
+  // the file in a way in which that name could not be removed again. Where flushFolder() does
+  // nothing the name is on the disk then.
   virtual FileError link(const Path& path, const Path& second) = 0;
   // Whether two names are those of one file; a symbolic link is a file of its own. No where that
   // cannot be found out.

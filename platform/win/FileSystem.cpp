@@ -286,13 +286,18 @@ class WindowsFileSystem final : public FileSystem {
     return error;
   }
 
-  // A name that could not be removed again, because somebody lets nobody remove the file, is none.
+  // A name that could not be removed again, because somebody lets nobody remove the file, is none;
+  // nor is one that is not on the disk, where nothing but the file itself can bring it.
   FileError link(const Path& path, const Path& second) override {
     constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    HANDLE const file = CreateFileW(path.c_str(), DELETE, kAll, nullptr, OPEN_EXISTING,
-                                    FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    HANDLE const file = CreateFileW(path.c_str(), DELETE | GENERIC_WRITE, kAll, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
     if (file == INVALID_HANDLE_VALUE) return failure(GetLastError());
-    const FileError error = ended(CreateHardLinkW(second.c_str(), path.c_str(), nullptr));
+    FileError error = ended(CreateHardLinkW(second.c_str(), path.c_str(), nullptr));
+    if (!error) {
+      error = ended(FlushFileBuffers(file));
+      if (error) DeleteFileW(second.c_str());
+    }
     CloseHandle(file);
     return error;
   }
@@ -345,7 +350,7 @@ class WindowsFileSystem final : public FileSystem {
 
   void removeFolder(const Path& path) override { RemoveDirectoryW(path.c_str()); }
 
-  // Moves write through.
+  // Moves write through, and so do links.
   FileError flushFolder(const Path& /*path*/) override { return {}; }
 
   void list(const Path& folder, const std::function<void(const Path& name)>& visit) override {

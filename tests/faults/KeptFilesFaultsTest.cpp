@@ -39,6 +39,13 @@ struct Setting {
 const Setting kSettings[] = {
     {"Usual", [](ModelFileSystem&) {}},
     {"InTwoSteps", [](ModelFileSystem& s) { s.nature.twoSteps = true; }},
+    {"WhereFoldersAreNotFlushed", [](ModelFileSystem& s) { s.nature.flushesNoFolders = true; }},
+    {"WithoutSecondNamesWhereFoldersAreNotFlushed",
+     [](ModelFileSystem& s) {
+       s.nature.flushesNoFolders = true;
+       s.nature.hasLinks = false;
+     },
+     true},
     {"WithTwoNames", [](ModelFileSystem& s) { s.makeSecondName(kFile, kSecond); }},
     {"WhereNothingTakesItsPlace", [](ModelFileSystem& s) { s.nature.mounts.insert(kFile); }},
     {"WithoutSecondNames", [](ModelFileSystem& s) { s.nature.hasLinks = false; }, true},

@@ -285,6 +285,7 @@ FileError ModelFileSystem::link(const Path& path, const Path& second) {
   if (nodeAt(second) != nullptr) return failureOf(Obstacle::Exists);
   if (const FileError error = mayName(second)) return error;
   change({second, nodeAt(path), {}});
+  if (nature.flushesNoFolders) flushChanges([&](const Change& c) { return c.name == second; });
   return {};
 }
 

@@ -37,8 +37,8 @@ class ModelFileSystem final : public FileSystem {
     bool twoSteps = false;         // exchange() moves the old file away first
     bool hasLinks = true;          // files can have several names
     bool hasPrivateFolder = true;
-    // flushFolder() does nothing. Files, as soon as they are flushed, and moves are on the disk
-    // all the same, but nobody knows when a removal is.
+    // flushFolder() does nothing. Files, as soon as they are flushed, moves and links are on the
+    // disk all the same, but nobody knows when a removal is.
     bool flushesNoFolders = false;
   };
   Nature nature;

@@ -226,6 +226,19 @@ TEST_F(Interruption, ThatCutsAFileIsReadToItsEnd) {
   EXPECT_EQ(read, kShort);
 }
 
+class ASecondName : public test::FileFaultsFixture {};
+
+TEST_F(ASecondName, IsBroughtToTheDiskOrNotGiven) {
+  FileSystem& system = operatingSystem();
+  writeBytes(path(), kOld);
+  test::faults.flushing = true;
+  EXPECT_EQ(system.link(path(), folder_ / "second").code.value(), test::kDeviceError);
+  EXPECT_EQ(folder_.listing(), "f\n");
+  test::faults.flushing = false;
+  EXPECT_FALSE(system.link(path(), folder_ / "second"));
+  EXPECT_EQ(folder_.listing(), "f\nsecond\n");
+}
+
 class ReparsePoint : public test::FileFaultsFixture {
  protected:
   ~ReparsePoint() override { test::reparseTag = 0; }
