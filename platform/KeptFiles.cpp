@@ -106,7 +106,7 @@ KeptFiles::~KeptFiles() {
   }
 }
 
-void KeptFiles::find() {
+void KeptFiles::find(std::uint64_t names) {
   const Text start = startFor(path_.filename());
   const Path folder = path_.parent_path();
   system_.list(folder, [&](const Path& name) {
@@ -116,7 +116,9 @@ void KeptFiles::find() {
                         isStamp(text.substr(start.size()));
     if (!isKept) return;
     const Path kept = folder / name;
-    (system_.isSameFile(kept, path_) ? links_ : others_).push_back(kept);
+    // Not every file system tells its files apart.
+    const bool isLink = names > 1 && system_.isSameFile(kept, path_);
+    (isLink ? links_ : others_).push_back(kept);
   });
   std::sort(others_.begin(), others_.end());
 }

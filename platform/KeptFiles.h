@@ -30,8 +30,9 @@ class KeptFiles {
   KeptFiles(const KeptFiles&) = delete;
   KeptFiles& operator=(const KeptFiles&) = delete;
 
-  // Looks for those that are there. Throws std::bad_alloc, as all functions do but stay().
-  void find();
+  // Looks for those that are there, where the file has so many names. Throws std::bad_alloc, as all
+  // functions do but stay().
+  void find(std::uint64_t names);
   // How many of them are the file itself, by a second name: a process put it aside and ended before
   // another file took its place, or is about to have one take it.
   [[nodiscard]] std::size_t links() const { return links_.size(); }

@@ -234,7 +234,7 @@ FileError replaceOnce(FileSystem& system, Patience& patience, const Path& path,
   if (error) return error;
   removeLeftovers(system, path);
   KeptFiles kept(system, patience, path);
-  if (old == OldContent::Keep || target.names > 1) kept.find();
+  if (old == OldContent::Keep || target.names > 1) kept.find(target.names);
   error = replaceAt(system, patience, path, bytes, target, old, kept);
   if (!error) kept.stay();
   return error;

@@ -302,11 +302,13 @@ class WindowsFileSystem final : public FileSystem {
     return error;
   }
 
-  // Both are open at the same time: the number of a file may be given anew when it is closed.
+  // Both are open at the same time: the number of a file may be given anew when it is closed. File
+  // systems without such numbers give 0 for all files.
   bool isSameFile(const Path& a, const Path& b) override {
     const OpenForFacts first(a);
     const OpenForFacts second(b);
     return first.isOpen && second.isOpen &&
+           (first.info.nFileIndexHigh != 0 || first.info.nFileIndexLow != 0) &&
            first.info.dwVolumeSerialNumber == second.info.dwVolumeSerialNumber &&
            first.info.nFileIndexHigh == second.info.nFileIndexHigh &&
            first.info.nFileIndexLow == second.info.nFileIndexLow;

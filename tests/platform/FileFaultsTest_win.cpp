@@ -239,6 +239,16 @@ TEST_F(ASecondName, IsBroughtToTheDiskOrNotGiven) {
   EXPECT_EQ(folder_.listing(), "f\nsecond\n");
 }
 
+TEST_F(ASecondName, IsKnownOnlyWhereFilesHaveNumbers) {
+  FileSystem& system = operatingSystem();
+  writeBytes(path(), kOld);
+  ASSERT_FALSE(system.link(path(), folder_ / "second"));
+  EXPECT_TRUE(system.isSameFile(path(), folder_ / "second"));
+  test::hasFileNumbers = false;
+  EXPECT_FALSE(system.isSameFile(path(), folder_ / "second"));
+  test::hasFileNumbers = true;
+}
+
 class ReparsePoint : public test::FileFaultsFixture {
  protected:
   ~ReparsePoint() override { test::reparseTag = 0; }

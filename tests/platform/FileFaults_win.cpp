@@ -15,6 +15,7 @@ HalfwayFaults halfwayFaults;
 PassingFaults passingFaults;
 Interruptions interruptions;
 DWORD reparseTag = 0;
+bool hasFileNumbers = true;
 int replacedFiles = 0;
 DWORD moveFlags = ~0U;
 const int kDeviceError = ERROR_IO_DEVICE;
@@ -25,6 +26,7 @@ namespace {
 
 using brennet::test::faults;
 using brennet::test::halfwayFaults;
+using brennet::test::hasFileNumbers;
 using brennet::test::interruptions;
 using brennet::test::moveFlags;
 using brennet::test::passingFaults;
@@ -98,6 +100,7 @@ BOOL WINAPI factsOfFile(HANDLE file, BY_HANDLE_FILE_INFORMATION* facts) {
   if (faults.failsNow()) return failWith(ERROR_IO_DEVICE);
   const BOOL isDone = real(file, facts);
   if (reparseTag != 0) facts->dwFileAttributes |= FILE_ATTRIBUTE_REPARSE_POINT;
+  if (!hasFileNumbers) facts->nFileIndexHigh = facts->nFileIndexLow = 0;
   interrupt(interruptions.afterSizing);
   return isDone;
 }

@@ -42,6 +42,9 @@ extern Interruptions interruptions;
 // The reparse point that the files and folders of a test have; 0: none.
 extern DWORD reparseTag;
 
+// Whether the file system has a number for each file.
+extern bool hasFileNumbers;
+
 // How many files took the place of another since the program started.
 extern int replacedFiles;
 

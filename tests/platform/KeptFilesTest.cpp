@@ -63,8 +63,12 @@ class Reluctant : public test::PassingFileSystem {
     }
     return PassingFileSystem::lock(file, sharing);
   }
+  bool isSameFile(const Path& a, const Path& b) override {
+    return !tellsFilesApart || PassingFileSystem::isSameFile(a, b);
+  }
   void pause() override {}
 
+  bool tellsFilesApart = true;
   bool takesLinks = true;
   bool takesNewFiles = true;
   bool takesExchanges = true;
@@ -194,6 +198,24 @@ TEST(KeptFiles, ThatAreTheFileItselfAreNotWritten) {
       ASSERT_EQ(keptFiles(folder).size(), 1U) << folder.listing();
       EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), "damaged");
     }
+  }
+}
+
+TEST(KeptFiles, AreNotTakenForTheFileWhichHasNoOtherName) {
+  for (const bool takesExchanges : {true, false}) {
+    const TempFolder folder;
+    Reluctant system;
+    Patience patience;
+    system.tellsFilesApart = false;
+    system.takesExchanges = takesExchanges;
+    writeBytes(folder / "f", "damaged");
+    writeBytes(folder / "f.kept-20010101-000000", "first");
+    writeBytes(folder / "f.kept-20020101-000000", "second");
+    EXPECT_FALSE(replaceFileOn(system, patience, folder / "f", "new", OldContent::Keep));
+    ASSERT_EQ(keptFiles(folder).size(), 3U) << folder.listing();
+    EXPECT_EQ(readBytes(folder / keptFiles(folder)[0]), "first");
+    EXPECT_EQ(readBytes(folder / keptFiles(folder)[1]), "second");
+    EXPECT_EQ(readBytes(folder / keptFiles(folder)[2]), "damaged");
   }
 }
 
