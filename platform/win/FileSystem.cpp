@@ -342,12 +342,11 @@ class WindowsFileSystem final : public FileSystem {
   }
 
   FileError checkPrivateFolder(const Path& path) override {
-    if (own_.areThoseOf(path)) return {};
-    if (GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES) {
-      return failure(ERROR_ACCESS_DENIED);
+    if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) {
+      const FileError error = failure(GetLastError());
+      if (error.obstacle == Obstacle::Missing) return error;
     }
-    const FileError error = failure(GetLastError());
-    return error.obstacle == Obstacle::Missing ? error : failure(ERROR_ACCESS_DENIED);
+    return own_.areThoseOf(path) ? FileError() : failure(ERROR_ACCESS_DENIED);
   }
 
   void removeFolder(const Path& path) override { RemoveDirectoryW(path.c_str()); }
