@@ -83,10 +83,11 @@ FileError copyContent(FileSystem& system, Patience& patience, const Path& path,
   }
 }
 
-// Whether a new file was refused as a folder does that takes none, or none of such a long name.
+// Whether a new file beside one that is there was refused as a folder does that takes none, or none
+// of such a long name; for which some systems find no place.
 bool isRefused(const FileError& error) {
   return error.obstacle == Obstacle::Denied || error.obstacle == Obstacle::Exists ||
-         error.code == std::errc::filename_too_long;
+         error.obstacle == Obstacle::Missing || error.code == std::errc::filename_too_long;
 }
 
 }  // namespace

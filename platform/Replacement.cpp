@@ -78,8 +78,10 @@ class Replacement {
       TemporaryFile temporary(system_, patience_);
       const FileError error =
           temporary.create(path_, target_.isThere ? OpenFor::NewAndPrivate : OpenFor::New);
-      // Without a folder there is no other way either.
-      if (error) return {error.obstacle == Obstacle::Missing ? Way::Gone : Way::Closed, error};
+      // Without a folder there is no other way either. Where the file is there, so is its folder,
+      // and what is not found is a place for a name that is too long.
+      const bool isGone = error.obstacle == Obstacle::Missing && !target_.isThere;
+      if (error) return {isGone ? Way::Gone : Way::Closed, error};
       temporary_ = temporary.name();
       const Outcome outcome = fillAndPlace(temporary);
       if (outcome.way != Way::TryAgain) return outcome;

@@ -150,6 +150,7 @@ FileError ModelFileSystem::mayName(const Path& path) const {
   if (folder == nullptr || folder->kind != Kind::Folder) return failureOf(Obstacle::Missing);
   const bool isLong = path.filename().native().size() > 1;
   if (isLong && nature.shortNames.contains(folderOf(path))) {
+    if (nature.findsNoLongNames) return failureOf(Obstacle::Missing);
     return {Obstacle::Other, std::make_error_code(std::errc::filename_too_long)};
   }
   return failureOf(nature.closedFolders.contains(folderOf(path)) ? Obstacle::Denied

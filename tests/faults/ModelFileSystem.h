@@ -30,12 +30,13 @@ class ModelFileSystem final : public FileSystem {
  public:
   // What is different about a place.
   struct Nature {
-    std::set<Path> closedFolders;  // take no new names
-    std::set<Path> shortNames;     // folders that take names of one letter only
-    std::set<Path> mounts;         // files that nothing can take the place of
-    std::map<Path, int> busy;      // for so many pauses another program has the file
-    bool twoSteps = false;         // exchange() moves the old file away first
-    bool hasLinks = true;          // files can have several names
+    std::set<Path> closedFolders;   // take no new names
+    std::set<Path> shortNames;      // folders that take names of one letter only...
+    bool findsNoLongNames = false;  // ...and tell that there is no place for the others
+    std::set<Path> mounts;          // files that nothing can take the place of
+    std::map<Path, int> busy;       // for so many pauses another program has the file
+    bool twoSteps = false;          // exchange() moves the old file away first
+    bool hasLinks = true;           // files can have several names
     bool hasPrivateFolder = true;
     // flushFolder() does nothing. Files, as soon as they are flushed, moves and links are on the
     // disk all the same, but nobody knows when a removal is.

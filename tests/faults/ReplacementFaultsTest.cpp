@@ -38,6 +38,13 @@ const Setting kSettings[] = {
     {"NoFile", [](ModelFileSystem&) {}, kNone},
     {"NoFileWhereNamesAreShort", [](ModelFileSystem& s) { s.nature.shortNames.insert(kFolder); },
      kNone},
+    {"AFileWhereNoPlaceIsFoundForLongNames",
+     [](ModelFileSystem& s) {
+       s.makeFile(kFile, kOld);
+       s.nature.shortNames.insert(kFolder);
+       s.nature.findsNoLongNames = true;
+     },
+     kOld},
     {"InTwoSteps",
      [](ModelFileSystem& s) {
        s.makeFile(kFile, kOld);

@@ -274,6 +274,19 @@ TEST(Replacing, TakesNamesOutsideTheAnsiCodePage) {
   EXPECT_TRUE(folderExists(inner));
 }
 
+// Those of a temporary file and of a kept one would be longer than a path may be.
+TEST(Replacing, WritesInPlaceWhereThePathHasNoRoomForALongerOne) {
+  const TempFolder folder;
+  constexpr std::size_t kLongest = 250;
+  const Path path = folder / std::string(kLongest - folder.path().native().size(), 'n');
+  writeBytes(path, "old");
+  for (const OldContent old : {OldContent::Drop, OldContent::Keep}) {
+    EXPECT_FALSE(replaceFile(path, "new", old));
+    EXPECT_EQ(readBytes(path), "new");
+    writeBytes(path, "old");
+  }
+}
+
 TEST(Replacing, TakesPathsOfAnyLengthWhereTheySaySo) {
   const TempFolder folder;
   const Path inner = LR"(\\?\)" + (folder / std::string(200, 'd')).native();
