@@ -132,15 +132,28 @@ bool isForbidden(const Path& path) {
 
 // A file that is about to go does not even tell its attributes.
 bool isAboutToGo(const Path& path) {
-  return GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES;
+  return GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES &&
+         obstacleOf(GetLastError()) == Obstacle::Denied;
+}
+
+// Whether the call that failed last was denied access to `path`, where nothing is. Leaves the
+// error.
+bool isDeniedToNothing(const Path& path) {
+  const DWORD error = GetLastError();
+  if (obstacleOf(error) != Obstacle::Denied) return false;
+  const bool isThere = GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES ||
+                       obstacleOf(GetLastError()) != Obstacle::Missing;
+  SetLastError(error);
+  return !isThere;
 }
 
 // Access is denied, too, to a file that is about to go. Under that name there can be no new one.
-// Where it stays, its access list denies the access, which does not pass.
+// Where it stays, its access list denies the access, and where there is none, its folder takes no
+// new file; neither passes.
 FileError openingError(const Path& path, OpenFor purpose) {
   FileError error = failure(GetLastError());
   if (error.obstacle != Obstacle::Denied || purpose == OpenFor::Reading) return error;
-  if (purpose == OpenFor::Writing && !isAboutToGo(path)) return error;
+  if (!isAboutToGo(path)) return error;
   const bool isNew = purpose == OpenFor::New || purpose == OpenFor::NewAndPrivate;
   error.obstacle = isNew ? Obstacle::Exists : Obstacle::Held;
   return error;
@@ -172,9 +185,17 @@ class WindowsFileSystem final : public FileSystem {
     if (purpose == OpenFor::Writing && isForbidden(path)) return failure(ERROR_ACCESS_DENIED);
     const bool isPrivate = purpose == OpenFor::NewAndPrivate || purpose == OpenFor::Keeping;
     const Opening opening = openingFor(purpose);
-    HANDLE const opened = CreateFileW(path.c_str(), opening.access, opening.sharing,
-                                      isPrivate ? ownAttributes() : nullptr, opening.creation,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    const auto create = [&] {
+      return CreateFileW(path.c_str(), opening.access, opening.sharing,
+                         isPrivate ? ownAttributes() : nullptr, opening.creation,
+                         FILE_ATTRIBUTE_NORMAL, nullptr);
+    };
+    HANDLE opened = create();
+    // What was about to go may have gone by now.
+    if (opened == INVALID_HANDLE_VALUE && opening.creation != OPEN_EXISTING &&
+        isDeniedToNothing(path)) {
+      opened = create();
+    }
     if (opened == INVALID_HANDLE_VALUE) return openingError(path, purpose);
     const bool isNew = opening.creation == CREATE_NEW ||
                        (opening.creation == OPEN_ALWAYS && GetLastError() != ERROR_ALREADY_EXISTS);

@@ -112,6 +112,27 @@ TEST_F(PassingFault, OfOpeningTheOldFileIsWaitedFor) {
   }
 }
 
+TEST_F(PassingFault, OfMakingAFileIsNoneWhereTheFolderTakesNone) {
+  const auto opened = [&](OpenFor purpose) {
+    FileHandle file = kNoFile;
+    FileFacts facts;
+    return operatingSystem().open(path(), purpose, file, facts).obstacle;
+  };
+  for (const OpenFor purpose : {OpenFor::Creating, OpenFor::Keeping}) {
+    passingFaults = {.error = ERROR_ACCESS_DENIED, .opening = kAFew};
+    EXPECT_EQ(opened(purpose), Obstacle::Denied);
+    passingFaults.isAboutToGo = true;
+    EXPECT_EQ(opened(purpose), Obstacle::Held);
+  }
+  test::faults.newFiles = true;
+  for (const OpenFor purpose : {OpenFor::New, OpenFor::NewAndPrivate}) {
+    passingFaults.isAboutToGo = false;
+    EXPECT_EQ(opened(purpose), Obstacle::Denied);
+    passingFaults.isAboutToGo = true;
+    EXPECT_EQ(opened(purpose), Obstacle::Exists) << "another name may do";
+  }
+}
+
 // Access to a file that stays is denied by its access list.
 TEST_F(PassingFault, OfOpeningIsNoneWhereTheFileStays) {
   writeBytes(path(), kOld);
