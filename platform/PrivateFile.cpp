@@ -64,6 +64,12 @@ std::error_code PrivateFile::read(std::string& bytes, std::uint64_t limit) const
 }
 
 std::error_code PrivateFile::write(std::string_view bytes) const {
+  // One that replaces it takes its rights over; one that is new would have those of new files, and
+  // these may shut the user out when it was made by an elevated process of his. As long as it is
+  // empty it says nothing.
+  OpenFile fresh(system_);
+  static_cast<void>(fresh.open(path_, OpenFor::NewAndPrivate));
+  static_cast<void>(fresh.close());
   return replaceFile(path_, bytes);
 }
 

@@ -33,7 +33,7 @@ class PrivateFile {
   // The functions below are for a file that was taken.
 
   // readFile and replaceFile of Files.h: at every moment the disk holds the whole old or the whole
-  // new content.
+  // new content; where there was no file, one that holds nothing may come before.
   [[nodiscard]] std::error_code read(std::string& bytes, std::uint64_t limit) const;
   [[nodiscard]] std::error_code write(std::string_view bytes) const;
 

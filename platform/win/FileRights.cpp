@@ -72,12 +72,21 @@ struct OwnRights::Body {
            InitializeAcl(entries, sizeof(list), ACL_REVISION) != FALSE &&
            AddAccessAllowedAce(entries, ACL_REVISION, FILE_ALL_ACCESS, user.sid()) != FALSE &&
            InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION) != FALSE &&
+           // An elevated process would leave what is private to the administrators else.
+           SetSecurityDescriptorOwner(&descriptor, user.sid(), FALSE) != FALSE &&
            SetSecurityDescriptorDacl(&descriptor, TRUE, entries, FALSE) != FALSE &&
            SetSecurityDescriptorControl(&descriptor, SE_DACL_PROTECTED, SE_DACL_PROTECTED) != FALSE;
   }
 
   [[nodiscard]] bool isOwn(PSID sid) const {
     return EqualSid(sid, user.sid()) != FALSE || EqualSid(sid, owner.sid()) != FALSE;
+  }
+
+  // Who owns something can change its list. The administrators can do that anyway.
+  [[nodiscard]] bool mayOwn(PSID sid) const { return isOwn(sid) || isAdministrators(sid); }
+
+  static bool isAdministrators(PSID sid) {
+    return IsWellKnownSid(sid, WinBuiltinAdministratorsSid) != FALSE;
   }
 
   // Without a list it is everybody's. Entries that deny something open nothing.
@@ -90,8 +99,8 @@ struct OwnRights::Body {
       if (header->AceType == ACCESS_DENIED_ACE_TYPE) continue;
       if (header->AceType != ACCESS_ALLOWED_ACE_TYPE) return false;
       const PSID sid = &static_cast<ACCESS_ALLOWED_ACE*>(entry)->SidStart;
-      const bool mayAnyway = IsWellKnownSid(sid, WinLocalSystemSid) != FALSE ||
-                             IsWellKnownSid(sid, WinBuiltinAdministratorsSid) != FALSE;
+      const bool mayAnyway =
+          IsWellKnownSid(sid, WinLocalSystemSid) != FALSE || isAdministrators(sid);
       if (!mayAnyway && !isOwn(sid)) return false;
     }
     return true;
@@ -124,7 +133,7 @@ bool OwnRights::areThoseOf(const Path& path) const {
   return GetSecurityInfo(folder.handle(), SE_FILE_OBJECT,
                          OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION, &owner, nullptr,
                          &list, nullptr, &descriptor.data) == ERROR_SUCCESS &&
-         body_->isOwn(owner) && body_->opensToNobodyElse(list);
+         body_->mayOwn(owner) && body_->opensToNobodyElse(list);
 }
 
 void copyFileRights(const Path& path, void* file) {

@@ -15,13 +15,14 @@ class OwnRights {
   OwnRights(const OwnRights&) = delete;
   OwnRights& operator=(const OwnRights&) = delete;
 
-  // For whatever is created (SECURITY_ATTRIBUTES); null where the user cannot be found out, which
-  // gives it the rights of its folder.
+  // For whatever is created (SECURITY_ATTRIBUTES): the user owns it, also where this process is
+  // elevated, and nobody else may do anything. Null where the user cannot be found out, which gives
+  // it the rights of its folder.
   [[nodiscard]] void* attributes() const;
 
   // Whether what stands at `path` is a folder, and no way to another, that belongs to the user of
-  // this process and that its access list opens to nobody else, those apart who may do anything
-  // anyway: the system and the administrators.
+  // this process, or to the administrators, and that its access list opens to nobody else, those
+  // apart who may do anything anyway: the system and the administrators.
   [[nodiscard]] bool areThoseOf(const Path& path) const;
 
  private:

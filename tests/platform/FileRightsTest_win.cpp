@@ -11,6 +11,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Files.h"
 #include "platform/OpenFile.h"
+#include "platform/PrivateFile.h"
 #include "tests/support/TempFolder.h"
 
 namespace brennet::platform {
@@ -98,6 +99,8 @@ TEST(TheAccessList, OfAPrivateFolderOpensItToNobodyElse) {
       {L"D:P(A;OICI;FA;;;WD)", Obstacle::Denied},
       {L"D:P(A;;FR;;;WD)(A;;FA;;;BA)", Obstacle::Denied},
       {L"D:P(A;;FA;;;SY)(A;;FA;;;BA)", Obstacle::None},
+      {L"O:BAD:P(A;;FA;;;SY)(A;;FA;;;BA)", Obstacle::None},
+      {L"O:BAD:P(A;;FA;;;BA)(A;;FR;;;WD)", Obstacle::Denied},
   };
   for (const Row& row : kRows) {
     const TempFolder folder;
@@ -108,6 +111,39 @@ TEST(TheAccessList, OfAPrivateFolderOpensItToNobodyElse) {
   const TempFolder folder;
   EXPECT_FALSE(operatingSystem().createPrivateFolder(folder / "own"));
   EXPECT_FALSE(operatingSystem().createPrivateFolder(folder / "own")) << "as it was made";
+}
+
+TEST(TheAccessList, OfAPrivateFileIsTheUsersOwn) {
+  const TempFolder folder;
+  PrivateFile file;
+  ASSERT_TRUE(file.take("brennet-test-rights.undo"));
+  EXPECT_FALSE(file.write("one"));
+  EXPECT_FALSE(file.write("two"));
+  EXPECT_EQ(listOf(operatingSystem().privateFolder() / "brennet-test-rights.undo"),
+            privateListIn(folder));
+  EXPECT_TRUE(file.clear());
+}
+
+TEST(TheOwner, OfWhatIsPrivateIsTheUser) {
+  const TempFolder folder;
+  ASSERT_FALSE(operatingSystem().createPrivateFolder(folder / "own"));
+  OpenFile file(operatingSystem());
+  ASSERT_FALSE(file.open(folder / "own" / "f", OpenFor::NewAndPrivate));
+  HANDLE token = nullptr;
+  ASSERT_NE(OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token), FALSE);
+  alignas(TOKEN_USER) BYTE user[sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE] = {};
+  DWORD size = 0;
+  EXPECT_NE(GetTokenInformation(token, TokenUser, user, sizeof(user), &size), FALSE);
+  CloseHandle(token);
+  for (const Path& path : {folder / "own", folder / "own" / "f"}) {
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    PSID owner = nullptr;
+    ASSERT_EQ(GetNamedSecurityInfoW(path.c_str(), SE_FILE_OBJECT, OWNER_SECURITY_INFORMATION,
+                                    &owner, nullptr, nullptr, nullptr, &descriptor),
+              DWORD{ERROR_SUCCESS});
+    EXPECT_NE(EqualSid(owner, reinterpret_cast<TOKEN_USER*>(user)->User.Sid), FALSE) << path;
+    LocalFree(descriptor);
+  }
 }
 
 TEST(ASecondName, IsKept) {
