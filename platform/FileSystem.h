@@ -154,7 +154,9 @@ class FileSystem {
   virtual bool isRunning(unsigned long process) = 0;
   // The local time in seconds since 1970 began, as a calendar on the wall counts them.
   virtual std::int64_t wallTime() = 0;
-  // Waits 20 milliseconds.
+  // A clock that only goes on, in milliseconds from whatever moment.
+  virtual std::uint64_t clock() = 0;
+  // Waits 20 milliseconds, or longer where the system cannot wake the process up by then.
   virtual void pause() = 0;
 };
 

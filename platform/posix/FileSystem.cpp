@@ -369,6 +369,13 @@ class PosixFileSystem final : public FileSystem {
     return localtime_r(&now, &local) != nullptr ? now + local.tm_gmtoff : now;
   }
 
+  std::uint64_t clock() override {
+    timespec now{};
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return static_cast<std::uint64_t>(now.tv_sec) * 1000 +
+           static_cast<std::uint64_t>(now.tv_nsec) / 1'000'000;
+  }
+
   void pause() override {
     const timespec duration{0, kPause};
     nanosleep(&duration, nullptr);

@@ -435,6 +435,8 @@ class WindowsFileSystem final : public FileSystem {
     return static_cast<std::int64_t>(seconds - kSecondsBefore1970);
   }
 
+  std::uint64_t clock() override { return GetTickCount64(); }
+
   void pause() override { Sleep(kPause); }
 
  private:

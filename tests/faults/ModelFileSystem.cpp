@@ -380,6 +380,7 @@ std::int64_t ModelFileSystem::wallTime() {
 
 void ModelFileSystem::pause() {
   ++pauses;
+  time_ += pauseLength;
   for (auto& [path, left] : nature.busy) --left;
 }
 

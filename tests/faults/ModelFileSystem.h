@@ -52,8 +52,9 @@ class ModelFileSystem final : public FileSystem {
   };
   Others others;
 
-  // How often somebody has waited.
+  // How often somebody has waited, and how long that takes each time, in milliseconds.
   int pauses = 0;
+  std::uint64_t pauseLength = 20;
 
   ModelFileSystem();
 
@@ -110,6 +111,7 @@ class ModelFileSystem final : public FileSystem {
   unsigned long process() override { return process_; }
   bool isRunning(unsigned long process) override { return process == process_; }
   std::int64_t wallTime() override;
+  std::uint64_t clock() override { return time_; }
   void pause() override;
 
  private:
@@ -153,6 +155,7 @@ class ModelFileSystem final : public FileSystem {
   std::map<FileHandle, Opened> opened_;
   FileHandle lastHandle_ = 0;
   unsigned long process_ = 1;
+  std::uint64_t time_ = 0;
   bool stopsHalfway_ = false;
 };
 

@@ -93,6 +93,16 @@ TEST_P(WaitingFor, AddsUpOverOperationsThatShareOne) {
   EXPECT_LE(pauses(), Patience::kPauses);
 }
 
+TEST_P(WaitingFor, TakesNoLongerWherePausesDo) {
+  for (const std::uint64_t length : {10U, 20U, 31U, 100U}) {
+    begin();
+    in_->model.pauseLength = length;
+    static_cast<void>(replaceFile(kFile, "new"));
+    EXPECT_GE(pauses(), 2) << length;
+    EXPECT_LE(in_->model.clock(), Patience::kMilliseconds) << length;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(, WaitingFor, testing::ValuesIn(kSettings),
                          [](const auto& setting) { return std::string(setting.param.name); });
 

@@ -80,6 +80,7 @@ class PassingFileSystem : public platform::FileSystem {
   unsigned long process() override { return system_.process(); }
   bool isRunning(unsigned long process) override { return system_.isRunning(process); }
   std::int64_t wallTime() override { return system_.wallTime(); }
+  std::uint64_t clock() override { return system_.clock(); }
   void pause() override { system_.pause(); }
 
  private:
