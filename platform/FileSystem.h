@@ -69,7 +69,7 @@ class FileSystem {
   FileSystem& operator=(const FileSystem&) = delete;
 
   // Opens a file, and nothing that is none: folders and devices are refused. A symbolic link is
-  // followed but for new and kept files.
+  // followed but for new and kept files, where it is refused.
   virtual FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) = 0;
   // Reads up to `size` bytes at `offset` into `bytes`; `count` tells how many, 0 at the end.
   virtual FileError read(FileHandle file, std::uint64_t offset, char* bytes, std::size_t size,

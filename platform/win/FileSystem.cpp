@@ -185,10 +185,13 @@ class WindowsFileSystem final : public FileSystem {
     if (purpose == OpenFor::Writing && isForbidden(path)) return failure(ERROR_ACCESS_DENIED);
     const bool isPrivate = purpose == OpenFor::NewAndPrivate || purpose == OpenFor::Keeping;
     const Opening opening = openingFor(purpose);
+    // CREATE_NEW refuses a name that a link has anyway.
+    const bool followsLinks = purpose != OpenFor::Keeping;
     const auto create = [&] {
       return CreateFileW(path.c_str(), opening.access, opening.sharing,
                          isPrivate ? ownAttributes() : nullptr, opening.creation,
-                         FILE_ATTRIBUTE_NORMAL, nullptr);
+                         FILE_ATTRIBUTE_NORMAL | (followsLinks ? 0 : FILE_FLAG_OPEN_REPARSE_POINT),
+                         nullptr);
     };
     HANDLE opened = create();
     // What was about to go may have gone by now.
@@ -200,7 +203,7 @@ class WindowsFileSystem final : public FileSystem {
     const bool isNew = opening.creation == CREATE_NEW ||
                        (opening.creation == OPEN_ALWAYS && GetLastError() != ERROR_ALREADY_EXISTS);
     facts = {FileFacts::Kind::File};
-    const FileError error = isNew ? FileError() : factsOf(opened, facts);
+    const FileError error = isNew ? FileError() : factsOf(opened, facts, followsLinks);
     if (error) {
       CloseHandle(opened);
     } else {
@@ -446,10 +449,13 @@ class WindowsFileSystem final : public FileSystem {
                                                         : FileFacts::Kind::File;
   }
 
-  static FileError factsOf(HANDLE file, FileFacts& facts) {
+  static FileError factsOf(HANDLE file, FileFacts& facts, bool mayBeLink) {
     if (GetFileType(file) != FILE_TYPE_DISK) return failure(ERROR_INVALID_HANDLE);
     BY_HANDLE_FILE_INFORMATION info{};
     if (GetFileInformationByHandle(file, &info) == FALSE) return failure(GetLastError());
+    if (!mayBeLink && (info.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
+      return failure(ERROR_ACCESS_DENIED);
+    }
     facts = {FileFacts::Kind::File, joined(info.nFileSizeHigh, info.nFileSizeLow),
              info.nNumberOfLinks, ageOf(info.ftLastWriteTime)};
     return {};

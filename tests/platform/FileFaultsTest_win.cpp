@@ -10,6 +10,7 @@
 
 #include "platform/FileSystem.h"
 #include "platform/Files.h"
+#include "platform/OpenFile.h"
 #include "tests/platform/FileFaultsFixture.h"
 
 namespace brennet::platform {
@@ -291,6 +292,17 @@ TEST_F(ReparsePoint, OfALinkHidesNoSize) {
   test::reparseTag = IO_REPARSE_TAG_SYMLINK;
   EXPECT_TRUE(isFileLarger(path(), sizeof(kOld) - 2));
   EXPECT_FALSE(isFileLarger(path(), sizeof(kOld) - 1));
+}
+
+TEST_F(ReparsePoint, OfAnyKindMakesAFileNoneToKeep) {
+  const auto opened = [&] {
+    OpenFile file(operatingSystem());
+    return file.open(path(), OpenFor::Keeping).obstacle;
+  };
+  EXPECT_EQ(opened(), Obstacle::None) << "a new one";
+  EXPECT_EQ(opened(), Obstacle::None);
+  test::reparseTag = IO_REPARSE_TAG_SYMLINK;
+  EXPECT_EQ(opened(), Obstacle::Denied);
 }
 
 TEST_F(ReparsePoint, OfAnyKindMakesAFolderNobodysOwn) {
