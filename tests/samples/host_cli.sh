@@ -5,6 +5,7 @@
 # The command is the host's program, after an emulator where the program takes one.
 set -euo pipefail
 
+here=$(cd "$(dirname "$0")" && pwd)
 work=$1
 samples=$2
 library=$3
@@ -93,19 +94,7 @@ says '1806  DisableLeftAltShowHP'
 [[ $(wc -c <"$folder/block") == 1807 ]] || fail 'the saved block is no record'
 follows 'customkeys=2'
 run 0 --settings "$folder/KeyInfo.xml" --json
-python3 - "$folder/out" <<'PYTHON' || fail 'the JSON is wrong'
-import json
-import sys
-
-report = json.load(open(sys.argv[1], encoding="utf-8"))
-assert report["loaded"] and report["enabled"] and not report["refusals"]
-assert not report["blockChanges"] and not report["registryChanges"]
-end = 0
-for field in report["block"]:
-    assert field["offset"] == end, field
-    end += len(field["bytes"]) // 2
-assert end == 1807, end
-PYTHON
+python3 -B "$here/check_report.py" "$folder/out" || fail 'the JSON is wrong'
 
 # What the file holds and cannot be used.
 printf '%s' '<KeyInfo><LastSaveTime>5</LastSaveTime>
