@@ -52,5 +52,6 @@ install(FILES /usr/share/doc/mingw-w64-i686-dev/copyright DESTINATION licences
 foreach(text Artistic GFDL-1.2 GPL-2 LGPL-2 LGPL-2.1)
   install(FILES /usr/share/common-licenses/${text} DESTINATION licences RENAME ${text}.txt)
 endforeach()
-install(PROGRAMS tools/windows/qt.sh tools/windows/qt_licences.sh DESTINATION licences/qt-build)
+install(PROGRAMS tools/windows/qt.sh tools/windows/qt_licences.sh tools/windows/qt_licences.py
+  DESTINATION licences/qt-build)
 install(FILES tools/windows/lib.sh DESTINATION licences/qt-build)
