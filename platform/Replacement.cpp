@@ -78,9 +78,9 @@ class Replacement {
       TemporaryFile temporary(system_, patience_);
       const FileError error =
           temporary.create(path_, target_.isThere ? OpenFor::NewAndPrivate : OpenFor::New);
-      // Without a folder there is no other way either. Where the file is there, so is its folder,
-      // and what is not found is a place for a name that is too long.
-      const bool isGone = error.obstacle == Obstacle::Missing && !target_.isThere;
+      // Without a folder there is no other way either. Where it is there, what is not found is a
+      // place for a name that is too long.
+      const bool isGone = error.obstacle == Obstacle::Missing && !isFolderThere();
       if (error) return {isGone ? Way::Gone : Way::Closed, error};
       temporary_ = temporary.name();
       const Outcome outcome = fillAndPlace(temporary);
@@ -90,6 +90,9 @@ class Replacement {
   }
 
  private:
+  // No name for it is that of the current folder.
+  [[nodiscard]] bool isFolderThere() const { return folder_.empty() || exists(system_, folder_); }
+
   Outcome fillAndPlace(TemporaryFile& temporary) {
     if (const FileError error = fill(temporary.file())) return {Way::Gone, error};
     const FileError error = takePlace();

@@ -45,6 +45,12 @@ const Setting kSettings[] = {
        s.nature.findsNoLongNames = true;
      },
      kOld},
+    {"NoFileWhereNoPlaceIsFoundForLongNames",
+     [](ModelFileSystem& s) {
+       s.nature.shortNames.insert(kFolder);
+       s.nature.findsNoLongNames = true;
+     },
+     kNone},
     {"InTwoSteps",
      [](ModelFileSystem& s) {
        s.makeFile(kFile, kOld);
