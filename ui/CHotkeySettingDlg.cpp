@@ -36,7 +36,7 @@ namespace {
 constexpr unsigned kReturn = 0x0D;
 constexpr unsigned kEscape = 0x1B;
 
-constexpr int kMostToldKeys = 4;  // of those that a load could not use; a tool tip has all
+constexpr int kMostToldKeys = 4;  // that a load could not use; a tool tip lists all
 
 }  // namespace
 
@@ -63,13 +63,13 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
   form_->titleWidget->setFocus();
 }
 
-// The application may quit, or the host hide the window: nobody has confirmed anything then.
+// If the application quits or the host hides the window, nobody has confirmed anything.
 CHotkeySettingDlg::~CHotkeySettingDlg() {
   if (result() == Accepted) return;
   try {
     manager_.cancelChanges();
   } catch (const std::bad_alloc&) {
-    // The registry has back what it had; what the pages show is read again by the next dialog.
+    // The registry has its old content again; the next dialog reads anew what its pages show.
   }
 }
 
@@ -100,7 +100,7 @@ void CHotkeySettingDlg::fillForm() {
   form_->cmbHotkeySetting->addItems(
       {tr("setting group 1"), tr("setting group 2"), tr("setting group 3")});
   const auto index = static_cast<int>(config_.index());
-  // Where the file names a scheme that there is not, none is shown, and each can be chosen.
+  // If the file names a scheme that does not exist, none is shown, and each can be chosen.
   const bool isThere = index < form_->cmbHotkeySetting->count();
   form_->cmbHotkeySetting->setCurrentIndex(isThere ? index : -1);
   form_->chkUseHotkeySettings->setChecked(config_.enable());
@@ -183,7 +183,7 @@ void CHotkeySettingDlg::setMode(Mode mode) {
   form_->btnSwitchDota7->hide();
 }
 
-// No connection leads to the next four; clients know them.
+// Nothing is connected to the next four; clients know them.
 void CHotkeySettingDlg::onSwitchSettingUI() {}
 
 void CHotkeySettingDlg::onSwitchBasicSettingUI() {
@@ -199,7 +199,7 @@ void CHotkeySettingDlg::onSwitchChatWheelSettingUI() {
   chatWheel_->focusFirst();
 }
 
-// A key field that has the focus ends what was begun in it before the changes are counted.
+// A key field that has the focus must finish what was begun in it before the changes count.
 void CHotkeySettingDlg::leaveField() {
   if (QWidget* const field = focusWidget()) field->clearFocus();
 }
@@ -209,7 +209,7 @@ void CHotkeySettingDlg::onClickedOkBtn() {
   // What was begun in the field may be lost: then nothing is confirmed.
   if (guard_->hasFailed()) return;
   manager_.acceptChanges();
-  setResult(Accepted);  // also where the window cannot be closed in order
+  setResult(Accepted);  // even if the window cannot be closed properly
   accept();
 }
 
@@ -235,7 +235,7 @@ bool CHotkeySettingDlg::isConfirmed(int icon, const QString& title, const QStrin
 }
 
 void CHotkeySettingDlg::onResetSetting() {
-  // Catalogues can say what is lost in the second mode.
+  // Catalogues can say what would be lost in the second mode.
   const QString question =
       mode_ == Mode::Platform
           ? tr("After resetting, your modification on basic and advanced settings will lost.\nAre "
@@ -257,7 +257,7 @@ void CHotkeySettingDlg::onUseRecommendedSetting() {
   clearSettings(Mode::Platform, basic_);
 }
 
-// Pages show what is set also while they are hidden.
+// Pages are kept up to date even while they are hidden.
 void CHotkeySettingDlg::showSettings() {
   for (const Page& row : pages_) row.page->showSettings();
 }
@@ -298,7 +298,7 @@ void CHotkeySettingDlg::onShowDota7HotKeySettingDlg() {
   }
 }
 
-// A link is a button for the keyboard: a key clicks it that goes down and up on it.
+// For the keyboard a link is a button: a key that goes down and up on it clicks it.
 bool CHotkeySettingDlg::isLinkClicked(const QLabel& link, const QEvent& event) {
   const auto isItsKey = [&event] {
     const int key = static_cast<const QKeyEvent&>(event).key();
@@ -331,7 +331,7 @@ bool CHotkeySettingDlg::eventFilter(QObject* watched, QEvent* event) {
   return QDialog::eventFilter(watched, event);
 }
 
-// Neither Escape nor Return ends the dialog: both are keys that players try in the fields.
+// Neither Escape nor Return ends the dialog: players try both as keys in the fields.
 void CHotkeySettingDlg::keyPressEvent(QKeyEvent* event) {
   const unsigned key = brennet::virtualKeyOf(*event);
   if (event->matches(QKeySequence::Close) || key == kEscape || key == kReturn) return;
@@ -369,8 +369,8 @@ bool CHotkeySettingDlg::applySkin() {
   return true;
 }
 
-// The page that is not shown would keep the size that it has without the skin, and with it the
-// dialog, which is as large as the larger one.
+// The hidden page would keep the size that it has without the skin, and so would the dialog, which
+// is as large as the larger page.
 void CHotkeySettingDlg::fitToSkin() {
   for (QWidget* const widget : findChildren<QWidget*>()) widget->ensurePolished();
   for (QLayout* const inner : findChildren<QLayout*>()) inner->invalidate();

@@ -29,9 +29,8 @@ class QLabel;
 class QStackedLayout;
 
 // The settings dialog. Its pages write each change into the configuration, or into the registry, at
-// once; OK keeps what is in the registry and Cancel takes it back. What becomes of the
-// configuration is for the caller to decide. In no namespace: style sheets and catalogues know it
-// by this name.
+// once; OK keeps what is in the registry and Cancel undoes it. The caller decides what happens to
+// the configuration. In no namespace: style sheets and catalogues know it by this name.
 class CHotkeySettingDlg : public QDialog {
   Q_OBJECT
 
@@ -40,16 +39,16 @@ class CHotkeySettingDlg : public QDialog {
   CHotkeySettingDlg(brennet::HotkeyConfig& config, brennet::Dota7KeyInfoManager& manager);
   ~CHotkeySettingDlg() override;
 
-  // Where the host keeps Tollamere.reg, the DotA 7 keys of a new player; ends in a path separator.
-  // They are imported if the registry has none. If that cannot be, the way into the DotA 7 mode is
-  // closed.
+  // Where the host keeps Tollamere.reg, the DotA 7 keys of a new player; with or without a path
+  // separator at its end. They are imported if the registry has none. If that fails, the DotA 7
+  // mode is not offered.
   void setDataFolder(std::u16string_view folder);
 
-  // Tells the player, in a strip below the title that he can close, which keys of his settings
-  // could not be used; nothing where there are none.
+  // Tells the player, in a strip below the title that can be closed, which keys of the settings
+  // could not be used; does nothing if there are none.
   void tellDroppedKeys(const brennet::LoadReport& report);
 
-  // The registry gets back what it had. So it does where the dialog is gone without an answer.
+  // The registry gets back what it had, as it does when the dialog goes without an answer.
   void reject() override;
 
  signals:

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kBesideText = 2;  // as a line edit keeps free on each side of its text
+constexpr int kBesideText = 2;  // pixels that a line edit keeps free on each side of its text
 constexpr int kAroundText = 3 * kBesideText;
 
 // What is always shown whole: a short key with its modifiers, and the name of a long one.
@@ -42,7 +42,7 @@ bool CKeyLineEdit::event(QEvent* event) {
   return QLineEdit::event(event);
 }
 
-// A line edit would cut the first letter that does not fit somewhere in its middle.
+// A line edit would cut through the first letter that does not fit.
 void CKeyLineEdit::paintEvent(QPaintEvent* event) {
   const QString shown = shownText();
   if (shown == text()) {

@@ -2,9 +2,9 @@
 
 #include <QLineEdit>
 
-// A line edit for a key: as wide as the text of a key with two modifiers. The few texts that are
-// wider show their end, where the key is, behind an ellipsis, and the whole as tool tip.
-// In no namespace: forms know it by this name.
+// A line edit for a key: as wide as the text of a key with two modifiers. The few wider texts show
+// their end, where the key is, behind an ellipsis, and have the whole as their tool tip. In no
+// namespace: forms know it by this name.
 class CKeyLineEdit : public QLineEdit {
   Q_OBJECT
 

@@ -11,15 +11,15 @@
 
 namespace brennet {
 
-// What a page with fields for keys of the scheme has of its own.
+// What a page with fields for keys of the scheme contributes.
 struct CapturePage {
   CaptureStyle style;
   KeyFieldFilter::Captures captures = [](const QLineEdit&) { return true; };
   // The key that a field of this object name edits, if any.
   std::function<std::optional<KeySlot>(std::u16string_view)> slotOf;
-  // Hears which field a key was pressed in, before the key is stored.
+  // Is told which field a key was pressed in, before the key is stored.
   std::function<void(const QLineEdit&)> trace = [](const QLineEdit&) {};
-  // Tells the player that a key is used already. May run an event loop.
+  // Tells the player that a key is already used. May run an event loop.
   std::function<void()> tellUsed;
 };
 
@@ -35,11 +35,11 @@ class CaptureFields {
   // See KeyFieldFilter. The fields outlive this object.
   void install(const QWidget& window, QObject& page);
 
-  // Shows the keys of the current scheme in all fields that edit one. What was begun with a
-  // lone modifier is forgotten.
+  // Shows the keys of the current scheme in all fields that edit one. Forgets what was begun with a
+  // lone modifier.
   void refresh();
 
-  // For the event filter of the page: whether the event is used up.
+  // For the event filter of the page: whether the event was consumed.
   bool filter(QObject* watched, QEvent* event) { return filter_.filter(watched, event); }
 
  private:

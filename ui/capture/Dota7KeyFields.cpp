@@ -46,7 +46,7 @@ void Dota7KeyFields::install(const QWidget& window, QObject& page) {
 }
 
 void Dota7KeyFields::refresh() {
-  // A lone modifier that is still down is in the store, and goes when it is released.
+  // A lone modifier that is still down has been stored, and is removed when it is released.
   for (const Field& field : fields_) {
     field.field->setText(toQString(manager_->settings().keyText(*field.row)));
   }
@@ -63,7 +63,8 @@ void Dota7KeyFields::take(QLineEdit& field, const Capture& capture) {
     field.setText(textOf(capture.key));
     return;
   }
-  // A paste is kept where it is free, as in all fields; what is shown and told is the same.
+  // As in all fields, a paste is kept if it is free; the field and the message do not depend on
+  // that.
   if (isPasted && config_ != nullptr) makeRoomForPaste(*config_);
   field.clear();
   if (isCaptured) tellUsed_();

@@ -14,26 +14,26 @@ namespace brennet {
 class Dota7KeyInfoManager;
 class HotkeyConfig;
 
-// The fields of a DotA 7 page for keys. Each key is in the registry at once.
+// The key fields of a DotA 7 page. Each key is in the registry at once.
 class Dota7KeyFields {
  public:
-  // `tellUsed` tells the player that a key is used already; it may run an event loop. `config` has
-  // the key of the chat wheel, which a paste takes away; null where there is none. Both `manager`
-  // and `config` outlive this object.
+  // `tellUsed` tells the player that a key is already used; it may run an event loop. `config` has
+  // the key of the chat wheel, which a paste takes away; it may be null. Both `manager` and
+  // `config` outlive this object.
   Dota7KeyFields(Dota7KeyInfoManager& manager, HotkeyConfig* config,
                  std::function<void()> tellUsed);
   Dota7KeyFields(const Dota7KeyFields&) = delete;
   Dota7KeyFields& operator=(const Dota7KeyFields&) = delete;
   ~Dota7KeyFields() = default;
 
-  // See KeyFieldFilter; fields for phrases, which are named alike, take text. The fields outlive
+  // See KeyFieldFilter; fields for phrases, which have similar names, take text. The fields outlive
   // this object.
   void install(const QWidget& window, QObject& page);
 
-  // Shows the keys of the cast mode that is in force.
+  // Shows the keys of the current cast mode.
   void refresh();
 
-  // For the event filter of the page: whether the event is used up.
+  // For the event filter of the page: whether the event was consumed.
   bool filter(QObject* watched, QEvent* event) { return filter_.filter(watched, event); }
 
  private:

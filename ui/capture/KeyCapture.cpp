@@ -31,7 +31,7 @@ Capture KeyCapture::press(const KeyEvent& event) {
   const unsigned code = event.virtualKey;
   if (code == kReturn || code == 0 || code > kLastVirtualKey) return {};
 
-  // Not every system counts a modifier as held while it is being pressed.
+  // Not every system reports a modifier as held in the event of its own press.
   const bool control = event.controlIsHeld || code == kControl;
   const bool alt = event.altIsHeld || code == kAlt;
   Capture capture;

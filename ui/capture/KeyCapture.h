@@ -7,11 +7,11 @@
 
 namespace brennet {
 
-// A press or release of a key, as the window system tells it.
+// A press or release of a key, as the window system reports it.
 struct KeyEvent {
   bool isPress = false;
-  bool isRepeat = false;    // sent by itself while the key is held down
-  unsigned virtualKey = 0;  // Windows virtual-key code; 0: none that this system knows
+  bool isRepeat = false;    // sent automatically while the key is held down
+  unsigned virtualKey = 0;  // Windows virtual-key code; 0: unknown to this system
   bool controlIsHeld = false;
   bool altIsHeld = false;
 };
@@ -21,12 +21,12 @@ struct CaptureStyle {
   std::u16string_view control = u"CTRL +";
   std::u16string_view alt = u"Alt +";
   std::u16string_view beforeName =
-      {};  // between the modifiers and the name, also without modifiers
-  // A lone Ctrl or Alt is a key at once, and no key any more when it is released.
+      {};  // between the modifiers and the name, even without modifiers
+  // A lone Ctrl or Alt is a key at once, and is no longer one when it is released.
   bool modifiersAreKeys = false;
 };
 
-// What a key event comes to for the field that has the focus.
+// What a key event means for the field that has the focus.
 struct Capture {
   enum class Outcome {
     Ignored,   // nothing changes
@@ -43,9 +43,9 @@ struct Capture {
 // Turns key events into keys with their modifiers. One object serves all fields of a page.
 //
 // A lone Ctrl or Alt shows its prefix and waits for the next event: another key completes it, a
-// release or the loss of the focus empties the field. (Where modifiers are keys, it is stored and
-// taken back instead.) Shift is no modifier here, but a key like
-// others. Return does nothing; Backspace and Delete clear.
+// release or the loss of the focus empties the field. (If modifiers are keys, it is stored and
+// taken back instead.) Shift is not a modifier here, but a key like any other. Return does nothing;
+// Backspace and Delete clear the field.
 class KeyCapture {
  public:
   explicit KeyCapture(CaptureStyle style) : style_(style) {}

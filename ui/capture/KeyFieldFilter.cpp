@@ -48,7 +48,7 @@ bool KeyFieldFilter::handle(QObject* watched, QEvent* event) {
   if (field == nullptr || !captures_(*field)) return false;
   switch (event->type()) {
     case QEvent::ShortcutOverride:
-      // The key comes here, whatever it is a shortcut of.
+      // The key comes here, even if it is a shortcut.
       event->accept();
       return true;
     case QEvent::KeyPress:

@@ -12,23 +12,22 @@ class QWidget;
 
 namespace brennet {
 
-// The event filter of line edits that take the next key in the place of text. One object serves
-// all fields of a page; what a key means is the page's.
+// The event filter of line edits that take the next key instead of text. One object serves all
+// fields of a page; the page decides what a key means.
 class KeyFieldFilter {
  public:
   // Whether a field captures keys; the others take text as usual.
   using Captures = std::function<bool(const QLineEdit&)>;
-  // Gets whatever changes a field; never an outcome of Ignored. May run an event loop, at its end.
+  // Gets every outcome that changes a field, never Ignored. May run an event loop, as its last act.
   using OnCapture = std::function<void(QLineEdit&, const Capture&)>;
 
   KeyFieldFilter(CaptureStyle style, Captures captures, OnCapture onCapture);
 
-  // Makes `page` the event filter of all line edits named "edt..." in `window`. Nothing but keys
-  // gets into those that capture them; input methods, which would swallow keys, are off there.
-  // Returns those.
+  // Makes `page` the event filter of all line edits named "edt..." in `window`. Those that capture
+  // keys take nothing else; input methods, which would swallow keys, are off there. Returns those.
   std::vector<QLineEdit*> install(const QWidget& window, QObject& page) const;
 
-  // For the event filter of the page: whether the event is used up.
+  // For the event filter of the page: whether the event was consumed.
   bool filter(QObject* watched, QEvent* event);
 
   // Forgets what was begun with a lone modifier.

@@ -7,8 +7,8 @@
 
 namespace brennet {
 
-// The text of a captured key, in place: a key press is to cost no memory of its own. Holds two
-// modifiers and the longest name of a key with room to spare; what goes beyond that is cut off.
+// The text of a captured key, held in place: a key press must not allocate. Holds two modifiers and
+// the longest name of a key with room to spare; anything longer is cut off.
 class KeyText {
  public:
   static constexpr std::size_t kCapacity = 40;

@@ -10,7 +10,7 @@
 namespace brennet {
 namespace {
 
-// A text of a window, in whose context it is translated.
+// A text of a window, translated in the context of that window.
 struct WindowText {
   const char* context;
   const char* text;
@@ -83,13 +83,13 @@ constexpr SlotName kNames[] = {
      {kWheel, QT_TRANSLATE_NOOP("CChatRouletteSettingWidget", "聊天轮盘热键")}},
 };
 
-// The digit on the keypad is what players know an item by.
+// Players know an item by its digit on the keypad.
 QString itemDigit(int slot) {
   constexpr int kNumpad0 = 0x60;
   return QString::number(kItemSlotCodes[static_cast<std::size_t>(slot)] - kNumpad0);
 }
 
-// The number of the slot among those that the row names; nothing when it is none of them.
+// The number of the slot among those that the row names; nothing if it is not one of them.
 std::optional<int> numberIn(const SlotName& row, KeySlot slot) {
   if (row.first.setting != slot.setting || slot.index < row.first.index) return std::nullopt;
   const int distance = slot.index - row.first.index;

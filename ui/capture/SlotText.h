@@ -15,7 +15,7 @@ namespace brennet {
 [[nodiscard]] QString conflictText(KeyWord key, const KeyConflict& conflict);
 
 // What became of a key of the settings file, in the player's language: "Wheel up: A is Hero skill
-// 1". The setting group is named where it is not `currentScheme` (0 to 2, others count as none).
+// 1". The setting group is named unless it is `currentScheme` (0 to 2; other numbers mean none).
 [[nodiscard]] QString droppedKeyText(const DroppedKey& dropped, int currentScheme);
 
 }  // namespace brennet

@@ -27,7 +27,7 @@ void collect(QLayoutItem& item, Controls& controls) {
   if (QLayout* const inside = holder->layout()) collect(*inside, controls);
 }
 
-// The items of a layout, in the order in which one reads them.
+// The items of a layout, in reading order.
 std::vector<QLayoutItem*> itemsOf(QLayout& layout) {
   std::vector<std::pair<std::pair<int, int>, QLayoutItem*>> placed;
   auto* const grid = qobject_cast<QGridLayout*>(&layout);
@@ -60,8 +60,8 @@ void setTabOrderOfLayouts(QWidget& window) {
   std::stable_partition(controls.begin(), controls.end(), [](const QWidget* control) {
     return qobject_cast<const CKeyLineEdit*>(control) == nullptr;
   });
-  // Qt moves no control that follows already, even round the end of the window to its start: so
-  // something else is the last one there for the moment.
+  // Qt does not move a control that already follows, even across the end of the window to its
+  // start; so something else is made the last one for the moment.
   QWidget last(&window);
   last.setFocusPolicy(Qt::TabFocus);
   for (std::size_t i = 1; i < controls.size(); ++i) {

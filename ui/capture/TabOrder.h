@@ -4,9 +4,8 @@ class QWidget;
 
 namespace brennet {
 
-// Lets Tab go through the controls of a window in the order in which one reads them: as its layouts
-// have them, grids row by row. Key fields come last: each keeps Tab as a key, and nothing behind it
-// would be reached.
+// Lets Tab go through the controls of a window in reading order: as in its layouts, grids row by
+// row. Key fields come last: each takes Tab as a key, so nothing behind it would be reached.
 void setTabOrderOfLayouts(QWidget& window);
 
 }  // namespace brennet

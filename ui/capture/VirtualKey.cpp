@@ -7,7 +7,7 @@
 namespace brennet {
 namespace {
 
-// Keys whose codes follow each other in both worlds.
+// Keys whose codes are consecutive both in Qt and in Windows.
 struct KeyRange {
   int first, last;
   unsigned code;  // of the first

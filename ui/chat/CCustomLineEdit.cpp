@@ -32,7 +32,7 @@ void CCustomLineEdit::dropEvent(QDropEvent* event) {
     int column = 0;
     QMap<int, QVariant> roles;
     items >> row >> column >> roles;
-    // Other programs drag in this format, too, and may end in the middle of an item.
+    // Other programs drag in this format too, and their data may end in the middle of an item.
     if (items.status() != QDataStream::Ok) return;
     setText(roles.value(Qt::DisplayRole).toString());
   }

@@ -5,8 +5,7 @@
 #include <QVector>
 
 // Rows of an index and a content, both texts; only the content can be edited in place. The advanced
-// page shows the quick-chat phrases with it. In no namespace: catalogues of translations know it by
-// this name.
+// page shows the quick-chat phrases with it. In no namespace: catalogues know it by this name.
 class CCustomMsgTableModel : public QAbstractTableModel {
   Q_OBJECT
 
@@ -16,7 +15,7 @@ class CCustomMsgTableModel : public QAbstractTableModel {
   [[nodiscard]] int rowCount(const QModelIndex& parent = QModelIndex()) const override;
   [[nodiscard]] int columnCount(const QModelIndex& parent = QModelIndex()) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-  // Takes the edit role alone, for either column.
+  // Accepts only the edit role, for either column.
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                     int role) const override;

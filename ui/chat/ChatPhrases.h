@@ -4,8 +4,8 @@
 
 namespace brennet {
 
-// A branch of the tree of ready-made phrases. All texts are the keys that the host's catalogue is
-// looked up by; some end in a space, and one stands twice.
+// A branch of the tree of ready-made phrases. All texts are keys of the host's catalogue; some end
+// in a space, and one occurs twice.
 struct PhraseCategory {
   const char* key;
   std::span<const char* const> phrases;

@@ -4,7 +4,7 @@
 
 namespace brennet {
 
-// Makes rows as high as the style sheet wants them, but never lower than their text, which may have
+// Makes rows as high as the style sheet wants, but never lower than their text, which may have
 // several lines. Branches and leaves may differ.
 class PhraseDelegate : public QStyledItemDelegate {
  public:

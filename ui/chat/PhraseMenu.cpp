@@ -22,7 +22,7 @@ struct Entry {
   void (*act)(QLineEdit& field);
   bool (*isPossible)(const QLineEdit& field);
   QKeySequence::StandardKey key;
-  bool opensGroup = false;  // a line stands above it
+  bool opensGroup = false;  // a separator is above it
 };
 
 // Methods of a line edit as plain functions.
@@ -35,7 +35,7 @@ void done(QLineEdit& field) {
   (field.*act)();
 }
 
-// The texts are Qt's, so that a catalogue of Qt's own serves as well as one of this component.
+// The texts are Qt's, so that Qt's own catalogue serves as well as this component's.
 constexpr Entry kEntries[] = {
     {QT_TRANSLATE_NOOP("QLineEdit", "&Undo"), done<&QLineEdit::undo>,
      asked<&QLineEdit::isUndoAvailable>, QKeySequence::Undo},

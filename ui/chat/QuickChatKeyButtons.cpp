@@ -18,7 +18,7 @@ void QuickChatKeyButtons::toggled(int set, bool isChecked) const {
   const bool isChosen = config_->SetQuickChatIndex(static_cast<std::uint32_t>(set));
   check(isChosen ? set : 1 - set);
   if (isChosen) return;
-  // A window that is not shown asks through the one that it belongs to.
+  // A hidden window asks through its parent window.
   QWidget* const window = button(set).window();
   const bool isAside = !window->isVisible() && window->parentWidget() != nullptr;
   tellKeySetIsUsed(isAside ? window->parentWidget() : window);
@@ -28,8 +28,8 @@ QRadioButton& QuickChatKeyButtons::button(int set) const {
   return *buttons_[static_cast<std::size_t>(set)];
 }
 
-// A button that is unchecked by the other one stays as quiet: a scheme that refuses both sets must
-// not send the choice back and forth.
+// The button that this unchecks is silent too: a scheme that refuses both sets must not send the
+// choice back and forth.
 void QuickChatKeyButtons::check(int set) const {
   const QSignalBlocker quietOne(&button(0));
   const QSignalBlocker quietOther(&button(1));

@@ -17,16 +17,16 @@ class QuickChatKeyButtons {
   QuickChatKeyButtons(Buttons buttons, HotkeyConfig& config)
       : buttons_(buttons), config_(&config) {}
 
-  // Checks what the current scheme has chosen. Stores nothing.
+  // Checks the button that the current scheme has chosen. Stores nothing.
   void refresh() const;
 
-  // To be called when the button of `set` was toggled. A checked set is stored; when one of its
-  // keys is used otherwise, the other button is checked again and the player is told.
+  // To be called when the button of `set` was toggled. A checked set is stored; if one of its keys
+  // is used for something else, the other button is checked again and the player is told.
   void toggled(int set, bool isChecked) const;
 
  private:
   [[nodiscard]] QRadioButton& button(int set) const;
-  // Checks the button and lets nobody know: nothing was chosen.
+  // Checks the button without a signal: the player has chosen nothing.
   void check(int set) const;
 
   Buttons buttons_;

@@ -8,16 +8,16 @@
 namespace brennet {
 namespace {
 
-// Less than this is no distance, but what is left of rounding.
+// A smaller distance is only a rounding error.
 constexpr double kNothing = 1e-9;
 
-// Where an item stands on a circle with a diameter of 1 around the origin.
+// Where an item is on a circle with a diameter of 1 around the origin.
 QPointF placeOf(std::size_t item, std::size_t count) {
   const double angle = 2 * M_PI * static_cast<double>(item) / static_cast<double>(count);
   return {std::sin(angle) / 2, -std::cos(angle) / 2};
 }
 
-// The distances of each two places, across and down.
+// The distances between every two places, across and down.
 std::vector<QSizeF> distances(std::size_t count) {
   std::vector<QSizeF> found;
   for (std::size_t i = 0; i < count; ++i) {
@@ -66,8 +66,8 @@ QSize RingLayout::cell() const {
   return size;
 }
 
-// Items at the same height need room beside each other. So much is enough for others too, or else
-// they need room above each other.
+// Items at the same height need room beside each other. Any other pair without that room needs room
+// above each other.
 QSizeF RingLayout::ringFor(QSize cell) const {
   const int space = std::max(spacing(), 0);
   const QSizeF room(cell.width() + space, cell.height() + space);

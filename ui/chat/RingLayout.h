@@ -7,14 +7,14 @@
 
 namespace brennet {
 
-// Places its items around a picture in the middle: their centres stand on an ellipse, the first one
-// at the top and the others clockwise, with the same angle from each to the next. All have the size
-// that the largest asks for. The ellipse is no larger than asked for, unless items would overlap.
+// Places its items around a picture in the middle: their centres are on an ellipse, the first one
+// at the top and the others clockwise, at equal angles. All get the size that the largest asks for.
+// The ellipse is no larger than requested, unless items would overlap.
 //
-// Where there is more room than the ring takes, it stays in the middle of it, as the picture does.
+// If there is more room than the ring takes, it stays in the middle, as the picture does.
 class RingLayout : public QLayout {
  public:
-  // Room is kept for `picture`; `ring` are the two axes of the ellipse.
+  // Room is kept for `picture`; `ring` holds the two axes of the ellipse.
   RingLayout(QSize picture, QSize ring, QWidget* parent);
   ~RingLayout() override;
 

@@ -21,7 +21,7 @@ constexpr int kPhraseWidth = 410;
 constexpr std::uint8_t kPrintScreen = 0x2C;
 constexpr int kKeyColumns[] = {1, 3};
 
-// A field is wide enough for the longest text of a key, with room for its frame.
+// A field is wide enough for the longest key text and its frame.
 int keyFieldWidth(const QFontMetrics& metrics) {
   constexpr brennet::KeyWord longest(kPrintScreen,
                                      brennet::KeyWord::kCtrl | brennet::KeyWord::kAlt);
@@ -66,9 +66,9 @@ void CAdvancedSettingWidget::buildTable() {
   table.setModel(phrases_);
   table.horizontalHeader()->setSectionResizeMode(kLabelColumn, QHeaderView::ResizeToContents);
   table.setColumnWidth(kPhraseColumn, kPhraseWidth);
-  // A phrase that is too long for one line goes on in the next.
+  // A phrase that is too long for one line wraps.
   table.verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  // On a small screen half of it is enough: it scrolls.
+  // On a small screen half of the height is enough: the table scrolls.
   table.setMinimumHeight(table.sizeHint().height() / 2);
 }
 
@@ -89,7 +89,7 @@ void CAdvancedSettingWidget::showSettings() {
   refreshPhrases();
 }
 
-// The table has to hear of the texts, so the signal cannot be blocked.
+// The table has to be told of the texts, so the signal cannot be blocked.
 void CAdvancedSettingWidget::refreshPhrases() {
   const QScopedValueRollback<bool> filling(isFillingTable_, true);
   const brennet::Phrases& phrases = config_.scheme().QuickChat;
@@ -121,7 +121,7 @@ void CAdvancedSettingWidget::onToggled_ChatKey_2(bool bChecked) {
   toggleQuickChatKeys(1, bChecked);
 }
 
-// A refused choice has been taken back by then: nobody is to follow it.
+// A refused choice has been undone by then: nobody must follow it.
 void CAdvancedSettingWidget::toggleQuickChatKeys(int set, bool isChecked) {
   chatKeys_.toggled(set, isChecked);
   const QRadioButton& button = set == 0 ? *form_->optChatKey_1 : *form_->optChatKey_2;

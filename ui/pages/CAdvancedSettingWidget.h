@@ -21,7 +21,7 @@ class CAdvancedSettingWidget;
 
 // The advanced page: what the keypad stands for, the quick-chat phrases with their keys, and the
 // keys of five features. Every edit is stored in the current scheme at once. In no namespace:
-// catalogues of translations know it by this name.
+// catalogues know it by this name.
 class CAdvancedSettingWidget : public QWidget, public brennet::SettingPage {
   Q_OBJECT
 
@@ -33,8 +33,8 @@ class CAdvancedSettingWidget : public QWidget, public brennet::SettingPage {
   // The row of a phrase that the scheme lacks stays as it is.
   void showSettings() override;
 
-  // Calls `follow` where the player has chosen quick-chat key set 0 or 1, or has left it. No
-  // signal: clients know those of the page by their places.
+  // Calls `follow` when the player has chosen quick-chat key set 0 or 1, or has left it. Not a
+  // signal, because clients know the page's signals by their places.
   using Follow = std::function<void(int set, bool isChosen)>;
   void tellOfQuickChatKeys(Follow follow) { followQuickChatKeys_ = std::move(follow); }
 

@@ -16,7 +16,7 @@
 
 using brennet::HotkeyScheme;
 
-// A switch of the game. The ones that clients know have slots; a new one needs none.
+// A switch of the game. Those that clients know have slots; a new one needs none.
 struct CBasicSetting7Widget::Option {
   const char* objectName;
   const char* text;
@@ -52,7 +52,7 @@ brennet::KeyRowTexts rowTexts() {
 std::span<const CBasicSetting7Widget::Option> CBasicSetting7Widget::options() {
   using Page = CBasicSetting7Widget;
   using Scheme = HotkeyScheme;
-  // Column by column; the switches with a key stand in the first one.
+  // Column by column; the switches with a key are in the first one.
   static const Option kOptions[] = {
       {"chkLockMouse", QT_TRANSLATE_NOOP("CHotkeySettingPage", "窗口模式锁定鼠标"),
        &Scheme::LockMouseFlag, &Page::onToggled_LockMouse, "edtWinLockMouse"},
@@ -89,12 +89,12 @@ CBasicSetting7Widget::CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidge
   connectSwitches();
   connectButtons();
   fields_.install(*this, *this);
-  // The Orrery window has no rules of its own: its keys are captured here.
+  // The Orrery window has no logic of its own: its keys are captured here.
   fields_.install(*orrery_, *this);
   CBasicSetting7Widget::showSettings();
 }
 
-// The Orrery window sends its events here to the end.
+// The Orrery window sends its events here until it is gone.
 CBasicSetting7Widget::~CBasicSetting7Widget() {
   orrery_.reset();
 }
@@ -165,7 +165,7 @@ void CBasicSetting7Widget::connectButtons() {
   }
 }
 
-// Where the file names a scheme that there is not, nothing typed here would be kept.
+// If the file names a scheme that does not exist, nothing entered here would be kept.
 void CBasicSetting7Widget::enableEdits() {
   const bool hasScheme = config_.editableScheme() != nullptr;
   for (QGroupBox* const group : findChildren<QGroupBox*>()) group->setEnabled(hasScheme);
@@ -195,7 +195,8 @@ void CBasicSetting7Widget::refreshMarks() {
 void CBasicSetting7Widget::clearSettings() {
   if (HotkeyScheme* const scheme = config_.editableScheme()) {
     brennet::resetScheme(*scheme);
-    // A reset of a scheme spares these; a player who clears the page sees them here, and means all.
+    // A reset of a scheme spares these; but a player who clears the page sees them, and means them
+    // too.
     scheme->HeroSkillAutocast = {};
     scheme->ItemAutocast = {};
     scheme->DisableLeftAlt = 0;
@@ -223,7 +224,7 @@ bool CBasicSetting7Widget::eventFilter(QObject* watched, QEvent* event) {
   return fields_.filter(watched, event) || QWidget::eventFilter(watched, event);
 }
 
-// What the Orrery window edits belongs to the page: it goes with it, but not when it is iconified.
+// What the Orrery window edits belongs to the page: it is hidden with it, unless that is minimized.
 void CBasicSetting7Widget::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
   if (!event->spontaneous()) orrery_->hide();
@@ -239,7 +240,7 @@ void CBasicSetting7Widget::onToggled_LockMouse(bool bChecked) {
 
 void CBasicSetting7Widget::onToggled_ShowFriendBlood(bool bChecked) {
   switches_.store(&HotkeyScheme::ShowFBloodFlag, bChecked);
-  // Mana is not shown without health. The check box tells onToggled_ShowFirendMana.
+  // Mana is not shown without health. The check box notifies onToggled_ShowFirendMana.
   if (!bChecked) orrery_->manaBox().setChecked(false);
 }
 
@@ -300,7 +301,7 @@ void CBasicSetting7Widget::onClickedDota7SettingBtn() {
   emit showDota7SettingDlg();
 }
 
-// The quick-chat window is one of the hotkey windows, and comes by their signal.
+// The quick-chat window is one of the hotkey windows, and is opened by their signal.
 void CBasicSetting7Widget::onClickedTalkSettingBtn() {
   emit showHotKeySettingDlg();
 }

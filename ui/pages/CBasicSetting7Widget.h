@@ -20,7 +20,7 @@ class QGridLayout;
 class QPushButton;
 
 // The basic page: the keys of hero skills, items, remaps and the mouse wheel, the switches of the
-// game, and the ways to the other windows. Each change is in the current scheme at once.
+// game, and the buttons that open the other windows. Each change is in the current scheme at once.
 class CBasicSetting7Widget : public QWidget, public brennet::SettingPage {
   Q_OBJECT
 
@@ -31,12 +31,12 @@ class CBasicSetting7Widget : public QWidget, public brennet::SettingPage {
 
   // Here and in the Orrery window.
   void showSettings() override;
-  // Takes away all that the page shows, and what else a reset takes, from the current scheme.
+  // Clears everything that the page shows, and whatever else a reset clears, in the current scheme.
   void clearSettings() override;
   // Resets the current scheme and puts the recommended keys into it (RecommendedScheme.h).
   void useRecommended();
 
-  // Whether the page shows the way into the DotA 7 mode.
+  // Whether the page has the button for the DotA 7 mode.
   void setDota7Offered(bool offered);
 
   // Which setting the field of this name edits; writes a trace line.

@@ -85,7 +85,7 @@ void CBasicSettingWidget::onToggled_LockMouse(bool bChecked) {
 
 void CBasicSettingWidget::onToggled_ShowFriendBlood(bool bChecked) {
   switches_.store(&HotkeyScheme::ShowFBloodFlag, bChecked);
-  // Mana is not shown without health. The check box tells onToggled_ShowFirendMana.
+  // Mana is not shown without health. The check box notifies onToggled_ShowFirendMana.
   if (!bChecked) form_->chkShowFirendMana->setChecked(false);
 }
 

@@ -13,8 +13,8 @@ class CBasicSettingWidget;
 }
 
 // The basic page as it was before the command card had twelve keys: seven skills, one group remap,
-// and no ways to other windows. The dialog still makes it, for hosts that look for it, and never
-// shows it.
+// and no buttons for other windows. The dialog still makes it, for hosts that look for it, and
+// never shows it.
 class CBasicSettingWidget : public QWidget {
   Q_OBJECT
 

@@ -21,19 +21,19 @@
 
 namespace {
 
-// Of the wheel's picture, which the style sheet puts that much above the middle; and of the ring of
-// slots, which leaves the hub free and the rim of the picture to be seen.
-// Pixels that the skin moves the phrases to the right, once the tree wears it.
+// Pixels by which the skin indents the phrases, once the tree has it.
 constexpr int kSkinIndent = 13;
 
+// The wheel's picture; the room below it, as the style sheet moves it up by that much; and the ring
+// of slots, which leaves the hub of the picture free and its rim visible.
 constexpr QSize kPicture(380, 380);
 constexpr int kRoomBelow = 80;
 constexpr QSize kRing(340, 300);
 
-// How many characters can be read at once, at least.
+// The least number of characters to be read without scrolling.
 constexpr int kSlotCharacters = 12;
 constexpr int kTreeCharacters = 24;
-constexpr char kLongestKey[] = "CTRL + Alt + PRINT SCREEN MMM";  // and room for the frame
+constexpr char kLongestKey[] = "CTRL + Alt + PRINT SCREEN MMM";  // MMM: room for the frame
 constexpr char16_t kWideCharacter = u'\u4E2D';
 
 int widthOf(int characters, const QWidget& page) {
@@ -53,7 +53,8 @@ QString translated(const char* key) {
   return text.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
 }
 
-// A phrase may be longer than its field: that shows the beginning, and all of it as a tool tip.
+// A phrase may be longer than its field, which then shows the beginning, and all of it as a tool
+// tip.
 void showFromStart(QLineEdit& field) {
   const QString text = field.text();
   field.setCursorPosition(0);
@@ -85,8 +86,8 @@ CChatRouletteSettingWidget::~CChatRouletteSettingWidget() = default;
 void CChatRouletteSettingWidget::makeSlots() {
   auto* const ring = new brennet::RingLayout(kPicture, kRing, form_->ChatWheel);
   ring->setContentsMargins(0, 0, 0, kRoomBelow);
-  // In two steps, since Qt sees no difference between an order and one that starts elsewhere: the
-  // slots go behind the key, before the check box, and then the key goes behind them.
+  // In two steps, since Qt cannot tell an order from its rotation: the slots go behind the key,
+  // before the check box, and then the key goes behind them.
   QWidget* before = form_->edtChatWheelKey;
   for (int n = 1; n <= brennet::kPhrases; ++n) {
     auto* const field = new CCustomLineEdit(form_->ChatWheel);
@@ -104,7 +105,7 @@ void CChatRouletteSettingWidget::makeSlots() {
     slots_.push_back(field);
   }
   setTabOrder(before, form_->edtChatWheelKey);
-  // In its own letters: those of phrases may come from another font.
+  // Measured in the letters of key texts: those of phrases may come from another font.
   form_->edtChatWheelKey->setMinimumWidth(
       fontMetrics().horizontalAdvance(QLatin1String(kLongestKey)));
 }
@@ -120,8 +121,8 @@ void CChatRouletteSettingWidget::fillTree() {
   form_->ChatPhrases->setMinimumWidth(widthOf(kTreeCharacters, *this));
   form_->ChatPhrases->setItemDelegate(new brennet::PhraseDelegate(form_->ChatPhrases));
   form_->ChatPhrases->expandAll();
-  // As wide as the widest phrase: there is a scroll bar where that is wider than the tree. Once is
-  // enough, as the phrases stay; the header would measure them each time that anything changes.
+  // As wide as the widest phrase, with a scroll bar if that is wider than the tree. Once is enough,
+  // as the phrases never change; the header would measure them again at every change.
   form_->ChatPhrases->resizeColumnToContents(0);
   form_->ChatPhrases->header()->setMinimumSectionSize(form_->ChatPhrases->columnWidth(0) +
                                                       kSkinIndent);
@@ -149,7 +150,7 @@ void CChatRouletteSettingWidget::showSettings() {
   for (std::size_t n = 0; n < slots_.size(); ++n) {
     const auto& phrase = config_.scheme().ChatWheel[n];
     if (!phrase) continue;
-    // What is stored may be longer than what would be stored of it.
+    // The stored phrase may be longer than the part of it that would be stored now.
     const QSignalBlocker blocker(slots_[n]);
     slots_[n]->setText(brennet::toQString(*phrase));
     showFromStart(*slots_[n]);

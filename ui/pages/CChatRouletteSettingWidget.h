@@ -17,7 +17,7 @@ class CChatRouletteSettingWidget;
 
 // The chat wheel page: the eight phrases of the current scheme around a wheel, ready-made phrases
 // to click or to drag onto them, and the key that opens the wheel in game. All changes are stored
-// at once. In no namespace: the style sheet and catalogues of translations know it by this name.
+// at once. In no namespace: the style sheet and catalogues know it by this name.
 class CChatRouletteSettingWidget : public QWidget, public brennet::SettingPage {
   Q_OBJECT
 
@@ -34,13 +34,14 @@ class CChatRouletteSettingWidget : public QWidget, public brennet::SettingPage {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  // Takes every drag, so that the mouse shows on the whole page that there is a place to drop.
+  // Accepts every drag, so that the mouse pointer shows on the whole page that there is a place to
+  // drop.
   void dragEnterEvent(QDragEnterEvent* event) override;
 
  public slots:
   // Stores the text of the field that sent the signal, cut to the length of a phrase.
   void OnChatPhraseChanged();
-  // Puts the phrase into the slot that has the focus, if one has.
+  // Puts the phrase into the slot that has the focus, if there is one.
   void onChatPhraseSelected(QTreeWidgetItem* item, int col);
   void onToggled_ShowFMana(bool bChecked);
 

@@ -18,7 +18,7 @@ using brennet::Dota7Cast;
 
 namespace {
 
-// What stands before the keys of units, in columns, top to bottom.
+// The labels of the keys for units, in columns, top to bottom.
 constexpr const char* kUnitLabels[] = {
     QT_TRANSLATE_NOOP("CDotA7BasicSetting", "移动"),
     QT_TRANSLATE_NOOP("CDotA7BasicSetting", "保持原地"),
@@ -42,7 +42,7 @@ constexpr const char* kUnitLabels[] = {
 static_assert(std::size(kUnitLabels) == brennet::kDota7UnitKeys);
 constexpr int kUnitColumns = 3;
 
-// Before those of items: two in a row, as the inventory has them.
+// Those of the keys for items: two in a row, as in the inventory.
 constexpr const char* kItemLabels[] = {
     QT_TRANSLATE_NOOP("CDotA7BasicSetting", "1-"),    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "2-"),
     QT_TRANSLATE_NOOP("CDotA7BasicSetting", "3-"),    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "4-"),
@@ -71,7 +71,7 @@ void addRow(QGridLayout& grid, int row, int column, const char* labelText,
   grid.addWidget(field, row, 2 * column + 1);
 }
 
-// Six abilities behind the button of their cast mode.
+// Six abilities after the button of their cast mode.
 void addSkills(QGridLayout& grid, int row, Dota7Cast cast, const QString& what) {
   int column = 1;
   for (const brennet::Dota7KeyField& key : brennet::dota7SkillKeys(cast)) {
@@ -153,7 +153,7 @@ void CDotA7BasicSetting::showValues() {
   fields_.refresh();
 }
 
-// From now on the fields with two pairs of values show and edit those of this mode.
+// From now on the fields with two pairs of values show and edit the pair of this mode.
 void CDotA7BasicSetting::setCast(Dota7Cast cast) {
   manager_.settings().setCast(cast);
   fields_.refresh();
@@ -188,7 +188,7 @@ void CDotA7BasicSetting::onClickedSDoubleClickHero() {
   store(*form_->chk_SDoubleClickHero);
 }
 
-// Who switches one mode off has the other one: one of the two is always in force.
+// Switching one mode off switches the other one on.
 void CDotA7BasicSetting::onClickedNormal() {
   const bool isNormal = form_->chk_Normal->isChecked();
   form_->chk_QuickUse->setChecked(!isNormal);

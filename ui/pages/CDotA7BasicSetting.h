@@ -15,19 +15,19 @@ class CDotA7BasicSetting;
 class QAbstractButton;
 
 // The page of the DotA 7 mode: keys and options that the map reads from the registry. Each change
-// is there at once. In no namespace: catalogues of translations know it by this name.
+// is there at once. In no namespace: catalogues know it by this name.
 class CDotA7BasicSetting : public QWidget, public brennet::SettingPage {
   Q_OBJECT
 
  public:
-  // `manager` outlives the page, as does `config`, whose chat wheel loses its key to a paste; null
-  // where there is none. Reads the registry; the cast mode is the normal one.
+  // `manager` outlives the page, as does `config`, whose chat wheel loses its key to a paste;
+  // `config` may be null. Reads the registry; the cast mode is the normal one.
   CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QWidget* parent,
                      brennet::HotkeyConfig* config = nullptr);
   ~CDotA7BasicSetting() override;
 
-  // Reads the registry again and shows what it holds. What was recorded is in the registry already;
-  // Cancel can still take it back.
+  // Reads the registry again and shows what it holds. What was recorded is already in the registry;
+  // Cancel can still undo it.
   void showSettings() override;
   // Gives all keys and options their defaults: no key, off, normal cast.
   void clearSettings() override;

@@ -15,7 +15,7 @@ COrrerySettingDlg::COrrerySettingDlg(QWidget* parent)
   brennet::setTabOrderOfLayouts(*this);
   setWindowFlag(Qt::FramelessWindowHint);
   setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
-  // Without its skin the window is plain, and as usable.
+  // Without its skin the window is plain, but just as usable.
   brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"));
   connect(form_->chkShowFriendsMana, &QCheckBox::toggled, this,
           &COrrerySettingDlg::chkShowFriendsMana);

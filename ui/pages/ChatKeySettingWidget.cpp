@@ -19,7 +19,7 @@ constexpr char16_t kWideCharacter = u'\u4E2D';
 
 std::unique_ptr<Ui::ChatKeySettingWidget> makeForm(QDialog& dialog) {
   auto form = brennet::formOn<Ui::ChatKeySettingWidget>(dialog);
-  // The longest phrase can be read whole, in any font; two characters more are for the frame.
+  // Room for the whole of the longest phrase, in any font; two more characters are for the frame.
   const QString longest(static_cast<int>(brennet::kPhraseUnits) + 2, QChar(kWideCharacter));
   form->phraseLayout->setColumnMinimumWidth(kFieldColumn,
                                             dialog.fontMetrics().horizontalAdvance(longest));
@@ -37,7 +37,7 @@ ChatKeySettingWidget::ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidge
                 .slotOf = [](std::u16string_view) { return std::nullopt; },
                 .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
                config) {
-  // The labels have numbers only, which say little to who does not see them in a column.
+  // The labels are mere numbers, which say little to somebody who cannot see the column.
   for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
     field(n).setAccessibleName(tr("喊话 %1").arg(n + 1));
     brennet::offerPhraseMenu(field(n));
@@ -65,7 +65,7 @@ void ChatKeySettingWidget::showSettings() {
   QString text;
   for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
     const auto& phrase = config_.scheme().QuickChat[n];
-    // What was found for one field is kept for those behind it that find nothing.
+    // A phrase found for one field is kept for those after it that find none.
     if (phrase) text = brennet::toQString(*phrase);
     field(n).setText(text);
   }
@@ -73,7 +73,7 @@ void ChatKeySettingWidget::showSettings() {
 
 void ChatKeySettingWidget::clearSettings() {
   form_->optChatKey_2->setChecked(true);
-  // The button says nothing if it was checked already, whatever the scheme has by now.
+  // The button sends no signal if it was already checked, whatever the scheme has by now.
   config_.SetQuickChatIndex(kAltFunctionKeys);
   brennet::HotkeyScheme* const scheme = config_.editableScheme();
   for (std::size_t n = 0; n < brennet::kPhrases; ++n) {

@@ -14,8 +14,8 @@ class ChatKeySettingWidget;
 }
 
 // The quick-chat dialog: the eight phrases of the current scheme, which OK stores, and the keys
-// that send them, which are stored at once. In no namespace: style sheets and catalogues of
-// translations know it by this name.
+// that send them, which are stored at once. In no namespace: style sheets and catalogues know it by
+// this name.
 class ChatKeySettingWidget : public brennet::MovableDialog, public brennet::SettingPage {
   Q_OBJECT
 
@@ -28,11 +28,11 @@ class ChatKeySettingWidget : public brennet::MovableDialog, public brennet::Sett
   void showSettings() override;
 
   // Chooses Alt+F1 to Alt+F8 and empties all phrases, in the fields and in the current scheme.
-  // Where one of these keys is used otherwise, the player is told and the choice stays.
+  // If one of these keys is used for something else, the player is told and the choice stays.
   void clearSettings() override;
 
  protected:
-  // Captures keys as the pages do, without a setting to store them in. Nothing has this filter: the
+  // Captures keys as the pages do, without a setting to store them in. Installed on nothing: the
   // fields take text.
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -10,15 +10,15 @@ namespace Ui {
 class Dota7ChatKeySettingWidget;
 }
 
-// The chat dialog of the DotA 7 mode: phrases that keys send, and phrases that are said when a game
+// The chat dialog of the DotA 7 mode: phrases that keys send, and phrases that are sent when a game
 // starts. Phrases are stored when the owner asks for it, keys at once. In no namespace: style
-// sheets and catalogues of translations know it by this name.
+// sheets and catalogues know it by this name.
 class Dota7ChatKeySettingWidget : public brennet::MovableDialog, public brennet::SettingPage {
   Q_OBJECT
 
  public:
   // `manager` outlives the dialog, as does `config`, whose chat wheel loses its key to a paste;
-  // null where there is none. Reads the registry.
+  // `config` may be null. Reads the registry.
   Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManager& manager, QWidget* parent,
                             brennet::HotkeyConfig* config = nullptr);
   ~Dota7ChatKeySettingWidget() override;

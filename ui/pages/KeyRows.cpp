@@ -42,7 +42,7 @@ constexpr int kInARow = 2;
 constexpr int kColumnsOfOne = 5;
 constexpr int kGapColumn = kColumnsOfOne - 1;
 
-// What stands between the keys that are pressed, and before the one that is sent.
+// The signs between the keys that are pressed, and before the one that is sent.
 QString plus() {
   return QStringLiteral("+");
 }
@@ -50,7 +50,7 @@ QString arrow() {
   return QStringLiteral(u"\u2192");
 }
 
-// The same columns in all grids of a page that are of one width: what is left goes to the keys.
+// The same columns in all grids of one width on a page: the keys get the remaining room.
 void setRemapColumns(QGridLayout& grid) {
   QLabel widest(arrow());
   for (int column = 0; column < kInARow * kColumnsOfOne - 1; ++column) {
@@ -62,7 +62,7 @@ void setRemapColumns(QGridLayout& grid) {
   grid.setColumnMinimumWidth(kGapColumn, 2 * grid.horizontalSpacing());
 }
 
-// The keys of a group remap, with what stands between them.
+// The keys of a group remap, with the signs between them.
 QWidgetList newGroup(const QString& prefix, int sources, const KeyRowTexts& texts) {
   QWidgetList widgets;
   for (int number = 1; number <= sources; ++number) {
@@ -139,7 +139,7 @@ void addGroupRow(QGridLayout& grid, const QString& prefix, int sources, const Ke
     grid.addWidget(widget, 0, column++);
   }
   setRemapColumns(grid);
-  // A column with nothing in it has no space behind it.
+  // An empty column has no spacing after it.
   grid.setColumnMinimumWidth(0, grid.columnMinimumWidth(0) + grid.horizontalSpacing());
 }
 

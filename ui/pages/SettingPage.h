@@ -13,8 +13,8 @@ class SettingPage {
   // Shows what is set now, in the current scheme or in the registry. Stores nothing.
   virtual void showSettings() = 0;
 
-  // Takes away what the player set on this page, and shows that. A page whose settings another page
-  // of the mode has taken away already only shows it.
+  // Clears what the player set on this page, and shows that. A page whose settings another page of
+  // the mode has already cleared only shows it.
   virtual void clearSettings() { showSettings(); }
 };
 

@@ -20,10 +20,10 @@ class SwitchBoxes {
 
   void add(QCheckBox& box, Switch field) { rows_.push_back({&box, field}); }
 
-  // Checks what the current scheme has on. Stores nothing.
+  // Checks the boxes of the switches that are on in the current scheme. Stores nothing.
   void refresh() const;
 
-  // Stores a switch; nothing where the current scheme cannot be changed.
+  // Stores a switch; does nothing if the current scheme cannot be changed.
   void store(Switch field, bool isOn) const;
 
  private:
