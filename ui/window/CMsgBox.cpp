@@ -80,7 +80,7 @@ CMsgBox::CMsgBox(Icon icon, const QString& title, const QString& text, StandardB
   fit_ = new brennet::ScreenFit(*this);
   applySkin();
   buildTitleStrip();
-  // The panel of the buttons is visible, so they stand in its middle.
+  // The panel of the buttons is visible, so they are centred in it.
   const int below = layout()->contentsMargins().bottom() - kBorder;
   if (QWidget* const panel = buttonPanel()) panel->setContentsMargins(0, below, 0, 0);
 }
@@ -88,7 +88,7 @@ CMsgBox::CMsgBox(Icon icon, const QString& title, const QString& text, StandardB
 CMsgBox::StandardButton CMsgBox::showMessage(QWidget* parent, Icon icon, const QString& title,
                                              const QString& text, StandardButtons buttons,
                                              StandardButton defaultButton) {
-  // While it runs, its parent may go and take it along.
+  // While it runs, its parent may be destroyed and the box with it.
   const QPointer<CMsgBox> box =
       new CMsgBox(icon, title, text, NoButton, parent,
                   Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::FramelessWindowHint);
@@ -117,14 +117,14 @@ void CMsgBox::setButtonTexts() {
     auto* const pushButton = qobject_cast<QPushButton*>(button(row.button));
     if (pushButton == nullptr) continue;
     pushButton->setText(translated(row.text));
-    pushButton->setIcon({});  // some desktops have one, for which the width leaves no room
+    pushButton->setIcon({});  // some desktops add one, for which there is no room
     pushButton->setFixedWidth(widthFor(*pushButton));
   }
 }
 
 void CMsgBox::applySkin() {
   if (brennet::loadStyleSheet(*this, QStringLiteral(":/skin/msgbox.qss"))) return;
-  // A box of the skin would fail in the same way.
+  // A skinned box would fail in the same way.
   QMessageBox plain(Critical, tr("error"), tr("failed to read qss file"), Ok, parentWidget());
   brennet::runWindow(plain);
 }
@@ -159,14 +159,14 @@ brennet::DraggableWindow CMsgBox::dragged() const {
 }
 
 // QMessageBox makes a new layout whenever its icon or its texts change, so the strip joins the one
-// that is shown. The place of a menu bar is above everything else, over the whole width.
+// that is shown. The place of the menu bar is above everything else, across the whole width.
 void CMsgBox::showEvent(QShowEvent* event) {
   layout()->setMenuBar(titleStrip());
   QMessageBox::showEvent(event);
   fit_->comeUp(*event);
 }
 
-// The panel of the buttons goes on to the edges of the box, as far as its border.
+// The panel of the buttons extends to the border of the box.
 void CMsgBox::paintEvent(QPaintEvent* event) {
   QMessageBox::paintEvent(event);
   QWidget* const buttons = buttonPanel();

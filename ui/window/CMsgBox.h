@@ -8,8 +8,7 @@ class ScreenFit;
 }  // namespace brennet
 
 // The message box of all settings windows: a QMessageBox in the skin, without the system's frame,
-// with a title strip of its own. It is in no namespace, because style sheets and catalogues of
-// translations know it by this name.
+// with a title strip of its own. In no namespace: style sheets and catalogues know it by this name.
 class CMsgBox : public QMessageBox {
   Q_OBJECT
 
@@ -18,14 +17,14 @@ class CMsgBox : public QMessageBox {
           QWidget* parent = nullptr,
           Qt::WindowFlags flags = Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
 
-  // Shows a box and waits for the answer: the button that was clicked, or NoButton when the box was
-  // closed by its close button. `defaultButton` is the one that Return clicks; without it, the
-  // first one that accepts.
+  // Shows a box and returns the answer: the button that was clicked, or NoButton when the box was
+  // closed by its close button. Return clicks `defaultButton`; without one, the first button that
+  // accepts.
   static StandardButton showMessage(QWidget* parent, Icon icon, const QString& title,
                                     const QString& text, StandardButtons buttons = Ok,
                                     StandardButton defaultButton = NoButton);
 
-  // Gives the standard buttons that the box has their texts, and the widths that go with them.
+  // Gives the standard buttons of the box their texts, and widths to match.
   void setButtonTexts();
 
  protected:

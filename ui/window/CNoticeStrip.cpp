@@ -7,8 +7,8 @@
 
 namespace {
 
-// A tool tip shows what looks like markup as that, whoever has written it, and reads the pictures
-// that it names.
+// A tool tip renders whatever looks like markup, whoever wrote it, and reads the pictures that it
+// names.
 QString plainToolTip(const QString& text) {
   QString markup = text.toHtmlEscaped();
   markup.replace(QLatin1Char('\n'), QLatin1String("<br>"));
@@ -24,7 +24,7 @@ CNoticeStrip::CNoticeStrip(const QString& text, const QString& details, QWidget*
   label->setObjectName(QStringLiteral("lblNotice"));
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
-  // As wide as the window is without it.
+  // As wide as the window would be without it.
   label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
   label->setToolTip(plainToolTip(details));
   label->setAccessibleDescription(details);
@@ -40,7 +40,7 @@ CNoticeStrip::CNoticeStrip(const QString& text, const QString& details, QWidget*
   });
 
   auto* const row = new QHBoxLayout(this);
-  row->setContentsMargins(10, 4, 10, 4);  // as the title above has
+  row->setContentsMargins(10, 4, 10, 4);  // like the title above
   row->addWidget(label, 1);
   row->addWidget(close, 0, Qt::AlignTop);
 }

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kBeside = 12;  // pixels of what is around, so that one sees that there is more
+constexpr int kBeside = 12;  // pixels of the surroundings, to show that there is more
 
 }  // namespace
 
@@ -24,7 +24,8 @@ CPageScroller::CPageScroller(QWidget* parent) : QScrollArea(parent) {
   });
 }
 
-// What is inside goes later, and may have the focus still: nobody must be told of that any more.
+// The widgets inside are destroyed later, and may still have the focus: that must not be followed
+// any more.
 CPageScroller::~CPageScroller() {
   disconnect(focus_);
 }
@@ -38,7 +39,7 @@ void CPageScroller::setLimit(QSize limit) {
 QSize CPageScroller::sizeHint() const {
   if (widget() == nullptr) return {};
   QSize size = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
-  // A bar takes room away in the other direction, where that may be what is too much.
+  // A bar takes room in the other direction, which may then need a bar too.
   bool isTall = false;
   bool isWide = false;
   for (int bars = 0; bars < 2; ++bars) {
@@ -53,11 +54,11 @@ QSize CPageScroller::sizeHint() const {
 }
 
 bool CPageScroller::event(QEvent* event) {
-  if (event->type() == QEvent::StyleChange) updateGeometry();  // the bars have another width
+  if (event->type() == QEvent::StyleChange) updateGeometry();  // the bars may have another width
   return QScrollArea::event(event);
 }
 
-// The page asks for another size. Qt tells its viewport of that, and nobody else.
+// The page asks for another size. Qt tells only its viewport.
 bool CPageScroller::eventFilter(QObject* watched, QEvent* event) {
   if (watched == widget() && event->type() == QEvent::LayoutRequest) {
     brennet::guarded([this] { updateGeometry(); });
@@ -65,11 +66,11 @@ bool CPageScroller::eventFilter(QObject* watched, QEvent* event) {
   return QScrollArea::eventFilter(watched, event);
 }
 
-// A click stays where it is: what it is on must not move away before the button is released.
+// A click scrolls nothing: its target must not move away before the button is released.
 void CPageScroller::showFocus(QWidget* focus) {
   if (focus == nullptr || !isAncestorOf(focus)) return;
   if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
-  // All of it: for Qt the cursor of a field is enough.
+  // The whole widget: Qt would show only the cursor of a field.
   const QRect place(focus->mapTo(widget(), QPoint()), focus->size());
   ensureVisible(place.center().x(), place.center().y(), place.width() / 2 + kBeside,
                 place.height() / 2 + kBeside);

@@ -2,9 +2,9 @@
 
 #include <QScrollArea>
 
-// Holds the page of a window and is as large as the page, so that nothing scrolls, unless that is
-// more than the window may have: then there are scroll bars. What gets the focus by the keyboard is
-// scrolled into sight. In no namespace: forms and style sheets know it by this name.
+// Holds the page of a window and is as large as the page, so that nothing scrolls, unless the
+// window may not be that large: then there are scroll bars. What gets the focus by the keyboard is
+// scrolled into view. In no namespace: forms and style sheets know it by this name.
 class CPageScroller : public QScrollArea {
   Q_OBJECT
 
@@ -15,7 +15,7 @@ class CPageScroller : public QScrollArea {
   // The largest size that it may ask for, scroll bars included, in pixels.
   void setLimit(QSize limit);
 
-  // That of the page, with a scroll bar where the other direction takes one, within the limit.
+  // The size of the page, plus a scroll bar where the other direction needs one, within the limit.
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -27,5 +27,5 @@ class CPageScroller : public QScrollArea {
   void showFocus(QWidget* focus);
 
   QSize limit_{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
-  QMetaObject::Connection focus_;  // to what tells where the focus is
+  QMetaObject::Connection focus_;  // to the application's focus signal
 };

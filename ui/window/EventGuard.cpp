@@ -14,7 +14,7 @@ namespace {
 EventGuard* innermostGuard = nullptr;
 EndedByFailure* innermostLoop = nullptr;
 
-// Whether Qt has filtered the events of its parts since it was made.
+// Whether the widget has filtered the events of its own parts since it was made.
 bool filtersItsParts(const QObject& widget) {
   return qobject_cast<const QAbstractScrollArea*>(&widget) != nullptr ||
          qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr ||
@@ -54,7 +54,7 @@ void EventGuard::fail() noexcept {
   }
 }
 
-// Once only: Qt would put the filter before those that came meanwhile.
+// Once only: a second installation would put the filter in front of later ones.
 // NOLINTNEXTLINE(misc-no-recursion): as deep as widgets are nested
 void EventGuard::watch(QObject& object) {
   QPointer<QObject>& known = watched_[&object];
@@ -65,7 +65,7 @@ void EventGuard::watch(QObject& object) {
   for (QObject* const child : object.children()) watch(*child);
 }
 
-// The window of the system that shows a widget; it gets the input first.
+// The native window of a widget, which gets the input first.
 void EventGuard::watchNative(QObject& object) {
   if (!object.isWidgetType()) return;
   QWindow* const native = static_cast<QWidget&>(object).windowHandle();
@@ -73,7 +73,7 @@ void EventGuard::watchNative(QObject& object) {
 }
 
 bool EventGuard::eventFilter(QObject* watched, QEvent* event) {
-  // Its delivery deletes the receiver; destructors throw nothing.
+  // Delivering it deletes the receiver; destructors throw nothing.
   if (event->type() == QEvent::DeferredDelete) return false;
   try {
     deliver(*watched, *event);
@@ -88,7 +88,7 @@ void EventGuard::deliver(QObject& receiver, QEvent& event) {
     watch(*static_cast<QChildEvent&>(event).child());
   }
   const QPointer<QObject> alive(&receiver);
-  // To Qt a filtered event is one that was taken, so what nobody wanted has to say so itself.
+  // Qt takes a filtered event for accepted, so an unwanted one must be marked as ignored.
   if (!receiver.event(&event)) event.ignore();
   if (event.type() == QEvent::WinIdChange && !alive.isNull()) watchNative(receiver);
 }

@@ -11,16 +11,16 @@ class QWidget;
 
 namespace brennet {
 
-// Keeps exceptions out of Qt, which cannot have them in its event loop, and out of the system's
+// Keeps exceptions out of Qt, whose event loop does not tolerate them, and out of the system's
 // window procedures, which need not let them through. Whatever an event of a guarded window throws
-// ends there: it is taken down as a failure, and the modal runs end. All on the GUI thread.
+// ends there: it is recorded as a failure, and the modal runs end. All on the GUI thread.
 //
 // The guard delivers the events itself, so it has to be the last event filter of the receiver,
-// which is the one that was installed first. Whatever comes into a guarded window is guarded from
-// then on: event filters are installed on it when it is there, not before.
+// which is the one that was installed first. A widget that is put into a guarded window is guarded
+// from then on, so install event filters on it only after that.
 class EventGuard final : public QObject {
  public:
-  // Guards the window and what is in it. No event filters are installed there yet.
+  // Guards the window and everything in it, on which no event filters may be installed yet.
   explicit EventGuard(QWidget& window);
   ~EventGuard() override;
   EventGuard(const EventGuard&) = delete;
@@ -29,16 +29,16 @@ class EventGuard final : public QObject {
   // Whether anything has failed since the guard was made.
   [[nodiscard]] bool hasFailed() const { return hasFailed_; }
 
-  // Whether events of the object end here.
+  // Whether this guard delivers the events of the object.
   [[nodiscard]] bool watches(const QObject& object) const;
 
-  // The guard that was made last and is still there; null: there is none.
+  // The newest guard that still exists; null if there is none.
   [[nodiscard]] static EventGuard* current();
 
-  // Has the current guard, if there is one, guard a window without a parent in the same way.
+  // Lets the current guard, if there is one, guard a window without a parent in the same way.
   static void guardToo(QWidget& window);
 
-  // Takes down that something has failed, and ends the guarded event loops.
+  // Records that something has failed, and ends the guarded event loops.
   void fail() noexcept;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -48,13 +48,13 @@ class EventGuard final : public QObject {
   void watchNative(QObject& object);
   void deliver(QObject& receiver, QEvent& event);
 
-  // By address; where another object has the address by now, the pointer is null.
+  // By address; if another object has the address by now, the pointer is null.
   std::unordered_map<const QObject*, QPointer<QObject>> watched_;
   EventGuard* outer_;
   bool hasFailed_ = false;
 };
 
-// Ends a loop when something fails, as long as this lives.
+// Ends a loop when something fails during the lifetime of this object.
 class EndedByFailure {
  public:
   explicit EndedByFailure(QEventLoop& loop);
@@ -68,9 +68,9 @@ class EndedByFailure {
   EndedByFailure* outer_;
 };
 
-// Does `act`, which Qt calls past the guard: in event filters, and for signals of what is no
-// window. Where it throws, the current guard takes that down, and the result is false, 0 or null.
-// Without a guard the exception goes on.
+// Runs `act` where Qt calls past the guard: in event filters, and for signals of objects that are
+// not widgets. If it throws, the current guard records that, and the result is false, 0 or null.
+// Without a guard the exception is passed on.
 template <class Act>
 auto guarded(Act act) -> decltype(act()) {
   EventGuard* const guard = EventGuard::current();

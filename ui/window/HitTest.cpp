@@ -5,7 +5,7 @@ namespace {
 
 enum Band { kBefore, kInside, kAfter, kOutside };
 
-// On which of the two margins of an axis a place is. Where both claim it, the first one has it.
+// On which of the two margins of an axis a place is. If both claim it, the first one gets it.
 Band bandOf(int place, int start, int end, int marginAtStart, int marginAtEnd) {
   if (place >= start && place < start + marginAtStart) return kBefore;
   if (place >= end - marginAtEnd && place < end) return kAfter;

@@ -6,7 +6,7 @@
 
 namespace brennet {
 
-// What a point of a window is for the mouse. The values are those of Windows.
+// What a point of a window means to the mouse. The values are those of Windows.
 enum class Hit {
   NotHandled = -2,
   Client = 1,
@@ -27,12 +27,12 @@ enum class Under {
   Label,  // plain text
   Link,   // underlined text
   GroupBox,
-  Frame,  // the title strip, or the widget that the form's parts stand on
+  Frame,  // the title strip, or the widget that holds the form's parts
   PushButton,
   Control,  // anything else
 };
 
-// Where a window without a frame of the system's can be dragged.
+// Where a frameless window can be dragged.
 enum class DragArea {
   EmptyPlaces,  // wherever no control or link is
   TopStrip,     // in the top kStripHeight pixels, where no push button is

@@ -16,7 +16,7 @@ HostPlace middleOf(QScreen& screen) {
   return {&screen, screen.availableGeometry().center()};
 }
 
-// Of a window that is out of sight only the screen counts.
+// For a hidden or minimized window only its screen counts.
 HostPlace placeOf(const QWindow& window) {
   const QPoint centre = window.frameGeometry().center();
   QScreen* const screen = QGuiApplication::screenAt(centre);
@@ -33,7 +33,7 @@ const QWindow* ownerOf(const QWidget& window) {
   return active == nullptr || active == &window ? nullptr : active->windowHandle();
 }
 
-// Windows counts the pixels of all screens; Qt scales each screen from its own corner.
+// Windows counts physical pixels across all screens; Qt scales each screen from its own corner.
 QScreen* screenAtNative(QPoint point) {
   for (QScreen* const screen : QGuiApplication::screens()) {
     const QRect units = screen->geometry();

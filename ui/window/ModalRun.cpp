@@ -13,7 +13,7 @@ namespace {
 
 bool handlesOwners = false;
 
-// As long as this lives; also when the dialog fails.
+// For the lifetime of this object, even when the dialog fails.
 class DisabledOwners {
  public:
   DisabledOwners() : windows_(platform::disableOwnerWindows()) {}
@@ -25,7 +25,7 @@ class DisabledOwners {
   platform::OwnerWindows windows_;
 };
 
-// Modal to the whole application, as long as this lives.
+// Makes the dialog modal to the whole application for the lifetime of this object.
 class MadeModal {
  public:
   explicit MadeModal(QDialog& dialog)
@@ -43,8 +43,8 @@ class MadeModal {
   bool wasModal_;
 };
 
-// The loop of one window: it ends when the window is hidden, in whatever way, when the application
-// quits, and when something fails.
+// The loop of one window: it ends when the window is hidden in any way, when the application quits,
+// and when something fails.
 class WindowLoop : public QObject {
  public:
   explicit WindowLoop(QDialog& dialog) : ended_(loop_) { dialog.installEventFilter(this); }
@@ -52,7 +52,7 @@ class WindowLoop : public QObject {
   void run() { loop_.exec(QEventLoop::DialogExec); }
 
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    // The system hides a window that is minimized.
+    // A spontaneous hide is the system minimizing the window.
     if (event->type() == QEvent::Hide && !event->spontaneous()) loop_.exit();
     return false;
   }
@@ -73,7 +73,7 @@ void setOwnerHandling(bool on) {
   handlesOwners = on;
 }
 
-// QDialog::exec keeps the address of its event loop, also when an exception has ended that.
+// QDialog::exec keeps a pointer to its event loop even when an exception has ended that.
 int runWindow(QDialog& dialog) {
   if (hasFailed()) return QDialog::Rejected;
   const QPointer<QDialog> alive(&dialog);

@@ -24,7 +24,7 @@ void MovableDialog::mouseReleaseEvent(QMouseEvent* event) {
 
 void MovableDialog::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  isDragged_ = false;  // what hid the window may have kept the release
+  isDragged_ = false;  // the release may have gone elsewhere when the window was hidden
   if (fit_ == nullptr) fit_ = new ScreenFit(*this);
   fit_->comeUp(*event);
 }

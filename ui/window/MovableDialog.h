@@ -7,9 +7,8 @@ namespace brennet {
 
 class ScreenFit;
 
-// A dialog without a frame, which comes up inside the screen and which the mouse moves by any place
-// that is no control: the left button drags it. Any button that is pressed meanwhile takes it where
-// the mouse is now.
+// A frameless dialog that appears inside the screen. The left mouse button drags it by any place
+// that is not a control; any button pressed meanwhile takes hold of it where the mouse is then.
 class MovableDialog : public QDialog {
  public:
   using QDialog::QDialog;

@@ -17,19 +17,19 @@
 namespace brennet {
 namespace {
 
-// Along one axis. The start counts more than the end.
+// Along one axis. The start matters more than the end.
 int inside(int place, int size, int start, int areaSize) {
   return std::max(std::min(place, start + areaSize - size), start);
 }
 
-// The one that its middle is on.
+// The screen that its middle is on.
 QScreen& screenOf(const QWidget& window) {
   QScreen* const screen = QGuiApplication::screenAt(window.frameGeometry().center());
   return screen == nullptr ? *window.windowHandle()->screen() : *screen;
 }
 
-// Lets the window know that a widget inside has another size. A layout tells the one around it only
-// when events are handled, which would be too late for the place of the window.
+// Tells the window that the size of a widget inside has changed. A layout tells its outer one only
+// when events are handled, which would be too late for placing the window.
 void renewSizes(QWidget& inner, const QWidget& window) {
   for (QWidget* widget = &inner; widget != &window; widget = widget->parentWidget()) {
     widget->updateGeometry();
@@ -48,22 +48,22 @@ ScreenFit::ScreenFit(QWidget& window)
     : QObject(&window), window_(window), content_(window.findChild<CPageScroller*>()) {}
 
 void ScreenFit::comeUp(const QShowEvent& shown) {
-  if (!window_.isWindow()) return;  // somebody has put it into another one
-  // The system shows it again, after it was minimized: where the player had it. The system has
-  // dragged it there, so that Qt does not know it as moved.
+  if (!window_.isWindow()) return;  // it has been embedded in another one
+  // The system shows it again after it was minimized, where the player had it. The system did the
+  // dragging, so Qt does not know that it was moved.
   if (shown.spontaneous()) return fitAgain(true);
-  // Who has moved the window wants it there.
+  // Whoever has moved the window wants it there.
   const bool isMoved = window_.testAttribute(Qt::WA_Moved);
   const HostPlace host = hostPlaceOf(window_);
   const QRect area = (isMoved ? screenOf(window_) : *host.screen).availableGeometry();
   limitTo(area.size());
   const QPoint corner = isMoved ? window_.pos() : host.centre - window_.rect().center();
-  // In one step: on its way the window would be counted to a screen of another scale.
+  // In one step: halfway the window would count as on a screen of another scale.
   moveTo(cornerInside(area, window_.size(), corner));
   watch();
 }
 
-// That is no move by somebody.
+// This does not count as a move by somebody.
 void ScreenFit::moveTo(QPoint corner) const {
   const bool isMoved = window_.testAttribute(Qt::WA_Moved);
   window_.move(corner);
@@ -71,11 +71,11 @@ void ScreenFit::moveTo(QPoint corner) const {
 }
 
 void ScreenFit::watch() {
-  // Other flags give a window another handle.
+  // A change of flags gives a window another handle.
   const QWindow* const handle = window_.windowHandle();
   if (handle != handle_) {
     handle_ = handle;
-    // Somebody drags the window there: it stays in his hand.
+    // Somebody is dragging the window there: leave it to them.
     connect(handle, &QWindow::screenChanged, this, [this] { fitAgain(false); });
   }
   if (std::exchange(isWatching_, true)) return;
@@ -86,7 +86,7 @@ void ScreenFit::watch() {
   };
   for (QScreen* const screen : QGuiApplication::screens()) watchScreen(screen);
   connect(qGuiApp, &QGuiApplication::screenAdded, this, watchScreen);
-  // Qt moves the window to another screen when all have been told.
+  // Qt moves the window to another screen after everybody has been told.
   connect(
       qGuiApp, &QGuiApplication::screenRemoved, this, [this] { fitAgain(true); },
       Qt::QueuedConnection);
@@ -108,7 +108,7 @@ void ScreenFit::limitTo(QSize available) const {
   QLayout& layout = *window_.layout();
   content_->setLimit({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
   renewSizes(*content_, window_);
-  // Twice: a notice takes more lines, and with them height, where its window becomes narrower.
+  // Twice: when its window gets narrower, a notice takes more lines and so more height.
   for (int pass = 0; pass < 2; ++pass) {
     const QSize around = layout.totalSizeHint() - content_->sizeHint();
     content_->setLimit(available - around);

@@ -12,26 +12,25 @@ class QWindow;
 
 namespace brennet {
 
-// Where a window of that size is moved to so that it is inside the area: as little as possible. Of
-// one that is larger than the area the top left corner, where its title is, stays inside.
+// Where to move a window of that size to get it inside the area, as little as possible. If it is
+// larger than the area, its top left corner, where its title is, stays inside.
 [[nodiscard]] QPoint cornerInside(const QRect& area, QSize size, QPoint corner);
 
-// Keeps a window without a frame inside the part of its screen that is free for windows: without
-// task bars and docks.
+// Keeps a frameless window inside the part of its screen that is free for windows, without task
+// bars and docks.
 class ScreenFit : public QObject {
  public:
-  // `window` owns this. What is too large for the screen scrolls in its CPageScroller; without one
-  // the window keeps its size.
+  // `window` owns this. A window too large for the screen scrolls in its CPageScroller; without one
+  // it keeps its size.
   explicit ScreenFit(QWidget& window);
 
   // To be called when the window gets the event `shown` and has its final look. A window that
-  // nobody has moved comes up in the middle of the one that it belongs to: its parent's, its
-  // transient parent or the one that the player has before him. All come up on the screen of that
-  // window, and stay inside when the screen changes or is taken away. What was minimized comes back
-  // where it was.
+  // nobody has moved appears in the middle of its owner (see HostPlace.h). All appear on the screen
+  // of the owner, and stay inside when the screen changes or is taken away. A minimized window
+  // comes back where it was.
   void comeUp(const QShowEvent& shown);
 
-  // To be called when the window has got another content while it is shown.
+  // To be called when the content of the window has changed while it is shown.
   void refit() { fitAgain(true); }
 
  private:

@@ -12,8 +12,9 @@ namespace brennet {
 
 namespace {
 
-// How far below the middle of its line a text is seen. Fonts for Chinese leave more room above
-// their characters than below, and it is their line that a Latin font gets with Chinese in it.
+// How far the visible text is below the middle of its line. Chinese fonts leave more room above
+// their characters than below, and a line with Chinese in it gets their height, even in a Latin
+// font.
 int dropOf(const QString& text, const QFont& font) {
   QTextLayout layout(text, font);
   layout.beginLayout();
@@ -25,8 +26,8 @@ int dropOf(const QString& text, const QFont& font) {
   return qRound(middleOfLine + seen.center().y());
 }
 
-// The squares of check boxes stand in the middle of the line: lets them go down to their texts. All
-// texts of a window are of one language, so that of one box tells how far.
+// The squares of check boxes are in the middle of the line: moves them down to their texts. All
+// texts of a window are in one language, so one box tells how far.
 QString indicatorRule(const QWidget& window) {
   const auto* const box = window.findChild<QCheckBox*>();
   const int drop = box == nullptr ? 0 : dropOf(box->text(), box->font());

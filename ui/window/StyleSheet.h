@@ -6,8 +6,8 @@ class QWidget;
 namespace brennet {
 
 // Gives the widget the style sheet that the resource or file holds; an empty one changes nothing.
-// Returns whether it could be opened: if not, the widget stays as it is, and the player is to be
-// told.
+// Returns whether it could be opened: if not, the widget stays as it is, and the caller should tell
+// the player.
 bool loadStyleSheet(QWidget& widget, const QString& name);
 
 }  // namespace brennet

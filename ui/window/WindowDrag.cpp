@@ -25,14 +25,14 @@ QPoint pointOf(std::intptr_t lParam) {
   return {half(0), half(16)};
 }
 
-// What only holds other controls, and shows nothing of its own between them.
+// Whether the widget only holds other controls and shows nothing of its own between them.
 bool isEmptyArea(const QWidget& widget) {
   return widget.layout() != nullptr && qobject_cast<const QGroupBox*>(&widget) == nullptr;
 }
 
 // Waits for the mouse to move after a press. A click alone must not start anything: the release may
-// come before the system has begun to move the window, and then the window would stay with the
-// mouse until the next click.
+// come before the system has begun to move the window, which would then stick to the mouse until
+// the next click.
 class DragStart : public QObject {
  public:
   DragStart(QWindow& window, QPoint pressedAt)
@@ -105,7 +105,7 @@ bool answerHitTest(const DraggableWindow& dragged, const QByteArray& eventType, 
   if (eventType != "windows_generic_MSG") return false;
   const auto& native = *static_cast<const NativeMessage*>(message);
   if (native.message != kHitTestMessage) return false;
-  // Its own messages find a window made; asking for the handle must not make one.
+  // A window that gets messages exists already; asking for the handle must not create one.
   if (reinterpret_cast<WId>(native.window) != dragged.window.internalWinId()) return false;
   const QWindow* const window = dragged.window.windowHandle();
   if (window == nullptr) return false;
@@ -122,7 +122,7 @@ bool startDrag(const DraggableWindow& dragged, const QMouseEvent& press) {
   if (press.button() != Qt::LeftButton) return false;
   if (hitAt(dragged, press.globalPos()) != Hit::Caption) return false;
   if (QWindow* const window = dragged.window.windowHandle()) {
-    new DragStart(*window, press.globalPos());  // the window's, until it ends itself
+    new DragStart(*window, press.globalPos());  // owned by the window, until it ends itself
   }
   return true;
 }
