@@ -108,7 +108,7 @@ std::u16string_view declaredEncoding(std::u16string_view text) {
 
 std::u16string declaredEncodingOfBytes(std::string_view bytes) {
   bytes = bytes.substr(0, kReach);
-  // Most files say it at once, so that the rest need not be looked at.
+  // Most files declare it at once, so that the rest need not be searched.
   const std::size_t end = bytes.find("?>");
   if (end != std::string_view::npos) {
     const std::u16string declaration = widen(bytes.substr(0, end + 2));

@@ -7,11 +7,11 @@ namespace brennet {
 
 // The encoding that a document declares: the `encoding` of its XML declaration, or, for an HTML
 // document, the charset of the `meta` element in `head` whose `http-equiv` is "Content-Type".
-// A view into `text`; empty where none is declared in its first 65,536 units.
+// A view into `text`; empty if none is declared in its first 65,536 units.
 [[nodiscard]] std::u16string_view declaredEncoding(std::u16string_view text);
 
-// The same for the bytes of a file whose encoding is not known yet. Zero bytes are skipped, so
-// that the declaration is also found in UTF-16 and UTF-32.
+// The same for the bytes of a file of unknown encoding. Zero bytes are skipped, so that the
+// declaration is also found in UTF-16 and UTF-32.
 [[nodiscard]] std::u16string declaredEncodingOfBytes(std::string_view bytes);
 
 }  // namespace brennet

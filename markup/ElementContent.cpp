@@ -15,7 +15,7 @@ constexpr std::size_t kCDataEndLength = 3;    // ]]>
 std::size_t contentEnd(std::u16string_view text, const ElementRecord& record) {
   const bool hasEndTag = record.has(ElementRecord::kElement) &&
                          !record.has(ElementRecord::kEmptyTag | ElementRecord::kError);
-  // There is no "<" in an end tag but its first character.
+  // The only "<" in an end tag is its first character.
   return hasEndTag ? text.rfind(u'<', record.end() - 1) : record.end();
 }
 

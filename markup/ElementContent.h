@@ -8,7 +8,7 @@
 
 namespace brennet {
 
-// What stands between the start tag and the end tag of an element. Text and index must outlive it,
+// The content between the start tag and the end tag of an element. Text and index must outlive it,
 // and must not change while it is used.
 class ElementContent {
  public:
@@ -22,7 +22,7 @@ class ElementContent {
   // The element's own text: references resolved, CDATA as it is, the rest left out.
   [[nodiscard]] std::u16string data() const;
 
-  // Whether the element's own text holds anything beside white space.
+  // Whether the element's own text holds anything besides white space.
   [[nodiscard]] bool holdsText() const;
 
  private:

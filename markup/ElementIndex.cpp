@@ -9,8 +9,8 @@ ElementIndex::ElementIndex(std::size_t elementCount) {
   add();
 }
 
-// All segments are full ones but the last. The first one starts small and doubles until it is full,
-// so that a small document costs little.
+// All segments except the last have their full size. The first one starts small and doubles until
+// it is full, so that a small document costs little.
 void ElementIndex::grow(std::size_t recordCount) {
   while (capacity_ < recordCount) {
     const std::size_t partial = capacity_ & kRecordMask;

@@ -8,7 +8,7 @@
 namespace brennet {
 
 // Number of an element in its ElementIndex: the high 16 bits select the segment, the low 16 bits
-// the record. 0 is the document itself, and stands for "no element" in links and positions.
+// the record. 0 is the document itself, and means "no element" in links and positions.
 using ElementNumber = std::uint32_t;
 
 // One element of a document. Offsets and lengths are in units of the document text.
@@ -16,7 +16,7 @@ struct ElementRecord {
   enum Flag : std::uint32_t {
     kElement = 1,              // the node kind
     kEmptyTag = 1U << 16U,     // written as `<a/>`, without an end tag
-    kHoldsText = 1U << 17U,    // the content is known to hold text beside white space
+    kHoldsText = 1U << 17U,    // the content is known to hold text besides white space
     kHoldsNoText = 1U << 18U,  // the content is known to hold none
     kError = 1U << 23U,        // has no end tag: it ends where an element around it does
   };
@@ -37,10 +37,10 @@ struct ElementRecord {
 
 // The elements of one document, linked as a tree. Records are never removed, only unlinked.
 //
-// References to records are good until the next record is added.
+// References to records are valid until the next record is added.
 class ElementIndex {
  public:
-  // Holds the document alone, and has room for `elementCount` elements.
+  // Holds only the document, and has room for `elementCount` elements.
   explicit ElementIndex(std::size_t elementCount = 0);
 
   // How many records there are, the document's included.
@@ -66,7 +66,7 @@ class ElementIndex {
     if (size_ == capacity_) grow(size_ + 1);
   }
 
-  // Links `child` into `parent`, behind the child `after`, or as the first child where that is 0.
+  // Links `child` into `parent`, after the child `after`, or as the first child if that is 0.
   void link(ElementNumber parent, ElementNumber after, ElementNumber child);
 
   // Links `child` as the last child of `parent`.
@@ -92,13 +92,13 @@ class ElementIndex {
     return first == 0 ? 0 : (*this)[first].previous;
   }
 
-  // The element whose start tag is the next one behind that of `number`, or 0.
+  // The element with the next start tag after that of `number`, or 0.
   [[nodiscard]] ElementNumber nextInText(ElementNumber number) const {
     const ElementNumber child = (*this)[number].firstChild;
     return child != 0 ? child : nextBehind(number);
   }
 
-  // The element whose start tag is the next one behind the end of `number`, or 0.
+  // The element with the next start tag after the end of `number`, or 0.
   [[nodiscard]] ElementNumber nextBehind(ElementNumber number) const;
 
  private:

@@ -36,7 +36,7 @@ char32_t digitValue(char16_t unit) {
   return 16;
 }
 
-// A reference at the front of a text: the character, 0 if it is none, and how long it is written.
+// A reference at the front of a text: the character, 0 if it is invalid, and the length as written.
 struct Reference {
   char32_t codePoint = 0;
   std::size_t length = 0;

@@ -10,15 +10,15 @@ namespace brennet {
 void appendEscaped(std::u16string_view text, std::u16string& out);
 
 // Appends `text` to `out` with the named entities (see EntityTable.h) and the decimal and
-// hexadecimal character references resolved. What names no character stays as it is written:
-// unknown names, references without ";", to 0, to surrogates and beyond U+10FFFF.
+// hexadecimal character references resolved. Invalid references stay as they are written: unknown
+// names, references without ";", to 0, to surrogates and beyond U+10FFFF.
 void appendUnescaped(std::u16string_view text, std::u16string& out);
 
 // `text` with its references resolved like that.
 [[nodiscard]] std::u16string unescaped(std::u16string_view text);
 
 // Appends `text` to `out` as CDATA sections. "]]>" inside the text is split between two sections,
-// so that any text can be read back.
+// so that every text can be read back.
 void appendCData(std::u16string_view text, std::u16string& out);
 
 }  // namespace brennet

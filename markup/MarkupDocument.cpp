@@ -78,8 +78,8 @@ bool MarkupDocument::findChildElem(std::u16string_view name) {
 // The first element called `name` (any, if empty) among `first` and the siblings behind it, or 0.
 ElementNumber MarkupDocument::findFrom(ElementNumber first, std::u16string_view name) const {
   if (name.empty()) return first;
-  if (leadingName(name).size() != name.size()) return 0;  // no element can be called so
-  // A look at the units at the ends of the name rules out most elements at once.
+  if (leadingName(name).size() != name.size()) return 0;  // no element can have this name
+  // Comparing the units at the ends of the name rules out most elements at once.
   const auto isCalled = [text = text_.data(), name](const ElementRecord& record) {
     const char16_t* const tag = text + record.start + 1;
     return name.size() + 1 < record.startTagLength && tag[0] == name[0] &&

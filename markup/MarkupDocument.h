@@ -17,18 +17,18 @@ namespace brennet {
 // An XML document: one UTF-16 text, an index of its elements and a position among them.
 //
 // Edits change the text in place, so a document that is loaded and saved without edits is written
-// back as it was. The text is parsed generously; what is wrong with it is told by result().
+// back as it was. The parser is lenient; result() lists what is wrong with the text.
 //
 // The position is three elements, each of which may be missing: the parent, the main element, and
-// the child. After parsing, all are missing, and the document stands for the parent.
+// the child. After parsing, all are missing, and the document itself is the parent.
 //
-// An edit takes time for what stands behind it in the text and around it in the tree; adding at the
-// end, as building a document does, is quick.
+// An edit takes time for the text behind it and for the elements behind and around it; adding at
+// the end, as when a document is built, is quick.
 //
-// Every operation may throw std::bad_alloc or, for texts beyond the reach of std::u16string,
-// std::length_error; the document then is as it was before the call, or,
-// when that was an edit of several steps, a valid document in between. A text never grows beyond
-// 2^32 - 1 units: what would need more returns false and changes nothing.
+// Every operation may throw std::bad_alloc or, for texts too long for std::u16string,
+// std::length_error. The document is then as it was before the call or, if that was an edit of
+// several steps, a valid document in between. A text never grows beyond 2^32 - 1 units: an edit
+// that would need more returns false and changes nothing.
 class MarkupDocument {
  public:
   // Flags of setData and addElem.
@@ -43,7 +43,7 @@ class MarkupDocument {
   MarkupDocument(const MarkupDocument&) = delete;
   MarkupDocument& operator=(const MarkupDocument&) = delete;
 
-  // Replaces the document by the content of the file at `path`, whose encoding is found out. The
+  // Replaces the document by the content of the file at `path`, whose encoding is detected. The
   // result log starts afresh. Returns whether the file could be read (if not, the document is left
   // as it was) and is well-formed (see setDoc). Refuses while a file mode flag is set.
   // `blockSize` is how many bytes are converted at a time.
@@ -57,7 +57,7 @@ class MarkupDocument {
   // Writes the document to the file at `path`, in the encoding it declares, or in UTF-8 when it
   // declares none. The result log starts afresh. A document that was loaded keeps its byte-order
   // mark and byte order. Returns whether the file was written; characters that the encoding lacks
-  // do not count. Refuses while a file mode flag is set. `old` tells what becomes of the file that
+  // do not count. Refuses while a file mode flag is set. `old` says what happens to the file that
   // is replaced.
   bool save(std::u16string_view path, platform::OldContent old = platform::OldContent::Drop);
 
@@ -71,19 +71,19 @@ class MarkupDocument {
   // child position, when there is none, and in either file mode.
   bool findChildElem(std::u16string_view name = {});
 
-  // The name of the main element; empty where there is none. Good as long as doc() is.
+  // The name of the main element; empty if there is none. Valid as long as doc() is.
   [[nodiscard]] std::u16string_view getTagName() const;
 
-  // Where the start tag of the main (child) element begins in doc(); nothing where there is none.
+  // Where the start tag of the main (child) element begins in doc(); nothing if there is none.
   [[nodiscard]] std::optional<std::size_t> mainOffset() const { return offsetOf(main_); }
   [[nodiscard]] std::optional<std::size_t> childOffset() const { return offsetOf(child_); }
 
-  // The value of an attribute of the main (child) element, unescaped; empty where there is none.
+  // The value of an attribute of the main (child) element, unescaped; empty if there is none.
   [[nodiscard]] std::u16string getAttrib(std::u16string_view name) const;
   [[nodiscard]] std::u16string getChildAttrib(std::u16string_view name) const;
 
   // The text directly inside the main (child) element: unescaped, CDATA as it is, comments and
-  // child elements left out. Empty where there is no such element.
+  // child elements left out. Empty if there is no such element.
   [[nodiscard]] std::u16string getData() const;
   [[nodiscard]] std::u16string getChildData() const;
 
@@ -100,7 +100,7 @@ class MarkupDocument {
   // Adds an element behind the main element, or as the last one of the parent position when there
   // is no main element, and makes it the main position. With kChild: adds it as the last child of
   // the main element and makes it the child position. An empty `value` gives an empty tag, unless
-  // it is to be a CDATA section. Each added element gets a line of its own, unless its parent holds
+  // it is to be a CDATA section. Each added element gets a line of its own, unless its parent has
   // text of its own. Returns false for a `name` that cannot be one, and with kChild when there is
   // no main element.
   bool addElem(std::u16string_view name, std::u16string_view value = {}, std::uint32_t flags = 0);
@@ -109,7 +109,7 @@ class MarkupDocument {
   // child position. Returns false, and changes nothing, when there is no main position.
   bool intoElem();
 
-  // The way back: makes the main element the child position and the parent the main position.
+  // The reverse: makes the main element the child position and the parent the main position.
   // Returns false, and changes nothing, when there is no parent position.
   bool outOfElem();
 
@@ -117,12 +117,12 @@ class MarkupDocument {
   // parent position.
   void resetMainPos();
 
-  // The text of the document, good until the next call that changes it.
+  // The text of the document, valid until the next call that changes it.
   [[nodiscard]] const std::u16string& doc() const { return text_; }
   // What the last load, setDoc or save had to report: a markup text of empty elements.
   [[nodiscard]] const std::u16string& result() const { return log_.text(); }
 
-  // FileMode flags; others are kept without meaning.
+  // FileMode flags; other flags are kept but mean nothing.
   [[nodiscard]] std::uint32_t docFlags() const { return docFlags_; }
   void setDocFlags(std::uint32_t flags) { docFlags_ = flags; }
 

@@ -15,7 +15,7 @@ namespace {
 constexpr std::u16string_view kLineBreak = u"\r\n";
 constexpr std::size_t kEndTagMarks = 3;  // "</" and ">"
 
-// How much longer a text gets; as offsets are, modulo 2^32, so that it can get shorter too.
+// How much longer a text gets, modulo 2^32 as offsets are, so that it can also get shorter.
 std::uint32_t growth(std::size_t added, std::size_t removed) {
   return static_cast<std::uint32_t>(added - removed);
 }
@@ -166,7 +166,7 @@ std::size_t MarkupDocument::behindLineOf(ElementNumber element) const {
   return rest.starts_with(u'\n') ? end + 1 : end;
 }
 
-// Makes `<a/>` to `<a>content</a>`. A slash in front of the "/>" is kept from taking its place.
+// Turns `<a/>` into `<a>content</a>`. A slash in front of the "/>" must not become a new "/>".
 void MarkupDocument::fillEmptyTag(ElementNumber element, std::u16string_view content) {
   constexpr std::size_t kClosing = 2;  // "/>"
   const std::u16string_view tag = startTagOf(element);
@@ -181,8 +181,8 @@ void MarkupDocument::fillEmptyTag(ElementNumber element, std::u16string_view con
   moveFrom(index_.nextBehind(element), growth(piece.size(), kClosing));
 }
 
-// Gives `element` its end tag if that is missing, so that a sibling can follow it; and also, in
-// front of it, to the unclosed elements at its end, one of which might take the tag for its own.
+// Gives `element` its end tag if that is missing, so that a sibling can follow it. The unclosed
+// elements at its end get theirs first, since one of them might otherwise take the tag for its own.
 // Returns false, with nothing changed, if the text could then not grow by `room` more.
 bool MarkupDocument::closeUnclosed(ElementNumber element, std::size_t room) {
   if (!index_[element].has(ElementRecord::kError)) return true;
@@ -209,8 +209,8 @@ bool MarkupDocument::closeUnclosed(ElementNumber element, std::size_t room) {
   return true;
 }
 
-// Whether `element` holds text of its own, to which nothing may be added. Looked up once per
-// element, as the answer only changes with the data.
+// Whether `element` has text of its own, to which nothing may be added. Determined once per
+// element, as the answer changes only with the data.
 bool MarkupDocument::holdsText(ElementNumber element) {
   if (element == 0) return false;
   ElementRecord& record = index_[element];
@@ -232,7 +232,7 @@ void MarkupDocument::lengthen(ElementNumber element, std::uint32_t by) {
   index_[0].length += by;
 }
 
-// Moves `first` and all elements whose start tags are behind its own.
+// Moves `first` and all elements whose start tags follow its own.
 void MarkupDocument::moveFrom(ElementNumber first, std::uint32_t by) {
   for (; first != 0; first = index_.nextInText(first)) index_[first].start += by;
 }

@@ -45,7 +45,7 @@ class MarkupParser {
   ElementIndex index_;
   ElementNumber current_ = 0;  // the innermost open element
   bool rootHasSibling_ = false;
-  std::optional<OpenElements> openElements_;  // set from the first end tag out of order on
+  std::optional<OpenElements> openElements_;  // set from the first misplaced end tag on
 };
 
 ElementIndex MarkupParser::parse() {
@@ -60,7 +60,7 @@ ElementIndex MarkupParser::parse() {
       closeElement(token);
     } else if (token.kind == Kind::Literal || token.kind == Kind::Malformed) {
       logProblem(token);
-      // What is added later must stay in front of a token without an end.
+      // Later additions must stay in front of a token without an end.
       if (token.endless) end = token.start;
     }
   }
@@ -118,8 +118,8 @@ void MarkupParser::leave() {
   current_ = index_[current_].parent;
 }
 
-// Whether the start tag of the innermost open element begins with all that stands in `endTag`, and
-// no name goes on behind that: then the names are the same. Misses those of `<a></a >`.
+// Whether the start tag of the innermost open element begins with the whole content of `endTag`,
+// and the name ends there: then the names are the same. Misses `<a></a >`.
 bool MarkupParser::beginsLike(const MarkupToken& endTag) const {
   const std::size_t start = index_[current_].start + 1;
   const std::size_t length = endTag.end - endTag.start - kEndTagMarks;

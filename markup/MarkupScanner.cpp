@@ -23,7 +23,7 @@ std::uint64_t bitsOf(__m128i bytes, char wanted, unsigned at) {
 }
 
 // Looks at 64 units, 16 at a time. Packing with saturation turns units of 256 and more into 0 or
-// 255, neither of which is looked for.
+// 255, neither of which is searched for.
 FoundBits findBits(const char16_t* units) {
   FoundBits bits;
   for (unsigned at = 0; at < 64; at += 16) {
@@ -69,7 +69,7 @@ void MarkupScanner::loadBlock(std::size_t block) {
   masks_ = {bits.less, bits.greater, bits.quote, bits.apostrophe, tagStop, bits.less | tagStop};
 }
 
-// Looks from `from` on, which is behind the block or in front of it.
+// Searches from `from` on, which is outside the block.
 std::size_t MarkupScanner::findInOtherBlocks(std::uint64_t Masks::*mask, std::size_t from) {
   for (; from < text_.size(); from += kBlock) {
     loadBlock(from);

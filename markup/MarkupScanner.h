@@ -11,8 +11,8 @@ namespace brennet {
 // Finds the characters that give a markup text its structure. It looks at 64 units at a time and
 // keeps what it found there as bit masks, so that the dense tags of a settings file cost little.
 //
-// The text must outlive the scanner. Searches should go forward: going back to earlier units is
-// correct, but looks at them anew.
+// The text must outlive the scanner. Searches should go forward: going back is correct, but scans
+// the earlier units again.
 class MarkupScanner {
  public:
   explicit MarkupScanner(std::u16string_view text) : text_(text) {}
@@ -25,9 +25,8 @@ class MarkupScanner {
   std::size_t findTagStop(std::size_t from) { return find(&Masks::tagStop, from); }    // > " '
   std::size_t findStructural(std::size_t from) { return find(&Masks::either, from); }  // < > " '
 
-  // The ">" that surely ends the tag that begins with the "<" at `start`: it stands less than 64
-  // units behind, with pairs of double quotes and no other quotes in front of it. Most tags need
-  // no closer look.
+  // The ">" that certainly ends the tag that begins with the "<" at `start`: less than 64 units
+  // away, with only pairs of double quotes in between. Most tags need no closer look.
   std::optional<std::size_t> findPlainTagEnd(std::size_t start) {
     if (start - block_ < kBlock) {
       const auto end = findPlainTagEndInBlock(start);
@@ -39,10 +38,10 @@ class MarkupScanner {
 
  private:
   static constexpr std::size_t kBlock = 64;
-  // Far enough from every offset that none is in the block.
+  // Far enough from every offset that the block holds none of them.
   static constexpr std::size_t kNoBlock = std::size_t{0} - kBlock;
 
-  // Bit i tells of the unit at block start + i.
+  // Bit i stands for the unit at block start + i.
   struct Masks {
     std::uint64_t less = 0;
     std::uint64_t greater = 0;

@@ -60,7 +60,7 @@ MarkupToken MarkupTokenizer::unterminated(Kind intended, std::size_t start, Offs
   return result;
 }
 
-// What is wrong with a token whose ">" is never found is that, whatever else is.
+// A missing ">" is the problem of a token, whatever else is wrong with it.
 MarkupToken MarkupTokenizer::wrong(Kind intended, LogEvent problem, std::size_t start, Offset end) {
   return end ? malformed(problem, start, end) : unterminated(intended, start);
 }
@@ -94,7 +94,7 @@ MarkupToken MarkupTokenizer::exclamation(std::size_t start) {
   }
 }
 
-// A comment and a CDATA section that are begun as they should have an entry for a missing end.
+// Properly begun comments and CDATA sections have a log entry of their own for a missing end.
 MarkupToken MarkupTokenizer::comment(std::size_t start) {
   constexpr auto kProblem = LogEvent::CommentTagSyntax;
   if (!hasAt(start, kCommentStart)) {
@@ -113,8 +113,8 @@ MarkupToken MarkupTokenizer::cdata(std::size_t start) {
   return end ? token(Kind::CData, start, *end) : malformed(kProblem, start, end);
 }
 
-// The declarations between "[" and "]" are looked through for quoted strings, comments and
-// instructions only, which may hold brackets and ">".
+// The declarations between "[" and "]" are searched only for quoted strings, comments and
+// instructions, which may hold brackets and ">".
 MarkupToken MarkupTokenizer::documentType(std::size_t start) {
   constexpr auto kProblem = LogEvent::DoctypeTagSyntax;
   if (!hasAt(start, kDocumentTypeStart)) {
@@ -147,7 +147,7 @@ MarkupTokenizer::Offset MarkupTokenizer::behindGreater(std::size_t from) {
   return behindDelimiter(from, u">");
 }
 
-// `delimiter` ends with ">" and stands wholly behind `from`.
+// `delimiter` ends with ">" and must lie wholly at or behind `from`.
 MarkupTokenizer::Offset MarkupTokenizer::behindDelimiter(std::size_t from,
                                                          std::u16string_view delimiter) {
   if (text().size() < from + delimiter.size()) return std::nullopt;

@@ -21,16 +21,16 @@ struct MarkupToken {
     CData,         // <![CDATA[ ... ]]>
     Instruction,   // <? ... ?>
     DocumentType,  // <!DOCTYPE ...>
-    Literal,       // a "<" that starts no token and belongs to the text around it
+    Literal,       // a "<" that starts no token and belongs to the surrounding text
     Exclamation,   // any other <! ...>; such a token is always malformed
     Malformed,     // any other token with a syntax error
     EndOfText,     // nothing is left; start and end are where the last token ends
   };
 
   Kind kind;
-  // Meaningful for Literal and Malformed.
+  // Only for Literal and Malformed.
   LogEvent problem;
-  // Meaningful when `problem` is UnterminatedTagSyntax: the kind that the token began as.
+  // Only when `problem` is UnterminatedTagSyntax: the kind that the token began as.
   Kind intended;
   // Whether the token has no end and so takes all the text that is left.
   bool endless;
@@ -43,15 +43,15 @@ struct MarkupToken {
 
 // Splits a markup text of less than 2^32 units into tokens; the text between them is content.
 //
-// It never fails. A malformed token ends behind its ">", or, where it has none, swallows the rest
-// of the text. Time is linear in the text, whatever is in it.
+// It never fails. A malformed token ends behind its ">" or, if it has none, swallows the rest of
+// the text. Time is linear in the text, whatever it holds.
 class MarkupTokenizer {
  public:
-  // Tokens are looked for from the offset `from` on.
+  // Tokens are searched for from the offset `from` on.
   explicit MarkupTokenizer(std::u16string_view text, std::size_t from = 0)
       : scanner_(text), at_(from) {}
 
-  // Inline, as are the ways of most tags: a settings file is made of little else.
+  // Inline, like everything that most tags go through: a settings file is made of little else.
   MarkupToken next() {
     const std::size_t start = scanner_.findLess(at_);
     const char16_t first = start + 1 < text().size() ? text()[start + 1] : u'\0';
@@ -62,7 +62,7 @@ class MarkupTokenizer {
     return first == u'/' ? endTag(start) : otherToken(start);
   }
 
-  // Goes on at `offset` with the next token.
+  // Continues at `offset` with the next token.
   void skipTo(std::size_t offset) { at_ = offset; }
 
  private:
@@ -109,7 +109,7 @@ class MarkupTokenizer {
   MarkupToken cdata(std::size_t start);
   MarkupToken documentType(std::size_t start);
 
-  // Each returns the offset behind what it looks for, or std::nullopt where there is none.
+  // Each returns the offset behind what it searches for, or std::nullopt if there is none.
   Offset behindGreater(std::size_t from);
   Offset behindDelimiter(std::size_t from, std::u16string_view delimiter);
   Offset behindQuoted(std::size_t quoteAt);

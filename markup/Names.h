@@ -9,10 +9,10 @@ constexpr bool isMarkupSpace(char16_t unit) {
   return unit == u' ' || unit == u'\t' || unit == u'\r' || unit == u'\n';
 }
 
-// Whether `unit` can stand in the name of an element or an attribute. Like the tags themselves,
-// names are read generously: only what has a meaning of its own in a tag ends a name.
+// Whether `unit` can stand in the name of an element or an attribute. Like tags, names are read
+// leniently: only what has a meaning of its own in a tag ends a name.
 constexpr bool isNameUnit(char16_t unit) {
-  // One bit for each unit below 64, set for those that end a name; this is asked for every unit of
+  // One bit for each unit below 64, set for those that end a name; this runs for every unit of
   // every name.
   constexpr std::uint64_t kOthers = [] {
     std::uint64_t bits = (std::uint64_t{1} << (U' ' + 1)) - 1;

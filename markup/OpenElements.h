@@ -8,9 +8,9 @@
 
 namespace brennet {
 
-// The elements that are open at a point of a document, by name. The parser keeps it only once a
-// document has shown an end tag out of order; then a look-up by name keeps the parse from going
-// through all open elements each time.
+// The elements that are open at a point of a document, by name. The parser keeps it only once it
+// has met a misplaced end tag; then a look-up by name saves it from going through all open elements
+// each time.
 class OpenElements {
  public:
   // `name` is kept as a view.
@@ -35,7 +35,7 @@ class OpenElements {
  private:
   // Ordered, because names that share a hash could make a hash table slow.
   std::map<std::u16string_view, ElementNumber> innermost_;
-  // For every open element, in order of opening, the one of the same name that it hides, or 0.
+  // For every open element, in the order of opening, the one of the same name that it hides, or 0.
   std::vector<ElementNumber> hidden_;
 };
 

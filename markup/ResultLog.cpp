@@ -7,7 +7,7 @@
 namespace brennet {
 namespace {
 
-// The element name of an event and the names of its attributes, empty where it has none.
+// The element name of an event and the names of its attributes, empty if it has none.
 template <class Event>
 struct EventNames {
   Event event;

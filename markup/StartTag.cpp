@@ -62,8 +62,8 @@ void StartTag::skipToName() {
   }
 }
 
-// Starts behind "=" (or at a quote) and ends behind the value. A value without quotes stands
-// directly behind "="; where white space follows that, the value is missing.
+// Starts behind "=" (or at a quote) and ends behind the value. A value without quotes comes
+// directly after "="; if white space follows that, the value is missing.
 std::u16string_view StartTag::readValue() {
   const std::size_t unquoted = at_;
   skipSpace();

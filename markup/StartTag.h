@@ -11,7 +11,7 @@ namespace brennet {
 struct MarkupAttribute {
   std::u16string_view name;
   std::u16string_view value;  // as written, without its quotes
-  // What a new value takes the place of: from behind the name to behind the old value.
+  // What a new value replaces: from behind the name to behind the old value.
   std::size_t replaceStart;
   std::size_t replaceEnd;
 };
@@ -19,14 +19,15 @@ struct MarkupAttribute {
 // Reads the name and the attributes of a start tag. `tag` reaches from "<" to ">" and is the
 // start or empty tag that a MarkupTokenizer found; an XML declaration can be read too.
 //
-// Reading is generous: values may lack quotes or be missing, and what is no attribute is skipped.
+// Reading is lenient: values may lack quotes or be missing, and what is not an attribute is
+// skipped.
 class StartTag {
  public:
   explicit StartTag(std::u16string_view tag);
 
   [[nodiscard]] std::u16string_view name() const { return name_; }
 
-  // The next attribute, in the order they are written, or nothing behind the last one.
+  // The next attribute, in the order in which they are written, or nothing after the last one.
   std::optional<MarkupAttribute> next();
 
   // The first attribute called `name` among those that next() has not yet passed.

@@ -51,8 +51,8 @@ inline std::size_t widenAscii(std::string_view bytes, char16_t* out) {
 inline std::size_t narrowAscii(std::u16string_view text, char* out) {
   std::size_t at = 0;
 #if BRENNET_HAS_SSE2
-  // With saturation, exactly the units from 0x80 on give a byte that is not below 0x80, but for
-  // those from 0x8000 on, which are negative and give 0; their sign bits are looked at as well.
+  // With saturation, exactly the units from 0x80 on give a byte that is not below 0x80, except
+  // those from 0x8000 on, which are negative and give 0; so their sign bits are checked too.
   for (; text.size() - at >= 16; at += 16) {
     const auto* source = reinterpret_cast<const __m128i*>(text.data() + at);
     const __m128i low = _mm_loadu_si128(source);

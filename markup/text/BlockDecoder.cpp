@@ -12,7 +12,7 @@
 namespace brennet {
 namespace {
 
-// The number that `bytes` write, in either order of bytes.
+// The number that `bytes` hold, in either byte order.
 std::uint32_t readUnit(std::string_view bytes, bool bigEndian) {
   std::uint32_t unit = 0;
   for (std::size_t i = 0; i < bytes.size(); ++i) {
@@ -32,8 +32,8 @@ std::size_t startOfLastNonZero(std::string_view bytes, std::size_t count) {
   return at;
 }
 
-// Takes the nulls out of `text` from `start` on, and returns how many there were. Bytes that are
-// not zero may stand for them: ASCII is read without the high bit, so that 0x80 is one.
+// Removes the nulls from `text` from `start` on, and returns how many there were. Bytes other than
+// zero can be nulls: ASCII is read without the high bit, so that 0x80 is one.
 std::size_t removeNulls(std::u16string& text, std::size_t start) {
   const auto rest = std::remove(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), 0);
   const auto count = static_cast<std::size_t>(text.end() - rest);
@@ -138,7 +138,7 @@ std::size_t BlockDecoder::convert(std::string_view bytes, bool isLast, std::u16s
   if (form_ == Form::DoubleByte) {
     const std::size_t used = DoubleByteCodec::of(codePage_).decode(bytes, out);
     if (!isLast) return used;
-    // Half a character at the end of the file: the system's answer to it.
+    // Half a character at the end of the file becomes what the system makes of it.
     if (used < bytes.size()) platform::decode(codePage_, bytes.substr(used), out);
   } else if (form_ == Form::Utf8) {
     const std::size_t whole = isLast ? bytes.size() : wholeUtf8Length(bytes);

@@ -20,11 +20,11 @@ class BlockDecoder {
   // `codePage` is one that this system can convert.
   explicit BlockDecoder(platform::CodePage codePage);
 
-  // Whether characters that a block cuts off can be recognised. Where not, the whole file must be
-  // one block.
+  // Whether characters that a block cuts off can be recognised. If not, the whole file must be one
+  // block.
   [[nodiscard]] bool canExamineEnd() const { return form_ != Form::Opaque; }
 
-  // Appends the text in `block` to `out`. `isLast` says that nothing follows, so all of it is
+  // Appends the text in `block` to `out`. `isLast` says that nothing follows, so that all of it is
   // used.
   DecodedBlock decode(std::string_view block, bool isLast, std::u16string& out);
 

@@ -19,13 +19,13 @@ constexpr char16_t foldCase(char16_t unit) {
   return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
 }
 
-// Whether two names differ in the case of ASCII letters at most.
+// Whether two names differ at most in the case of ASCII letters.
 constexpr bool equalIgnoringCase(std::u16string_view left, std::u16string_view right) {
   return std::equal(left.begin(), left.end(), right.begin(), right.end(),
                     [](char16_t a, char16_t b) { return foldCase(a) == foldCase(b); });
 }
 
-// How many decimal digits an entry of a bucket spends on its two numbers.
+// How many decimal digits an entry of a bucket has for its two numbers.
 struct EntryDigits {
   std::size_t length;  // for the length of the name
   std::size_t code;    // for the code
@@ -41,7 +41,7 @@ constexpr std::size_t bucketTextLength(const NamedCode (&list)[kRows], EntryDigi
   return length;
 }
 
-// Whether every row of `list` fits into its digits and the rows stand in strictly rising order.
+// Whether every row of `list` fits into its digits and the rows are in strictly ascending order.
 template <std::size_t kRows>
 constexpr bool isProperList(const NamedCode (&list)[kRows], EntryDigits digits) {
   const auto fits = [](std::size_t number, std::size_t digitCount) {
@@ -58,8 +58,8 @@ constexpr bool isProperList(const NamedCode (&list)[kRows], EntryDigits digits) 
 // A hash table of names whose buckets are plain strings, built at compile time.
 //
 // A bucket is the concatenation of its entries; an entry is the length of the name, the code (both
-// in decimal, padded with zeros) and the name, for example u"30038amp". The hash ignores the case
-// of letters, so that all forms of a name share a bucket.
+// in decimal, padded with zeros) and the name, for example u"30038amp". The hash ignores case, so
+// that all forms of a name share a bucket.
 template <std::size_t kLengthDigits, std::size_t kCodeDigits, std::size_t kBuckets,
           std::size_t kTextLength>
 class BucketTable {
@@ -80,7 +80,7 @@ class BucketTable {
     }
   }
 
-  // The bucket in which `name` stands, or would stand.
+  // The bucket that holds `name`, or would hold it.
   [[nodiscard]] constexpr std::u16string_view bucket(std::u16string_view name) const {
     const std::size_t at = bucketOf(name);
     return std::u16string_view(text_.data(), text_.size())

@@ -9,7 +9,7 @@
 namespace brennet {
 namespace {
 
-// Converted at a time: what is written and read again stays in the processor's nearest cache.
+// The size of a chunk: what is written and read again stays in the processor's nearest cache.
 constexpr std::size_t kChunk = 4096;
 
 }  // namespace
@@ -144,7 +144,7 @@ bool DoubleByteCodec::canDecode(std::string_view bytes) {
     if (isLead && bytes.size() < 2) return false;
     const auto trail = static_cast<unsigned char>(isLead ? bytes[1] : '\0');
     const char16_t unit = isLead ? pairsOf(byte)[trail] : singles_[byte];
-    // The default characters of the systems: what they stand for is written in another way.
+    // The systems' default characters: bytes that only fall back to one encode back differently.
     const bool isDefault = unit == u'?' || unit == u'\u30FB' || unit == kReplacementUnit;
     if (isDefault) {
       const platform::EncodedUnit back = platform::utf16ToBytes(codePage_, unit);

@@ -16,14 +16,14 @@ namespace brennet {
 // and one per high byte of a unit, which are filled when they are first needed.
 class DoubleByteCodec {
  public:
-  // The codec of `codePage`, whose shape must be DoubleByte. Lives as long as the program. Like
-  // the whole component it belongs to one thread.
+  // The codec of `codePage`, whose shape must be DoubleByte. Lives as long as the program. Like the
+  // whole component, it belongs to one thread.
   static DoubleByteCodec& of(platform::CodePage codePage);
 
   explicit DoubleByteCodec(platform::CodePage codePage);
 
-  // Appends `bytes` to `out` and returns how many of them that were: all, or all but a lead byte
-  // at the end that lacks the byte after it.
+  // Appends `bytes` to `out` and returns how many it took: all, or all but a lead byte at the end
+  // whose second byte is missing.
   std::size_t decode(std::string_view bytes, std::u16string& out);
 
   // Appends `text` to `out`, unit by unit. Returns whether any unit has no representation; it is
@@ -46,7 +46,7 @@ class DoubleByteCodec {
 
   platform::CodePage codePage_;
   std::array<bool, 256> isLead_{};
-  std::array<char16_t, 256> singles_{};  // of the bytes that are no lead bytes
+  std::array<char16_t, 256> singles_{};  // for the bytes that are not lead bytes
   std::array<std::unique_ptr<UnitRow>, 256> pairs_;
   std::array<std::unique_ptr<ByteRow>, 256> bytes_;
 };

@@ -74,8 +74,8 @@ Utf8Check checkUtf8(std::string_view bytes) {
   return check;
 }
 
-// Whether `bytes` hold a pair outside the rows A1 to F7, columns A1 to FE, where the characters of
-// the national standards stand. The first half of a longer sequence is such a pair.
+// Whether `bytes` hold a pair outside rows A1 to F7, columns A1 to FE, which hold the characters of
+// the national standards. The first half of a longer sequence is such a pair.
 template <class IsLeadByte>
 bool hasPairOutsideStandardRows(std::string_view bytes, IsLeadByte isLeadByte) {
   for (;;) {
@@ -97,8 +97,8 @@ bool isDoubleByte(CodePage codePage) {
          platform::codePageShape(codePage) == platform::CodePageShape::DoubleByte;
 }
 
-// GB18030 has the pairs of code page 936 and sequences of four bytes: no system tells of its
-// characters one by one, but their form says enough.
+// GB18030 has the pairs of code page 936 and sequences of four bytes. No system can be asked about
+// these one by one, but their form says enough.
 constexpr CodePage kGb18030 = 54936;
 
 bool isBetween(char byte, unsigned first, unsigned last) {
@@ -121,8 +121,8 @@ bool isGb18030(std::string_view bytes) {
   }
 }
 
-// Whether valid UTF-8 may be text of the code page by accident: it decodes there, and nothing says
-// that it is not what it is declared to be.
+// Whether valid UTF-8 may in fact be text of the code page: it decodes there, and nothing
+// contradicts its declaration.
 bool isLikelyIn(CodePage codePage, std::string_view bytes, const Utf8Check& check) {
   if (codePage == kGb18030) {
     const auto isLead = [](unsigned char byte) { return isGb18030Lead(static_cast<char>(byte)); };
@@ -155,9 +155,9 @@ DetectedEncoding detectEncoding(std::string_view bytes, DeclaredEncodingFinder f
   if (auto encoding = encodingOfSignature(bytes)) return *std::move(encoding);
   std::u16string name = findDeclared(bytes);
   CodePage declared = encodingToCodePage(name);
-  // What a name that nobody knows stands for was written in the system's own code page.
+  // A text with an unknown encoding name was written in the system's own code page.
   if (declared == 0 && !name.empty()) declared = platform::ansiCodePage();
-  // A declaration that was read byte for byte, without zeros in between, is not in wide units.
+  // A declaration that was found in single bytes, without zeros in between, is not in wide units.
   if (unitSize(declared) > 1 && bytes.substr(0, 4).find('\0') == std::string_view::npos) {
     declared = 0;
   }

@@ -12,7 +12,7 @@ void logLength(TextLog& log, TextEvent event, std::u16string_view encoding, std:
   log.add(event, encoding, static_cast<std::int64_t>(length));
 }
 
-// The block at the front of `bytes`, decoded; it is made larger while it holds no whole character.
+// Decodes the block at the front of `bytes`, which is enlarged while it holds no whole character.
 DecodedBlock decodeOne(BlockDecoder& decoder, std::string_view bytes, std::size_t blockSize,
                        std::u16string& text) {
   for (;; blockSize *= 2) {
@@ -27,7 +27,7 @@ void decodeBlocks(std::string_view bytes, const DetectedEncoding& encoding, std:
                   std::u16string& text, TextLog& log) {
   BlockDecoder decoder(encoding.codePage);
   const std::size_t unit = unitSize(encoding.codePage);
-  // A little more than there are units, as what has no meaning may become longer.
+  // A little more than the number of units, as invalid bytes may become longer.
   const std::size_t units = bytes.size() / unit;
   text.reserve(units + units / 100);
   while (!bytes.empty()) {

@@ -64,7 +64,7 @@ bool appendEncoded(std::u16string_view text, CodePage codePage, std::string& byt
   return platform::encode(codePage, text, bytes);
 }
 
-// Whether two code pages differ in the order of bytes at most.
+// Whether two code pages differ at most in byte order.
 bool isSameEncoding(CodePage left, CodePage right) {
   return left == right || (isUtf16(left) && isUtf16(right)) || (isUtf32(left) && isUtf32(right));
 }

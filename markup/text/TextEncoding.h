@@ -9,7 +9,7 @@
 namespace brennet {
 
 // The bytes of a document file that holds `text` in the encoding called `encoding`; the system's
-// ANSI code page where that is unknown or cannot be converted here.
+// ANSI code page if that is unknown or cannot be converted here.
 //
 // A text that was read from a file in the same encoding (`form`) keeps that file's byte order and
 // has a byte-order mark if the file had one. Any other text gets one in UTF-16 and UTF-32 only.

@@ -10,8 +10,8 @@
 namespace brennet {
 namespace {
 
-// The common errors have the same words on every system; the system's own words for the others
-// would come in the user's language and in some code page.
+// The common errors have the same words on every system; the system's own words would come in the
+// user's language and in some code page.
 void logError(const std::error_code& error, TextLog& log) {
   const std::error_condition common = error.default_error_condition();
   std::u16string message = u"System error";

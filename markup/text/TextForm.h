@@ -9,11 +9,11 @@ namespace brennet {
 
 // How a text was written in the file that it was read from.
 struct TextForm {
-  platform::CodePage codePage = 0;  // 0: the text comes from no file
+  platform::CodePage codePage = 0;  // 0: the text was not read from a file
   bool hasMark = false;             // the file began with a byte-order mark
 };
 
-// The byte-order mark of a code page; empty where it has none.
+// The byte-order mark of a code page; empty if it has none.
 [[nodiscard]] constexpr std::string_view markOf(platform::CodePage codePage) {
   using namespace std::string_view_literals;
   switch (codePage) {

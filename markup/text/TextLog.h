@@ -17,17 +17,17 @@ enum class TextEvent : std::uint8_t {
   TruncationError,
   // The system's message, and its number.
   FileError,
-  // Marks of what happened, without anything else.
+  // Events without any values.
   Utf8Detection,
   Bom,
   EndianSwap,
   ConversionLoss,
 };
 
-// Where reading and writing tell what they did, step by step.
+// Receives what reading and writing did, step by step.
 class TextLog {
  public:
-  // A number that is not known.
+  // An unknown number.
   static constexpr std::int64_t kUnknown = -1;
 
   // `text` is only valid during the call. Throws std::bad_alloc.

@@ -14,8 +14,8 @@ struct TextPosition {
   friend constexpr bool operator==(const TextPosition&, const TextPosition&) = default;
 };
 
-// Where the unit `offset` of `text` stands; what lies behind the text is at its end. Takes time for
-// the text before it.
+// The position of the unit `offset` of `text`; beyond the text, that of its end. Takes time in
+// proportion to the text before it.
 [[nodiscard]] TextPosition positionAt(std::u16string_view text, std::size_t offset);
 
 }  // namespace brennet

@@ -29,7 +29,7 @@ struct Utf16Character {
   std::size_t units;
 };
 
-// The character at `at`, which must be inside `text`. An unpaired surrogate gives itself.
+// The character at `at`, which must be inside `text`. An unpaired surrogate is returned as it is.
 constexpr Utf16Character characterAt(std::u16string_view text, std::size_t at) {
   const char32_t unit = text[at];
   if (!isHighSurrogate(unit) || at + 1 == text.size() || !isLowSurrogate(text[at + 1])) {
@@ -50,7 +50,7 @@ constexpr std::size_t writeCharacter(char32_t codePoint, char16_t* out) {
   return 2;
 }
 
-// Whether every surrogate in `text` stands in a pair.
+// Whether every surrogate in `text` is part of a pair.
 [[nodiscard]] bool isWellFormedUtf16(std::u16string_view text);
 
 }  // namespace brennet

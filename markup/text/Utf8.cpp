@@ -9,15 +9,15 @@
 namespace brennet {
 namespace {
 
-// Converted at a time: what is written and read again stays in the processor's nearest cache.
+// The size of a chunk: what is written and read again stays in the processor's nearest cache.
 constexpr std::size_t kChunk = 4096;
 
 constexpr std::size_t kLongestCharacter = 4;
 
 // The shape of the sequences that a lead byte begins, with the range of their second byte, which
-// keeps out overlong forms, surrogates and what lies above U+10FFFF.
+// excludes overlong forms, surrogates and everything above U+10FFFF.
 struct Lead {
-  unsigned char length;  // 0: no lead byte
+  unsigned char length;  // 0: not a lead byte
   unsigned char payload;
   unsigned char secondFirst, secondLast;
 };

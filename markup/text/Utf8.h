@@ -19,12 +19,12 @@ std::size_t utf16ToUtf8(std::u16string_view text, std::span<char> out);
 // U+10FFFF are errors. Each maximal part that cannot begin a character becomes U+FFFD.
 void utf8ToUtf16(std::string_view bytes, std::u16string& out);
 
-// What stands at one place of a text in UTF-8.
+// What is at one place of a text in UTF-8.
 struct Utf8Character {
   enum class State {
     Good,
-    Bad,     // no character: the bytes up to the one that spoilt it
-    CutOff,  // the beginning of a character, and the end of the text
+    Bad,     // not a character: the bytes before the one that makes it invalid
+    CutOff,  // the beginning of a character that the end of the text cuts off
   };
   State state;
   std::size_t bytes;   // 1 to 4
@@ -34,7 +34,7 @@ struct Utf8Character {
 // The character at the front of `bytes`, which must not be empty.
 [[nodiscard]] Utf8Character firstUtf8Character(std::string_view bytes);
 
-// How many bytes of `bytes` remain without a character that the end cuts off.
+// The length of `bytes` without a character that the end cuts off.
 [[nodiscard]] std::size_t wholeUtf8Length(std::string_view bytes);
 
 }  // namespace brennet
