@@ -26,7 +26,7 @@ struct Dota7Change {
   Kind kind = Kind::Numbers;
   std::u16string textName;
   std::u16string text;
-  bool hasText = false;  // false: the text is written as one of length 0
+  bool hasText = false;  // false: an empty text is written
 
   friend bool operator==(const Dota7Change&, const Dota7Change&) = default;
 };
@@ -37,7 +37,7 @@ struct Dota7FieldChange {
   Dota7Change change;
 };
 
-// Where changes go that are to be written.
+// Takes the changes that are to be written.
 class Dota7ChangeSink {
  public:
   // The changes, in their order; valid during the call. Throws std::bad_alloc.
@@ -48,7 +48,7 @@ class Dota7ChangeSink {
   ~Dota7ChangeSink() = default;
 };
 
-// `text` as it stands in the registry: UTF-8 without a zero at the end, cut between characters to
+// `text` as the registry holds it: UTF-8 without a zero at the end, cut between characters to
 // kDota7TextBytes.
 [[nodiscard]] std::string dota7TextBytes(std::u16string_view text);
 

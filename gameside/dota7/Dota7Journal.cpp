@@ -6,8 +6,8 @@
 namespace brennet {
 namespace {
 
-// So many dialogs of one user are open at once, or their processes have ended without a journal
-// that could be read.
+// One user has at most this many journals: those of open dialogs, and those of ended processes that
+// could not be read.
 constexpr char kNumbers[] = {'0', '1', '2', '3', '4', '5', '6', '7'};
 constexpr std::uint64_t kLargestJournal = 16U << 20U;
 
@@ -19,7 +19,7 @@ std::string nameOf(std::string_view registry, char number) {
 
 enum class Found { Nothing, Something, Unknown };
 
-// What the journal tells that was taken.
+// The content of the journal that was taken.
 Found read(const platform::PrivateFile& file, std::string_view registry, Dota7Undos& undos) {
   std::string bytes;
   const std::error_code error = file.read(bytes, kLargestJournal);
@@ -41,7 +41,7 @@ Dota7Undos Dota7Journal::recover() {
   const std::string registry = platform::registryIdentity();
   Dota7Undos undos;
   for (const char number : kNumbers) {
-    if (file_.isTaken()) break;  // of one that could not be undone, or not be dropped
+    if (file_.isTaken()) break;  // it could not be undone, or not be dropped
     const std::string name = nameOf(registry, number);
     if (!file_.isThere(name) || !file_.take(name)) continue;
     try {
@@ -65,7 +65,7 @@ bool Dota7Journal::takeFree() {
   for (const char number : kNumbers) {
     const std::string name = nameOf(registry, number);
     if (file_.isThere(name) || !file_.take(name)) continue;
-    // Another process may have had it since, and have left something.
+    // Another process may have had it since, and may have left something.
     if (platform::isMissing(file_.read(bytes, kLargestJournal))) return true;
     leave();
   }

@@ -31,7 +31,7 @@ std::vector<Part> partsOf(const Dota7Change& change) {
 }
 
 // Calls `visit` with the open key, the place and the value of each part of the changes. Keys that
-// cannot be opened are passed over.
+// cannot be opened are skipped.
 template <class Visit>
 void forEachPart(std::span<const Dota7Change> changes, Visit visit) {
   for (const Dota7Change& change : changes) {
@@ -83,8 +83,8 @@ void Dota7KeyInfoManager::writeJournal() {
   isJournalBehind_ = false;
 }
 
-// Where it is not known what stands in a place, it could not be given back: it is not written to.
-// The journal comes first: what memory runs out for must not have been written.
+// A value whose old content is unknown could not be restored, so it is not written. The journal
+// comes first: if memory runs out, nothing may have been written.
 void Dota7KeyInfoManager::put(RegistryKey& key, const Dota7Place& place,
                               const RegistryValue& value) {
   const RegistryKey::Reading now = key.read(place.second);
@@ -115,7 +115,7 @@ void Dota7KeyInfoManager::cancelChanges() {
   settings_.load();
 }
 
-// What cannot be given back is not kept in memory: it would come back in the middle of a later run.
+// What cannot be restored is not kept in memory: it would be restored in the middle of a later run.
 void Dota7KeyInfoManager::endRun(bool isUndone) noexcept {
   before_.clear();
   isJournalBehind_ = false;

@@ -15,15 +15,14 @@
 
 namespace brennet {
 
-// The DotA 7 settings: the names of their keys, their values, and the way of every change into the
-// registry and out of it again.
+// The DotA 7 settings: the names of their keys, their values, and how each change is written to the
+// registry and undone.
 //
 // A change is recorded under the object name of its field and written at once. Before a value is
-// first changed, what stood there is kept, until the changes are accepted or cancelled: in memory,
-// and in a journal on the disk, so that a process that ends in between leaves the registry as it
-// was, or will be again when the next run begins. Where the journal cannot be written, changes are
-// made all the same. What the registry does not let us write is passed over in silence; no key is
-// created. GUI thread only.
+// first changed, its old content is kept until the changes are accepted or cancelled: in memory,
+// and in a journal on the disk, so that if the process ends in between, the next run restores the
+// registry. If the journal cannot be written, changes are made all the same. What the registry
+// refuses to write is silently skipped; no key is created. GUI thread only.
 class Dota7KeyInfoManager : public QObject, private Dota7ChangeSink {
   Q_OBJECT
 
@@ -35,7 +34,7 @@ class Dota7KeyInfoManager : public QObject, private Dota7ChangeSink {
   }
   [[nodiscard]] const Dota7KeyNames& names() const { return names_; }
 
-  // What the pages show, as it was last read and changed.
+  // What the pages show: the values as last read and changed.
   [[nodiscard]] Dota7Settings& settings() { return settings_; }
 
   // Keeps the change under the object name of its field, in place of an earlier one.
@@ -45,28 +44,28 @@ class Dota7KeyInfoManager : public QObject, private Dota7ChangeSink {
     return records_;
   }
 
-  // A run of the dialog begins, before anything is read: undoes what was changed by runs that did
-  // not end, in this process or in one that has ended, and by those of which not everything could
-  // be given back. Values that somebody else has changed since are left alone.
-  // What cannot be undone at this moment belongs to this run: if it is cancelled, that is tried
-  // again; if it is accepted, the player has seen it. Throws std::bad_alloc.
+  // Begins a run of the dialog, before anything is read: undoes what was changed by unfinished
+  // runs, of this process or of an ended one, and by runs that could not restore everything. Values
+  // that somebody else has changed since are left alone. What cannot be undone at this moment
+  // belongs to this run: if it is cancelled, that is tried again; if it is accepted, the player has
+  // seen it. Throws std::bad_alloc.
   void beginRun();
 
-  // Writes what the change says. A value that is there already is not written again.
+  // Writes the change. A value that is already there is not written again.
   void writeValue(const Dota7Change& change) { writeValues({&change, 1}); }
   // The same for many, one after the other; the journal is written once.
   void writeValues(std::span<const Dota7Change> changes);
   // Writes the changes of fields and records them.
   void apply(std::span<const Dota7FieldChange> changes) override;
 
-  // The player is content: writes the recorded changes once more and forgets them and what stood
-  // there before. From the moment on in which the journal is gone, nothing undoes them.
+  // The player accepts: writes the recorded changes once more and forgets them and the old values.
+  // Once the journal is gone, nothing undoes them.
   void acceptChanges();
 
-  // The player wants none of it: forgets the recorded changes, gives the registry back what stood
-  // there before, or its absence, and reads the settings again. What could not be given back is not
-  // given back in the middle of a later run, but when the next one begins.
-  // Throws std::bad_alloc, and then has given back everything that memory was there for.
+  // The player cancels: forgets the recorded changes, restores the old values in the registry, or
+  // their absence, and reads the settings again. What could not be restored is not restored in the
+  // middle of a later run, but when the next one begins. Throws std::bad_alloc, and then has
+  // restored everything that memory sufficed for.
   void cancelChanges();
 
   // Forgets the recorded changes, which were written when they were made, and reads the settings
@@ -88,7 +87,7 @@ class Dota7KeyInfoManager : public QObject, private Dota7ChangeSink {
   std::map<std::u16string, Dota7Change, std::less<>> records_;
   Dota7Undos before_;
   Dota7Journal journal_;
-  bool isJournalBehind_ = false;  // something was noted since it was last written
+  bool isJournalBehind_ = false;  // something has been noted since it was last written
   Dota7Settings settings_{names_, *this};
 };
 

@@ -13,8 +13,8 @@ struct Utf8KeyName {
   std::string_view name;
 };
 
-// Wording and coverage differ from the capture names on purpose: the two families of screens name
-// keys each in its own way.
+// Wording and coverage differ from the capture names on purpose: the two families of windows each
+// name keys in their own way.
 //
 // All names are taken as UTF-8. That of the full-stop key (0xBE) is the byte pair A1 A3, which is
 // an ideographic full stop in GB2312; as UTF-8 each of the bytes is a stray continuation byte and

@@ -12,24 +12,24 @@ namespace {
 constexpr std::uint32_t kLargestCode = 0xFF;
 constexpr Dota7Cast kCasts[] = {Dota7Cast::Normal, Dota7Cast::Quick};
 
-// Where a row stands in its table.
+// The index of a row in its table.
 template <class Row>
 std::size_t indexOf(const Row& row, std::span<const Row> rows) {
   return static_cast<std::size_t>(&row - rows.data());
 }
 
-// Which of a field's keys is that of the cast mode.
+// Which of a field's keys belongs to the cast mode.
 std::size_t sideOf(const Dota7KeyField& field, Dota7Cast cast) {
   return cast == Dota7Cast::Quick && field.followsCast() ? 1 : 0;
 }
 
-// The number in four bytes, whatever type they are said to have; 0 where there are not four.
+// The number in four bytes, whatever the type of the value; 0 if there are not four.
 std::uint32_t readNumber(const platform::RegistryKey& source, std::u16string_view name) {
   const platform::RegistryKey::Reading reading = source.read(name);
   return reading.value ? platform::fourBytesIn(*reading.value).value_or(0) : 0;
 }
 
-// The bytes of a text; nothing where there is no text, or one that is too long to be one of ours.
+// The bytes of a text; nothing if there is no text, or one too long to be ours.
 std::optional<std::string> textIn(const std::optional<platform::RegistryValue>& value) {
   if (!value || value->type != platform::kRegistryBinary) return std::nullopt;
   if (value->data.size() > kDota7TextBytes) return std::nullopt;
@@ -58,7 +58,7 @@ PhraseReading readPhrase(const platform::RegistryKey& source, std::u16string_vie
   return result;
 }
 
-// What is left of a phrase when it has gone through the registry.
+// What is left of a phrase after a round trip through the registry.
 std::u16string asStored(std::u16string_view text) {
   std::u16string stored;
   utf8ToUtf16(dota7TextBytes(text), stored);
@@ -108,7 +108,7 @@ void Dota7Settings::loadKeys(std::u16string_view keyPath) {
   }
 }
 
-// The registry has no value for the modifier: the text that was stored with the key tells it.
+// The registry has no value for the modifier: it is found in the text stored with the key.
 Dota7Key Dota7Settings::readKey(const platform::RegistryKey& source,
                                 const Dota7ValuePair& values) const {
   const std::uint32_t code = readNumber(source, values.code);

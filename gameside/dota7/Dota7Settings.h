@@ -25,13 +25,13 @@ struct Dota7Key {
   friend constexpr bool operator==(const Dota7Key&, const Dota7Key&) = default;
 };
 
-// The values that the DotA 7 pages show and edit. Each change is handed on at once, to
-// be recorded and written.
+// The values that the DotA 7 pages show and edit. Each change is passed on at once, to be recorded
+// and written.
 //
-// What the registry lacks, or holds in another length than it should, reads as its default: no key,
-// a switch that is off, an empty phrase. A number is what its four bytes say, whatever their type;
-// a phrase of another type is an empty one. The cast mode is no value of the registry; it is normal
-// at first. All rows come from the tables of Dota7Values.h.
+// What the registry lacks, or holds with a wrong length, reads as its default: no key, a switch
+// that is off, an empty phrase. A number is what its four bytes say, whatever their type; a phrase
+// of another type is empty. The cast mode is not a value of the registry; it is normal at first.
+// All rows come from the tables of Dota7Values.h.
 class Dota7Settings {
  public:
   // Both outlive this object, and are not used before load() or a change.
@@ -40,7 +40,7 @@ class Dota7Settings {
 
   // Reads everything from the registry. The cast mode stays.
   void load();
-  // Reads the phrases and their keys alone.
+  // Reads only the phrases and their keys.
   void loadPhrases();
 
   [[nodiscard]] Dota7Cast cast() const { return cast_; }
@@ -52,9 +52,9 @@ class Dota7Settings {
   [[nodiscard]] std::u16string keyText(const Dota7KeyField& field) const;
 
   // Stores the key of a field in the cast mode. Ctrl or Alt by itself is a key without a modifier;
-  // of other modifiers there are none.
-  // Returns false, and changes nothing, where another field has the same key with the same
-  // modifier; of a field that follows the cast mode only the key of that mode counts.
+  // there are no other modifiers.
+  // Returns false, and changes nothing, if another field has the same key with the same modifier;
+  // for a field that follows the cast mode only the key of that mode counts.
   [[nodiscard]] bool storeKey(const Dota7KeyField& field, Dota7Key key);
   void clearKey(const Dota7KeyField& field);
 
@@ -62,13 +62,13 @@ class Dota7Settings {
   void setOn(const Dota7Switch& row, bool on);
 
   [[nodiscard]] const std::u16string& phrase(const Dota7Phrase& row) const;
-  // Stores a phrase; what goes beyond 260 bytes of UTF-8 is cut off, between characters. The phrase
-  // of a value that could not be read as one is not written unless it has changed or the player has
-  // typed it, be it the same.
+  // Stores a phrase, cut between characters to 260 bytes of UTF-8. The phrase of a value that could
+  // not be read as one is not written unless it has changed or the player has typed it, even the
+  // same text.
   void setPhrase(const Dota7Phrase& row, std::u16string_view text, bool isTyped = false);
 
-  // Gives every value its default, in both cast modes, and sets the normal one, also where the
-  // registry holds what could not be read. Values that are not there are not made.
+  // Gives every value its default, in both cast modes, even if it could not be read, and sets the
+  // normal cast mode. Missing values are not created.
   void reset();
 
  private:
@@ -79,7 +79,7 @@ class Dota7Settings {
                                  const Dota7ValuePair& values) const;
   [[nodiscard]] bool isUsed(const Dota7KeyField& field, const Dota7Key& key) const;
   [[nodiscard]] Dota7Key& keyPlace(const Dota7KeyField& field, Dota7Cast cast);
-  // Take a value and give what has to be written for it.
+  // Take a value and return what has to be written for it.
   [[nodiscard]] Dota7FieldChange keyChange(const Dota7KeyField& field, Dota7Cast cast,
                                            const Dota7Key& key);
   [[nodiscard]] Dota7FieldChange switchChange(const Dota7Switch& row, bool on);
@@ -92,7 +92,7 @@ class Dota7Settings {
   std::array<Keys, kDota7KeyFields> keys_;
   std::array<bool, kDota7Switches> switches_{};
   std::array<std::u16string, kDota7Phrases> phrases_;
-  // The values that phrases_ does not say the whole of.
+  // The values that phrases_ does not represent completely.
   std::bitset<kDota7Phrases> unreadable_;
 };
 

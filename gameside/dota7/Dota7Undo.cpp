@@ -21,8 +21,8 @@ bool giveBack(RegistryKey& key, const std::u16string& name, const Dota7Undo& und
   return undo.old ? key.write(name, *undo.old) : key.remove(name);
 }
 
-// The entries from `first` on that are of one key. Gives the first that is not. What does not reach
-// the disk stays among them.
+// Undoes the entries from `first` on that are of one key, and returns the first that is not. What
+// does not reach the disk stays among them.
 Dota7Undos::iterator giveBackKey(Dota7Undos& undos, Dota7Undos::iterator first) {
   const std::u16string path = first->first.first;
   RegistryKey key(path);
@@ -32,7 +32,7 @@ Dota7Undos::iterator giveBackKey(Dota7Undos& undos, Dota7Undos::iterator first) 
     try {
       end->second.isGivenBack = giveBack(key, end->first.second, end->second);
     } catch (const std::bad_alloc&) {
-      // The other values are given back all the same.
+      // The other values are restored all the same.
     }
     ++end;
   }
@@ -55,7 +55,7 @@ std::pair<Dota7Undo*, bool> note(Dota7Undos& undos, const Dota7Place& place,
                                  const RegistryValue& next) {
   auto [entry, isNew] = undos.try_emplace(place, Dota7Undo{now, {}, false});
   Dota7Undo& undo = entry->second;
-  // Somebody else has changed it before this run did: that is what stood there.
+  // Somebody else changed it before this run did: that is the old value.
   if (!undo.isChanged && now != undo.old && !holds(undo.written, now)) {
     undo = Dota7Undo{now, {}, false};
     isNew = true;

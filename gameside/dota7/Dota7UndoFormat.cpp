@@ -1,6 +1,6 @@
-// The form of the journal: a line that names it, the registry's identity, the number of entries,
-// each with path, name, what stood there and what was written since, and a checksum. Numbers have
-// four bytes, the lowest first; bytes and texts (UTF-16) stand behind their size in bytes.
+// The format of the journal: a line that names it, the registry's identity, the number of entries,
+// each with path, name, old value and what was written since, and a checksum. Numbers are four
+// bytes, little-endian; bytes and texts (UTF-16) follow their size in bytes.
 
 #include "gameside/dota7/Dota7Undo.h"
 #include "gameside/dota7/Dota7Values.h"
@@ -44,8 +44,8 @@ void appendEntry(const Dota7Place& place, const Dota7Undo& undo, std::string& by
   for (const RegistryValue& value : undo.written) appendValue(value, bytes);
 }
 
-// Takes what was appended off the front of `bytes`. What is not there is empty, and makes the whole
-// no journal.
+// Takes what was appended off the front of `bytes`. What is missing is empty, and makes the whole
+// invalid.
 class Reader {
  public:
   explicit Reader(std::string_view bytes) : bytes_(bytes) {}

@@ -163,7 +163,7 @@ constexpr Dota7Switch kSwitches[] = {
 };
 static_assert(std::size(kSwitches) == kDota7Switches);
 
-// The quick-chat rows, then those of the start of a game.
+// The quick-chat rows, then those sent when a game starts.
 constexpr Dota7Phrase kPhrases[] = {
     {u"edt_SQuickChatString0", u"SQuickChatString0"},
     {u"edt_SQuickChatString1", u"SQuickChatString1"},

@@ -29,7 +29,7 @@ struct Dota7KeyField {
   std::u16string_view objectName;
   std::u16string_view keyPath;
   Dota7ValuePair normal;
-  Dota7ValuePair quick;  // empty where the field edits `normal` in both cast modes
+  Dota7ValuePair quick;  // empty if the field edits `normal` in both cast modes
 
   [[nodiscard]] constexpr bool followsCast() const { return !quick.text.empty(); }
   // The values that the field edits in a cast mode.
@@ -44,8 +44,7 @@ struct Dota7Switch {
   std::u16string_view valueName;
 };
 
-// A field with a phrase; its value stands in kDota7PhrasesPath: bytes, UTF-8 without a zero at the
-// end.
+// A field with a phrase; its value is in kDota7PhrasesPath: bytes, UTF-8 without a zero at the end.
 struct Dota7Phrase {
   std::u16string_view objectName;
   std::u16string_view valueName;
@@ -71,11 +70,11 @@ inline constexpr std::size_t kDota7Phrases = 2 * kDota7ChatKeys;
 [[nodiscard]] std::span<const Dota7KeyField, kDota7ItemKeys> dota7ItemKeys();
 [[nodiscard]] std::span<const Dota7KeyField, kDota7SkillKeys> dota7SkillKeys(Dota7Cast cast);
 [[nodiscard]] std::span<const Dota7KeyField, kDota7ChatKeys> dota7ChatKeys();
-// The phrases of the quick-chat rows, and those said when a game starts.
+// The phrases of the quick-chat rows, and those sent when a game starts.
 [[nodiscard]] std::span<const Dota7Phrase, kDota7ChatKeys> dota7QuickChatPhrases();
 [[nodiscard]] std::span<const Dota7Phrase, kDota7ChatKeys> dota7StartPhrases();
 
-// The row of that object name; null where there is none.
+// The row of that object name; null if there is none.
 [[nodiscard]] const Dota7KeyField* findDota7KeyField(std::u16string_view objectName);
 [[nodiscard]] const Dota7Switch* findDota7Switch(std::u16string_view objectName);
 [[nodiscard]] const Dota7Phrase* findDota7Phrase(std::u16string_view objectName);

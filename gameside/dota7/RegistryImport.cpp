@@ -30,7 +30,7 @@ bool hasFile(const std::u16string& directory) {
 bool importDefaultRegistry(std::u16string_view directory) {
   if (platform::RegistryKey(kDota7Path).isOpen()) return true;
   std::u16string folder(directory);
-  // No name is no folder: a separator would make the root of it.
+  // An empty name is no folder: a separator would make it the root.
   if (!hasFile(folder) && !folder.empty()) {
     folder += static_cast<char16_t>(platform::Path::preferred_separator);
   }

@@ -23,11 +23,11 @@ struct War3HotkeySection {
 };
 
 // The name between the brackets, for example "Commandbar Hotkeys 21" or "Inventory Hotkeys 3".
-// Empty for a kind that the game does not know. Other positions than the game's give other numbers,
-// nothing worse.
+// Empty for a kind that the game does not know. Positions that the game does not have give other
+// numbers, nothing worse.
 [[nodiscard]] std::string sectionName(const War3HotkeySection& section);
 
-// The section as it stands in the file, its closing blank line included; line ends are LF.
+// The section as in the file, including its closing blank line; line ends are LF.
 [[nodiscard]] std::string sectionText(const War3HotkeySection& section);
 
 }  // namespace brennet

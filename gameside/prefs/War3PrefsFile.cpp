@@ -12,7 +12,7 @@ namespace {
 
 constexpr char kEndOfTextFile = '\x1A';
 
-// The game's own sections that ours take the place of, wherever in the header the words stand.
+// The game's own sections that ours replace, wherever in the header the words are.
 constexpr std::array<std::string_view, 2> kHotkeyHeaders = {"[Commandbar Hotkeys ",
                                                             "[Inventory Hotkeys "};
 
@@ -23,7 +23,7 @@ platform::Path gamePreferencesPath() {
 }
 
 // The text of a file as the C runtime of Windows reads it in text mode into a buffer of the file's
-// size: CR LF arrives as LF, 0x1A ends the text, and what the text leaves of the buffer is zeros.
+// size: CR LF becomes LF, 0x1A ends the text, and the rest of the buffer is zeros.
 std::string textOfFile(std::string_view fileBytes) {
   const std::string_view live = fileBytes.substr(0, fileBytes.find(kEndOfTextFile));
   std::string text;
@@ -36,7 +36,7 @@ std::string textOfFile(std::string_view fileBytes) {
   return text;
 }
 
-// The other way: every LF becomes CR LF.
+// The reverse: every LF becomes CR LF.
 void appendAsFileBytes(std::string_view text, std::string& fileBytes) {
   for (const char character : text) {
     if (character == '\n') fileBytes.push_back('\r');
@@ -59,7 +59,7 @@ std::string_view nextLine(std::string_view text, std::size_t& at) {
   return line;
 }
 
-// The position behind the first line that equals `wanted`; the end of `text` where there is none.
+// The position behind the first line that equals `wanted`; the end of `text` if there is none.
 std::size_t behindLine(std::string_view text, std::string_view wanted) {
   std::size_t at = 0;
   while (at < text.size()) {
