@@ -1,4 +1,4 @@
-# The front door. Every goal installs what it needs first, see tools/setup.sh.
+# The way in. Every goal first installs what it needs, see tools/setup.sh.
 
 SETTINGS ?=
 FUZZ_SECONDS ?= 60

@@ -1,4 +1,4 @@
-# What `cmake --install` lays out: the package that hosts are built with. The native package is the
+# What `cmake --install` lays out: the package to build hosts with. The native package is the
 # library, its headers and the CMake files; the Windows package has what sdk/README.md lists.
 
 include(CMakePackageConfigHelpers)
@@ -13,7 +13,7 @@ target_include_directories(brennet_headers INTERFACE
   "$<INSTALL_INTERFACE:include>")
 set_target_properties(brennet_headers PROPERTIES EXPORT_NAME Headers)
 
-# Who links the library sees the public headers, and none of the sources'.
+# Whoever links the library sees only its public headers.
 set_target_properties(brennet PROPERTIES
   EXPORT_NAME Brennet
   INTERFACE_INCLUDE_DIRECTORIES ""

@@ -1,9 +1,9 @@
-# Settings that every target of the project shares, and the two ways to declare one.
+# Settings that all targets of the project share, and the functions that declare targets and tests.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
-# Everything is hidden unless it says otherwise: the library has one export.
+# Symbols are hidden by default: the library has one export.
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
@@ -24,7 +24,7 @@ if(BRENNET_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# The linker compares the types of all sources, which no compiler sees together.
+# The linker compares the types of all sources, which the compiler never sees together.
 set(BRENNET_ODR_FLAGS -flto=auto -Werror=odr -Werror=lto-type-mismatch)
 if(BRENNET_ODR)
   if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -34,7 +34,7 @@ if(BRENNET_ODR)
   add_link_options(${BRENNET_ODR_FLAGS})
 endif()
 
-# Compiler settings of our own code; other people's headers are included as system headers.
+# Compiler settings for our own code; third-party headers are included as system headers.
 function(brennet_target_defaults target)
   target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}")
   if(WIN32)
@@ -65,9 +65,9 @@ function(brennet_add_layer name)
 endfunction()
 
 # brennet_add_test(markup SOURCES a_test.cpp DEPENDS Brennet::markup)
-# One GoogleTest program per folder, each of its cases a CTest test. Programs for another system
-# are a test each: starting its emulator takes longer than most programs run. With OWN_MAIN behind
-# the name the sources hold the function main, which calls leaveTheCallersWorld().
+# One GoogleTest program per folder, each of its cases a CTest test. Each program for another system
+# is one test: starting the emulator takes longer than most programs run. With OWN_MAIN after the
+# name, the sources define main, which calls leaveTheCallersWorld().
 function(brennet_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 test "OWN_MAIN" "" "SOURCES;DEPENDS")
   set(main Brennet::test_main)
@@ -87,8 +87,8 @@ function(brennet_add_test name)
 endfunction()
 
 # brennet_add_script_test(name [VARIABLE=VALUE]... COMMAND ARGUMENT... [WORKING_DIRECTORY folder])
-# A test that is a command, such as a script, or a program that is no GoogleTest program. It runs in
-# the world of the tests, in which nothing is of the caller's; the variables come on top.
+# A test that is a command, such as a script or a program without GoogleTest. It runs in the world
+# of the tests, in which nothing is of the caller's; the variables are added to that.
 function(brennet_add_script_test name)
   set(fonts)
   if(NOT CMAKE_CROSSCOMPILING)
@@ -98,13 +98,12 @@ function(brennet_add_script_test name)
     COMMAND "${PROJECT_SOURCE_DIR}/tests/support/world.sh" ${fonts} ${ARGN})
 endfunction()
 
-# The fonts that windows are tested with, see tests/ui/fonts/. The first is what programs use where
-# nobody asks for another.
+# The fonts that windows are tested with, see tests/ui/fonts/. The first is the default.
 set(BRENNET_FONT_SETS dejavu wqy noto)
 
 # brennet_add_font_tests(ui "PagesLook.*:Fit*")
-# Has CTest run those tests of a program once more with each other font set, as ui_wqy.PagesLook.*
-# and so on. Programs for another system know one set of fonts only.
+# Makes CTest run those tests of a program again with each other font set, as ui_wqy.PagesLook.* and
+# so on. Programs for another system have only one font set.
 function(brennet_add_font_tests name filter)
   if(CMAKE_CROSSCOMPILING)
     return()

@@ -1,8 +1,7 @@
 # The rest of the Windows package: import libraries, what the library needs to run, the sample host
 # as source and as a program, the contract and the licences. tools/sdk.sh makes the zip of it.
 
-# For linkers that read Microsoft's import libraries. What the GNU linker makes by itself is
-# libBrennet.dll.a.
+# For linkers that read Microsoft's import libraries. The GNU linker itself makes libBrennet.dll.a.
 find_program(BRENNET_DLLTOOL NAMES llvm-dlltool llvm-dlltool-14 REQUIRED)
 set(definitions "${PROJECT_SOURCE_DIR}/sdk/windows/Brennet.def")
 set(import_library "${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}/Brennet.lib")
@@ -11,7 +10,7 @@ add_custom_command(OUTPUT "${import_library}" DEPENDS "${definitions}"
   COMMAND "${BRENNET_DLLTOOL}" -m i386 -d "${definitions}" -l "${import_library}")
 add_custom_target(brennet_import_library ALL DEPENDS "${import_library}")
 
-# The same sources give the same package, whenever they are built.
+# The same sources always give the same package.
 target_link_options(brennet PRIVATE "LINKER:--no-insert-timestamp")
 
 install(TARGETS brennet RUNTIME DESTINATION bin ARCHIVE DESTINATION lib)
@@ -38,7 +37,7 @@ install(FILES samples/data/KeyInfo.xml samples/data/Tollamere.reg samples/data/W
 install(FILES sdk/README.md sdk/CONTRACT.md DESTINATION .)
 install(FILES docs/embedding.md DESTINATION docs)
 
-# The texts come from where the parts come from: the folder of Qt and the compiler's packages.
+# The texts come from the same places as the parts: the folder of Qt and the compiler's packages.
 install(FILES sdk/NOTICE.md DESTINATION licences)
 install(FILES "${BRENNET_QT_DIR}/licences/LICENSE.LGPLv3" DESTINATION licences RENAME LGPL-3.txt)
 install(FILES "${BRENNET_QT_DIR}/licences/LICENSE.GPL3" DESTINATION licences RENAME GPL-3.txt)
@@ -48,7 +47,7 @@ install(FILES /usr/share/doc/gcc-mingw-w64-i686-posix-runtime/copyright DESTINAT
   RENAME gcc-runtime.txt)
 install(FILES /usr/share/doc/mingw-w64-i686-dev/copyright DESTINATION licences
   RENAME mingw-w64.txt)
-# What those two refer to by its place on a Debian system.
+# Texts that those two refer to by their places on a Debian system.
 foreach(text Artistic GFDL-1.2 GPL-2 LGPL-2 LGPL-2.1)
   install(FILES /usr/share/common-licenses/${text} DESTINATION licences RENAME ${text}.txt)
 endforeach()

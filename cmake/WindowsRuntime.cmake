@@ -1,5 +1,5 @@
 # The DLLs that a program needs beside it: the compiler's runtime, and Qt with the plugins that
-# widgets ask for. BRENNET_RUNTIME_FILES and BRENNET_RUNTIME_PLUGINS (below platforms/ and styles/)
+# widgets need. BRENNET_RUNTIME_FILES and BRENNET_RUNTIME_PLUGINS (below platforms/ and styles/)
 # list them; the target brennet_runtime puts them beside the programs that are built.
 
 set(BRENNET_RUNTIME_FILES)
@@ -7,7 +7,7 @@ foreach(name libgcc_s_dw2-1 libstdc++-6 libwinpthread-1)
   execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${name}.dll
     OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
   if(NOT IS_ABSOLUTE "${file}")
-    # The compiler knows its own two; the thread library is the C library's.
+    # The compiler knows its own two; the thread library belongs to the C library.
     find_file(BRENNET_${name} ${name}.dll PATHS /usr/i686-w64-mingw32/lib REQUIRED
       NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
     set(file "${BRENNET_${name}}")

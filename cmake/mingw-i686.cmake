@@ -1,5 +1,5 @@
 # Cross-builds the 32-bit Windows library with Debian's mingw-w64 compilers. The posix thread model
-# is needed for guarded statics; SSE2 is there on every processor that runs the game.
+# is needed for guarded statics; every processor that runs the game has SSE2.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR i686)
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Formats every C++ source of the checkout, or with --check only tells which are not formatted.
+# Formats every C++ source of the checkout, or with --check only lists those that are not formatted.
 set -euo pipefail
 
 mode=(-i)

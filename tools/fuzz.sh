@@ -4,9 +4,9 @@
 # TIME is the seconds for each target, or "4h": that many hours for all of them together.
 #
 # The inputs of fuzz/corpus/<target>/ are copied into CORPUS_FOLDER, where what a run finds stays
-# for the next one; the checkout is only read (tools/fuzz_merge.sh brings the finds back). All of
-# them are run first. Inputs that break something are left in CORPUS_FOLDER/<target>-findings/, what
-# libFuzzer said in CORPUS_FOLDER/<target>.log.
+# for the next one; the checkout is only read (tools/fuzz_merge.sh brings the finds back). All
+# inputs there run first. Inputs that break something are left in CORPUS_FOLDER/<target>-findings/,
+# the output of libFuzzer in CORPUS_FOLDER/<target>.log.
 set -euo pipefail
 
 # shellcheck source=tools/fuzz_lib.sh
@@ -17,7 +17,7 @@ build=$1
 corpus=$2
 time=$3
 
-# Prints what a run came to, from its log.
+# Prints the result of a run, from its log.
 account_of() { # TARGET
   awk -v target="$1" '
     /^stat::number_of_executed_units/ { executed = $2 }

@@ -1,10 +1,9 @@
 #!/usr/bin/env bash
-# Tells what the inputs in fuzz/corpus/ reach: tools/fuzz_coverage.sh BUILD_FOLDER
+# Shows what the inputs in fuzz/corpus/ reach: tools/fuzz_coverage.sh BUILD_FOLDER
 #
-# BUILD_FOLDER is that of the preset fuzz-coverage. Prints how many of the lines and branches are
-# reached of what the targets are for, file by file and folder by folder. The same is left there in
-# coverage.txt, and in uncovered.txt each line that was never run and each branch that was never
-# taken.
+# BUILD_FOLDER is that of the preset fuzz-coverage. Prints, by file and by folder, how many lines
+# and branches of the code under test are reached. The same is left there in coverage.txt, and in
+# uncovered.txt each line that was never run and each branch that was never taken.
 set -euo pipefail
 
 # shellcheck source=tools/fuzz_lib.sh
@@ -14,8 +13,8 @@ readonly sources='^(markup|model|gameside)/|^platform/RegFile'
 build=$1
 profiles=$build/profiles
 
-# Compilers may have been given names from the root or from the build folder. The names begin with
-# the folder of the checkout then.
+# File names may have been given to the compiler from the root or from the build folder. In the
+# report they begin with the folder of the checkout.
 from_checkout() {
   sed -E "s|^($PWD/\|(\.\./)+)||"
 }
@@ -44,7 +43,7 @@ table() {
     }'
 }
 
-# The lines of llvm-cov show that nothing reached, below the names of their files.
+# The lines in the report of llvm-cov that nothing reached, below the names of their files.
 uncovered() {
   awk -v sources="$sources" '
     /^[^ |]+:$/ { file = $0; wanted = $0 ~ sources && $0 !~ /_autogen/; next }

@@ -9,8 +9,7 @@ targets_in() { # BUILD_FOLDER
   done
 }
 
-# How long the inputs of a target are at most, in bytes. What is longer says nothing new, and takes
-# longer to run.
+# The longest inputs of a target, in bytes. Longer ones show nothing new and take longer to run.
 longest_input() { # TARGET
   case $1 in
     settings) echo 16384 ;;
@@ -19,9 +18,9 @@ longest_input() { # TARGET
   esac
 }
 
-# Has all temporary files made in a folder of this script's own, which goes when it ends: libFuzzer
-# ends its programs without a chance to clean up. In memory where there is such a place, because
-# sessions write and flush files all the time.
+# Puts all temporary files into a folder of this script's own, which is removed when it ends:
+# libFuzzer ends its programs without a chance to clean up. The folder is in memory if possible,
+# because sessions write and flush files all the time.
 use_own_temporary_folder() {
   local place=${TMPDIR:-/tmp}
   if [[ -z ${TMPDIR:-} && -d /dev/shm && -w /dev/shm ]]; then place=/dev/shm; fi

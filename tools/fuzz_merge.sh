@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # Brings what runs have found back into the checkout: tools/fuzz_merge.sh BUILD_FOLDER CORPUS_FOLDER
 #
-# fuzz/corpus/<target>/ then holds the seeds, which have names that say what they are, and as few
-# others as take the same branches as the old ones and those of CORPUS_FOLDER together. libFuzzer
-# names these by their hashes. CORPUS_FOLDER holds the same afterwards, so that the next run does not
-# begin with thousands of inputs that say nothing new. Fails, after all is done, where they are more
-# than 2 MB in all.
+# fuzz/corpus/<target>/ then holds the seeds, whose names say what they are, and the fewest others
+# that cover the same branches as the old ones and those of CORPUS_FOLDER together. libFuzzer names
+# these by their hashes. CORPUS_FOLDER then holds the same, so that the next run does not begin with
+# thousands of inputs that show nothing new. Fails, after everything is done, if they exceed 2 MB in
+# total.
 set -euo pipefail
 
 # shellcheck source=tools/fuzz_lib.sh
@@ -19,7 +19,7 @@ is_seed() { # NAME
   [[ ! $1 =~ ^[0-9a-f]{40}$ ]]
 }
 
-# Which branches are taken counts, not how often: a tenth of the inputs will do.
+# Only which branches are taken counts, not how often: a tenth of the inputs is enough.
 merge() { # TARGET NEW_FOLDER
   local target=$1 new=$2 old=fuzz/corpus/$1 file
   mkdir -p "$new" "$old" "$corpus/$target"

@@ -2,8 +2,8 @@
 # Runs clang-tidy over the sources of the component and the sample host:
 # tools/lint.sh {native|windows} BUILD_FOLDER
 #
-# The build folder supplies the compiler's arguments; those that only g++ knows do not count. Of the
-# Windows build only the sources are looked at that the native one has not.
+# The build folder supplies the compiler's arguments; those that only g++ knows are ignored. For the
+# Windows build only the sources are checked that the native one lacks.
 set -euo pipefail
 
 usage() {
@@ -11,7 +11,7 @@ usage() {
   exit 2
 }
 
-# Checks the files that are given on standard input, each name ending in a zero byte.
+# Checks the files named on standard input, each name ending in a zero byte.
 tidy() { # BUILD_FOLDER ARGUMENT...
   xargs -0 -r -n 1 -P "$(nproc)" clang-tidy -p "$1" --quiet \
     --extra-arg=-Wno-unknown-warning-option "${@:2}" 2> >(grep -v 'warnings generated' >&2)

@@ -2,8 +2,8 @@
 # Shows the library at work: tools/run.sh HOST_PROGRAM LIBRARY [SETTINGS]
 #
 # Copies a settings file (the sample by default) and the sample preference file of the game into
-# build/run/, and lets the sample host load them there, open the settings dialog and say what has
-# changed. Where there is no screen, pictures of the dialog are made instead.
+# build/run/, and has the sample host load them there, open the settings dialog and say what has
+# changed. Without a screen, it takes pictures of the dialog instead.
 set -euo pipefail
 
 program=$1
@@ -24,10 +24,10 @@ chmod u+w "$run/settings/KeyInfo.xml"
 windows=(--pictures "$run")
 [[ -z ${DISPLAY-}${WAYLAND_DISPLAY-} ]] || windows=(--dialog)
 
-# Elsewhere than on Windows this file is the registry.
+# On systems other than Windows this file is the registry.
 export BRENNET_REGISTRY=$PWD/$run/registry.reg
 status=0
-# What the platform without a screen says of itself is nothing to read.
+# The messages of Qt's platform without a screen are of no use here.
 "$program" --library "$library" --settings "$run/settings/KeyInfo.xml" --data "$run/data/" \
   --profile "$run/profile" --block "${windows[@]}" \
   2> >(grep --line-buffered -v '^This plugin does not support ' >&2) || status=$?

@@ -2,8 +2,8 @@
 # Writes the package for embedders: tools/sdk.sh BUILD_FOLDER OUTPUT_FOLDER
 #
 # The build is one of the Windows library. The zip is brennet-sdk-<version>.zip in the output folder
-# and its name is printed. The same build gives the same bytes: files stand in the order of their
-# names and carry the time of SOURCE_DATE_EPOCH, or else of the last commit.
+# and its name is printed. The same build gives the same bytes: files are sorted by name and carry
+# the time of SOURCE_DATE_EPOCH, or else of the last commit.
 set -euo pipefail
 
 die() {
@@ -21,8 +21,8 @@ commit_time() {
     die "There is no last commit to take the time from; set SOURCE_DATE_EPOCH."
 }
 
-# Takes the symbols out of what was linked here, and with them the names of this machine's folders.
-# The linker's runtime is 20 MB with its symbols. Qt's files have none and stay as they are.
+# Strips the symbols from what was linked here, and with them the names of this machine's folders.
+# The linker's runtime has 20 MB with its symbols. Qt's files have none and stay as they are.
 strip_programs() { # FOLDER
   local file
   for file in "$1"/*.dll "$1"/*.exe; do

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Installs what the given needs take, as far as it is missing: tools/setup.sh build test ...
+# Installs what is missing for the given needs: tools/setup.sh build test ...
 #
 # Needs: build, test, anywhere, bench, fuzz, lint, windows, wine, cache. On Debian and its relatives packages are looked up with
-# dpkg and installed with apt-get, as root or where sudo asks for no password; otherwise the line
-# to run is printed and the exit status is 1. On other systems only the commands are checked.
+# dpkg and installed with apt-get, as root or where sudo asks for no password; otherwise it prints
+# the command to run and exits with status 1. On other systems only the commands are checked.
 set -euo pipefail
 
 declare -A packages=(
@@ -55,7 +55,7 @@ words_of() {
   done | sort -u
 }
 
-# One line on what is missing and what to do about it.
+# Prints one line on what is missing and what to do about it.
 die() {
   echo "brennet: $*" >&2
   exit 1
@@ -69,7 +69,7 @@ install_packages() {
     as_root=(sudo -n)
   fi
   echo "Installing: $*"
-  # Where a part of the index cannot be fetched, the packages may still be had.
+  # Even if a part of the index cannot be fetched, the packages may still be available.
   "${as_root[@]}" apt-get update -q || true
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
     apt-get install -q -y --no-install-recommends "$@" ||

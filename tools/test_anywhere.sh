@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Runs `make test` as others would, on machines that are not this one:
+# Runs `make test` as other users on other machines would:
 # tools/test_anywhere.sh [ROW...]    (all rows where none is named)
 #
-# Each row of the table below is one way of running all tests. Says of each whether they passed and
-# how long it took; what a row printed is in build/anywhere/ROW.log. The exit status is 1 when a row
-# failed. Nothing is left running or behind, also when it is stopped.
+# Each row of the table below is one way of running all tests. Reports for each whether they passed
+# and how long it took; the output of a row is in build/anywhere/ROW.log. The exit status is 1 if a
+# row failed. Nothing is left running or behind, even when it is stopped.
 set -euo pipefail
 checkout=$(cd "$(dirname "$0")/.." && pwd)
 cd "$checkout"
@@ -43,7 +43,7 @@ tests() { # [NAME=VALUE|-u NAME]...
   env "$@" make --no-print-directory test
 }
 
-# A copy of this checkout, built there, with nothing of the caller's but the programs of the system.
+# A copy of this checkout, built there, with nothing from the caller except the system's programs.
 # The rows that need a second checkout share it.
 system=(env -i PATH=/usr/local/bin:/usr/bin:/bin)
 make_copy() {
@@ -90,7 +90,7 @@ row_two() {
   return "$status"
 }
 
-# Locales are made for the row alone, from what the package locales has.
+# The locales are made only for the row, from the package locales.
 locale_tests() { # LOCALE CHARACTERS
   mkdir -p "$work_dir/locales"
   localedef -i "${1%%.*}" -f "$2" "$work_dir/locales/$1"
@@ -146,7 +146,7 @@ clear_up() {
   trap '' HUP INT QUIT TERM
   stop_job
   stop_loops
-  # Qt makes the folder for whoever has none of the kind.
+  # Qt creates the folder for users who have none.
   [[ -z $user ]] || { userdel "$user" && rm -rf "/tmp/runtime-$user"; } || true
   rm -rf --one-file-system "$work_dir"
 }
@@ -168,7 +168,7 @@ prepare() {
   mkdir -p build/anywhere
 }
 
-# Runs one row in a process of its own, so that what it sets goes with it.
+# Runs one row in a process of its own, so that its settings end with it.
 run_row() { # NAME
   local name=$1 log=build/anywhere/$1.log started=$SECONDS
   [[ $name != busy ]] || start_loops
@@ -198,7 +198,7 @@ main() {
   done
   prepare
   export work_dir copy user
-  # What is the same for all rows is built once.
+  # What all rows share is built once.
   use_ccache "$checkout" || true
   logged build/anywhere/build.log 'Build this checkout' make --no-print-directory test CTEST_ARGS=-N
   results=()

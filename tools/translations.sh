@@ -2,7 +2,7 @@
 # Brings the catalogues up to date with the texts of ui/: tools/translations.sh
 #
 # New texts are added, to be translated; texts that are gone are dropped; translations stay. With
-# --check nothing is written, and the exit status is 1 where something would be.
+# --check nothing is written, and the exit status is 1 if something would be.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -11,7 +11,7 @@ die() {
   exit 1
 }
 
-# Debian's command of that name in the path is a chooser, which does not always have a choice.
+# Debian's command of that name in the path is a wrapper, which does not always find a version.
 find_lupdate() {
   local candidate
   for candidate in /usr/lib/qt5/bin/lupdate lupdate-qt5 lupdate; do
@@ -24,7 +24,7 @@ main() {
   local lupdate sources languages=(en zh_CN) language file
   [[ $# -eq 0 || $* == --check ]] || { echo "usage: tools/translations.sh [--check]" >&2 && exit 2; }
   lupdate=$(find_lupdate)
-  # In the same order on all machines.
+  # The same order on all machines.
   mapfile -t sources < <(find ui \( -name '*.cpp' -o -name '*.h' -o -name '*.ui' \) | LC_ALL=C sort)
 
   work_dir=$(mktemp -d)
