@@ -58,7 +58,8 @@ QString unused(const QByteArray&) {
   return QStringLiteral("unused");
 }
 
-// `count` fields of `size` bytes each, side by side. More than one are numbered from `first`.
+// `count` fields of `size` bytes each, side by side. If there are several, they are numbered from
+// `first`.
 struct FieldRow {
   std::size_t offset;
   int size;

@@ -7,7 +7,7 @@
 
 #include <brennet/HotkeyBlock.h>
 
-// One field of a HotkeyBlock for a person to read.
+// One field of a HotkeyBlock in readable form.
 struct BlockField {
   std::size_t offset;
   QString name;

@@ -32,15 +32,15 @@ class Camera {
     if (window.grab().save(file)) files_ += file;
   }
 
-  // Takes the dialog as it is after a click on the button.
+  // Takes a picture of the dialog after a click on the button.
   void takeAfter(const char* buttonName, const char* fileName) {
     if (click(buttonName)) take(*dialog_, fileName);
   }
 
-  // Takes the window that the button opens, and closes it.
+  // Takes a picture of the window that the button opens, and closes it.
   void takeWindowOf(const char* buttonName, const char* fileName) {
     const QWidgetList before = visibleWindows();
-    // A modal window does not return from the click until it is closed.
+    // The click does not return until a modal window is closed.
     QTimer onceOpen;
     onceOpen.setSingleShot(true);
     QObject::connect(&onceOpen, &QTimer::timeout, [&] {

@@ -12,7 +12,7 @@ namespace {
 const QString kPreferences = QStringLiteral("Documents/Warcraft III/War3Preferences.txt");
 const QString kRegistryKey = QStringLiteral("HKEY_CURRENT_USER\\Software\\Tollamere");
 
-// The text of a file in UTF-16 or UTF-8; empty where it cannot be read.
+// The text of a file in UTF-16 or UTF-8; empty if it cannot be read.
 QString readText(const QString& fileName) {
   QFile file(fileName);
   if (!file.open(QIODevice::ReadOnly)) return {};
@@ -20,7 +20,7 @@ QString readText(const QString& fileName) {
   return QTextCodec::codecForUtfText(bytes, QTextCodec::codecForName("UTF-8"))->toUnicode(bytes);
 }
 
-// The registry as its editor exports it. Elsewhere than on Windows a file of that kind is the
+// The registry as its editor exports it. On systems other than Windows a file of that kind is the
 // registry.
 QString registryText() {
   if (QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows) {

@@ -9,8 +9,8 @@ struct GameSide {
   Sections registry;
 };
 
-// Reads both as they are now. What is not there is empty.
+// Reads both as they are now. What is missing is empty.
 GameSide readGameSide();
 
-// The keys that the library imports from the data folder into a registry that has none.
+// The keys that the library imports from the data folder into a registry without any.
 Sections readRegistryDefaults(const QString& dataFolder);

@@ -4,8 +4,8 @@
 
 namespace {
 
-// The layout of a PE file, as far as the way to the import table goes. Offsets are in bytes; each
-// is relative to the structure that its name begins with.
+// The layout of a PE file, as far as needed to find the import table. Offsets are in bytes, each
+// relative to the structure that its name begins with.
 constexpr qint64 kFileHeaderOffset = 0x3C;
 constexpr qint64 kHeaderSections = 6;
 constexpr qint64 kHeaderOptionalSize = 20;
@@ -52,7 +52,7 @@ class PeFile {
     return value;
   }
 
-  // Where in the file an address of the loaded image lies; 0 when it is in none of the sections.
+  // The offset in the file of an address of the loaded image; 0 if it is in none of the sections.
   [[nodiscard]] qint64 offsetOf(quint32 address) const {
     const qint64 first = header_ + kHeaderSize + number(header_ + kHeaderOptionalSize, 2);
     const quint32 sections = number(header_ + kHeaderSections, 2);

@@ -10,8 +10,8 @@
 
 namespace {
 
-// Follows the needs of `file` as far as they lie beside this program, and appends those that the
-// loader does not find. `seen` holds what was looked at: libraries may need each other.
+// Follows the imports of `file` as far as they lie beside this program, and appends those that the
+// loader does not find. `seen` holds those already examined: libraries may need each other.
 void findMissing(const QString& file, QStringList& seen, QStringList& missing) {
   for (const QString& name : importedLibraries(file)) {
     if (seen.contains(name, Qt::CaseInsensitive)) continue;

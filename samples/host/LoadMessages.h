@@ -2,8 +2,8 @@
 
 #include <QStringList>
 
-// Gathers what the library tells of a load on Qt's debug output, as long as it lives; whatever else
-// comes there goes on its way. There may be one at a time.
+// Collects, during its lifetime, what the library reports about a load on Qt's debug output;
+// everything else there is passed on. There may be only one at a time.
 class LoadMessages {
  public:
   LoadMessages();

@@ -57,7 +57,7 @@ std::optional<Options> parseOptions(const QStringList& arguments) {
   if (!parser.parse(arguments)) return refuse(parser.errorText());
   Options options;
   if (parser.isSet(QStringLiteral("help"))) {
-    // The parser's own way of showing it is a message box where Windows has no console.
+    // The parser itself would show it in a message box if Windows has no console.
     options.help = parser.helpText();
     return options;
   }

@@ -6,7 +6,7 @@
 
 // What the command line asks for.
 struct Options {
-  QString help;     // empty: it was not asked for, else nothing but this text was
+  QString help;     // if not empty, only this text was asked for
   QString library;  // empty: beside the program
   QString settings;
   QString data;

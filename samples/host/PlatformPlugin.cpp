@@ -8,8 +8,8 @@
 
 namespace {
 
-// Where Qt looks for it. Qt knows its folders only while there is an application: they may stand
-// in a qt.conf beside the program.
+// Where Qt looks for it. Qt knows its folders only while there is an application object: a qt.conf
+// beside the program may name them.
 QStringList pluginFolders(int& argc, char** argv) {
   const QCoreApplication application(argc, argv);
   QStringList folders;
@@ -21,7 +21,7 @@ QStringList pluginFolders(int& argc, char** argv) {
   return folders;
 }
 
-// Debug builds of Qt have a "d" behind the name.
+// Debug builds of Qt append a "d" to the name.
 bool hasPlugin(const QString& folder) {
   const QDir plugins(folder);
   return plugins.exists(QStringLiteral("qwindows.dll")) ||

@@ -22,7 +22,7 @@ QString line(const QString& name, const QString& value) {
   return QStringLiteral("  %1 %2\n").arg(name, -16).arg(value);
 }
 
-// The hero skill keys are spread over the record; here they stand in their own order.
+// The hero skill keys are scattered over the record; here they are in their own order.
 QVector<std::uint16_t> heroSkillKeys(const HotkeyBlock& block) {
   QVector<std::uint16_t> keys;
   for (int i = 0; i < 6; ++i) keys.append(block.heroSkillKeys0to5[i]);
@@ -104,7 +104,7 @@ Sections sectionsOf(const HotkeyBlock& block) {
   return {{QString(), values}};
 }
 
-// After an import also what is not as it was imported.
+// After an import, also what differs from what was imported.
 QVector<Change> registryChanges(const Before& before, const Sections& now) {
   QVector<Change> changes = changesBetween(before.gameSide.registry, now);
   const bool isImported = before.gameSide.registry.isEmpty() && !now.isEmpty();

@@ -8,30 +8,30 @@
 
 #include "GameSide.h"
 
-// What the library answered, gathered while the host works.
+// What the library answered, collected while the host works.
 struct Report {
   QString settings;
   bool loaded = false;
-  QStringList notUsed;   // the keys of the settings file that were dropped, in words
-  QStringList refusals;  // what the library said no to, in words
+  QStringList notUsed;   // the dropped keys of the settings file, in words
+  QStringList refusals;  // what the library refused, in words
   brennet::HotkeyBlock block{};
   std::uint32_t lastSaveTime = 0;
   bool capsLockUsed = false;
   bool shiftUsed = false;
-  // Since it was loaded, and outside of the library since before that.
+  // Since the load, and outside the library since before it.
   QVector<Change> blockChanges;
   QVector<Change> preferenceChanges;
   QVector<Change> registryChanges;
 };
 
-// How things were before the host began to work: outside of the library, and in the block.
+// The state before the host began to work: outside the library, and in the block.
 struct Before {
   GameSide gameSide;
   Sections registryDefaults;
   Sections block;
 };
 
-// The fields of the block that the library fills now, in words; those of a block of zeros where it
+// The fields of the block as the library fills it now, in words; those of a block of zeros if it
 // fills none.
 Sections filledBlock(brennet::IBrennet& brennet);
 

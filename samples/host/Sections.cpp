@@ -5,7 +5,7 @@
 
 namespace {
 
-// Sections of more values than that are counted, not listed.
+// Sections with more values than that are counted, not listed.
 constexpr int kListed = 6;
 
 QString bytesInWords(const QString& hexadecimal) {
@@ -50,7 +50,7 @@ void addChanges(const QString& section, const Values& before, const Values& afte
 }  // namespace
 
 Sections parseSections(const QString& text) {
-  // Long values of a registry export go on behind a backslash at the end of the line.
+  // Long values of a registry export continue after a backslash at the end of the line.
   static const QRegularExpression kContinued(QStringLiteral("\\\\\\r?\\n\\s*"));
   static const QRegularExpression kLineEnd(QStringLiteral("\\r?\\n"));
   Sections sections;

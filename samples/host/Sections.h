@@ -9,16 +9,16 @@
 using Values = QMap<QString, QString>;
 using Sections = QMap<QString, Values>;
 
-// Reads "[section]" and "name=value" lines. Values of registry exports are put as a person reads
-// them: numbers in decimals, bytes as the UTF-8 text that they are.
+// Reads "[section]" and "name=value" lines. Values of registry exports are made readable: numbers
+// in decimal, bytes as the UTF-8 text that they hold.
 Sections parseSections(const QString& text);
 
-// One value that is not as it was. Empty where there is none.
+// One value that has changed. A missing value is empty.
 struct Change {
   QString name;  // with its section
   QString before;
   QString after;
 };
 
-// What is different, section by section. A section that only one of them has is one change.
+// The differences, section by section. A section that only one of them has is one change.
 QVector<Change> changesBetween(const Sections& before, const Sections& after);

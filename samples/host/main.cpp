@@ -1,6 +1,6 @@
 // The smallest real host: loads the library, hands over the player's files, exchanges blocks.
 //
-// Exit status: 0, 1 when the library said no (standard error says to what), 2 for bad usage.
+// Exit status: 0; 1 when the library refused something (standard error says what); 2 for bad usage.
 
 #include <QApplication>
 #include <QFile>
@@ -28,7 +28,7 @@ int badUsage(const QString& message) {
   return kBadUsage;
 }
 
-// The block in `file`, or an empty array when it is no block: too short, or shorter than it says.
+// The block in `file`, or an empty array if it is not one: too short, or shorter than it says.
 QByteArray readBlock(const QString& fileName) {
   QFile file(fileName);
   if (!file.open(QIODevice::ReadOnly)) return {};
@@ -100,9 +100,9 @@ bool hasArgument(int argc, char** argv, const char* option) {
   });
 }
 
-// Windows take another kind of application than the rest does, and pictures no screen; but on
-// Windows only windows of its own have its letters. Null when windows cannot be opened, after a
-// message.
+// Windows need another kind of application object than the rest, and pictures need no screen; but
+// on Windows only its own platform plugin has its fonts. Null, after a message, if windows cannot
+// be opened.
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv) {
   const bool takesPictures = hasArgument(argc, argv, "--pictures");
   if (!takesPictures && !hasArgument(argc, argv, "--dialog")) {
@@ -149,7 +149,7 @@ int run(const Options& options) {
   if (!options.saveBlock.isEmpty() && !writeBlock(options.saveBlock, report.block)) {
     return badUsage(options.saveBlock + QStringLiteral(": cannot be written"));
   }
-  // Text for people is in the system's encoding, as the messages are; JSON is UTF-8.
+  // Text for people is in the system's encoding, like the messages; JSON is UTF-8.
   const QByteArray text =
       options.json ? jsonReport(report) : textReport(report, options.block).toLocal8Bit();
   std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
