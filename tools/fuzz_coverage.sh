@@ -13,8 +13,8 @@ readonly sources='^(markup|model|gameside)/|^platform/RegFile'
 build=$1
 profiles=$build/profiles
 
-# File names may have been given to the compiler from the root or from the build folder. In the
-# report they begin with the folder of the checkout.
+# File names may have been given to the compiler from the root or from the build folder. Makes them
+# relative to the checkout.
 from_checkout() {
   sed -E "s|^($PWD/\|(\.\./)+)||"
 }

@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Installs what is missing for the given needs: tools/setup.sh build test ...
 #
-# Needs: build, test, anywhere, bench, fuzz, lint, windows, wine, cache. On Debian and its relatives packages are looked up with
-# dpkg and installed with apt-get, as root or where sudo asks for no password; otherwise it prints
-# the command to run and exits with status 1. On other systems only the commands are checked.
+# Needs: build, test, anywhere, bench, fuzz, lint, windows, wine, cache. On Debian and its
+# derivatives it looks packages up with dpkg and installs them with apt-get, as root or if sudo asks
+# for no password; otherwise it prints the command to run and exits with status 1. On other systems
+# only the commands are checked.
 set -euo pipefail
 
 declare -A packages=(
