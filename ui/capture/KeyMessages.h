@@ -10,7 +10,7 @@ namespace brennet {
 // The pressed key is already used for something else.
 void tellKeyIsUsed(QWidget* parent);
 
-// One of the keys of the chosen set is.
+// One of the keys of the chosen set is already used for something else.
 void tellKeySetIsUsed(QWidget* parent);
 
 }  // namespace brennet

@@ -28,7 +28,7 @@ QRadioButton& QuickChatKeyButtons::button(int set) const {
   return *buttons_[static_cast<std::size_t>(set)];
 }
 
-// The button that this unchecks is silent too: a scheme that refuses both sets must not send the
+// The button that gets unchecked is silent too: a scheme that refuses both sets must not send the
 // choice back and forth.
 void QuickChatKeyButtons::check(int set) const {
   const QSignalBlocker quietOne(&button(0));
