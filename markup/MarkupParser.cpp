@@ -123,7 +123,7 @@ void MarkupParser::leave() {
 bool MarkupParser::beginsLike(const MarkupToken& endTag) const {
   const std::size_t start = index_[current_].start + 1;
   const std::size_t length = endTag.end - endTag.start - kEndTagMarks;
-  // The end tag stands behind the start tag, so there are `length` units behind `start` too.
+  // The end tag follows the start tag, so there are `length` units behind `start` too.
   return length > 0 && !isNameUnit(text_[start + length]) &&
          std::memcmp(text_.data() + start, text_.data() + endTag.start + 2,
                      length * sizeof(char16_t)) == 0;

@@ -114,7 +114,7 @@ class SettingReader {
     if (!text.empty()) mark = parseDecimal(text) != 0;
   }
 
-  // Reads the child `name` of the entered element, wherever it stands; false where it is missing.
+  // Reads the child `name` of the entered element, wherever it is; false if it is missing.
   bool readKey(std::u16string_view name, KeyWord& key, KeyEntry& entry) const {
     document_.resetMainPos();
     if (!document_.findElem(name)) return false;

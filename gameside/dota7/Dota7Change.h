@@ -19,7 +19,7 @@ struct Dota7Change {
   };
 
   std::u16string keyPath;    // below the user's root
-  std::u16string valueName;  // of the first number; empty where there is none, as with phrases
+  std::u16string valueName;  // of the first number; empty if there is none, as with phrases
   std::uint32_t value = 0;
   std::u16string secondName;
   std::uint32_t secondValue = 0;  // written only if it is not 0

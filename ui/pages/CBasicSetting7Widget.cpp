@@ -94,7 +94,7 @@ CBasicSetting7Widget::CBasicSetting7Widget(brennet::HotkeyConfig& config, QWidge
   CBasicSetting7Widget::showSettings();
 }
 
-// The Orrery window sends its events here until it is gone.
+// The Orrery window sends its events here until it is gone, so it goes first.
 CBasicSetting7Widget::~CBasicSetting7Widget() {
   orrery_.reset();
 }
