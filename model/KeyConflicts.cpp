@@ -31,9 +31,10 @@ bool anyOf(const Keys& keys, Predicate predicate) {
 }
 
 // The keys of a row, as many as the compiler can see.
-template <const KeyListSetting& Row>
-std::span<const KeyWord, Row.ids.size()> keysOf(const HotkeyScheme& scheme) {
-  return std::span<const KeyWord, Row.ids.size()>(Row.keysOf(scheme));
+template <SettingId Id>
+auto keysOf(const HotkeyScheme& scheme) {
+  constexpr std::size_t kCount = kKindOf<Id>.ids.size();
+  return std::span<const KeyWord, kCount>(kKindOf<Id>.keysOf(scheme));
 }
 
 // The keys that no other setting may have, row by row: calls `look` with the slot of the first key,
@@ -46,7 +47,7 @@ void lookAtGuardedKeys(const HotkeyScheme& scheme, Look look) {
       constexpr const auto& row = kKindOf<id>;
       using Row = std::remove_cvref_t<decltype(row)>;
       if constexpr (std::is_same_v<Row, KeyListSetting>) {
-        look(KeySlot{id}, 1, keysOf<row>(scheme), std::identity());
+        look(KeySlot{id}, 1, keysOf<id>(scheme), std::identity());
       } else if constexpr (std::is_same_v<Row, RemapSetting>) {
         look(remapDestination(0), 2, scheme.*row.field, sent);
       } else if constexpr (std::is_same_v<Row, ComboSetting>) {
@@ -66,7 +67,7 @@ bool isPressed(const HotkeyScheme& scheme, Uses uses) {
   using Row = std::remove_cvref_t<decltype(row)>;
   if constexpr (std::is_same_v<Row, KeyListSetting>) {
     const ItemPreset* const preset = row.followsPreset ? chosenItemPreset(scheme) : nullptr;
-    return preset != nullptr ? anyOf(*preset, uses) : anyOf(keysOf<row>(scheme), uses);
+    return preset != nullptr ? anyOf(*preset, uses) : anyOf(keysOf<Id>(scheme), uses);
   } else if constexpr (std::is_same_v<Row, RemapSetting>) {
     return anyOf(scheme.*row.field,
                  [&](const KeyRemap& remap) { return remap.Dest.isSet() && uses(remap.Src); });

@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "markup/MarkupDocument.h"
 #include "model/BlockFiller.h"
@@ -34,6 +35,13 @@ namespace {
 std::string nameOf(SettingId id) {
   const std::u16string_view element = setting(id).element;
   return {element.begin(), element.end()};
+}
+
+std::vector<KeySlot> slotsOf(SettingId id) {
+  std::vector<KeySlot> slots;
+  for (std::size_t i = 0; i < keyCount(id); ++i)
+    slots.push_back({id, static_cast<std::uint8_t>(i)});
+  return slots;
 }
 
 // A key that no other slot gets, without a modifier, as those of fixed choices have one.
@@ -74,7 +82,7 @@ struct PutValue {
 
  private:
   void putKeys() const {
-    for (std::uint8_t i = 0; i < keyCount(id); ++i) storeKey(scheme, {id, i}, keyFor({id, i}));
+    for (const KeySlot slot : slotsOf(id)) storeKey(scheme, slot, keyFor(slot));
   }
 };
 
@@ -158,8 +166,7 @@ TEST_P(EverySetting, IsResetAsItsRowSays) {
 TEST_P(EverySetting, HasItsKeysForItselfAsItsRowSays) {
   if (row().role == KeyRole::None) return;
   std::size_t guarded = 0;
-  for (std::uint8_t i = 0; i < keyCount(GetParam()); ++i) {
-    const KeySlot slot{GetParam(), i};
+  for (const KeySlot slot : slotsOf(GetParam())) {
     if (isKeyFree(changed_, keyFor(slot))) continue;
     ++guarded;
     EXPECT_EQ(holderOf(changed_, keyFor(slot)), slot);
@@ -175,8 +182,8 @@ TEST_P(EverySetting, HasItsKeysForItselfAsItsRowSays) {
 // Of a remap the keys that are pressed are used, of a combination the one that is sent.
 TEST_P(EverySetting, UsesItsKeysAsItsRowSays) {
   std::size_t used = 0;
-  for (std::uint8_t i = 0; i < keyCount(GetParam()); ++i) {
-    used += isKeyUsed(changed_, keyFor({GetParam(), i}).virtualKey()) ? 1U : 0U;
+  for (const KeySlot slot : slotsOf(GetParam())) {
+    used += isKeyUsed(changed_, keyFor(slot).virtualKey()) ? 1U : 0U;
   }
   const bool isRemap = std::holds_alternative<RemapSetting>(row().kind);
   const bool isCombo = std::holds_alternative<ComboSetting>(row().kind);

@@ -94,9 +94,10 @@ TEST_F(AllPages, HaveAFieldForEachKey) {
   }
   for (const Setting& row : kSettings) {
     if (row.role == KeyRole::None) continue;
-    for (std::uint8_t i = 0; i < keyCount(row.id); ++i) {
-      EXPECT_NE(std::ranges::find(found, KeySlot{row.id, i}), found.end())
-          << "give key " << int{i} << " of " << nameOf(row)
+    for (std::size_t i = 0; i < keyCount(row.id); ++i) {
+      const KeySlot slot{row.id, static_cast<std::uint8_t>(i)};
+      EXPECT_NE(std::ranges::find(found, slot), found.end())
+          << "give key " << i << " of " << nameOf(row)
           << " a field, and its name a row in ui/capture/FeatureKeys.cpp";
     }
   }
