@@ -69,7 +69,7 @@ enum class KeyRole : std::uint8_t {
 // What a reset of the scheme does to a setting. Quick-cast marks always stay.
 enum class OnReset : std::uint8_t { Default, Stays };
 
-// The rank of a setting that is not in the block itself, but shows in others.
+// The rank of a setting that is not in the block: it shows in others, or the record has no place.
 inline constexpr int kNotInBlock = 0;
 
 struct Setting {

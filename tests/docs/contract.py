@@ -32,7 +32,11 @@ def rows_of(header):
 def main():
     header = open(sys.argv[1], encoding="utf-8").read()
     contract = open(sys.argv[2], encoding="utf-8").read()
-    table = [line(HEADS), "|---" * len(HEADS) + "|", *map(line, rows_of(header))]
+    rows = list(rows_of(header))
+    untold = [slot for slot, *_ in rows if f"**Slot {slot}, `" not in contract]
+    if untold:
+        sys.exit(f"FAILED: the contract's table has no text below it for slot {', '.join(untold)}")
+    table = [line(HEADS), "|---" * len(HEADS) + "|", *map(line, rows)]
     if "\n".join(table) in contract:
         return
     print("FAILED: the contract's table is not what IBrennet.h says. It should be:", *table, sep="\n")
