@@ -8,6 +8,7 @@
 #include <limits>
 #include <utility>
 
+#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "host/LoadTrace.h"
 #include "host/WideText.h"
 #include "model/BlockFiller.h"
@@ -59,6 +60,9 @@ Result orElse(Result failure, Operation operation) noexcept {
 }
 
 }  // namespace
+
+CBrennetImpl::CBrennetImpl() = default;
+CBrennetImpl::~CBrennetImpl() = default;
 
 bool CBrennetImpl::LoadSettings(const wchar_t* path) noexcept {
   if (path == nullptr) return false;
@@ -112,7 +116,7 @@ bool CBrennetImpl::ShowSettingsDialog(bool* saved, std::uint32_t saveTime) noexc
 
 bool CBrennetImpl::runDialog() {
   workingCopy_.ResetAndCopyFrom(config_);
-  if (!dota7_) dota7_.emplace();
+  if (!dota7_) dota7_ = std::make_unique<Dota7KeyInfoManager>();
   CHotkeySettingDlg dialog(workingCopy_, *dota7_);
   dialog.setDataFolder(dataFolder_);
   if (!std::exchange(isLoadTold_, true)) dialog.tellDroppedKeys(config_.loadReport());

@@ -1,22 +1,23 @@
 #pragma once
 
-#include <optional>
+#include <memory>
 #include <string>
 
 #include "brennet/IBrennet.h"
-#include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "platform/Files.h"
 
 namespace brennet {
+
+class Dota7KeyInfoManager;
 
 // The only implementation of IBrennet, and all its state between calls. The library has one such
 // object (GetBrennetPtr.cpp), each test its own. IBrennet.h says what each operation promises to
 // the host.
 class CBrennetImpl final : public IBrennet {
  public:
-  CBrennetImpl() = default;
-  ~CBrennetImpl() = default;
+  CBrennetImpl();
+  ~CBrennetImpl();
   CBrennetImpl(const CBrennetImpl&) = delete;
   CBrennetImpl& operator=(const CBrennetImpl&) = delete;
 
@@ -55,7 +56,7 @@ class CBrennetImpl final : public IBrennet {
   bool isLoadTold_ = true;     // the player has seen what the last load could not use
   HotkeyConfig config_;
   HotkeyConfig workingCopy_;  // what the dialog and a returned block change before it is saved
-  std::optional<Dota7KeyInfoManager> dota7_;  // from the first dialog on
+  std::unique_ptr<Dota7KeyInfoManager> dota7_;  // from the first dialog on
 };
 
 }  // namespace brennet

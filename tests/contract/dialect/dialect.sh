@@ -16,7 +16,8 @@ if ! command -v clang++ >/dev/null; then
 fi
 
 options=(
-  --target=i686-pc-windows-msvc -std="$standard" -fsyntax-only -I . -x c++
+  --target=i686-pc-windows-msvc -std="$standard" -fsyntax-only -I . -I host/include -I model/include \
+  -x c++
   -Wall -Wextra -Wpedantic -Wgnu -Wmicrosoft -Werror
 )
 
