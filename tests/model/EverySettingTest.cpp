@@ -22,14 +22,6 @@
 #include "tests/model/Keys.h"
 
 namespace brennet {
-
-void PrintTo(const HotkeyScheme& scheme, std::ostream* out) {
-  MarkupDocument document;
-  document.addElem(u"Scheme");
-  writeScheme(document, scheme, scheme);
-  for (const char16_t unit : document.doc()) *out << static_cast<char>(unit);
-}
-
 namespace {
 
 std::string nameOf(SettingId id) {
