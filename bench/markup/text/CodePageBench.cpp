@@ -10,6 +10,7 @@
 #include <string>
 
 #include "bench/markup/SampleTexts.h"
+#include "markup/DeclaredEncoding.h"
 #include "markup/MarkupDocument.h"
 #include "markup/ResultLog.h"
 #include "markup/text/DoubleByteCodec.h"
@@ -80,7 +81,7 @@ void encodeWithIcu(const SampleText& text) {
 void readWithBrennet(const SampleText& text) {
   ResultLog log;
   MarkupDocument document;
-  require(document.setDoc(decodeText(text.gb2312, log).text));
+  require(document.setDoc(decodeText(text.gb2312, declaredEncodingOfBytes, log).text));
 }
 
 // Told the encoding. pugixml takes UTF-8 and parses it where it stands.
