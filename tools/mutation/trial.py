@@ -11,9 +11,10 @@ import time
 
 # The test programs for what is in a folder, those of its own first: "program" or "program:filter".
 PROGRAMS = {
-    "platform": ("platform", "faults", "platform_faults", "settings_faults", "prefs"),
+    "platform": ("platform", "faults", "platform_faults", "platform_memory", "settings_faults",
+                 "registry_faults", "prefs"),
     "markup": ("markup", "model", "host", "prefs"),
-    "gameside": ("prefs", "dota7", "model", "host"),
+    "gameside": ("prefs", "dota7", "registry_faults", "model", "host"),
     "model": ("model", "host", "settings_faults"),
 }
 # A mutant may ask for all the memory there is, need not leave a core, and ends after ten minutes
@@ -27,8 +28,8 @@ def program_of(name):
 
 
 class Trials:
-    """`programs_of` names the test programs for each folder, as PROGRAMS does. A program may take four times as long as
-    without a mutant, and `least_seconds`."""
+    """`programs_of` names the test programs for each folder, as PROGRAMS does. A program may take
+    four times as long as without a mutant, and `least_seconds`."""
 
     def __init__(self, build, room, programs_of, least_seconds=10):
         self._build = build
@@ -98,8 +99,9 @@ class Trials:
             process = subprocess.Popen(
                 [*_LIMITED, str(program), "--gtest_fail_fast", "--gtest_brief=1",
                  f"--gtest_filter={name.partition(':')[2] or '*'}"],
-                cwd=self._build.working_folder(program_of(name)), env=environment, start_new_session=True,
-                stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                cwd=self._build.working_folder(program_of(name)), env=environment,
+                start_new_session=True, stdin=subprocess.DEVNULL,
+                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
             try:
                 return process.wait(seconds)
             except subprocess.TimeoutExpired:
