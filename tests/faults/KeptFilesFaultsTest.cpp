@@ -68,7 +68,7 @@ const Setting kSettings[] = {
     {"BusyForAMoment", [](ModelFileSystem& s) { s.nature.busy[kFile] = 3; }},
 };
 
-class KeepingFaults : public testing::TestWithParam<Setting> {
+class KeptFilesFaultsTest : public testing::TestWithParam<Setting> {
  protected:
   void begin() {
     in_.reset();
@@ -150,7 +150,7 @@ class KeepingFaults : public testing::TestWithParam<Setting> {
 constexpr Obstacle kErrors[] = {Obstacle::Other,   Obstacle::Denied, Obstacle::Held,
                                 Obstacle::Missing, Obstacle::Exists, Obstacle::Halfway};
 
-TEST_P(KeepingFaults, OfOneCallOrAllLoseNothing) {
+TEST_P(KeptFilesFaultsTest, OfOneCallOrAllLoseNothing) {
   const int calls = countCalls();
   for (const Fault fault : {Fault::Fails, Fault::FailsForGood}) {
     for (const Obstacle obstacle : kErrors) {
@@ -171,7 +171,7 @@ TEST_P(KeepingFaults, OfOneCallOrAllLoseNothing) {
 }
 
 // What could be removed again was.
-TEST_P(KeepingFaults, ThatFailTheSaveLeaveTheFolderAsItWas) {
+TEST_P(KeptFilesFaultsTest, ThatFailTheSaveLeaveTheFolderAsItWas) {
   const int calls = countCalls();
   for (int call = 0; call < calls; ++call) {
     begin();
@@ -182,7 +182,7 @@ TEST_P(KeepingFaults, ThatFailTheSaveLeaveTheFolderAsItWas) {
   }
 }
 
-TEST_P(KeepingFaults, ThatEndTheProcessLoseNothing) {
+TEST_P(KeptFilesFaultsTest, ThatEndTheProcessLoseNothing) {
   const int calls = countCalls();
   for (const Fault fault : {Fault::EndsBefore, Fault::EndsInside, Fault::EndsAfter}) {
     for (int call = 0; call < calls; ++call) {
@@ -197,7 +197,7 @@ TEST_P(KeepingFaults, ThatEndTheProcessLoseNothing) {
 
 constexpr unsigned kPowerLosses = 7 * 64;
 
-TEST_P(KeepingFaults, ThatTakeThePowerAwayLoseNothing) {
+TEST_P(KeptFilesFaultsTest, ThatTakeThePowerAwayLoseNothing) {
   const int calls = countCalls();
   for (int call = 0; call <= calls; ++call) {
     for (unsigned way = 0; way < kPowerLosses; ++way) {
@@ -221,7 +221,7 @@ void tear(ModelFileSystem& system) {
   EXPECT_FALSE(file.writeAll(std::string_view(kNext).substr(0, 9)));
 }
 
-TEST_P(KeepingFaults, PutNothingAsideThatAnotherProcessHasTornMeanwhile) {
+TEST_P(KeptFilesFaultsTest, PutNothingAsideThatAnotherProcessHasTornMeanwhile) {
   constexpr int kMoreThanAllOpenings = 20;
   for (int opening = 0; opening < kMoreThanAllOpenings; ++opening) {
     begin();
@@ -238,7 +238,7 @@ TEST_P(KeepingFaults, PutNothingAsideThatAnotherProcessHasTornMeanwhile) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(, KeepingFaults, testing::ValuesIn(kSettings),
+INSTANTIATE_TEST_SUITE_P(, KeptFilesFaultsTest, testing::ValuesIn(kSettings),
                          [](const auto& setting) { return std::string(setting.param.name); });
 
 }  // namespace

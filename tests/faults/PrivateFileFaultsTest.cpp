@@ -30,7 +30,7 @@ struct Content {
   friend void PrintTo(const Content& content, std::ostream* out) { *out << content.name; }
 };
 
-class ClearingFaults : public testing::TestWithParam<Content> {
+class PrivateFileFaultsTest : public testing::TestWithParam<Content> {
  protected:
   void begin() {
     file_.reset();
@@ -74,7 +74,7 @@ class ClearingFaults : public testing::TestWithParam<Content> {
   std::optional<PrivateFile> file_;
 };
 
-TEST_P(ClearingFaults, ThatEndTheProcessLeaveAllOrNothing) {
+TEST_P(PrivateFileFaultsTest, ThatEndTheProcessLeaveAllOrNothing) {
   const int calls = countCalls();
   for (const Fault fault : {Fault::EndsBefore, Fault::EndsAfter}) {
     for (int call = 0; call < calls; ++call) {
@@ -88,7 +88,7 @@ TEST_P(ClearingFaults, ThatEndTheProcessLeaveAllOrNothing) {
   }
 }
 
-TEST_P(ClearingFaults, LeaveWhatTheResultSays) {
+TEST_P(PrivateFileFaultsTest, LeaveWhatTheResultSays) {
   const int calls = countCalls();
   for (const Fault fault : {Fault::Fails, Fault::FailsForGood}) {
     for (int call = 0; call < calls; ++call) {
@@ -110,7 +110,7 @@ TEST_P(ClearingFaults, LeaveWhatTheResultSays) {
 const Content kContents[] = {
     {"TheFile", "new", nullptr}, {"Both", "new", "old"}, {"TheOtherName", nullptr, "old"}};
 
-INSTANTIATE_TEST_SUITE_P(, ClearingFaults, testing::ValuesIn(kContents),
+INSTANTIATE_TEST_SUITE_P(, PrivateFileFaultsTest, testing::ValuesIn(kContents),
                          [](const auto& content) { return std::string(content.param.name); });
 
 }  // namespace

@@ -27,9 +27,9 @@ constexpr char kOld[] = "the old content";
 constexpr char kNew[] = "THE NEW CONTENT";
 constexpr char kTorn[] = "THE NEW content";
 
-class Reading : public testing::Test {
+class ReadingFaultsTest : public testing::Test {
  protected:
-  Reading() {
+  ReadingFaultsTest() {
     in_.model.makeFolder("/folder");
     in_.model.makeFile(kFile, kOld);
     in_.model.makeSecondName(kFile, kSecond);
@@ -79,26 +79,26 @@ class Reading : public testing::Test {
   bool isBusy_ = false;
 };
 
-TEST_F(Reading, FindsAFileThatWasMovedAwayAfterTheFirstLook) {
+TEST_F(ReadingFaultsTest, FindsAFileThatWasMovedAwayAfterTheFirstLook) {
   beforeOpening(1, [&] { moveAway(); });
   EXPECT_EQ(read(kFile), kOld) << error_.message();
 }
 
-TEST_F(Reading, NeverTellsThatAFileIsMissingWhichIsMovedAwayEachTime) {
+TEST_F(ReadingFaultsTest, NeverTellsThatAFileIsMissingWhichIsMovedAwayEachTime) {
   beforeOpening(1000, [&] { moveAway(); });
   read(kFile);
   EXPECT_TRUE(error_);
   EXPECT_FALSE(platform::isMissing(error_));
 }
 
-TEST_F(Reading, PutsRightWhatWasTornAfterTheFirstLook) {
+TEST_F(ReadingFaultsTest, PutsRightWhatWasTornAfterTheFirstLook) {
   beforeOpening(1, [&] { tear(kFile); });
   EXPECT_EQ(read(kFile), kOld) << error_.message();
   EXPECT_EQ(in_.model.contentOf(kFile), kOld);
   EXPECT_EQ(in_.model.listing("/private"), "");
 }
 
-TEST_F(Reading, PutsRightByAnyNameWhatWasTornByAnother) {
+TEST_F(ReadingFaultsTest, PutsRightByAnyNameWhatWasTornByAnother) {
   for (const char* const torn : {kFile, kSecond}) {
     for (const char* const name : {kFile, kSecond}) {
       tear(torn);
@@ -109,14 +109,14 @@ TEST_F(Reading, PutsRightByAnyNameWhatWasTornByAnother) {
   }
 }
 
-TEST_F(Reading, PutsRightByAnyNameBeforeItIsWritten) {
+TEST_F(ReadingFaultsTest, PutsRightByAnyNameBeforeItIsWritten) {
   tear(kFile);
   EXPECT_FALSE(replaceFile(kSecond, "newer"));
   EXPECT_EQ(in_.model.contentOf(kFile), "newer");
   EXPECT_EQ(in_.model.listing("/private"), "");
 }
 
-TEST_F(Reading, FindsOneContentWholeAfterAWriteByAnotherNameThatEndsAnywhere) {
+TEST_F(ReadingFaultsTest, FindsOneContentWholeAfterAWriteByAnotherNameThatEndsAnywhere) {
   constexpr int kMoreThanAnySave = 80;
   for (const Fault fault : {Fault::EndsBefore, Fault::EndsInside, Fault::EndsAfter}) {
     for (int call = 0; call < kMoreThanAnySave; ++call) {
@@ -135,7 +135,7 @@ TEST_F(Reading, FindsOneContentWholeAfterAWriteByAnotherNameThatEndsAnywhere) {
 }
 
 // Content that fits is no reason: any file that is empty would.
-TEST_F(Reading, TakesNoOtherFileForTheOneThatWasTorn) {
+TEST_F(ReadingFaultsTest, TakesNoOtherFileForTheOneThatWasTorn) {
   for (const char* const content : {"", kTorn, kOld, kNew}) {
     in_.model.makeFile("/folder/other", content);
     tear(kFile);
@@ -145,7 +145,7 @@ TEST_F(Reading, TakesNoOtherFileForTheOneThatWasTorn) {
 }
 
 // Its disk is away for a while, or somebody has renamed it for a moment.
-TEST_F(Reading, PutsRightWhatWasTornOnceItIsBack) {
+TEST_F(ReadingFaultsTest, PutsRightWhatWasTornOnceItIsBack) {
   in_.model.removeFile(kSecond);
   tear(kFile);
   ASSERT_FALSE(in_.model.move(kFile, kAway));
@@ -157,7 +157,7 @@ TEST_F(Reading, PutsRightWhatWasTornOnceItIsBack) {
 }
 
 // The folder is there without its disk, and takes nothing.
-TEST_F(Reading, PutsRightWhatWasTornAfterASaveThatFailedMeanwhile) {
+TEST_F(ReadingFaultsTest, PutsRightWhatWasTornAfterASaveThatFailedMeanwhile) {
   constexpr int kMoreThanAnySave = 120;
   in_.model.removeFile(kSecond);
   for (const Fault fault : {Fault::Fails, Fault::EndsBefore, Fault::EndsAfter}) {
@@ -179,7 +179,7 @@ TEST_F(Reading, PutsRightWhatWasTornAfterASaveThatFailedMeanwhile) {
 }
 
 // The player has deleted the torn one.
-TEST_F(Reading, GivesAFileThatWasMadeAnewNothingOfOneThatWasTorn) {
+TEST_F(ReadingFaultsTest, GivesAFileThatWasMadeAnewNothingOfOneThatWasTorn) {
   constexpr int kMoreThanAnySave = 120;
   in_.model.removeFile(kSecond);
   for (const bool isInPlace : {false, true}) {
@@ -205,7 +205,7 @@ TEST_F(Reading, GivesAFileThatWasMadeAnewNothingOfOneThatWasTorn) {
   }
 }
 
-TEST_F(Reading, KeepsTheFileFromBeingWrittenInPlaceMeanwhile) {
+TEST_F(ReadingFaultsTest, KeepsTheFileFromBeingWrittenInPlaceMeanwhile) {
   for (const char* const name : {kFile, kSecond}) {
     bool isTried = false;
     bool isRefused = false;
@@ -221,7 +221,7 @@ TEST_F(Reading, KeepsTheFileFromBeingWrittenInPlaceMeanwhile) {
   }
 }
 
-TEST_F(Reading, IsNotDoneWhileTheFileIsWrittenInPlace) {
+TEST_F(ReadingFaultsTest, IsNotDoneWhileTheFileIsWrittenInPlace) {
   for (const char* const name : {kFile, kSecond}) {
     platform::OpenFile file(in_.model);
     ASSERT_FALSE(file.open(kSecond, OpenFor::Writing));
@@ -237,7 +237,7 @@ TEST_F(Reading, IsNotDoneWhileTheFileIsWrittenInPlace) {
 }
 
 // Whoever had it may remove the empty folder at any moment.
-TEST_F(Reading, MakesNoFolderForKeptFiles) {
+TEST_F(ReadingFaultsTest, MakesNoFolderForKeptFiles) {
   const Path folder = in_.model.privateFolder();
   in_.model.makeFolder(folder);
   in_.model.others.beforePrivateFolder = [&] { in_.model.removeFile(folder); };
@@ -249,7 +249,7 @@ TEST_F(Reading, MakesNoFolderForKeptFiles) {
 }
 
 // Systems tell of a lock when the file is opened, or not before it is read.
-TEST_F(Reading, WaitsForWhatIsHeldInWhateverCall) {
+TEST_F(ReadingFaultsTest, WaitsForWhatIsHeldInWhateverCall) {
   tear(kFile);
   constexpr int kMoreThanAnyRead = 60;
   for (int call = 0; call < kMoreThanAnyRead; ++call) {

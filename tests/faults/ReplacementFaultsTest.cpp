@@ -236,7 +236,7 @@ TEST_P(ReplacementFaults, LeaveWhatWasDoneAfterAPowerLoss) {
   }
 }
 
-TEST(AFileMadeInPlace, IsToldAsDoneOnlyWithItsNameOnTheDisk) {
+TEST(ReplacementFaultsFileMadeInPlace, IsToldAsDoneOnlyWithItsNameOnTheDisk) {
   constexpr int kMoreThanAnySave = 60;
   int flushes = 0;
   for (int call = 0; call < kMoreThanAnySave; ++call) {
@@ -257,7 +257,7 @@ TEST(AFileMadeInPlace, IsToldAsDoneOnlyWithItsNameOnTheDisk) {
   EXPECT_GE(flushes, 2);
 }
 
-TEST(CreateFolder, BringsItsNameToTheDisk) {
+TEST(ReplacementFaultsCreateFolder, BringsItsNameToTheDisk) {
   StandIn in;
   in.model.makeFolder("/games");
   for (const char* const name : {"/games/folder", "/games/other/"}) {

@@ -25,15 +25,15 @@ constexpr NamedGrammar kGrammars[] = {
 
 constexpr std::size_t kLongestDocument = 80000;
 
-class EveryGrammar : public testing::TestWithParam<NamedGrammar> {
+class GrammarTest : public testing::TestWithParam<NamedGrammar> {
  protected:
   const Grammar& grammar_ = GetParam().grammar();
 };
 
-INSTANTIATE_TEST_SUITE_P(All, EveryGrammar, testing::ValuesIn(kGrammars),
+INSTANTIATE_TEST_SUITE_P(All, GrammarTest, testing::ValuesIn(kGrammars),
                          [](const auto& test) { return std::string(test.param.name); });
 
-TEST_P(EveryGrammar, MakesTheSameOfTheSameSeedAndOtherwiseSomethingElse) {
+TEST_P(GrammarTest, MakesTheSameOfTheSameSeedAndOtherwiseSomethingElse) {
   std::set<std::string> documents;
   for (std::uint32_t seed = 0; seed < 300; ++seed) {
     Choices first(seed);
@@ -45,7 +45,7 @@ TEST_P(EveryGrammar, MakesTheSameOfTheSameSeedAndOtherwiseSomethingElse) {
   EXPECT_GT(documents.size(), 250U);
 }
 
-TEST_P(EveryGrammar, ChangesAndCrossesWhateverItIsGiven) {
+TEST_P(GrammarTest, ChangesAndCrossesWhateverItIsGiven) {
   for (std::uint32_t seed = 0; seed < 300; ++seed) {
     Choices choices(seed);
     std::string input;
@@ -61,7 +61,7 @@ TEST_P(EveryGrammar, ChangesAndCrossesWhateverItIsGiven) {
   }
 }
 
-TEST_P(EveryGrammar, ChangesOnlySomeOfAnInput) {
+TEST_P(GrammarTest, ChangesOnlySomeOfAnInput) {
   int changes = 0;
   for (std::uint32_t seed = 0; seed < 300; ++seed) {
     Choices choices(seed);
@@ -81,7 +81,7 @@ std::size_t fillUp(std::uint8_t* data, std::size_t size, std::size_t most) {
   return most;
 }
 
-TEST_P(EveryGrammar, MutatesInAllWaysAndNeverBeyondTheLimit) {
+TEST_P(GrammarTest, MutatesInAllWaysAndNeverBeyondTheLimit) {
   int byBytes = 0;
   int byGrammar = 0;
   for (std::uint32_t seed = 0; seed < 400; ++seed) {
@@ -100,7 +100,7 @@ TEST_P(EveryGrammar, MutatesInAllWaysAndNeverBeyondTheLimit) {
 
 using Pieces = std::vector<std::string_view>;
 
-TEST(TextGrammar, CutsAnInputIntoPieces) {
+TEST(GrammarOfTexts, CutsAnInputIntoPieces) {
   using namespace std::string_view_literals;
   const TextGrammar tags({{"document", {""}}}, {"<", ">", {"document"}});
   const TextGrammar lines({{"document", {""}}}, {"", "\n", {"document"}});
@@ -115,7 +115,7 @@ TEST(TextGrammar, CutsAnInputIntoPieces) {
                     "b\0\n\1c"sv}));
 }
 
-TEST(TextGrammar, WritesRulesAsOftenAsTheySay) {
+TEST(GrammarOfTexts, WritesRulesAsOftenAsTheySay) {
   const TextGrammar grammar(
       {{"document", {"<{maybe?}{many*3}>"}}, {"maybe", {"?"}}, {"many", {"x"}}},
       {"", "", {"many"}});
@@ -128,7 +128,7 @@ TEST(TextGrammar, WritesRulesAsOftenAsTheySay) {
                                               "<?xxx>"}));
 }
 
-TEST(TextGrammar, EndsWhereRulesCallThemselves) {
+TEST(GrammarOfTexts, EndsWhereRulesCallThemselves) {
   const TextGrammar grammar({{"document", {"", "a{document}{document}"}}}, {"", "a", {"document"}});
   for (std::uint32_t seed = 0; seed < 200; ++seed) {
     Choices choices(seed);

@@ -11,7 +11,7 @@ extern "C" brennet::IBrennet* GetBrennetPtr() noexcept;
 namespace brennet {
 namespace {
 
-TEST(TheFirstCall, NeedsNoMemory) {
+TEST(FirstCall, NeedsNoMemory) {
   IBrennet* brennet = nullptr;
   EXPECT_EQ(test::allocationsOf([&] { brennet = GetBrennetPtr(); }), 0);
   ASSERT_NE(brennet, nullptr);

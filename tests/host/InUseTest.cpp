@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kRounds = 100;
 
-class WhatIsInUse : public testing::Test {
+class InUseTest : public testing::Test {
  protected:
   void leakMemory(std::size_t bytes) { memory_.push_back(std::make_unique<char[]>(bytes)); }
   void openFile() {
@@ -27,14 +27,14 @@ class WhatIsInUse : public testing::Test {
   std::vector<std::unique_ptr<FILE, int (*)(FILE*)>> files_;
 };
 
-TEST_F(WhatIsInUse, IsNoMoreWhereEachRoundGivesAllBack) {
+TEST_F(InUseTest, IsNoMoreWhereEachRoundGivesAllBack) {
   expectNothingIsLeft(kRounds, [&](int) {
     leakMemory(1024);
     memory_.clear();
   });
 }
 
-TEST_F(WhatIsInUse, IsMoreWhereARoundLeavesALittle) {
+TEST_F(InUseTest, IsMoreWhereARoundLeavesALittle) {
   memory_.reserve(kRounds);
   constexpr std::size_t kSizes[] = {64, 100, 1024};
   for (const std::size_t bytes : kSizes) {
@@ -45,20 +45,20 @@ TEST_F(WhatIsInUse, IsMoreWhereARoundLeavesALittle) {
   }
 }
 
-TEST_F(WhatIsInUse, MayStayWithinTheSlack) {
+TEST_F(InUseTest, MayStayWithinTheSlack) {
   memory_.reserve(kRounds);
   expectNothingIsLeft(
       kRounds, [&](int) { leakMemory(100); }, 256);
 }
 
-TEST_F(WhatIsInUse, IsMoreWhereARoundLeavesAHandle) {
+TEST_F(InUseTest, IsMoreWhereARoundLeavesAHandle) {
   files_.reserve(kRounds);
   EXPECT_NONFATAL_FAILURE(expectNothingIsLeft(
                               kRounds, [&](int) { openFile(); }, 10'000),
                           "after.handles");
 }
 
-TEST_F(WhatIsInUse, MayBecomeLess) {
+TEST_F(InUseTest, MayBecomeLess) {
   for (int i = 0; i < kRounds; ++i) {
     leakMemory(1024);
     openFile();

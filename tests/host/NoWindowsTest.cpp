@@ -9,7 +9,7 @@
 namespace brennet::test {
 namespace {
 
-class WithoutWindows : public HostFixture {
+class NoWindowsTest : public HostFixture {
  protected:
   void expectNoDialog(const char* host) {
     const HotkeyBlock block = filled();
@@ -21,7 +21,7 @@ class WithoutWindows : public HostFixture {
   }
 };
 
-TEST_F(WithoutWindows, NoDialogIsShown) {
+TEST_F(NoWindowsTest, NoDialogIsShown) {
   expectNoDialog("without an application object");
   static int count = 1;
   static char name[] = "host";

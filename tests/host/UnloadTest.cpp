@@ -30,7 +30,7 @@ bool hasSkin() {
   return QFile::exists(QStringLiteral(":/skin/war3key.qss"));
 }
 
-TEST(Unloading, TakesTheResourcesAway) {
+TEST(Unload, TakesTheResourcesAway) {
   EXPECT_FALSE(hasSkin());
   for (int round = 0; round < 2; ++round) {
     {
@@ -94,9 +94,9 @@ class Player {
   QTimer timer_;
 };
 
-class UnloadingAfterTheDialog : public testing::Test {
+class UnloadAfterTheDialog : public testing::Test {
  protected:
-  UnloadingAfterTheDialog() : profile_(folder_.path()) {
+  UnloadAfterTheDialog() : profile_(folder_.path()) {
     registry_.createKey(kDota7ControlPath);
     registry_.createKey(kDota7PhrasesPath);
     writeBytes(settings_, "<KeyInfo enable=\"1\"><LastSaveTime>77</LastSaveTime></KeyInfo>");
@@ -127,7 +127,7 @@ class UnloadingAfterTheDialog : public testing::Test {
 };
 
 // The style sheets of the host and those of the library are in the same memory of Qt's.
-TEST_F(UnloadingAfterTheDialog, LeavesTheStyleSheetsOfTheHostAlone) {
+TEST_F(UnloadAfterTheDialog, LeavesTheStyleSheetsOfTheHostAlone) {
   constexpr int kRounds = 5;
   for (int i = 0; i < kRounds; ++i) {
     window_.setStyleSheet(QStringLiteral("QPushButton { color: red }"));
@@ -146,7 +146,7 @@ constexpr std::size_t kSlack = 0;
 
 // The window has no style sheet here: where a host has one, Qt itself loses a few bytes with each
 // window that has another, whether the library is loaded or not.
-TEST_F(UnloadingAfterTheDialog, LeavesNothingBehindAHundredTimes) {
+TEST_F(UnloadAfterTheDialog, LeavesNothingBehindAHundredTimes) {
   constexpr int kRounds = 100;
   const int windows = QApplication::topLevelWidgets().size();
   expectNothingIsLeft(

@@ -5,7 +5,7 @@
 namespace brennet {
 namespace {
 
-TEST(FromWide, GivesUtf16) {
+TEST(WideText, GivesUtf16) {
   EXPECT_EQ(fromWide(nullptr), u"");
   EXPECT_EQ(fromWide(L""), u"");
   EXPECT_EQ(fromWide(L"a\u8C22\U0001F600"), u"a\u8C22\U0001F600");

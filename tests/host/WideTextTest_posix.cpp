@@ -7,7 +7,7 @@
 namespace brennet {
 namespace {
 
-TEST(FromWide, ReplacesWhatIsNoCodePoint) {
+TEST(WideText, ReplacesWhatIsNoCodePoint) {
   const wchar_t text[] = {static_cast<wchar_t>(0x110000), static_cast<wchar_t>(-1), 0};
   EXPECT_EQ(fromWide(text), u"\uFFFD\uFFFD");
 }

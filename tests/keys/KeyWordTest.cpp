@@ -37,16 +37,16 @@ struct SameKeyCase {
   bool same;
 };
 
-class SameKey : public testing::TestWithParam<SameKeyCase> {};
+class KeyWordSameKey : public testing::TestWithParam<SameKeyCase> {};
 
-TEST_P(SameKey, ComparesTheKeyAndItsThreeModifiers) {
+TEST_P(KeyWordSameKey, ComparesTheKeyAndItsThreeModifiers) {
   const SameKeyCase& row = GetParam();
   EXPECT_EQ(KeyWord(row.one).sameKey(KeyWord(row.other)), row.same);
   EXPECT_EQ(KeyWord(row.other).sameKey(KeyWord(row.one)), row.same);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, SameKey,
+    Rows, KeyWordSameKey,
     testing::Values(SameKeyCase{0x5104, 0x5104, true}, SameKeyCase{0x5104, 0x510C, true},
                     SameKeyCase{0x5104, 0x51F4, true}, SameKeyCase{0x5104, 0x5105, false},
                     SameKeyCase{0x5104, 0x5106, false}, SameKeyCase{0x5104, 0x5100, false},

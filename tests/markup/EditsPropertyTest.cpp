@@ -81,7 +81,7 @@ class RandomEdits {
   std::mt19937 random_;
 };
 
-TEST(RandomEdits, LeaveTheTreeThatAFreshParseFinds) {
+TEST(EditsProperty, LeaveTheTreeThatAFreshParseFinds) {
   for (unsigned seed = 0; seed < 3000; ++seed) {
     RandomEdits edits(seed);
     MarkupDocument document;

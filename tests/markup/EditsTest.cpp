@@ -12,7 +12,7 @@ namespace {
 constexpr std::uint32_t kChild = MarkupDocument::kChild;
 constexpr std::uint32_t kCData = MarkupDocument::kCData;
 
-TEST(Building, WritesOneElementALine) {
+TEST(EditsThatBuild, WritesOneElementALine) {
   MarkupDocument document;
   document.setDoc(u"<?xml version=\"1.0\" encoding=\"gb2312\"?>\r\n");
   ASSERT_TRUE(document.addElem(u"KeyInfo"));
@@ -60,7 +60,7 @@ void expectEdits(const EditCase& test) {
   EXPECT_EQ(test::treeOf(document), test::treeOf(std::u16string(test.after)));
 }
 
-TEST(SetAttrib, AddsAndReplaces) {
+TEST(EditsSetAttrib, AddsAndReplaces) {
   const auto set = [](const char16_t* name, const char16_t* value) {
     return [=](MarkupDocument& document) { return document.setAttrib(name, value); };
   };
@@ -81,7 +81,7 @@ TEST(SetAttrib, AddsAndReplaces) {
   for (const EditCase& test : kCases) expectEdits(test);
 }
 
-TEST(SetAttrib, ReadsBackAnyValue) {
+TEST(EditsSetAttrib, ReadsBackAnyValue) {
   MarkupDocument document;
   document.addElem(u"a");
   const std::u16string value = u"a & b < c \"d\" 'e' > ]]> &amp; /> \r\n";
@@ -93,7 +93,7 @@ TEST(SetAttrib, ReadsBackAnyValue) {
   EXPECT_EQ(again.getAttrib(u"x"), value);
 }
 
-TEST(SetData, ReplacesTheWholeContent) {
+TEST(EditsSetData, ReplacesTheWholeContent) {
   const auto set = [](const char16_t* value, std::uint32_t flags = 0) {
     return [=](MarkupDocument& document) { return document.setData(value, flags); };
   };
@@ -115,7 +115,7 @@ TEST(SetData, ReplacesTheWholeContent) {
   for (const EditCase& test : kCases) expectEdits(test);
 }
 
-TEST(SetData, ReadsBackAnyValueAlsoAsCData) {
+TEST(EditsSetData, ReadsBackAnyValueAlsoAsCData) {
   const std::u16string_view kValues[] = {
       u"]]>", u"a]]>b]]>c", u"]]", u"<![CDATA[x]]>", u"&lt; < > & \" '", u" \r\n ", u"\u8c22\u8c22",
   };
@@ -133,7 +133,7 @@ TEST(SetData, ReadsBackAnyValueAlsoAsCData) {
   }
 }
 
-TEST(SetData, ForgetsAChildPositionInsideTheContent) {
+TEST(EditsSetData, ForgetsAChildPositionInsideTheContent) {
   MarkupDocument document;
   ASSERT_TRUE(document.setDoc(u"<a><b>1</b></a>"));
   ASSERT_TRUE(document.findChildElem(u"b"));
@@ -143,7 +143,7 @@ TEST(SetData, ForgetsAChildPositionInsideTheContent) {
   EXPECT_FALSE(document.findChildElem());
 }
 
-TEST(AddElem, PlacesElementsBetweenOthers) {
+TEST(EditsAddElem, PlacesElementsBetweenOthers) {
   const auto add = [](MarkupDocument& document) { return document.addElem(u"n"); };
   const auto addChild = [](MarkupDocument& document) { return document.addElem(u"n", {}, kChild); };
   const auto behindChild = [](MarkupDocument& document) {
@@ -177,7 +177,7 @@ TEST(AddElem, PlacesElementsBetweenOthers) {
 }
 
 // No padding where there is text, and there may not have been any.
-TEST(AddElem, LooksForTextAgainOnceTheContentIsSet) {
+TEST(EditsAddElem, LooksForTextAgainOnceTheContentIsSet) {
   MarkupDocument document;
   ASSERT_TRUE(document.addElem(u"a"));
   ASSERT_TRUE(document.addElem(u"b", {}, kChild));
@@ -190,7 +190,7 @@ TEST(AddElem, LooksForTextAgainOnceTheContentIsSet) {
   EXPECT_EQ(document.doc(), u"<a>\r\n<b/>\r\n</a>\r\n");
 }
 
-TEST(AddElem, MovesThePositionToTheNewElement) {
+TEST(EditsAddElem, MovesThePositionToTheNewElement) {
   MarkupDocument document;
   ASSERT_TRUE(document.addElem(u"root"));
   EXPECT_EQ(document.getTagName(), u"root");

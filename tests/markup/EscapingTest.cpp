@@ -41,7 +41,7 @@ struct UnescapeCase {
   std::u16string_view read;
 };
 
-TEST(Unescaping, ResolvesEntitiesAndCharacterReferences) {
+TEST(EscapingUndone, ResolvesEntitiesAndCharacterReferences) {
   const UnescapeCase kCases[] = {
       {u"&lt;&gt;&amp;&quot;&apos;", u"<>&\"'"},
       {u"a&nbsp;b&diams;", u"a\u00A0b\u2666"},
@@ -57,7 +57,7 @@ TEST(Unescaping, ResolvesEntitiesAndCharacterReferences) {
   for (const UnescapeCase& test : kCases) EXPECT_EQ(unescaped(test.written), test.read);
 }
 
-TEST(Unescaping, LeavesWhatNamesNoCharacter) {
+TEST(EscapingUndone, LeavesWhatNamesNoCharacter) {
   const std::u16string_view kTexts[] = {
       u"&",
       u"&;",
@@ -84,16 +84,16 @@ TEST(Unescaping, LeavesWhatNamesNoCharacter) {
   for (const std::u16string_view text : kTexts) EXPECT_EQ(unescaped(text), text);
 }
 
-TEST(Unescaping, FindsAReferenceRightBehindABrokenOne) {
+TEST(EscapingUndone, FindsAReferenceRightBehindABrokenOne) {
   EXPECT_EQ(unescaped(u"&&lt;&#&#65;&bogus&gt;"), u"&<&#A&bogus>");
 }
 
-TEST(Unescaping, GivesBackWhateverWasEscaped) {
+TEST(EscapingUndone, GivesBackWhateverWasEscaped) {
   const std::u16string text = u"<a b=\"c\">&amp; 'x' &#65; ]]></a>";
   EXPECT_EQ(unescaped(escaped(text)), text);
 }
 
-TEST(CData, SplitsTheEndMarkBetweenTwoSections) {
+TEST(EscapingCData, SplitsTheEndMarkBetweenTwoSections) {
   EXPECT_EQ(cdata(u"a]]>b"), u"<![CDATA[a]]]]><![CDATA[>b]]>");
   EXPECT_EQ(cdata(u"]]>]]>"), u"<![CDATA[]]]]><![CDATA[>]]]]><![CDATA[>]]>");
   EXPECT_EQ(cdata(u"]]"), u"<![CDATA[]]]]>");

@@ -28,7 +28,7 @@ class GuardedText {
   std::size_t size_;
 };
 
-TEST(AName, EndsWithTheText) {
+TEST(GuardedTextName, EndsWithTheText) {
   for (const std::u16string_view name : {u"", u"a", u"abc"}) {
     const GuardedText text(name);
     EXPECT_EQ(leadingName(text.view()), name);
@@ -36,7 +36,7 @@ TEST(AName, EndsWithTheText) {
   }
 }
 
-TEST(ParseMarkup, ReadsNothingBehindTheText) {
+TEST(GuardedTextParseMarkup, ReadsNothingBehindTheText) {
   struct Row {
     std::u16string_view text;
     ElementNumber elements;

@@ -5,7 +5,7 @@
 namespace brennet {
 namespace {
 
-TEST(ParseMarkup, KeepsTheRangesOfElements) {
+TEST(MarkupParser, KeepsTheRangesOfElements) {
   const std::u16string text = u"<?x?> <a t='1'><b>xy</b><c></a> ";
   ResultLog log;
   const ElementIndex index = parseMarkup(text, log);

@@ -19,7 +19,7 @@ namespace {
 
 using test::NaiveDocument;
 
-TEST(NaiveMarkup, ReadsADocument) {
+TEST(NaiveComparisonOfMarkup, ReadsADocument) {
   const NaiveDocument document =
       test::parseNaively(u"<?xml?>\n<a x='1' y=\"&lt;\"><b>t<![CDATA[<]]>&#65;</b><c/> </a>");
   EXPECT_TRUE(document.isWellFormed);
@@ -37,7 +37,7 @@ TEST(NaiveMarkup, ReadsADocument) {
   EXPECT_EQ(document.elements[2].name, u"c");
 }
 
-TEST(NaiveMarkup, TellsWhatIsWrong) {
+TEST(NaiveComparisonOfMarkup, TellsWhatIsWrong) {
   const NaiveDocument document = test::parseNaively(u"<a><b></c></a><d");
   EXPECT_TRUE(document.isWellFormed);
   EXPECT_EQ(document.log,
@@ -59,15 +59,15 @@ void expectAlike(const fuzz::Grammar& grammar, std::uint32_t documents) {
   }
 }
 
-TEST(NaiveMarkup, FindsWhatTheDocumentFindsInSettings) {
+TEST(NaiveComparisonOfMarkup, FindsWhatTheDocumentFindsInSettings) {
   expectAlike(fuzz::settingsGrammar(), 2000);
 }
 
-TEST(NaiveMarkup, FindsWhatTheDocumentFindsInMarkupOfAllKinds) {
+TEST(NaiveComparisonOfMarkup, FindsWhatTheDocumentFindsInMarkupOfAllKinds) {
   expectAlike(fuzz::markupGrammar(), 40000);
 }
 
-TEST(NaiveDecoding, ReadsWhatItCan) {
+TEST(NaiveComparisonOfDecoding, ReadsWhatItCan) {
   using namespace std::string_view_literals;
   struct Case {
     std::string_view bytes;
@@ -87,7 +87,7 @@ TEST(NaiveDecoding, ReadsWhatItCan) {
   for (const Case& test : kCases) EXPECT_EQ(test::decodedNaively(test.bytes), test.text);
 }
 
-TEST(NaiveDecoding, ReadsWhatTheDocumentReads) {
+TEST(NaiveComparisonOfDecoding, ReadsWhatTheDocumentReads) {
   using namespace std::string_view_literals;
   constexpr std::string_view kMarks[] = {
       "", "", "\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF", "\xFF\xFE\0\0"sv, "\0\0\xFE\xFF"sv};

@@ -95,7 +95,7 @@ TEST_F(Navigation, RefusesWhatAFileModeForbids) {
   EXPECT_TRUE(document_.findChildElem());
 }
 
-TEST(EmptyDocument, HasNothingToFind) {
+TEST(NavigationEmptyDocument, HasNothingToFind) {
   MarkupDocument document;
   EXPECT_FALSE(document.findElem());
   EXPECT_FALSE(document.findChildElem());
@@ -103,7 +103,7 @@ TEST(EmptyDocument, HasNothingToFind) {
   EXPECT_EQ(document.result(), u"");
 }
 
-TEST(GetData, JoinsTheDirectTextOnly) {
+TEST(NavigationGetData, JoinsTheDirectTextOnly) {
   struct Case {
     std::u16string_view text;
     std::u16string_view data;
@@ -132,7 +132,7 @@ TEST(GetData, JoinsTheDirectTextOnly) {
   }
 }
 
-TEST(MainAndChildOffset, AreThoseOfTheStartTags) {
+TEST(NavigationMainAndChildOffset, AreThoseOfTheStartTags) {
   MarkupDocument document;
   ASSERT_TRUE(document.setDoc(u"<?x?><a>\n<b/><c>1</c></a>"));
   EXPECT_EQ(document.mainOffset(), std::nullopt);
@@ -146,7 +146,7 @@ TEST(MainAndChildOffset, AreThoseOfTheStartTags) {
   EXPECT_EQ(document.childOffset(), 19U) << "what stands in front of it has grown";
 }
 
-TEST(GetAttrib, UnescapesTheValue) {
+TEST(NavigationGetAttrib, UnescapesTheValue) {
   MarkupDocument document;
   ASSERT_TRUE(document.setDoc(u"<a b=\"&lt;&amp;&quot;&apos;&gt;&nbsp;\" c='\"'/>"));
   ASSERT_TRUE(document.findElem());

@@ -27,7 +27,7 @@ std::uint16_t at(const HotkeyBlock& block, std::size_t offset) {
   return load16(bytesOf(block), offset);
 }
 
-TEST(FillBlock, OfTheDefaultsHasNothingButSizeZoomAndChatKeySet) {
+TEST(BlockFiller, OfTheDefaultsHasNothingButSizeZoomAndChatKeySet) {
   HotkeyConfig config;
   const HotkeyBlock block = filled(config);
   HotkeyBlock expected{};
@@ -44,7 +44,7 @@ struct KeyRow {
   KeyWord HotkeyScheme::*key;
 };
 
-TEST(FillBlock, PutsEveryKeyAtItsOffset) {
+TEST(BlockFiller, PutsEveryKeyAtItsOffset) {
   HotkeyConfig config;
   HotkeyScheme& scheme = *config.editableScheme();
   constexpr std::size_t kSkills[] = {8, 10, 12, 14, 16, 18, 64, 1792, 1794, 1796, 1798, 1800};
@@ -91,7 +91,7 @@ struct SwitchRow {
   int value;
 };
 
-TEST(FillBlock, PutsEverySwitchAtItsBitOrByte) {
+TEST(BlockFiller, PutsEverySwitchAtItsBitOrByte) {
   constexpr SwitchRow kRows[] = {
       {&HotkeyScheme::DisableLWinFlag, 4, 1},   {&HotkeyScheme::LockMouseFlag, 4, 2},
       {&HotkeyScheme::ShowFBloodFlag, 4, 4},    {&HotkeyScheme::ShowEBloodFlag, 4, 8},
@@ -115,7 +115,7 @@ TEST(FillBlock, PutsEverySwitchAtItsBitOrByte) {
   EXPECT_EQ(filled(config).flags, 0x80000000U);
 }
 
-TEST(FillBlock, MarksQuickCastInHeroSkillsAndItems) {
+TEST(BlockFiller, MarksQuickCastInHeroSkillsAndItems) {
   HotkeyConfig config;
   HotkeyScheme& scheme = *config.editableScheme();
   scheme.HeroSkillKey[0] = kQ;
@@ -131,7 +131,7 @@ TEST(FillBlock, MarksQuickCastInHeroSkillsAndItems) {
   EXPECT_EQ(block.itemKeys[5], 0x510C);
 }
 
-TEST(FillBlock, DeliversTheKeysOfAChosenPresetWithoutMarks) {
+TEST(BlockFiller, DeliversTheKeysOfAChosenPresetWithoutMarks) {
   HotkeyConfig config;
   ASSERT_TRUE(config.SetItemKey(0x67, kR, true));
   ASSERT_TRUE(config.SetItemAutocast(0x67, true));
@@ -139,7 +139,7 @@ TEST(FillBlock, DeliversTheKeysOfAChosenPresetWithoutMarks) {
   EXPECT_THAT(filled(config).itemKeys, ElementsAre(0x5104, 0x5704, 0x4104, 0x5304, 0x5A04, 0x5804));
 }
 
-TEST(FillBlock, LeavesOutRemapsWithoutBothHalvesAndCombinationsWithoutD) {
+TEST(BlockFiller, LeavesOutRemapsWithoutBothHalvesAndCombinationsWithoutD) {
   HotkeyConfig config;
   ASSERT_TRUE(config.SetKeyRemap(0, remap(kQ, kNoKey), false));
   ASSERT_TRUE(config.SetKeyRemap(1, remap(kNoKey, kQ), false));
@@ -153,7 +153,7 @@ TEST(FillBlock, LeavesOutRemapsWithoutBothHalvesAndCombinationsWithoutD) {
   EXPECT_THAT(block.comboKeys, ElementsAre(0x5100, 0, 0x4500, 0x5200)) << "no key is 0";
 }
 
-TEST(FillBlock, AnswersTheDefaultsForASchemeThatIsNone) {
+TEST(BlockFiller, AnswersTheDefaultsForASchemeThatIsNone) {
   HotkeyConfig config;
   config.editableScheme(0)->HideUI = 1;
   config.setEnable(true);
@@ -170,7 +170,7 @@ void setPhrase(Phrases& phrases, std::size_t n, const std::u16string& text) {
   phrases[n] = text;
 }
 
-TEST(FillBlock, PacksPhrasesOneBehindTheOther) {
+TEST(BlockFiller, PacksPhrasesOneBehindTheOther) {
   HotkeyConfig config;
   HotkeyScheme& scheme = *config.editableScheme();
   setPhrase(scheme.QuickChat, 0, u"gg");
@@ -182,7 +182,7 @@ TEST(FillBlock, PacksPhrasesOneBehindTheOther) {
             std::string(1024 - expected.size(), '\0'));
 }
 
-TEST(FillBlock, CutsPhrasesAtTheEndOfTheirAreaBetweenCharacters) {
+TEST(BlockFiller, CutsPhrasesAtTheEndOfTheirAreaBetweenCharacters) {
   HotkeyConfig config;
   HotkeyScheme& scheme = *config.editableScheme();
   const std::u16string longest(42, u'\u8C22');
@@ -208,7 +208,7 @@ TEST(FillBlock, CutsPhrasesAtTheEndOfTheirAreaBetweenCharacters) {
   EXPECT_EQ(block.hideUI, 1);
 }
 
-TEST(FillBlock, KeepsAClosingNulForEveryPhrase) {
+TEST(BlockFiller, KeepsAClosingNulForEveryPhrase) {
   HotkeyConfig config;
   HotkeyScheme& scheme = *config.editableScheme();
   for (std::size_t n = 0; n < kPhrases; ++n) {

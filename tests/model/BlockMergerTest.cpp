@@ -37,14 +37,14 @@ HotkeyConfig configWithKeys() {
   return config;
 }
 
-TEST(MergeBlock, FindsNothingInAnUnchangedBlock) {
+TEST(BlockMerger, FindsNothingInAnUnchangedBlock) {
   HotkeyConfig config = configWithKeys();
   const HotkeyScheme before = config.scheme();
   EXPECT_FALSE(mergeEdited(config, [](HotkeyBlock&) {}));
   EXPECT_EQ(config.scheme(), before);
 }
 
-TEST(MergeBlock, DoesNotLookAtUnusedBytesAndBits) {
+TEST(BlockMerger, DoesNotLookAtUnusedBytesAndBits) {
   HotkeyConfig config = configWithKeys();
   EXPECT_FALSE(mergeEdited(config, [](HotkeyBlock& block) {
     block.size = 5;
@@ -60,7 +60,7 @@ struct FieldRow {
   std::function<void(HotkeyScheme&)> expect;
 };
 
-TEST(MergeBlock, TakesEveryFieldThatDiffers) {
+TEST(BlockMerger, TakesEveryFieldThatDiffers) {
   const FieldRow kRows[] = {
       {"zoom", [](HotkeyBlock& b) { b.zoomValue = 140; },
        [](HotkeyScheme& s) { s.ZoomValue = 140; }},
@@ -116,7 +116,7 @@ TEST(MergeBlock, TakesEveryFieldThatDiffers) {
   }
 }
 
-TEST(MergeBlock, TakesTheGlobalSwitch) {
+TEST(BlockMerger, TakesTheGlobalSwitch) {
   HotkeyConfig config;
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) { b.flags |= kEnableFlag; }));
   EXPECT_TRUE(config.enable());
@@ -124,7 +124,7 @@ TEST(MergeBlock, TakesTheGlobalSwitch) {
   EXPECT_FALSE(config.enable());
 }
 
-TEST(MergeBlock, SwapsTwoKeys) {
+TEST(BlockMerger, SwapsTwoKeys) {
   HotkeyConfig config = configWithKeys();
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) {
     b.heroSkillKeys0to5[0] = kW.raw();
@@ -134,7 +134,7 @@ TEST(MergeBlock, SwapsTwoKeys) {
   EXPECT_EQ(config.scheme().HeroSkillKey[1], kQ);
 }
 
-TEST(MergeBlock, MovesAKeyFromALaterFieldToAnEarlierOne) {
+TEST(BlockMerger, MovesAKeyFromALaterFieldToAnEarlierOne) {
   HotkeyConfig config;
   config.editableScheme()->ChatWheelkey = kQ;
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) {
@@ -145,7 +145,7 @@ TEST(MergeBlock, MovesAKeyFromALaterFieldToAnEarlierOne) {
   EXPECT_EQ(config.scheme().ChatWheelkey, kNoKey);
 }
 
-TEST(MergeBlock, GivesARefusedKeyToNobody) {
+TEST(BlockMerger, GivesARefusedKeyToNobody) {
   HotkeyConfig config = configWithKeys();
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) {
     b.heroSkillKeys0to5[1] = kE.raw();  // an item has it
@@ -163,7 +163,7 @@ TEST(MergeBlock, GivesARefusedKeyToNobody) {
   EXPECT_EQ(scheme.ComboKey, ComboKeys());
 }
 
-TEST(MergeBlock, LetsTheEarlierOfTwoEqualKeysWin) {
+TEST(BlockMerger, LetsTheEarlierOfTwoEqualKeysWin) {
   HotkeyConfig config;
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) {
     b.itemKeys[0] = kQ.raw();
@@ -175,7 +175,7 @@ TEST(MergeBlock, LetsTheEarlierOfTwoEqualKeysWin) {
   EXPECT_EQ(config.scheme().ChatWheelkey, kNoKey);
 }
 
-TEST(MergeBlock, TakesANoKeyOfAnyWritingAsNoKey) {
+TEST(BlockMerger, TakesANoKeyOfAnyWritingAsNoKey) {
   for (const int raw : {0x0000, 0x0004, 0x0008, 0xFF00, 0xFF07}) {
     HotkeyConfig config = configWithKeys();
     EXPECT_TRUE(mergeEdited(config, [raw](HotkeyBlock& b) {
@@ -185,7 +185,7 @@ TEST(MergeBlock, TakesANoKeyOfAnyWritingAsNoKey) {
   }
 }
 
-TEST(MergeBlock, ChangesTheMarkAloneWhereOnlyTheMarkDiffers) {
+TEST(BlockMerger, ChangesTheMarkAloneWhereOnlyTheMarkDiffers) {
   HotkeyConfig config = configWithKeys();
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) { b.heroSkillKeys0to5[0] = 0x5108; }));
   EXPECT_EQ(config.scheme().HeroSkillKey[0], kQ);
@@ -195,7 +195,7 @@ TEST(MergeBlock, ChangesTheMarkAloneWhereOnlyTheMarkDiffers) {
   EXPECT_EQ(config.scheme().HeroSkillAutocast[0], false);
 }
 
-TEST(MergeBlock, KeepsItemKeysAndMarksBehindAPreset) {
+TEST(BlockMerger, KeepsItemKeysAndMarksBehindAPreset) {
   HotkeyConfig config;
   ASSERT_TRUE(config.SetItemKey(0x67, kE, true));
   ASSERT_TRUE(config.SetItemAutocast(0x67, true));
@@ -211,7 +211,7 @@ TEST(MergeBlock, KeepsItemKeysAndMarksBehindAPreset) {
   EXPECT_EQ(config.scheme().NumComboKeyIndex, 0);
 }
 
-TEST(MergeBlock, KeepsTheQuickChatSetWhereItsKeysAreTaken) {
+TEST(BlockMerger, KeepsTheQuickChatSetWhereItsKeysAreTaken) {
   HotkeyConfig config;
   ASSERT_TRUE(config.SetHeroSkillKey(0, kAlt1, true));
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) { b.quickChatIndex = 0; }));
@@ -220,7 +220,7 @@ TEST(MergeBlock, KeepsTheQuickChatSetWhereItsKeysAreTaken) {
   EXPECT_EQ(config.scheme().QuickChatIndex, 1U);
 }
 
-TEST(MergeBlock, OfASchemeThatIsNoneGoesNowhere) {
+TEST(BlockMerger, OfASchemeThatIsNoneGoesNowhere) {
   HotkeyConfig config;
   ASSERT_TRUE(config.setIndex(5));
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) { b.hideUI = 1; }));
@@ -235,7 +235,7 @@ void writeArea(HotkeyBlock& block, const std::string& bytes) {
   std::memcpy(block.chatWheel, bytes.data(), std::min(bytes.size(), sizeof(block.chatWheel)));
 }
 
-TEST(MergeBlock, SetsOnlyPhrasesWhoseBytesChanged) {
+TEST(BlockMerger, SetsOnlyPhrasesWhoseBytesChanged) {
   HotkeyConfig config;
   const std::u16string longest(42, u'\u8C22');
   for (auto& phrase : config.editableScheme()->ChatWheel) phrase = longest;
@@ -247,7 +247,7 @@ TEST(MergeBlock, SetsOnlyPhrasesWhoseBytesChanged) {
   }
 }
 
-TEST(MergeBlock, CutsReturnedPhrasesBetweenCharacters) {
+TEST(BlockMerger, CutsReturnedPhrasesBetweenCharacters) {
   std::string chinese;
   for (int i = 0; i < 40; ++i) chinese += "\xE8\xB0\xA2";
   const struct {
@@ -269,7 +269,7 @@ TEST(MergeBlock, CutsReturnedPhrasesBetweenCharacters) {
   }
 }
 
-TEST(MergeBlock, SplitsAnAreaWithoutClosingNuls) {
+TEST(BlockMerger, SplitsAnAreaWithoutClosingNuls) {
   HotkeyConfig config;
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) { writeArea(b, std::string(640, 'a')); }));
   EXPECT_EQ(config.scheme().ChatWheel[0], std::u16string(42, u'a'));
@@ -277,7 +277,7 @@ TEST(MergeBlock, SplitsAnAreaWithoutClosingNuls) {
   EXPECT_EQ(config.scheme().ChatWheelkey, kNoKey);
 }
 
-TEST(MergeBlock, LeavesPhrasesAloneThatAShorterRecordDoesNotCarryToTheirEnds) {
+TEST(BlockMerger, LeavesPhrasesAloneThatAShorterRecordDoesNotCarryToTheirEnds) {
   HotkeyConfig config;
   config.editableScheme()->QuickChat[0] = u"hello";
   config.editableScheme()->QuickChat[1] = u"world";
@@ -292,13 +292,13 @@ TEST(MergeBlock, LeavesPhrasesAloneThatAShorterRecordDoesNotCarryToTheirEnds) {
   for (std::size_t n = 3; n < kPhrases; ++n) EXPECT_EQ(phrases[n].value_or(u""), u"") << n;
 }
 
-TEST(MergeBlock, CountsADifferenceBehindTheLastPhrase) {
+TEST(BlockMerger, CountsADifferenceBehindTheLastPhrase) {
   HotkeyConfig config;
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) { b.quickChat[1000] = 'x'; }));
   EXPECT_EQ(config.scheme(), HotkeyScheme());
 }
 
-TEST(MergeBlock, TakesEightPhrasesAndNoMore) {
+TEST(BlockMerger, TakesEightPhrasesAndNoMore) {
   HotkeyConfig config;
   const std::string bytes("1\0002\0003\0004\0005\0006\0007\0008\0009\000", 18);
   EXPECT_TRUE(mergeEdited(config, [&](HotkeyBlock& b) { writeArea(b, bytes); }));

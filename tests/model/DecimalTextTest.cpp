@@ -12,7 +12,7 @@ struct Row {
   std::int32_t number;
 };
 
-TEST(ParseDecimal, FollowsTheRuleOfStrtol) {
+TEST(DecimalTextParseDecimal, FollowsTheRuleOfStrtol) {
   constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
   constexpr std::int32_t kMin = std::numeric_limits<std::int32_t>::min();
   constexpr Row kRows[] = {
@@ -43,7 +43,7 @@ TEST(ParseDecimal, FollowsTheRuleOfStrtol) {
   }
 }
 
-TEST(IsDecimal, IsTrueForNumbersAlone) {
+TEST(DecimalTextIsDecimal, IsTrueForNumbersAlone) {
   for (const char16_t* const text : {u"0", u"20740", u" 7 ", u"-1", u"+7", u"99999999999999999"}) {
     EXPECT_TRUE(isDecimal(text)) << testing::PrintToString(text);
   }

@@ -188,7 +188,7 @@ INSTANTIATE_TEST_SUITE_P(, EverySetting, testing::ValuesIn(kLoadOrder),
                          [](const auto& suite) { return nameOf(suite.param); });
 
 // All of them but the preset, in whose place the item keys stand in the block.
-TEST(AllSettings, StayApart) {
+TEST(EverySettingTable, StayApart) {
   HotkeyScheme scheme;
   for (const Setting& row : kSettings) {
     if (row.id != SettingId::NumComboKeyIndex) put(scheme, row.id);
@@ -231,7 +231,7 @@ struct AddressesOf {
   }
 };
 
-TEST(AllSettings, HaveARowForEachMemberOfTheScheme) {
+TEST(EverySettingTable, HaveARowForEachMemberOfTheScheme) {
   HotkeyScheme scheme;
   std::set<const void*> found;
   for (const Setting& row : kSettings) std::visit(AddressesOf{scheme, found}, row.kind);

@@ -31,7 +31,7 @@ HotkeyConfig changedConfig() {
   return config;
 }
 
-TEST(Reset, LeavesThreeFieldsAndTheMarksAlone) {
+TEST(HotkeyConfigCopyReset, LeavesThreeFieldsAndTheMarksAlone) {
   HotkeyConfig config = changedConfig();
   config.markBlockBuilt();
   config.Reset();
@@ -49,7 +49,7 @@ TEST(Reset, LeavesThreeFieldsAndTheMarksAlone) {
   }
 }
 
-TEST(Assignment, CopiesEverythingAndReturnsACopy) {
+TEST(HotkeyConfigCopyAssignment, CopiesEverythingAndReturnsACopy) {
   const HotkeyConfig source = changedConfig();
   HotkeyConfig target;
   HotkeyConfig copy = (target = source);
@@ -65,7 +65,7 @@ TEST(Assignment, CopiesEverythingAndReturnsACopy) {
   EXPECT_EQ(target.scheme(0).HeroSkillKey[0], kQ);
 }
 
-TEST(Swap, ExchangesEverything) {
+TEST(HotkeyConfigCopySwap, ExchangesEverything) {
   HotkeyConfig loaded = changedConfig();
   MarkupDocument document;
   ASSERT_TRUE(loaded.saveTo(document, 77));
@@ -91,7 +91,7 @@ TEST(Swap, ExchangesEverything) {
   EXPECT_FALSE(loaded.blockBuilt());
 }
 
-TEST(Assignment, LeavesNoPhraseAndNoMarkOfTheTargetBehind) {
+TEST(HotkeyConfigCopyAssignment, LeavesNoPhraseAndNoMarkOfTheTargetBehind) {
   HotkeyConfig target = changedConfig();
   target = HotkeyConfig();
   EXPECT_EQ(target.scheme(0).QuickChat[1], u"");
@@ -99,7 +99,7 @@ TEST(Assignment, LeavesNoPhraseAndNoMarkOfTheTargetBehind) {
   EXPECT_EQ(target.scheme(0).ItemAutocast, AutocastMarks<kItemSlots>());
 }
 
-TEST(Assignment, RefusesAChoiceThatConflictsWithKeysOfTheTargetThatAreCopiedLater) {
+TEST(HotkeyConfigCopyAssignment, RefusesAChoiceThatConflictsWithKeysOfTheTargetThatAreCopiedLater) {
   HotkeyConfig source;
   ASSERT_TRUE(source.SetNumComboKeyIndex(0));
   HotkeyConfig target;
@@ -114,7 +114,7 @@ TEST(Assignment, RefusesAChoiceThatConflictsWithKeysOfTheTargetThatAreCopiedLate
   EXPECT_EQ(reset.scheme(0).NumComboKeyIndex, 0) << "no stale key refuses the choice";
 }
 
-TEST(Assignment, RefusesAChoiceThatConflictsWithTheSourcesOwnKeys) {
+TEST(HotkeyConfigCopyAssignment, RefusesAChoiceThatConflictsWithTheSourcesOwnKeys) {
   HotkeyConfig source;
   source.editableScheme(0)->NumComboKeyIndex = 0;
   source.editableScheme(0)->HeroSkillKey[0] = kAltQ;
@@ -127,7 +127,7 @@ TEST(Assignment, RefusesAChoiceThatConflictsWithTheSourcesOwnKeys) {
   EXPECT_EQ(target.scheme(1).QuickChatIndex, 1U);
 }
 
-TEST(Assignment, ChecksTheQuickChatSetBeforeTheChatWheelKeyIsCopied) {
+TEST(HotkeyConfigCopyAssignment, ChecksTheQuickChatSetBeforeTheChatWheelKeyIsCopied) {
   HotkeyConfig source;
   source.editableScheme(0)->QuickChatIndex = 0;
   source.editableScheme(0)->ChatWheelkey = kAlt1;
@@ -137,7 +137,7 @@ TEST(Assignment, ChecksTheQuickChatSetBeforeTheChatWheelKeyIsCopied) {
   EXPECT_EQ(target.scheme(0).ChatWheelkey, kAlt1);
 }
 
-TEST(Assignment, ToItselfChangesNothing) {
+TEST(HotkeyConfigCopyAssignment, ToItselfChangesNothing) {
   HotkeyConfig config = changedConfig();
   const HotkeyScheme before = config.scheme(1);
   const HotkeyConfig& same = config;

@@ -14,7 +14,7 @@ using namespace test;
 
 constexpr int kCurrent = HotkeyConfig::kCurrentScheme;
 
-TEST(NewConfig, HoldsTheDefaults) {
+TEST(HotkeyConfigNewConfig, HoldsTheDefaults) {
   const HotkeyConfig config;
   EXPECT_FALSE(config.loaded());
   EXPECT_FALSE(config.enable());
@@ -85,7 +85,7 @@ const KeySetter kSetters[] = {
      keyOf<&HotkeyScheme::SecretaryKey>},
 };
 
-TEST(KeySetters, StoreAKeyThatIsFree) {
+TEST(HotkeyConfigKeySetters, StoreAKeyThatIsFree) {
   for (const KeySetter& setter : kSetters) {
     for (const int n : setter.legal) {
       HotkeyConfig config;
@@ -95,7 +95,7 @@ TEST(KeySetters, StoreAKeyThatIsFree) {
   }
 }
 
-TEST(KeySetters, RefuseANumberOutOfRangeEvenUnchecked) {
+TEST(HotkeyConfigKeySetters, RefuseANumberOutOfRangeEvenUnchecked) {
   for (const KeySetter& setter : kSetters) {
     for (const int n : setter.illegal) {
       HotkeyConfig config;
@@ -106,7 +106,7 @@ TEST(KeySetters, RefuseANumberOutOfRangeEvenUnchecked) {
   }
 }
 
-TEST(KeySetters, RefuseWhatIsTakenOrForbiddenAndKeepTheField) {
+TEST(HotkeyConfigKeySetters, RefuseWhatIsTakenOrForbiddenAndKeepTheField) {
   for (const KeySetter& setter : kSetters) {
     const int n = setter.legal.front();
     HotkeyConfig config;
@@ -121,7 +121,7 @@ TEST(KeySetters, RefuseWhatIsTakenOrForbiddenAndKeepTheField) {
   }
 }
 
-TEST(KeySetters, AcceptTheKeyThatTheFieldHasAlready) {
+TEST(HotkeyConfigKeySetters, AcceptTheKeyThatTheFieldHasAlready) {
   for (const KeySetter& setter : kSetters) {
     const int n = setter.legal.front();
     HotkeyConfig config;
@@ -132,7 +132,7 @@ TEST(KeySetters, AcceptTheKeyThatTheFieldHasAlready) {
   }
 }
 
-TEST(KeySetters, StoreAnythingUnchecked) {
+TEST(HotkeyConfigKeySetters, StoreAnythingUnchecked) {
   for (const KeySetter& setter : kSetters) {
     const int n = setter.legal.front();
     HotkeyConfig config;
@@ -144,7 +144,7 @@ TEST(KeySetters, StoreAnythingUnchecked) {
   }
 }
 
-TEST(KeySetters, WriteTheSchemeThatTheyAreGiven) {
+TEST(HotkeyConfigKeySetters, WriteTheSchemeThatTheyAreGiven) {
   HotkeyConfig config;
   ASSERT_TRUE(config.setIndex(1));
   EXPECT_TRUE(config.SetHeroSkillKey(0, kQ, true, 2));
@@ -154,20 +154,20 @@ TEST(KeySetters, WriteTheSchemeThatTheyAreGiven) {
   EXPECT_EQ(config.scheme(2).HeroSkillKey[0], kQ);
 }
 
-TEST(MouseKeys, MayRepeatEachOther) {
+TEST(HotkeyConfigMouseKeys, MayRepeatEachOther) {
   HotkeyConfig config;
   EXPECT_TRUE(config.SetMouseKey(0, kQ, true));
   EXPECT_TRUE(config.SetMouseKey(1, kQ, true));
 }
 
-TEST(SetHeroSkillKey, RefusesAKeyOfTheChosenPreset) {
+TEST(HotkeyConfigSetHeroSkillKey, RefusesAKeyOfTheChosenPreset) {
   HotkeyConfig config;
   ASSERT_TRUE(config.SetNumComboKeyIndex(0));
   EXPECT_FALSE(config.SetHeroSkillKey(3, kAltQ, true));
   EXPECT_EQ(config.scheme().HeroSkillKey[3], kNoKey);
 }
 
-TEST(SetKeyRemap, ChecksTheDestinationOnly) {
+TEST(HotkeyConfigSetKeyRemap, ChecksTheDestinationOnly) {
   HotkeyConfig config;
   ASSERT_TRUE(config.SetHeroSkillKey(0, kQ, true));
   EXPECT_TRUE(config.SetKeyRemap(0, remap(kQ, kW), true));
@@ -177,7 +177,7 @@ TEST(SetKeyRemap, ChecksTheDestinationOnly) {
   EXPECT_EQ(config.scheme().HotKey[1].raw(), 0xFF00FF00U);
 }
 
-TEST(SetKeyRemap, StoresANewSourceForTheSameDestination) {
+TEST(HotkeyConfigSetKeyRemap, StoresANewSourceForTheSameDestination) {
   HotkeyConfig config;
   ASSERT_TRUE(config.SetKeyRemap(5, remap(kQ, kW), true));
   EXPECT_TRUE(config.SetKeyRemap(5, remap(kE, kW), true));
@@ -186,7 +186,7 @@ TEST(SetKeyRemap, StoresANewSourceForTheSameDestination) {
   EXPECT_EQ(config.scheme().HotKey[4].raw(), remap(kR, kNoKey));
 }
 
-TEST(SetKeyRemap, RefusesNumbersOutOfRange) {
+TEST(HotkeyConfigSetKeyRemap, RefusesNumbersOutOfRange) {
   HotkeyConfig config;
   for (const int n : {-1, 6, 100}) {
     EXPECT_FALSE(config.SetKeyRemap(n, remap(kQ, kW), true)) << n;
@@ -201,7 +201,7 @@ struct ComboRow {
   bool accepted;
 };
 
-TEST(SetComboKeys, ChecksThemTogether) {
+TEST(HotkeyConfigSetComboKeys, ChecksThemTogether) {
   const ComboRow kRows[] = {
       {"a free D", {}, {kW, kE, kNoKey, kR}, true},
       {"D taken by a skill", {}, {kW, kE, kNoKey, kQ}, false},
@@ -226,14 +226,14 @@ TEST(SetComboKeys, ChecksThemTogether) {
   }
 }
 
-TEST(SetComboKeys, StoresAnythingUnchecked) {
+TEST(HotkeyConfigSetComboKeys, StoresAnythingUnchecked) {
   HotkeyConfig config;
   config.editableScheme()->HeroSkillKey[0] = kQ;
   EXPECT_TRUE(config.SetComboKeys(false, 0, keyPair(kQ, kQ), keyPair(kQ, kQ)));
   EXPECT_EQ(config.scheme().ComboKey, (ComboKeys{kQ, kQ, kQ, kQ}));
 }
 
-TEST(SetNumComboKeyIndex, AcceptsTheMapAndThreePresets) {
+TEST(HotkeyConfigSetNumComboKeyIndex, AcceptsTheMapAndThreePresets) {
   HotkeyConfig config;
   for (const std::int32_t mode : {0, 1, 2, -1}) {
     EXPECT_TRUE(config.SetNumComboKeyIndex(mode)) << mode;
@@ -245,7 +245,7 @@ TEST(SetNumComboKeyIndex, AcceptsTheMapAndThreePresets) {
   }
 }
 
-TEST(SetNumComboKeyIndex, RefusesAPresetWhoseKeysAreTaken) {
+TEST(HotkeyConfigSetNumComboKeyIndex, RefusesAPresetWhoseKeysAreTaken) {
   HotkeyConfig config;
   ASSERT_TRUE(config.SetHeroSkillKey(0, KeyWord('F', KeyWord::kAlt), true));
   EXPECT_FALSE(config.SetNumComboKeyIndex(0));
@@ -255,7 +255,7 @@ TEST(SetNumComboKeyIndex, RefusesAPresetWhoseKeysAreTaken) {
   EXPECT_FALSE(config.SetNumComboKeyIndex(2)) << "Alt+1 to Alt+6 send phrases";
 }
 
-TEST(SetQuickChatIndex, AcceptsTwoSetsWhoseKeysAreFree) {
+TEST(HotkeyConfigSetQuickChatIndex, AcceptsTwoSetsWhoseKeysAreFree) {
   HotkeyConfig config;
   EXPECT_TRUE(config.SetQuickChatIndex(0));
   EXPECT_TRUE(config.SetQuickChatIndex(1));
@@ -269,7 +269,7 @@ TEST(SetQuickChatIndex, AcceptsTwoSetsWhoseKeysAreFree) {
   EXPECT_EQ(config.scheme().QuickChatIndex, 1U);
 }
 
-TEST(PhraseSetters, CutLongTextInTheCallersBufferToo) {
+TEST(HotkeyConfigPhraseSetters, CutLongTextInTheCallersBufferToo) {
   for (const auto setter : {&HotkeyConfig::SetQuickChatPhrase, &HotkeyConfig::SetChatWheelPhrase}) {
     HotkeyConfig config;
     std::u16string text(50, u'\u8C22');
@@ -284,7 +284,7 @@ TEST(PhraseSetters, CutLongTextInTheCallersBufferToo) {
   }
 }
 
-TEST(PhraseSetters, NeverCutACharacterInTwo) {
+TEST(HotkeyConfigPhraseSetters, NeverCutACharacterInTwo) {
   HotkeyConfig config;
   std::u16string text = std::u16string(41, u'a') + u"\U0001F600" + u"b";
   EXPECT_TRUE(config.SetQuickChatPhrase(0, text.data()));
@@ -292,7 +292,7 @@ TEST(PhraseSetters, NeverCutACharacterInTwo) {
   EXPECT_EQ(text, std::u16string(41, u'a') + std::u16string(3, u'\0'));
 }
 
-TEST(PhraseSetters, KeepTextOfTheFullLengthAndStoreNullAsEmpty) {
+TEST(HotkeyConfigPhraseSetters, KeepTextOfTheFullLengthAndStoreNullAsEmpty) {
   HotkeyConfig config;
   std::u16string text(42, u'a');
   EXPECT_TRUE(config.SetChatWheelPhrase(0, text.data()));
@@ -303,7 +303,7 @@ TEST(PhraseSetters, KeepTextOfTheFullLengthAndStoreNullAsEmpty) {
   EXPECT_FALSE(config.SetQuickChatPhrase(0xFFFFFFFFU, text.data()));
 }
 
-TEST(Getters, CopyKeysAndMarks) {
+TEST(HotkeyConfigGetters, CopyKeysAndMarks) {
   HotkeyConfig config;
   HotkeyScheme& scheme = *config.editableScheme();
   scheme.ShowFBlood = kQ;
@@ -334,7 +334,7 @@ TEST(Getters, CopyKeysAndMarks) {
   EXPECT_FALSE(config.SetHeroSkillAutocast(-1, true));
 }
 
-TEST(ASchemeIndexAboveTwo, ReadsAsTheDefaultsAndTakesNoWrites) {
+TEST(HotkeyConfigIndexAboveTwo, ReadsAsTheDefaultsAndTakesNoWrites) {
   for (const std::uint32_t index : {3U, 7U, 10U}) {
     HotkeyConfig config;
     ASSERT_TRUE(config.setIndex(index));
@@ -362,7 +362,7 @@ TEST(ASchemeIndexAboveTwo, ReadsAsTheDefaultsAndTakesNoWrites) {
   EXPECT_FALSE(config.SetHeroSkillKey(0, kQ, true, -2));
 }
 
-TEST(LoadScheme, TellsWhetherThereIsOneOfTheNumber) {
+TEST(HotkeyConfigLoadScheme, TellsWhetherThereIsOneOfTheNumber) {
   HotkeyConfig config;
   MarkupDocument document;
   ASSERT_TRUE(document.setDoc(u"<KeyInfo_0><ZoomValue>120</ZoomValue></KeyInfo_0>"));

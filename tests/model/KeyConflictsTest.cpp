@@ -66,7 +66,7 @@ const Place kIgnoredPlaces[] = {
     {"combination key C", [](HotkeyScheme& s, KeyWord k) { s.ComboKey.Key_C = k; }},
 };
 
-TEST(IsKeyFree, IsFalseForAKeyThatAnythingHas) {
+TEST(KeyConflictsIsKeyFree, IsFalseForAKeyThatAnythingHas) {
   for (const Place& place : kTakenPlaces) {
     HotkeyScheme scheme;
     EXPECT_TRUE(isKeyFree(scheme, kAltQ)) << place.name;
@@ -77,7 +77,7 @@ TEST(IsKeyFree, IsFalseForAKeyThatAnythingHas) {
   }
 }
 
-TEST(IsKeyFree, IsTrueForAllThatCanBeBoundWhereNothingIs) {
+TEST(KeyConflictsIsKeyFree, IsTrueForAllThatCanBeBoundWhereNothingIs) {
   for (const int preset : {-1, 0, 1, 2}) {
     HotkeyScheme scheme;
     scheme.NumComboKeyIndex = preset;
@@ -91,7 +91,7 @@ TEST(IsKeyFree, IsTrueForAllThatCanBeBoundWhereNothingIs) {
   }
 }
 
-TEST(IsKeyFree, DoesNotConsultMouseKeysAndSources) {
+TEST(KeyConflictsIsKeyFree, DoesNotConsultMouseKeysAndSources) {
   for (const Place& place : kIgnoredPlaces) {
     HotkeyScheme scheme;
     place.put(scheme, kQ);
@@ -99,7 +99,7 @@ TEST(IsKeyFree, DoesNotConsultMouseKeysAndSources) {
   }
 }
 
-TEST(IsKeyFree, IsFalseForKeysThatAreNeverBound) {
+TEST(KeyConflictsIsKeyFree, IsFalseForKeysThatAreNeverBound) {
   const HotkeyScheme scheme;
   constexpr std::uint8_t kForbidden[] = {0xFF, 0x08, 0x2E, 0x0D};
   for (const std::uint8_t vk : kForbidden) {
@@ -108,7 +108,7 @@ TEST(IsKeyFree, IsFalseForKeysThatAreNeverBound) {
   }
 }
 
-TEST(HolderOf, NamesTheSettingThatHasTheKey) {
+TEST(KeyConflictsHolderOf, NamesTheSettingThatHasTheKey) {
   for (const Place& place : kTakenPlaces) {
     HotkeyScheme scheme;
     EXPECT_EQ(holderOf(scheme, kAltQ), std::nullopt) << place.name;
@@ -125,7 +125,7 @@ TEST(HolderOf, NamesTheSettingThatHasTheKey) {
   EXPECT_EQ(holderOf(HotkeyScheme(), kNoKey), std::nullopt);
 }
 
-TEST(ConflictOf, TellsWhyAKeyIsRefused) {
+TEST(KeyConflictsConflictOf, TellsWhyAKeyIsRefused) {
   using Reason = KeyConflict::Reason;
   HotkeyScheme scheme;
   scheme.HeroSkillKey[3] = kQ;
@@ -161,7 +161,7 @@ TEST(ConflictOf, TellsWhyAKeyIsRefused) {
   }
 }
 
-TEST(ConflictOf, FindsACombinationThatSendsItself) {
+TEST(KeyConflictsConflictOf, FindsACombinationThatSendsItself) {
   using Reason = KeyConflict::Reason;
   const KeyConflict sendsB{Reason::SentByItself, {SettingId::ComboKey, 1}};
   const KeyConflict sendsC{Reason::SentByItself, {SettingId::ComboKey, 2}};
@@ -173,7 +173,7 @@ TEST(ConflictOf, FindsACombinationThatSendsItself) {
   EXPECT_EQ(conflictOf(scheme, kComboTarget, kW), sendsB);
 }
 
-TEST(IsItemPresetKey, KnowsTheSixKeysOfTheChosenPreset) {
+TEST(KeyConflictsIsItemPresetKey, KnowsTheSixKeysOfTheChosenPreset) {
   constexpr const char* kKeys[] = {"QWERDF", "QWASZX", "123456"};
   for (std::int32_t preset = 0; preset < kItemPresets; ++preset) {
     HotkeyScheme scheme;
@@ -188,7 +188,7 @@ TEST(IsItemPresetKey, KnowsTheSixKeysOfTheChosenPreset) {
   }
 }
 
-TEST(IsQuickChatKey, KnowsTheEightKeysOfTheChosenSet) {
+TEST(KeyConflictsIsQuickChatKey, KnowsTheEightKeysOfTheChosenSet) {
   HotkeyScheme scheme;
   scheme.QuickChatIndex = 0;
   for (std::uint8_t n = 0; n < 8; ++n) {
@@ -206,7 +206,7 @@ TEST(IsQuickChatKey, KnowsTheEightKeysOfTheChosenSet) {
   EXPECT_FALSE(isQuickChatKey(scheme, KeyWord('9', KeyWord::kAlt)));
 }
 
-TEST(IsKeyUsed, LooksAtEverythingThatIsPressed) {
+TEST(KeyConflictsIsKeyUsed, LooksAtEverythingThatIsPressed) {
   for (const Place& place : kTakenPlaces) {
     if (std::string_view(place.name) == "remap destination") continue;
     HotkeyScheme scheme;
@@ -220,7 +220,7 @@ TEST(IsKeyUsed, LooksAtEverythingThatIsPressed) {
   EXPECT_TRUE(isKeyUsed(wheel, 'Q'));
 }
 
-TEST(IsKeyUsed, CountsTheSourceOfARemapWhoseDestinationIsSet) {
+TEST(KeyConflictsIsKeyUsed, CountsTheSourceOfARemapWhoseDestinationIsSet) {
   HotkeyScheme scheme;
   scheme.HotKey[2].Src = kQ;
   EXPECT_FALSE(isKeyUsed(scheme, 'Q'));
@@ -229,7 +229,7 @@ TEST(IsKeyUsed, CountsTheSourceOfARemapWhoseDestinationIsSet) {
   EXPECT_FALSE(isKeyUsed(scheme, 'W')) << "the destination is sent, not pressed";
 }
 
-TEST(IsKeyUsed, TakesThePresetInThePlaceOfTheItemKeys) {
+TEST(KeyConflictsIsKeyUsed, TakesThePresetInThePlaceOfTheItemKeys) {
   HotkeyScheme scheme;
   scheme.ItemKey[0] = kR;
   EXPECT_TRUE(isKeyUsed(scheme, 'R'));
@@ -238,7 +238,7 @@ TEST(IsKeyUsed, TakesThePresetInThePlaceOfTheItemKeys) {
   EXPECT_TRUE(isKeyUsed(scheme, 'Z'));
 }
 
-TEST(IsKeyUsed, IsFalseForNoKey) {
+TEST(KeyConflictsIsKeyUsed, IsFalseForNoKey) {
   EXPECT_FALSE(isKeyUsed(HotkeyScheme(), 0xFF));
 }
 

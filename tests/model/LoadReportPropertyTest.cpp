@@ -113,7 +113,7 @@ void expectTrue(const DroppedKey& dropped, const HotkeyScheme& scheme,
   ASSERT_TRUE(rest.substr(rest.find(u'>') + 1).starts_with(dropped.text));
 }
 
-TEST(LoadReportOfAnyFile, IsTrueAndLeavesNothingOut) {
+TEST(LoadReportProperty, IsTrueAndLeavesNothingOut) {
   std::size_t drops = 0;
   for (unsigned seed = 0; seed < kFiles; ++seed) {
     SCOPED_TRACE(seed);

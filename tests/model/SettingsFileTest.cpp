@@ -336,7 +336,7 @@ TEST_F(SettingsFile, LeavesWhatAResetLeavesWhenTheFileDoesNotSay) {
   EXPECT_EQ(config.scheme(0).DisableLeftAlt, 0);
 }
 
-TEST(LoadScheme, RefusesASchemeThatIsNone) {
+TEST(SettingsFileLoadScheme, RefusesASchemeThatIsNone) {
   HotkeyConfig config;
   MarkupDocument document;
   document.setDoc(u"<a/>");

@@ -189,7 +189,7 @@ HotkeyScheme asLoaded(const HotkeyConfig& config, int n) {
   return scheme;
 }
 
-TEST(RandomSettingsTest, SurviveSavingAndLoading) {
+TEST(SettingsPropertyOfFiles, SurviveSavingAndLoading) {
   RandomSettings random(20261120);
   HotkeyConfig config;
   for (int round = 0; round < kRounds; ++round) {
@@ -211,7 +211,7 @@ TEST(RandomSettingsTest, SurviveSavingAndLoading) {
   }
 }
 
-TEST(RandomSettingsTest, SurviveACopyByResetAndAssignment) {
+TEST(SettingsPropertyOfFiles, SurviveACopyByResetAndAssignment) {
   RandomSettings random(7);
   HotkeyConfig config;
   HotkeyConfig copy;
@@ -226,7 +226,7 @@ TEST(RandomSettingsTest, SurviveACopyByResetAndAssignment) {
   }
 }
 
-TEST(RandomBlocks, LeaveTheSettingsSoundWhenTheyAreTakenBack) {
+TEST(SettingsPropertyOfBlocks, LeaveTheSettingsSoundWhenTheyAreTakenBack) {
   RandomSettings random(42);
   HotkeyConfig config;
   for (int round = 0; round < kRounds; ++round) {
@@ -248,7 +248,7 @@ TEST(RandomBlocks, LeaveTheSettingsSoundWhenTheyAreTakenBack) {
   }
 }
 
-TEST(RandomBlocks, OfAnySizeAreMergedAsAPrefix) {
+TEST(SettingsPropertyOfBlocks, OfAnySizeAreMergedAsAPrefix) {
   RandomSettings random(4711);
   HotkeyConfig config;
   for (int round = 0; round < kRounds; ++round) {

@@ -25,7 +25,7 @@ struct PairRow {
   char16_t unit;
 };
 
-TEST(CodePage936, DecodesPairs) {
+TEST(CodePages936, DecodesPairs) {
   constexpr PairRow kRows[] = {
       {0xD0, 0xBB, u'\u8C22'}, {0xB0, 0xA1, u'\u554A'}, {0xA1, 0xA1, u'\u3000'},
       {0x81, 0x40, u'\u4E02'}, {0xFE, 0x4F, u'\uFA29'}, {0xAA, 0xA1, u'\uE000'},
@@ -37,7 +37,7 @@ TEST(CodePage936, DecodesPairs) {
   }
 }
 
-TEST(CodePage936, HasTheLeadBytesOfKernel32) {
+TEST(CodePages936, HasTheLeadBytesOfKernel32) {
   EXPECT_FALSE(isLeadByte(kGb2312, 0x80));
   EXPECT_TRUE(isLeadByte(kGb2312, 0x81));
   EXPECT_TRUE(isLeadByte(kGb2312, 0xFE));
@@ -46,7 +46,7 @@ TEST(CodePage936, HasTheLeadBytesOfKernel32) {
   EXPECT_EQ(byteToUtf16(kGb2312, 'a'), u'a');
 }
 
-TEST(CodePage936, EncodesUnitsWithBestFitAndDefault) {
+TEST(CodePages936, EncodesUnitsWithBestFitAndDefault) {
   const EncodedUnit pair = utf16ToBytes(kGb2312, u'\u8C22');
   EXPECT_EQ(pair.length, 2);
   EXPECT_EQ(pair.bytes[0], 0xD0);
@@ -66,7 +66,7 @@ TEST(CodePage936, EncodesUnitsWithBestFitAndDefault) {
   }
 }
 
-TEST(CodePage936, ReadsBackEveryPairThatStandsForSomething) {
+TEST(CodePages936, ReadsBackEveryPairThatStandsForSomething) {
   for (int lead = 0x81; lead <= 0xFE; ++lead) {
     for (int trail = 0x40; trail <= 0xFE; ++trail) {
       const auto leadByte = static_cast<unsigned char>(lead);
@@ -80,7 +80,7 @@ TEST(CodePage936, ReadsBackEveryPairThatStandsForSomething) {
   }
 }
 
-TEST(CodePage932, HasTheSingleBytesOfKernel32) {
+TEST(CodePages932, HasTheSingleBytesOfKernel32) {
   constexpr PairRow kRows[] = {
       {0x1A, 0, 0x1A},   {0x1C, 0, 0x1C},   {0x7F, 0, 0x7F},   {0x5C, 0, u'\\'},
       {0x7E, 0, u'~'},   {0x80, 0, 0x80},   {0xA0, 0, 0xF8F0}, {0xA1, 0, 0xFF61},
@@ -102,13 +102,13 @@ TEST(CodePage932, HasTheSingleBytesOfKernel32) {
   EXPECT_EQ(again, bytes);
 }
 
-TEST(WholeTexts, LoseTheTopBitInAscii) {
+TEST(CodePagesWholeTexts, LoseTheTopBitInAscii) {
   std::u16string text;
   decode(20127, "a\xE9\x80", text);
   EXPECT_EQ(text, std::u16string({u'a', u'i', u'\0'}));
 }
 
-TEST(WholeTexts, AreDecodedAndEncoded) {
+TEST(CodePagesWholeTexts, AreDecodedAndEncoded) {
   std::u16string text = u"<";
   decode(1252, "\x80\xE9", text);
   EXPECT_EQ(text, u"<\u20AC\u00E9");

@@ -103,22 +103,22 @@ STAND_BEFORE(WideCharToMultiByte, "WideCharToMultiByte@32", toBytes);
 namespace brennet::platform {
 namespace {
 
-class CodePagesOfTheSystem : public testing::Test {
+class CodePagesTestSystem : public testing::Test {
  protected:
-  CodePagesOfTheSystem() { kernel = {}; }
-  ~CodePagesOfTheSystem() override { kernel = {}; }
+  CodePagesTestSystem() { kernel = {}; }
+  ~CodePagesTestSystem() override { kernel = {}; }
 };
 
-TEST_F(CodePagesOfTheSystem, GiveTheAnsiCodePage) {
+TEST_F(CodePagesTestSystem, GiveTheAnsiCodePage) {
   EXPECT_EQ(ansiCodePage(), 1252U);
 }
 
-TEST_F(CodePagesOfTheSystem, ReadNarrowPathsInTheAnsiOneOfTheProcess) {
+TEST_F(CodePagesTestSystem, ReadNarrowPathsInTheAnsiOneOfTheProcess) {
   EXPECT_EQ(pathFromNarrow("C:\\a").native(), L"C:\\a");
   EXPECT_EQ(kernel.codePages, std::vector<UINT>(2, CP_ACP));
 }
 
-TEST_F(CodePagesOfTheSystem, MayHaveLongSequences) {
+TEST_F(CodePagesTestSystem, MayHaveLongSequences) {
   EXPECT_EQ(codePageShape(kLongPage), CodePageShape::Other);
   std::string bytes = ">";
   EXPECT_FALSE(encode(kLongPage, u"a\u8C22b", bytes));
@@ -130,7 +130,7 @@ TEST_F(CodePagesOfTheSystem, MayHaveLongSequences) {
   EXPECT_EQ(text, u"<>a\u8C22b");
 }
 
-TEST_F(CodePagesOfTheSystem, TellOfLossesWhereKernel32DoesNot) {
+TEST_F(CodePagesTestSystem, TellOfLossesWhereKernel32DoesNot) {
   for (const std::u16string_view text : {u"\u8C2C", u"a\u8C22\u0E01", u"\u00E9?"}) {
     std::string bytes = "\xD0\xBB";
     EXPECT_TRUE(encode(kLongPage, text, bytes));
@@ -141,7 +141,7 @@ TEST_F(CodePagesOfTheSystem, TellOfLossesWhereKernel32DoesNot) {
 }
 
 // Each of the calls of a conversion.
-TEST_F(CodePagesOfTheSystem, GiveNoTextWhereACallFails) {
+TEST_F(CodePagesTestSystem, GiveNoTextWhereACallFails) {
   for (const CodePage page : {1252U, kLongPage}) {
     for (const int call : {0, 1}) {
       kernel.callsUntilFailure = call;

@@ -88,11 +88,11 @@ TEST(CodePages, AreThoseOfTheirNumbers) {
 
 constexpr CodePage kGb18030 = 54936;
 
-TEST(Gb18030, HasSequencesOfItsOwn) {
+TEST(CodePagesGb18030, HasSequencesOfItsOwn) {
   EXPECT_EQ(codePageShape(kGb18030), CodePageShape::Other);
 }
 
-TEST(Gb18030, SurvivesLongBuffers) {
+TEST(CodePagesGb18030, SurvivesLongBuffers) {
   const std::u16string text(10000, u'\u8C22');
   std::string bytes;
   EXPECT_FALSE(encode(kGb18030, text, bytes));
@@ -102,7 +102,7 @@ TEST(Gb18030, SurvivesLongBuffers) {
 }
 
 // ICU begins a text with a switch to ASCII, which is in force already.
-TEST(Hz, BeginsWithItsText) {
+TEST(CodePagesHz, BeginsWithItsText) {
   struct Row {
     std::u16string_view text;
     std::string_view bytes;

@@ -9,12 +9,12 @@ namespace {
 
 constexpr CodePage kGb18030 = 54936;
 
-TEST(AnsiCodePage, IsTheOneOfTheSystem) {
+TEST(CodePagesAnsi, IsTheOneOfTheSystem) {
   EXPECT_EQ(ansiCodePage(), GetACP());
 }
 
 // Windows has it; Wine has not in every version.
-TEST(Gb18030, IsThereWhereTheSystemHasIt) {
+TEST(CodePagesGb18030, IsThereWhereTheSystemHasIt) {
   const bool known = IsValidCodePage(kGb18030) != FALSE;
   EXPECT_EQ(codePageShape(kGb18030), known ? CodePageShape::Other : CodePageShape::Unsupported);
 
@@ -25,7 +25,7 @@ TEST(Gb18030, IsThereWhereTheSystemHasIt) {
 
 // kernel32 cannot tell of losses there, and fails when it is asked to. There are none: UTF-7 has
 // every unit.
-TEST(Utf7, IsWritten) {
+TEST(CodePagesUtf7, IsWritten) {
   std::string bytes;
   EXPECT_FALSE(encode(65000, u"a\u8C22", bytes));
   EXPECT_EQ(bytes, "a+jCI-");

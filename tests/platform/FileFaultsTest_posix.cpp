@@ -18,9 +18,9 @@ namespace {
 using test::readBytes;
 using test::writeBytes;
 
-using AMovedFile = test::FileFaultsFixture;
+using FileFaultsMovedFile = test::FileFaultsFixture;
 
-class AFileToBeKept : public test::FileFaultsFixture {
+class FileFaultsFileToBeKept : public test::FileFaultsFixture {
  protected:
   // Opens it, while `happens` comes between the opening and the look at what was opened.
   Obstacle opened(std::function<void()> happens) {
@@ -34,7 +34,7 @@ class AFileToBeKept : public test::FileFaultsFixture {
 };
 
 // Who keeps a file removes it before it lets go; what was opened then is nobody's any more.
-TEST_F(AFileToBeKept, IsTheOneUnderItsName) {
+TEST_F(FileFaultsFileToBeKept, IsTheOneUnderItsName) {
   EXPECT_EQ(opened([] {}), Obstacle::None);
   EXPECT_EQ(opened([&] { std::filesystem::remove(path()); }), Obstacle::Held);
   EXPECT_EQ(opened([&] {
@@ -46,7 +46,7 @@ TEST_F(AFileToBeKept, IsTheOneUnderItsName) {
 }
 
 // In whatever way the file system lets it move.
-TEST_F(AMovedFile, TakesAFreeNameOnly) {
+TEST_F(FileFaultsMovedFile, TakesAFreeNameOnly) {
   const Path other = folder_ / "other";
   for (const test::Lacking& lacks :
        {test::Lacking{}, test::Lacking{true, false, false}, test::Lacking{true, true, false}}) {
@@ -68,7 +68,7 @@ TEST_F(AMovedFile, TakesAFreeNameOnly) {
   }
 }
 
-TEST_F(AMovedFile, HasItsOldNameAfterHalfAMove) {
+TEST_F(FileFaultsMovedFile, HasItsOldNameAfterHalfAMove) {
   writeBytes(path(), "new");
   test::lacking = {true, false, true};
   const FileError error = operatingSystem().move(path(), folder_ / "other");
@@ -77,10 +77,10 @@ TEST_F(AMovedFile, HasItsOldNameAfterHalfAMove) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-using TheMode = test::FileFaultsFixture;
+using FileFaultsMode = test::FileFaultsFixture;
 
 // Where there may be a list that could not be asked for, the file stays its owner's alone.
-TEST_F(TheMode, IsKeptWhereNoFileHasAnAccessList) {
+TEST_F(FileFaultsMode, IsKeptWhereNoFileHasAnAccessList) {
   struct Row {
     int error;
     mode_t mode;

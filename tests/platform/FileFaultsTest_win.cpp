@@ -28,12 +28,12 @@ constexpr char kOld[] = "the old content";
 constexpr char kNew[] = "the new content, which is longer";
 constexpr char kShort[] = "short";
 
-class HalfReplacement : public test::FileFaultsFixture {
+class FileFaultsHalfReplacement : public test::FileFaultsFixture {
  protected:
-  ~HalfReplacement() override { halfwayFaults = test::HalfwayFaults(); }
+  ~FileFaultsHalfReplacement() override { halfwayFaults = test::HalfwayFaults(); }
 };
 
-TEST_F(HalfReplacement, ThatLeftBothNamesIsGotRoundInPlace) {
+TEST_F(FileFaultsHalfReplacement, ThatLeftBothNamesIsGotRoundInPlace) {
   for (const DWORD error : {ERROR_UNABLE_TO_REMOVE_REPLACED, ERROR_UNABLE_TO_MOVE_REPLACEMENT}) {
     writeBytes(path(), kOld);
     halfwayFaults.replacing = error;
@@ -43,7 +43,7 @@ TEST_F(HalfReplacement, ThatLeftBothNamesIsGotRoundInPlace) {
   }
 }
 
-TEST_F(HalfReplacement, ThatTookTheOldNameAwayIsMadeGood) {
+TEST_F(FileFaultsHalfReplacement, ThatTookTheOldNameAwayIsMadeGood) {
   writeBytes(path(), kOld);
   halfwayFaults.replacing = ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
   EXPECT_FALSE(replaceFile(path(), kNew));
@@ -61,7 +61,7 @@ constexpr char kBackup[] = "f.brennet-old";
 
 // Nothing is written in place then: whoever reads meanwhile would take that for the file, and the
 // backup for one that is not needed.
-TEST_F(HalfReplacement, ThatCannotBeMadeGoodLeavesTheOldFileUnderItsBackupName) {
+TEST_F(FileFaultsHalfReplacement, ThatCannotBeMadeGoodLeavesTheOldFileUnderItsBackupName) {
   writeBytes(path(), kOld);
   halfwayFaults.replacing = ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
   halfwayFaults.moving = true;
@@ -81,15 +81,15 @@ TEST_F(HalfReplacement, ThatCannotBeMadeGoodLeavesTheOldFileUnderItsBackupName) 
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-class PassingFault : public test::FileFaultsFixture {
+class FileFaultsPassingFault : public test::FileFaultsFixture {
  protected:
-  ~PassingFault() override { passingFaults = test::PassingFaults(); }
+  ~FileFaultsPassingFault() override { passingFaults = test::PassingFaults(); }
 };
 
 constexpr DWORD kPassing[] = {ERROR_ACCESS_DENIED, ERROR_SHARING_VIOLATION, ERROR_LOCK_VIOLATION};
 constexpr int kAFew = 3;
 
-TEST_F(PassingFault, OfReplacingIsWaitedFor) {
+TEST_F(FileFaultsPassingFault, OfReplacingIsWaitedFor) {
   std::vector<DWORD> errors(std::begin(kPassing), std::end(kPassing));
   errors.insert(errors.end(), {ERROR_UNABLE_TO_REMOVE_REPLACED, ERROR_UNABLE_TO_MOVE_REPLACEMENT});
   for (const DWORD error : errors) {
@@ -102,7 +102,7 @@ TEST_F(PassingFault, OfReplacingIsWaitedFor) {
   }
 }
 
-TEST_F(PassingFault, OfOpeningTheOldFileIsWaitedFor) {
+TEST_F(FileFaultsPassingFault, OfOpeningTheOldFileIsWaitedFor) {
   for (const DWORD error : kPassing) {
     writeBytes(path(), kOld);
     const int before = replacedFiles;
@@ -113,7 +113,7 @@ TEST_F(PassingFault, OfOpeningTheOldFileIsWaitedFor) {
   }
 }
 
-TEST_F(PassingFault, OfMakingAFileIsNoneWhereTheFolderTakesNone) {
+TEST_F(FileFaultsPassingFault, OfMakingAFileIsNoneWhereTheFolderTakesNone) {
   const auto opened = [&](OpenFor purpose) {
     FileHandle file = kNoFile;
     FileFacts facts;
@@ -135,7 +135,7 @@ TEST_F(PassingFault, OfMakingAFileIsNoneWhereTheFolderTakesNone) {
 }
 
 // Access to a file that stays is denied by its access list.
-TEST_F(PassingFault, OfOpeningIsNoneWhereTheFileStays) {
+TEST_F(FileFaultsPassingFault, OfOpeningIsNoneWhereTheFileStays) {
   writeBytes(path(), kOld);
   passingFaults = {.error = ERROR_ACCESS_DENIED, .opening = kAFew};
   EXPECT_EQ(replaceFile(path(), kNew).value(), ERROR_ACCESS_DENIED);
@@ -143,7 +143,7 @@ TEST_F(PassingFault, OfOpeningIsNoneWhereTheFileStays) {
   EXPECT_EQ(readBytes(path()), kOld);
 }
 
-TEST_F(PassingFault, OfRemovingTheTemporaryFileIsWaitedFor) {
+TEST_F(FileFaultsPassingFault, OfRemovingTheTemporaryFileIsWaitedFor) {
   writeBytes(path(), kOld);
   test::faults.flushing = true;
   passingFaults = {.error = ERROR_SHARING_VIOLATION, .deleting = kAFew};
@@ -151,7 +151,7 @@ TEST_F(PassingFault, OfRemovingTheTemporaryFileIsWaitedFor) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-TEST_F(PassingFault, OfMovingANewFileIsWaitedFor) {
+TEST_F(FileFaultsPassingFault, OfMovingANewFileIsWaitedFor) {
   for (const DWORD error : kPassing) {
     std::filesystem::remove(path());
     passingFaults = {.error = error, .moving = kAFew};
@@ -162,7 +162,7 @@ TEST_F(PassingFault, OfMovingANewFileIsWaitedFor) {
   }
 }
 
-TEST_F(PassingFault, OfReadingIsWaitedForWhereSomebodyHasTheFile) {
+TEST_F(FileFaultsPassingFault, OfReadingIsWaitedForWhereSomebodyHasTheFile) {
   writeBytes(path(), kOld);
   for (const DWORD error : {ERROR_SHARING_VIOLATION, ERROR_LOCK_VIOLATION}) {
     passingFaults = {.error = error, .opening = kAFew};
@@ -177,7 +177,7 @@ TEST_F(PassingFault, OfReadingIsWaitedForWhereSomebodyHasTheFile) {
   }
 }
 
-TEST_F(PassingFault, ThatIsNoneIsNotWaitedFor) {
+TEST_F(FileFaultsPassingFault, ThatIsNoneIsNotWaitedFor) {
   writeBytes(path(), kOld);
   passingFaults = {.error = ERROR_NOT_SUPPORTED, .opening = kAFew};
   EXPECT_TRUE(replaceFile(path(), kNew));
@@ -187,12 +187,12 @@ TEST_F(PassingFault, ThatIsNoneIsNotWaitedFor) {
   EXPECT_EQ(passingFaults.replacing, kAFew - 1);
 }
 
-class Interruption : public test::FileFaultsFixture {
+class FileFaultsInterruption : public test::FileFaultsFixture {
  protected:
-  ~Interruption() override { interruptions = test::Interruptions(); }
+  ~FileFaultsInterruption() override { interruptions = test::Interruptions(); }
 };
 
-TEST_F(Interruption, ThatTakesTheOldFileAwayLeavesTheNewOne) {
+TEST_F(FileFaultsInterruption, ThatTakesTheOldFileAwayLeavesTheNewOne) {
   writeBytes(path(), kOld);
   const int before = replacedFiles;
   interruptions.beforeReplacing = [&] { std::filesystem::remove(path()); };
@@ -205,7 +205,7 @@ TEST_F(Interruption, ThatTakesTheOldFileAwayLeavesTheNewOne) {
 }
 
 // Another process has moved the file away for a moment.
-TEST_F(Interruption, ThatReplacesTheFileIsWaitedFor) {
+TEST_F(FileFaultsInterruption, ThatReplacesTheFileIsWaitedFor) {
   writeBytes(path(), kOld);
   const int before = replacedFiles;
   std::thread other;
@@ -223,7 +223,7 @@ TEST_F(Interruption, ThatReplacesTheFileIsWaitedFor) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-TEST_F(Interruption, ThatPutsAFileThereIsReplacedAsAnyOther) {
+TEST_F(FileFaultsInterruption, ThatPutsAFileThereIsReplacedAsAnyOther) {
   const int before = replacedFiles;
   interruptions.beforeMoving = [&] { writeBytes(path(), kOld); };
   EXPECT_FALSE(replaceFile(path(), kNew));
@@ -232,7 +232,7 @@ TEST_F(Interruption, ThatPutsAFileThereIsReplacedAsAnyOther) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-TEST_F(Interruption, ThatLetsAFileGrowIsReadToItsEnd) {
+TEST_F(FileFaultsInterruption, ThatLetsAFileGrowIsReadToItsEnd) {
   writeBytes(path(), kOld);
   interruptions.afterSizing = [&] { writeBytes(path(), kNew); };
   std::string read;
@@ -240,7 +240,7 @@ TEST_F(Interruption, ThatLetsAFileGrowIsReadToItsEnd) {
   EXPECT_EQ(read, kNew);
 }
 
-TEST_F(Interruption, ThatCutsAFileIsReadToItsEnd) {
+TEST_F(FileFaultsInterruption, ThatCutsAFileIsReadToItsEnd) {
   writeBytes(path(), kOld);
   interruptions.afterSizing = [&] { writeBytes(path(), kShort); };
   std::string read;
@@ -248,9 +248,9 @@ TEST_F(Interruption, ThatCutsAFileIsReadToItsEnd) {
   EXPECT_EQ(read, kShort);
 }
 
-class ASecondName : public test::FileFaultsFixture {};
+class FileFaultsSecondName : public test::FileFaultsFixture {};
 
-TEST_F(ASecondName, IsBroughtToTheDiskOrNotGiven) {
+TEST_F(FileFaultsSecondName, IsBroughtToTheDiskOrNotGiven) {
   FileSystem& system = operatingSystem();
   writeBytes(path(), kOld);
   test::faults.flushing = true;
@@ -261,7 +261,7 @@ TEST_F(ASecondName, IsBroughtToTheDiskOrNotGiven) {
   EXPECT_EQ(folder_.listing(), "f\nsecond\n");
 }
 
-TEST_F(ASecondName, IsKnownOnlyWhereFilesHaveNumbers) {
+TEST_F(FileFaultsSecondName, IsKnownOnlyWhereFilesHaveNumbers) {
   FileSystem& system = operatingSystem();
   writeBytes(path(), kOld);
   ASSERT_FALSE(system.link(path(), folder_ / "second"));
@@ -271,12 +271,12 @@ TEST_F(ASecondName, IsKnownOnlyWhereFilesHaveNumbers) {
   test::hasFileNumbers = true;
 }
 
-class ReparsePoint : public test::FileFaultsFixture {
+class FileFaultsReparsePoint : public test::FileFaultsFixture {
  protected:
-  ~ReparsePoint() override { test::reparseTag = 0; }
+  ~FileFaultsReparsePoint() override { test::reparseTag = 0; }
 };
 
-TEST_F(ReparsePoint, OfALinkKeepsItFromBeingReplaced) {
+TEST_F(FileFaultsReparsePoint, OfALinkKeepsItFromBeingReplaced) {
   test::reparseTag = IO_REPARSE_TAG_SYMLINK;
   const int before = replacedFiles;
   moveFlags = 0;
@@ -287,14 +287,14 @@ TEST_F(ReparsePoint, OfALinkKeepsItFromBeingReplaced) {
   EXPECT_EQ(replacedFiles, before);
 }
 
-TEST_F(ReparsePoint, OfALinkHidesNoSize) {
+TEST_F(FileFaultsReparsePoint, OfALinkHidesNoSize) {
   writeBytes(path(), kOld);
   test::reparseTag = IO_REPARSE_TAG_SYMLINK;
   EXPECT_TRUE(isFileLarger(path(), sizeof(kOld) - 2));
   EXPECT_FALSE(isFileLarger(path(), sizeof(kOld) - 1));
 }
 
-TEST_F(ReparsePoint, OfAnyKindMakesAFileNoneToKeep) {
+TEST_F(FileFaultsReparsePoint, OfAnyKindMakesAFileNoneToKeep) {
   const auto opened = [&] {
     OpenFile file(operatingSystem());
     return file.open(path(), OpenFor::Keeping).obstacle;
@@ -305,7 +305,7 @@ TEST_F(ReparsePoint, OfAnyKindMakesAFileNoneToKeep) {
   EXPECT_EQ(opened(), Obstacle::Denied);
 }
 
-TEST_F(ReparsePoint, OfAnyKindMakesAFolderNobodysOwn) {
+TEST_F(FileFaultsReparsePoint, OfAnyKindMakesAFolderNobodysOwn) {
   FileSystem& system = operatingSystem();
   ASSERT_FALSE(system.createPrivateFolder(folder_ / "own"));
   EXPECT_FALSE(system.createPrivateFolder(folder_ / "own"));
@@ -316,7 +316,7 @@ TEST_F(ReparsePoint, OfAnyKindMakesAFolderNobodysOwn) {
   }
 }
 
-TEST_F(ReparsePoint, OfAnotherKindDoesNot) {
+TEST_F(FileFaultsReparsePoint, OfAnotherKindDoesNot) {
   writeBytes(path(), kOld);
   test::reparseTag = IO_REPARSE_TAG_DEDUP;
   const int before = replacedFiles;

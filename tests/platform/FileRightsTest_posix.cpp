@@ -47,7 +47,7 @@ constexpr ModeRow kModes[] = {
     {0207, false, false, 0200},
 };
 
-TEST(NarrowedMode, GivesNobodyMoreThanHeHad) {
+TEST(FileRightsNarrowedMode, GivesNobodyMoreThanHeHad) {
   for (const ModeRow& row : kModes) {
     EXPECT_EQ(narrowedMode(row.mode, row.hasOwner, row.hasGroup), row.narrowed)
         << std::oct << row.mode << ' ' << row.hasOwner << row.hasGroup;
@@ -66,7 +66,7 @@ std::string attribute(const Path& path, const char* name) {
   return size < 0 ? "(none)" : std::string(value.data(), static_cast<std::size_t>(size));
 }
 
-TEST(ReplaceFile, KeepsAttributes) {
+TEST(FileRightsReplaceFile, KeepsAttributes) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   // A file system that has no attributes keeps none.
@@ -100,7 +100,7 @@ std::string listWith(std::uint32_t user, std::uint16_t groupRights, std::uint16_
   return list;
 }
 
-TEST(ReplaceFile, KeepsAnAccessListAndNotOnlyItsMask) {
+TEST(FileRightsReplaceFile, KeepsAnAccessListAndNotOnlyItsMask) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   const std::string list = listWith(4242, 4, 6);
@@ -113,7 +113,7 @@ TEST(ReplaceFile, KeepsAnAccessListAndNotOnlyItsMask) {
 }
 
 // New files of such a folder are for one user more; a file that is there need not be.
-TEST(ReplaceFile, TakesNoAccessListOverFromTheFolder) {
+TEST(FileRightsReplaceFile, TakesNoAccessListOverFromTheFolder) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   ASSERT_EQ(chmod((folder / "f").c_str(), 0660), 0);
@@ -124,7 +124,7 @@ TEST(ReplaceFile, TakesNoAccessListOverFromTheFolder) {
   EXPECT_EQ(statusOf(folder / "f").st_mode & 07777U, 0660U);
 }
 
-TEST(CopyFileRights, TakesThoseOfFilesOnly) {
+TEST(FileRightsCopied, TakesThoseOfFilesOnly) {
   const TempFolder folder;
   writeBytes(folder / "f", "");
   ASSERT_EQ(mkdir((folder / "folder").c_str(), 0755), 0);
@@ -137,7 +137,7 @@ TEST(CopyFileRights, TakesThoseOfFilesOnly) {
   close(file);
 }
 
-TEST(ReplaceFile, KeepsASecondName) {
+TEST(FileRightsReplaceFile, KeepsASecondName) {
   const TempFolder folder;
   writeBytes(folder / "f", "a longer old content");
   ASSERT_EQ(link((folder / "f").c_str(), (folder / "second").c_str()), 0);
@@ -177,7 +177,7 @@ struct SharedRow {
 };
 
 // A file of somebody else in a folder where everybody may write.
-TEST(ReplaceFile, LeavesAFileItsGroupWhereAMemberReplacesIt) {
+TEST(FileRightsReplaceFile, LeavesAFileItsGroupWhereAMemberReplacesIt) {
   if (geteuid() != 0) return;
   constexpr SharedRow kRows[] = {
       {0660, true, 0660, kGroup},
@@ -203,7 +203,7 @@ TEST(ReplaceFile, LeavesAFileItsGroupWhereAMemberReplacesIt) {
   }
 }
 
-TEST(ReplaceFile, LeavesAFileItsOwnerWhereRootReplacesIt) {
+TEST(FileRightsReplaceFile, LeavesAFileItsOwnerWhereRootReplacesIt) {
   if (geteuid() != 0) return;
   const TempFolder folder;
   writeBytes(folder / "f", "old");
@@ -216,7 +216,7 @@ TEST(ReplaceFile, LeavesAFileItsOwnerWhereRootReplacesIt) {
   EXPECT_EQ(after.st_mode & 07777U, 0640U);
 }
 
-TEST(ReplaceFile, GivesANewFileTheRightsOfNewFiles) {
+TEST(FileRightsReplaceFile, GivesANewFileTheRightsOfNewFiles) {
   const TempFolder folder;
   const mode_t before = umask(026);
   EXPECT_FALSE(replaceFile(folder / "f", "new"));

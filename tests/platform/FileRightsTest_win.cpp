@@ -49,14 +49,14 @@ std::wstring privateListIn(const TempFolder& folder) {
   return list;
 }
 
-TEST(TheAccessList, OfWhatIsPrivateIsNotThatOfTheFolder) {
+TEST(FileRightsAccessList, OfWhatIsPrivateIsNotThatOfTheFolder) {
   const TempFolder folder;
   writeBytes(folder / "usual", "");
   EXPECT_NE(privateListIn(folder), L"(unknown)");
   EXPECT_NE(privateListIn(folder), listOf(folder / "usual"));
 }
 
-TEST(TheAccessList, OfAFileStaysWhenItIsReplaced) {
+TEST(FileRightsAccessList, OfAFileStaysWhenItIsReplaced) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   const std::wstring usual = listOf(folder / "f");
@@ -72,7 +72,7 @@ TEST(TheAccessList, OfAFileStaysWhenItIsReplaced) {
   EXPECT_EQ(readBytes(folder / "g"), "new");
 }
 
-TEST(TheAccessList, OfANewFileIsThatOfItsFolder) {
+TEST(FileRightsAccessList, OfANewFileIsThatOfItsFolder) {
   const TempFolder folder;
   writeBytes(folder / "usual", "");
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
@@ -89,7 +89,7 @@ void makeFolder(const Path& path, const wchar_t* list) {
   LocalFree(attributes.lpSecurityDescriptor);
 }
 
-TEST(TheAccessList, OfAPrivateFolderOpensItToNobodyElse) {
+TEST(FileRightsAccessList, OfAPrivateFolderOpensItToNobodyElse) {
   struct Row {
     const wchar_t* list;
     Obstacle obstacle;
@@ -113,7 +113,7 @@ TEST(TheAccessList, OfAPrivateFolderOpensItToNobodyElse) {
   EXPECT_FALSE(operatingSystem().createPrivateFolder(folder / "own")) << "as it was made";
 }
 
-TEST(TheAccessList, OfAPrivateFileIsTheUsersOwn) {
+TEST(FileRightsAccessList, OfAPrivateFileIsTheUsersOwn) {
   const TempFolder folder;
   PrivateFile file;
   ASSERT_TRUE(file.take("brennet-test-rights.undo"));
@@ -124,7 +124,7 @@ TEST(TheAccessList, OfAPrivateFileIsTheUsersOwn) {
   EXPECT_TRUE(file.clear());
 }
 
-TEST(TheOwner, OfWhatIsPrivateIsTheUser) {
+TEST(FileRightsOwner, OfWhatIsPrivateIsTheUser) {
   const TempFolder folder;
   ASSERT_FALSE(operatingSystem().createPrivateFolder(folder / "own"));
   OpenFile file(operatingSystem());
@@ -146,7 +146,7 @@ TEST(TheOwner, OfWhatIsPrivateIsTheUser) {
   }
 }
 
-TEST(ASecondName, IsKept) {
+TEST(FileRightsSecondName, IsKept) {
   const TempFolder folder;
   writeBytes(folder / "f", "a longer old content");
   ASSERT_FALSE(operatingSystem().link(folder / "f", folder / "second"));

@@ -22,7 +22,7 @@ Obstacle opened(const Path& path, OpenFor purpose) {
   return file.open(path, purpose).obstacle;
 }
 
-TEST(TheSystem, OpensFilesForWhatTheyAreAskedFor) {
+TEST(FileSystem, OpensFilesForWhatTheyAreAskedFor) {
   struct Row {
     OpenFor purpose;
     Obstacle whereNothingIs;
@@ -47,7 +47,7 @@ TEST(TheSystem, OpensFilesForWhatTheyAreAskedFor) {
   }
 }
 
-TEST(TheSystem, TellsTheSizeAndTheNamesOfAnOpenFile) {
+TEST(FileSystem, TellsTheSizeAndTheNamesOfAnOpenFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "content");
   OpenFile file(operatingSystem());
@@ -61,7 +61,7 @@ TEST(TheSystem, TellsTheSizeAndTheNamesOfAnOpenFile) {
   EXPECT_EQ(operatingSystem().link(folder / "f", folder / "second").obstacle, Obstacle::Exists);
 }
 
-TEST(TheSystem, HasAFileForOneWhoKeepsIt) {
+TEST(FileSystem, HasAFileForOneWhoKeepsIt) {
   const TempFolder folder;
   OpenFile first(operatingSystem());
   ASSERT_FALSE(first.open(folder / "f", OpenFor::Keeping));
@@ -72,7 +72,7 @@ TEST(TheSystem, HasAFileForOneWhoKeepsIt) {
   EXPECT_EQ(opened(folder / "f", OpenFor::Keeping), Obstacle::None);
 }
 
-TEST(TheSystem, WritesAndCutsAtThePlaceItIsTold) {
+TEST(FileSystem, WritesAndCutsAtThePlaceItIsTold) {
   const TempFolder folder;
   writeBytes(folder / "f", "0123456789");
   OpenFile file(operatingSystem());
@@ -88,7 +88,7 @@ TEST(TheSystem, WritesAndCutsAtThePlaceItIsTold) {
   EXPECT_EQ(readBytes(folder / "f"), "0123xy6");
 }
 
-TEST(TheSystem, TellsWhichNamesAreThoseOfOneFile) {
+TEST(FileSystem, TellsWhichNamesAreThoseOfOneFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "same");
   writeBytes(folder / "g", "same");
@@ -102,7 +102,7 @@ TEST(TheSystem, TellsWhichNamesAreThoseOfOneFile) {
   EXPECT_FALSE(system.isSameFile(folder / "missing", folder / "missing"));
 }
 
-TEST(TheSystem, MovesToFreeNamesOnly) {
+TEST(FileSystem, MovesToFreeNamesOnly) {
   const TempFolder folder;
   writeBytes(folder / "f", "f");
   writeBytes(folder / "g", "g");
@@ -113,7 +113,7 @@ TEST(TheSystem, MovesToFreeNamesOnly) {
   EXPECT_EQ(readBytes(folder / "h"), "f");
 }
 
-TEST(TheSystem, KeepsABackupThatIsTheLastCopy) {
+TEST(FileSystem, KeepsABackupThatIsTheLastCopy) {
   const TempFolder folder;
   writeBytes(folder / "backup", "old");
   EXPECT_FALSE(operatingSystem().removeBackup(folder / "backup", folder / "f"));
@@ -123,7 +123,7 @@ TEST(TheSystem, KeepsABackupThatIsTheLastCopy) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(TheSystem, HasAFolderForOneUser) {
+TEST(FileSystem, HasAFolderForOneUser) {
   const TempFolder folder;
   FileSystem& system = operatingSystem();
   EXPECT_EQ(system.checkPrivateFolder(folder / "own").obstacle, Obstacle::Missing);
@@ -145,7 +145,7 @@ TEST(TheSystem, HasAFolderForOneUser) {
   EXPECT_FALSE(system.privateFolder().empty());
 }
 
-TEST(TheSystem, ListsWhatStandsInAFolder) {
+TEST(FileSystem, ListsWhatStandsInAFolder) {
   const TempFolder folder;
   writeBytes(folder / "f", "");
   writeBytes(folder / "g", "");
@@ -157,7 +157,7 @@ TEST(TheSystem, ListsWhatStandsInAFolder) {
   operatingSystem().list(folder / "missing", [&](const Path& name) { ADD_FAILURE() << name; });
 }
 
-TEST(TheSystem, KnowsOneNameForAllSpellingsOfAPath) {
+TEST(FileSystem, KnowsOneNameForAllSpellingsOfAPath) {
   const TempFolder folder;
   ASSERT_FALSE(operatingSystem().createFolder(folder / "a"));
   const Path plain = operatingSystem().identity(folder / "f");
@@ -167,7 +167,7 @@ TEST(TheSystem, KnowsOneNameForAllSpellingsOfAPath) {
   EXPECT_NE(operatingSystem().identity(folder / "g"), plain);
 }
 
-TEST(TheSystem, LocksAFileForThoseWhoAskForThat) {
+TEST(FileSystem, LocksAFileForThoseWhoAskForThat) {
   const TempFolder folder;
   writeBytes(folder / "f", "content");
   ASSERT_FALSE(operatingSystem().link(folder / "f", folder / "second"));
@@ -193,7 +193,7 @@ TEST(TheSystem, LocksAFileForThoseWhoAskForThat) {
   }
 }
 
-TEST(TheSystem, KnowsWhichProcessesRun) {
+TEST(FileSystem, KnowsWhichProcessesRun) {
   EXPECT_TRUE(operatingSystem().isRunning(operatingSystem().process()));
   EXPECT_FALSE(operatingSystem().isRunning(4'294'967'290UL));
 }

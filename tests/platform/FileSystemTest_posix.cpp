@@ -85,7 +85,7 @@ mode_t rightsOf(const Path& path) {
   return status.st_mode & 07777U;
 }
 
-TEST(Opening, MeetsTheseObstacles) {
+TEST(FileSystemOpening, MeetsTheseObstacles) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   ASSERT_EQ(mkdir((folder / "folder").c_str(), 0700), 0);
@@ -120,7 +120,7 @@ TEST(Opening, MeetsTheseObstacles) {
   EXPECT_EQ(readBytes(folder / "f"), "old");
 }
 
-TEST(Opening, MakesFilesWithTheseRights) {
+TEST(FileSystemOpening, MakesFilesWithTheseRights) {
   const mode_t mask = umask(0027);
   struct Row {
     OpenFor purpose;
@@ -143,7 +143,7 @@ TEST(Opening, MakesFilesWithTheseRights) {
   umask(mask);
 }
 
-TEST(Opening, KeepsAFileForOneAtATime) {
+TEST(FileSystemOpening, KeepsAFileForOneAtATime) {
   const TempFolder folder;
   {
     const Opened first(folder / "f", OpenFor::Keeping);
@@ -155,7 +155,7 @@ TEST(Opening, KeepsAFileForOneAtATime) {
 }
 
 // A host may have closed its standard input.
-TEST(Opening, TakesTheFirstNumberOfFilesToo) {
+TEST(FileSystemOpening, TakesTheFirstNumberOfFilesToo) {
   const TempFolder folder;
   const int input = dup(STDIN_FILENO);
   ::close(STDIN_FILENO);
@@ -171,7 +171,7 @@ TEST(Opening, TakesTheFirstNumberOfFilesToo) {
   }
 }
 
-TEST(Looking, TellsWhatStandsThere) {
+TEST(FileSystemLooking, TellsWhatStandsThere) {
   const TempFolder folder;
   writeBytes(folder / "f", "four");
   ASSERT_EQ(link((folder / "f").c_str(), (folder / "second").c_str()), 0);
@@ -188,7 +188,7 @@ TEST(Looking, TellsWhatStandsThere) {
   EXPECT_EQ(facts.links, 2U);
 }
 
-TEST(Looking, TellsTheAge) {
+TEST(FileSystemLooking, TellsTheAge) {
   const TempFolder folder;
   writeBytes(folder / "f", "");
   const auto aged = [&](std::time_t seconds) {
@@ -201,7 +201,7 @@ TEST(Looking, TellsTheAge) {
   EXPECT_EQ(aged(-500), 0U) << "written in a time to come";
 }
 
-TEST(PrivateFolders, AreThisUsersAlone) {
+TEST(FileSystemPrivateFolders, AreThisUsersAlone) {
   const TempFolder folder;
   const Path path = folder / "private";
   EXPECT_FALSE(sys().createPrivateFolder(path));
@@ -220,7 +220,7 @@ TEST(PrivateFolders, AreThisUsersAlone) {
   EXPECT_EQ(folder.listing(), "");
 }
 
-TEST(PrivateFolders, AreFolders) {
+TEST(FileSystemPrivateFolders, AreFolders) {
   const TempFolder folder;
   writeBytes(folder / "f", "");
   ASSERT_EQ(chmod((folder / "f").c_str(), 0700), 0);
@@ -231,7 +231,7 @@ TEST(PrivateFolders, AreFolders) {
   EXPECT_EQ(sys().createPrivateFolder(folder / "missing" / "f").obstacle, Obstacle::Missing);
 }
 
-TEST(PrivateFolders, HaveTheirPlaceByTheUser) {
+TEST(FileSystemPrivateFolders, HaveTheirPlaceByTheUser) {
   const std::string name = "brennet-" + std::to_string(geteuid());
   struct Row {
     const char* chosen;
@@ -244,7 +244,7 @@ TEST(PrivateFolders, HaveTheirPlaceByTheUser) {
   }
 }
 
-TEST(FlushingAFolder, TellsWhereThereIsNone) {
+TEST(FileSystemFlushingAFolder, TellsWhereThereIsNone) {
   const TempFolder folder;
   writeBytes(folder / "f", "");
   EXPECT_FALSE(sys().flushFolder(folder.path()));
@@ -253,7 +253,7 @@ TEST(FlushingAFolder, TellsWhereThereIsNone) {
   EXPECT_EQ(sys().flushFolder(folder / "f").obstacle, Obstacle::Missing);
 }
 
-TEST(Moving, LeavesATakenNameAlone) {
+TEST(FileSystemMoving, LeavesATakenNameAlone) {
   const TempFolder folder;
   writeBytes(folder / "from", "new");
   writeBytes(folder / "to", "old");
@@ -264,7 +264,7 @@ TEST(Moving, LeavesATakenNameAlone) {
   EXPECT_EQ(folder.listing(), "other\nto\n");
 }
 
-TEST(RemovingABackup, WaitsForTheFile) {
+TEST(FileSystemRemovingABackup, WaitsForTheFile) {
   const TempFolder folder;
   writeBytes(folder / "backup", "old");
   EXPECT_FALSE(sys().removeBackup(folder / "backup", folder / "f"));
@@ -274,7 +274,7 @@ TEST(RemovingABackup, WaitsForTheFile) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(Listing, VisitsEveryName) {
+TEST(FileSystemListing, VisitsEveryName) {
   const TempFolder folder;
   for (const char* const name : {"a", "b", ".hidden"}) writeBytes(folder / name, "");
   std::set<std::string> names;
@@ -283,7 +283,7 @@ TEST(Listing, VisitsEveryName) {
   sys().list(folder / "missing", [](const Path&) { ADD_FAILURE(); });
 }
 
-TEST(Links, AreFollowedToTheFileTheyMean) {
+TEST(FileSystemLinks, AreFollowedToTheFileTheyMean) {
   const TempFolder folder;
   ASSERT_EQ(mkdir((folder / "folder").c_str(), 0700), 0);
   writeBytes(folder / "folder" / "f", "");
@@ -306,7 +306,7 @@ TEST(Links, AreFollowedToTheFileTheyMean) {
   }
 }
 
-TEST(Identities, AreTheSameForAllSpellings) {
+TEST(FileSystemIdentities, AreTheSameForAllSpellings) {
   const TempFolder folder;
   ASSERT_EQ(mkdir((folder / "folder").c_str(), 0700), 0);
   ASSERT_EQ(symlink("folder", (folder / "link").c_str()), 0);
@@ -320,7 +320,7 @@ TEST(Identities, AreTheSameForAllSpellings) {
   EXPECT_EQ(sys().identity("f"), std::filesystem::current_path() / "f");
 }
 
-TEST(Processes, AreRunningOrNot) {
+TEST(FileSystemProcesses, AreRunningOrNot) {
   EXPECT_EQ(sys().process(), static_cast<unsigned long>(getpid()));
   EXPECT_TRUE(sys().isRunning(sys().process()));
   EXPECT_TRUE(sys().isRunning(1)) << "another user's, as a rule";
@@ -329,7 +329,7 @@ TEST(Processes, AreRunningOrNot) {
   EXPECT_FALSE(sys().isRunning(static_cast<unsigned long>(INT_MAX) + 1 + sys().process()));
 }
 
-TEST(TheClockOnTheWall, ShowsTheLocalTime) {
+TEST(FileSystemClockOnTheWall, ShowsTheLocalTime) {
   const ScopedVariable zone("TZ", "EAST-5");
   constexpr std::int64_t kFiveHours = 5 * 60 * 60;
   const std::int64_t before = std::time(nullptr) + kFiveHours;
@@ -339,7 +339,7 @@ TEST(TheClockOnTheWall, ShowsTheLocalTime) {
 }
 
 // The host may be waiting for a signal of its own.
-TEST(Writing, LeavesAPendingSignalToTheHost) {
+TEST(FileSystemWriting, LeavesAPendingSignalToTheHost) {
   sigset_t signal;
   sigset_t before;
   sigemptyset(&signal);
@@ -363,7 +363,7 @@ TEST(Writing, LeavesAPendingSignalToTheHost) {
 }
 
 // No system says why a write of some bytes took none of them.
-TEST(Writing, FailsAsOnAFullDiskWhereNothingIsTaken) {
+TEST(FileSystemWriting, FailsAsOnAFullDiskWhereNothingIsTaken) {
   const TempFolder folder;
   const Opened file(folder / "f", OpenFor::New);
   std::size_t count = 0;
@@ -372,7 +372,7 @@ TEST(Writing, FailsAsOnAFullDiskWhereNothingIsTaken) {
   EXPECT_EQ(count, 0U);
 }
 
-TEST(Reserving, LeavesTheSizeAlone) {
+TEST(FileSystemReserving, LeavesTheSizeAlone) {
   const TempFolder folder;
   const Opened file(folder / "f", OpenFor::New);
   for (const std::uint64_t size : {0U, 1U, 5000U}) {
@@ -381,7 +381,7 @@ TEST(Reserving, LeavesTheSizeAlone) {
   }
 }
 
-TEST(Reading, TellsWhereTheFileEnds) {
+TEST(FileSystemReading, TellsWhereTheFileEnds) {
   const TempFolder folder;
   writeBytes(folder / "f", "four");
   const Opened file(folder / "f", OpenFor::Reading);

@@ -15,7 +15,7 @@ using test::readBytes;
 using test::TempFolder;
 using test::writeBytes;
 
-TEST(ReadFile, GivesTheBytesAsTheyAre) {
+TEST(FilesReadFile, GivesTheBytesAsTheyAre) {
   const TempFolder folder;
   const std::string bytes("a\r\n\0\x1A\xFFz", 7);
   writeBytes(folder / "f", bytes);
@@ -24,7 +24,7 @@ TEST(ReadFile, GivesTheBytesAsTheyAre) {
   EXPECT_EQ(read, bytes);
 }
 
-TEST(ReadFile, GivesNothingForAnEmptyFile) {
+TEST(FilesReadFile, GivesNothingForAnEmptyFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "");
   std::string read = "old";
@@ -32,7 +32,7 @@ TEST(ReadFile, GivesNothingForAnEmptyFile) {
   EXPECT_EQ(read, "");
 }
 
-TEST(ReadFile, RefusesWhatIsNoFile) {
+TEST(FilesReadFile, RefusesWhatIsNoFile) {
   const TempFolder folder;
   for (const Path& path : {folder / "missing", folder / "missing/f", folder.path(), Path()}) {
     std::string read = "old";
@@ -41,14 +41,14 @@ TEST(ReadFile, RefusesWhatIsNoFile) {
   }
 }
 
-TEST(ReplaceFile, CreatesAMissingFile) {
+TEST(FilesReplaceFile, CreatesAMissingFile) {
   const TempFolder folder;
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
   EXPECT_EQ(readBytes(folder / "f"), "new");
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(ReplaceFile, RefusesAFolderAMissingFolderAndNoName) {
+TEST(FilesReplaceFile, RefusesAFolderAMissingFolderAndNoName) {
   const TempFolder folder;
   for (const Path& path : {folder.path(), folder / "missing/f", Path()}) {
     EXPECT_TRUE(replaceFile(path, "new")) << path;
@@ -56,7 +56,7 @@ TEST(ReplaceFile, RefusesAFolderAMissingFolderAndNoName) {
   EXPECT_EQ(folder.listing(), "");
 }
 
-TEST(ReplaceFile, ReplacesTheContent) {
+TEST(FilesReplaceFile, ReplacesTheContent) {
   const TempFolder folder;
   for (const char* const bytes : {"old", "a much longer content", "", "new"}) {
     EXPECT_FALSE(replaceFile(folder / "f", bytes));
@@ -79,7 +79,7 @@ void writeOldBytes(const Path& path) {
 }
 
 // What processes left that were ended while they wrote.
-TEST(ReplaceFile, RemovesOldTemporaryFilesOfItsOwn) {
+TEST(FilesReplaceFile, RemovesOldTemporaryFilesOfItsOwn) {
   const TempFolder folder;
   for (const char* const name : {"f.brennet-1-0.tmp", "f.brennet-4294967295-99.tmp"})
     writeOldBytes(folder / name);
@@ -87,7 +87,7 @@ TEST(ReplaceFile, RemovesOldTemporaryFilesOfItsOwn) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(ReplaceFile, RemovesThemFromTheWorkingFolderToo) {
+TEST(FilesReplaceFile, RemovesThemFromTheWorkingFolderToo) {
   const TempFolder folder;
   const Path before = std::filesystem::current_path();
   std::filesystem::current_path(folder.path());
@@ -97,7 +97,7 @@ TEST(ReplaceFile, RemovesThemFromTheWorkingFolderToo) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(ReplaceFile, LeavesTemporaryFilesAloneThatMayBeInUse) {
+TEST(FilesReplaceFile, LeavesTemporaryFilesAloneThatMayBeInUse) {
   const TempFolder folder;
   const std::string name = "f.brennet-" + std::to_string(fileSystem().process()) + "-0.tmp";
   writeBytes(folder / name, "somebody is writing this");
@@ -105,7 +105,7 @@ TEST(ReplaceFile, LeavesTemporaryFilesAloneThatMayBeInUse) {
   EXPECT_EQ(folder.listing(), "f\n" + name + "\n");
 }
 
-TEST(ReplaceFile, RemovesTemporaryFilesThatAreAnHourOld) {
+TEST(FilesReplaceFile, RemovesTemporaryFilesThatAreAnHourOld) {
   struct Row {
     std::chrono::seconds age;
     bool goes;
@@ -123,14 +123,14 @@ TEST(ReplaceFile, RemovesTemporaryFilesThatAreAnHourOld) {
 }
 
 // Its process has ended, so nobody waits for it to become old.
-TEST(ReplaceFile, RemovesTemporaryFilesOfProcessesThatAreNone) {
+TEST(FilesReplaceFile, RemovesTemporaryFilesOfProcessesThatAreNone) {
   const TempFolder folder;
   writeBytes(folder / "f.brennet-4294967290-0.tmp", "half");
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(ReplaceFile, LeavesFilesAloneThatAreNotItsOwn) {
+TEST(FilesReplaceFile, LeavesFilesAloneThatAreNotItsOwn) {
   const TempFolder folder;
   for (const char* const name :
        {".brennet-1-0.tmp", "f-brennet-1-0.tmp", "f.1-0.tmp", "f.brennet--0.tmp",
@@ -144,14 +144,14 @@ TEST(ReplaceFile, LeavesFilesAloneThatAreNotItsOwn) {
   EXPECT_EQ(folder.listing(), before);
 }
 
-TEST(ReplaceFile, LeavesTheFilesOfAFolderAloneThatIsNoFile) {
+TEST(FilesReplaceFile, LeavesTheFilesOfAFolderAloneThatIsNoFile) {
   const TempFolder folder;
   writeOldBytes(folder / ".brennet-1-0.tmp");
   EXPECT_TRUE(replaceFile(folder.path() / "", "new"));
   EXPECT_EQ(folder.listing(), ".brennet-1-0.tmp\n");
 }
 
-TEST(ReplaceFile, LeavesAFolderAloneThatHasTheNameOfATemporaryFile) {
+TEST(FilesReplaceFile, LeavesAFolderAloneThatHasTheNameOfATemporaryFile) {
   const TempFolder folder;
   EXPECT_TRUE(createFolder(folder / "f.brennet-1-0.tmp"));
   makeOld(folder / "f.brennet-1-0.tmp");
@@ -170,7 +170,7 @@ TEST(Folders, AreCreatedOneLevelAtATime) {
   EXPECT_FALSE(folderExists(folder / "f"));
 }
 
-TEST(PathExists, ForFilesAndFolders) {
+TEST(FilesPathExists, ForFilesAndFolders) {
   const TempFolder folder;
   EXPECT_FALSE(pathExists(folder / "f"));
   EXPECT_FALSE(pathExists(Path()));
@@ -180,7 +180,7 @@ TEST(PathExists, ForFilesAndFolders) {
 }
 
 // Both contents would be in memory, and more than once.
-TEST(ReplaceFile, DoesNotWriteLargeFilesInPlace) {
+TEST(FilesReplaceFile, DoesNotWriteLargeFilesInPlace) {
   constexpr std::uint64_t kLimit = 64U << 20U;  // bytes
   const TempFolder folder;
   writeBytes(folder / "f", "old");

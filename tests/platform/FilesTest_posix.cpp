@@ -16,7 +16,7 @@ using test::readBytes;
 using test::TempFolder;
 using test::writeBytes;
 
-TEST(ReadFile, RefusesAPipe) {
+TEST(FilesReadFile, RefusesAPipe) {
   const TempFolder folder;
   ASSERT_EQ(mkfifo((folder / "fifo").c_str(), 0600), 0);
   std::string read = "old";
@@ -24,7 +24,7 @@ TEST(ReadFile, RefusesAPipe) {
   EXPECT_EQ(read, "");
 }
 
-TEST(ReplaceFile, KeepsThePermissions) {
+TEST(FilesReplaceFile, KeepsThePermissions) {
   const TempFolder folder;
   writeBytes(folder / "f", "a much longer old content");
   ASSERT_EQ(chmod((folder / "f").c_str(), 0640), 0);
@@ -36,7 +36,7 @@ TEST(ReplaceFile, KeepsThePermissions) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(ReplaceFile, KeepsASymbolicLinkAndReplacesWhatItNames) {
+TEST(FilesReplaceFile, KeepsASymbolicLinkAndReplacesWhatItNames) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   ASSERT_EQ(symlink((folder / "f").c_str(), (folder / "link").c_str()), 0);
@@ -45,7 +45,7 @@ TEST(ReplaceFile, KeepsASymbolicLinkAndReplacesWhatItNames) {
   EXPECT_EQ(readBytes(folder / "f"), "new");
 }
 
-TEST(ReplaceFile, WritesThroughALinkToAFileThatIsNotThereYet) {
+TEST(FilesReplaceFile, WritesThroughALinkToAFileThatIsNotThereYet) {
   const TempFolder folder;
   ASSERT_EQ(symlink((folder / "f").c_str(), (folder / "link").c_str()), 0);
   EXPECT_FALSE(replaceFile(folder / "link", "new"));
@@ -54,7 +54,7 @@ TEST(ReplaceFile, WritesThroughALinkToAFileThatIsNotThereYet) {
 }
 
 // Nobody could put its content back if the writing were cut short.
-TEST(ReplaceFile, LeavesAFileAloneThatCannotBeReadInAFolderThatTakesNoNewFile) {
+TEST(FilesReplaceFile, LeavesAFileAloneThatCannotBeReadInAFolderThatTakesNoNewFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   ASSERT_EQ(chmod((folder / "f").c_str(), 0222), 0);
@@ -68,7 +68,7 @@ TEST(ReplaceFile, LeavesAFileAloneThatCannotBeReadInAFolderThatTakesNoNewFile) {
   EXPECT_EQ(readBytes(folder / "f"), "old");
 }
 
-TEST(ReplaceFile, LeavesAFileAloneThatCannotBeOpenedForWriting) {
+TEST(FilesReplaceFile, LeavesAFileAloneThatCannotBeOpenedForWriting) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   ASSERT_EQ(chmod((folder / "f").c_str(), 0444), 0);
@@ -78,7 +78,7 @@ TEST(ReplaceFile, LeavesAFileAloneThatCannotBeOpenedForWriting) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(ReplaceFile, WritesInPlaceWhereTheFolderTakesNoNewFile) {
+TEST(FilesReplaceFile, WritesInPlaceWhereTheFolderTakesNoNewFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "a longer old content");
   ASSERT_EQ(chmod((folder / "f").c_str(), 0666), 0);
@@ -90,7 +90,7 @@ TEST(ReplaceFile, WritesInPlaceWhereTheFolderTakesNoNewFile) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(ReplaceFile, WritesInPlaceWhereTheTemporaryNameWouldBeTooLong) {
+TEST(FilesReplaceFile, WritesInPlaceWhereTheTemporaryNameWouldBeTooLong) {
   const TempFolder folder;
   const std::string name(250, 'n');
   EXPECT_FALSE(replaceFile(folder / name, "new"));

@@ -43,13 +43,13 @@ std::thread holdForAMoment(const Path& path) {
   });
 }
 
-TEST(Reading, RefusesADevice) {
+TEST(FilesReading, RefusesADevice) {
   std::string read = "old";
   EXPECT_TRUE(readFile(L"NUL", read, kAnySize));
   EXPECT_EQ(read, "");
 }
 
-TEST(Reading, ReadsWhatAnotherProgramIsWritingOrRenaming) {
+TEST(FilesReading, ReadsWhatAnotherProgramIsWritingOrRenaming) {
   const TempFolder folder;
   writeBytes(folder / "f", "bytes");
   for (const DWORD access : {DWORD{GENERIC_WRITE}, DWORD{DELETE}}) {
@@ -60,7 +60,7 @@ TEST(Reading, ReadsWhatAnotherProgramIsWritingOrRenaming) {
   }
 }
 
-TEST(Reading, WaitsForAProgramThatHoldsTheFileForAMoment) {
+TEST(FilesReading, WaitsForAProgramThatHoldsTheFileForAMoment) {
   const TempFolder folder;
   writeBytes(folder / "f", "bytes");
   std::thread scanner = holdForAMoment(folder / "f");
@@ -70,11 +70,11 @@ TEST(Reading, WaitsForAProgramThatHoldsTheFileForAMoment) {
   EXPECT_EQ(read, "bytes");
 }
 
-TEST(Replacing, RefusesADevice) {
+TEST(FilesReplacing, RefusesADevice) {
   EXPECT_TRUE(replaceFile(L"NUL", "new"));
 }
 
-TEST(Replacing, LeavesAReadOnlyFileAlone) {
+TEST(FilesReplacing, LeavesAReadOnlyFileAlone) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   SetFileAttributesW((folder / "f").c_str(), FILE_ATTRIBUTE_READONLY);
@@ -84,7 +84,7 @@ TEST(Replacing, LeavesAReadOnlyFileAlone) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(Replacing, LeavesAFileAloneThatNobodyElseMayOpen) {
+TEST(FilesReplacing, LeavesAFileAloneThatNobodyElseMayOpen) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   {
@@ -95,7 +95,7 @@ TEST(Replacing, LeavesAFileAloneThatNobodyElseMayOpen) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(Replacing, WaitsForAProgramThatLooksAtTheFileForAMoment) {
+TEST(FilesReplacing, WaitsForAProgramThatLooksAtTheFileForAMoment) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   std::thread scanner = holdForAMoment(folder / "f");
@@ -105,7 +105,7 @@ TEST(Replacing, WaitsForAProgramThatLooksAtTheFileForAMoment) {
 }
 
 // A reader that forbids deleting keeps the file from being replaced, but not from being written.
-TEST(Replacing, WritesInPlaceWhereAReaderKeepsTheFile) {
+TEST(FilesReplacing, WritesInPlaceWhereAReaderKeepsTheFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "a longer old content");
   {
@@ -117,7 +117,7 @@ TEST(Replacing, WritesInPlaceWhereAReaderKeepsTheFile) {
 }
 
 // A second name could not be taken away again as long as he has the file.
-TEST(Replacing, PutsTheOldFileAsideAsACopyWhereAReaderKeepsIt) {
+TEST(FilesReplacing, PutsTheOldFileAsideAsACopyWhereAReaderKeepsIt) {
   const TempFolder folder;
   writeBytes(folder / "f", "a longer old content");
   {
@@ -132,7 +132,7 @@ TEST(Replacing, PutsTheOldFileAsideAsACopyWhereAReaderKeepsIt) {
   EXPECT_EQ(readBytes(folder / kept), "a longer old content");
 }
 
-TEST(Replacing, WritesBesideAProgramThatWritesAndLetsOthersDoSo) {
+TEST(FilesReplacing, WritesBesideAProgramThatWritesAndLetsOthersDoSo) {
   for (const DWORD sharing : {FILE_SHARE_READ | FILE_SHARE_WRITE,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE}) {
     const TempFolder folder;
@@ -152,7 +152,7 @@ TEST(Replacing, WritesBesideAProgramThatWritesAndLetsOthersDoSo) {
 // What a process leaves that ends while it replaces a file.
 constexpr char kBackup[] = "f.brennet-old";
 
-TEST(Reading, FindsTheFileThatWasBeingReplaced) {
+TEST(FilesReading, FindsTheFileThatWasBeingReplaced) {
   const TempFolder folder;
   writeBytes(folder / kBackup, "old");
   std::string read;
@@ -161,7 +161,7 @@ TEST(Reading, FindsTheFileThatWasBeingReplaced) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(Reading, WaitsForAReplacementUnderWay) {
+TEST(FilesReading, WaitsForAReplacementUnderWay) {
   const TempFolder folder;
   writeBytes(folder / kBackup, "old");
   std::thread writer([&] {
@@ -174,7 +174,7 @@ TEST(Reading, WaitsForAReplacementUnderWay) {
   EXPECT_EQ(read, "new");
 }
 
-TEST(Replacing, FinishesWhatWasLeftHalfDone) {
+TEST(FilesReplacing, FinishesWhatWasLeftHalfDone) {
   const TempFolder folder;
   writeBytes(folder / kBackup, "old");
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
@@ -182,7 +182,7 @@ TEST(Replacing, FinishesWhatWasLeftHalfDone) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(Replacing, DoesNotTakeAnOldBackupForTheFile) {
+TEST(FilesReplacing, DoesNotTakeAnOldBackupForTheFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "new");
   writeBytes(folder / kBackup, "old");
@@ -195,7 +195,7 @@ TEST(Replacing, DoesNotTakeAnOldBackupForTheFile) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(Reading, DoesNotBringAFileBackThatThePlayerHasDeleted) {
+TEST(FilesReading, DoesNotBringAFileBackThatThePlayerHasDeleted) {
   const TempFolder folder;
   writeBytes(folder / "f", "new");
   writeBytes(folder / kBackup, "old");
@@ -207,7 +207,7 @@ TEST(Reading, DoesNotBringAFileBackThatThePlayerHasDeleted) {
 }
 
 // As long as somebody holds the only copy, nothing takes its place.
-TEST(Replacing, DoesNotForgetABackupThatIsHeld) {
+TEST(FilesReplacing, DoesNotForgetABackupThatIsHeld) {
   const TempFolder folder;
   writeBytes(folder / kBackup, "old");
   {
@@ -222,7 +222,7 @@ TEST(Replacing, DoesNotForgetABackupThatIsHeld) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-TEST(Replacing, RemovesLeftoversWhateverTheirCase) {
+TEST(FilesReplacing, RemovesLeftoversWhateverTheirCase) {
   const TempFolder folder;
   const Path leftover = folder / "SETTINGS.XML.brennet-1-0.tmp";
   writeBytes(leftover, "half");
@@ -232,7 +232,7 @@ TEST(Replacing, RemovesLeftoversWhateverTheirCase) {
   EXPECT_EQ(folder.listing(), "Settings.xml\n");
 }
 
-TEST(Replacing, LeavesAFolderWithTheNameOfABackupAlone) {
+TEST(FilesReplacing, LeavesAFolderWithTheNameOfABackupAlone) {
   const TempFolder folder;
   EXPECT_TRUE(createFolder(folder / kBackup));
   std::string read;
@@ -245,7 +245,7 @@ TEST(Replacing, LeavesAFolderWithTheNameOfABackupAlone) {
 }
 
 // A reader meets the whole old or the whole new content, and never no file.
-TEST(Replacing, IsNotNoticedByAReader) {
+TEST(FilesReplacing, IsNotNoticedByAReader) {
   const TempFolder folder;
   const std::string contents[] = {std::string(5000, 'a'), std::string(7000, 'b')};
   writeBytes(folder / "f", contents[0]);
@@ -260,7 +260,7 @@ TEST(Replacing, IsNotNoticedByAReader) {
   writer.join();
 }
 
-TEST(Replacing, TakesNamesOutsideTheAnsiCodePage) {
+TEST(FilesReplacing, TakesNamesOutsideTheAnsiCodePage) {
   const TempFolder folder;
   const Path name = folder.path() / pathFromUtf16(u"\u8C22\u0E01\U0001F600 \u00E9.xml");
   for (const char* const bytes : {"first", "second"}) {
@@ -275,7 +275,7 @@ TEST(Replacing, TakesNamesOutsideTheAnsiCodePage) {
 }
 
 // Those of a temporary file and of a kept one would be longer than a path may be.
-TEST(Replacing, WritesInPlaceWhereThePathHasNoRoomForALongerOne) {
+TEST(FilesReplacing, WritesInPlaceWhereThePathHasNoRoomForALongerOne) {
   const TempFolder folder;
   constexpr std::size_t kLongest = 250;
   const Path path = folder / std::string(kLongest - folder.path().native().size(), 'n');
@@ -287,7 +287,7 @@ TEST(Replacing, WritesInPlaceWhereThePathHasNoRoomForALongerOne) {
   }
 }
 
-TEST(Replacing, TakesPathsOfAnyLengthWhereTheySaySo) {
+TEST(FilesReplacing, TakesPathsOfAnyLengthWhereTheySaySo) {
   const TempFolder folder;
   const Path inner = LR"(\\?\)" + (folder / std::string(200, 'd')).native();
   ASSERT_TRUE(createFolder(inner));

@@ -72,7 +72,7 @@ class Leaser {
   bool hasLease_ = false;
 };
 
-TEST(ReadFile, WaitsForALeaseThatIsGivenUp) {
+TEST(HeldFilesReadFile, WaitsForALeaseThatIsGivenUp) {
   const TempFolder folder;
   writeBytes(folder / "f", "bytes");
   const Leaser leaser(folder / "f", F_WRLCK, Leaser::Manner::GivesUp);
@@ -81,7 +81,7 @@ TEST(ReadFile, WaitsForALeaseThatIsGivenUp) {
   EXPECT_EQ(read, "bytes");
 }
 
-TEST(ReadFile, TellsOfALeaseThatIsNot) {
+TEST(HeldFilesReadFile, TellsOfALeaseThatIsNot) {
   const TempFolder folder;
   writeBytes(folder / "f", "bytes");
   const Leaser leaser(folder / "f", F_WRLCK, Leaser::Manner::Keeps);
@@ -91,7 +91,7 @@ TEST(ReadFile, TellsOfALeaseThatIsNot) {
   EXPECT_FALSE(isMissing(error)) << "taken for a file that is not there";
 }
 
-TEST(ReplaceFile, WaitsForALeaseThatIsGivenUp) {
+TEST(HeldFilesReplaceFile, WaitsForALeaseThatIsGivenUp) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   const Leaser leaser(folder / "f", F_RDLCK, Leaser::Manner::GivesUp);
@@ -99,7 +99,7 @@ TEST(ReplaceFile, WaitsForALeaseThatIsGivenUp) {
   EXPECT_EQ(readBytes(folder / "f"), "new");
 }
 
-TEST(ReadFile, TellsAMissingFileFromOneThatIsThere) {
+TEST(HeldFilesReadFile, TellsAMissingFileFromOneThatIsThere) {
   const TempFolder folder;
   writeBytes(folder / "f", "bytes");
   std::string read;
@@ -112,7 +112,7 @@ TEST(ReadFile, TellsAMissingFileFromOneThatIsThere) {
 }
 
 // The system would end the process by a signal.
-TEST(ReplaceFile, OutlivesALimitForFiles) {
+TEST(HeldFilesReplaceFile, OutlivesALimitForFiles) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
   ASSERT_EQ(link((folder / "f").c_str(), (folder / "second").c_str()), 0);

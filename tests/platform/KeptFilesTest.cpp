@@ -85,7 +85,7 @@ class Reluctant : public test::PassingFileSystem {
 constexpr std::size_t kMoreThanAPiece = 200'000;
 constexpr std::size_t kPiece = 65'536;
 
-TEST(KeptName, HasTheLocalTime) {
+TEST(KeptFilesKeptName, HasTheLocalTime) {
   struct Row {
     std::int64_t time;
     const char* name;

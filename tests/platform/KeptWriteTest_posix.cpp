@@ -16,14 +16,14 @@ namespace brennet::platform {
 namespace {
 
 // The folder for them lies in one that is this test's alone.
-class KeptWrites : public testing::Test {
+class KeptWriteTest : public testing::Test {
  protected:
-  KeptWrites() {
+  KeptWriteTest() {
     const char* const before = std::getenv("TMPDIR");
     if (before != nullptr) before_ = before;
     setenv("TMPDIR", folder_.path().c_str(), 1);
   }
-  ~KeptWrites() override {
+  ~KeptWriteTest() override {
     if (before_.empty()) {
       unsetenv("TMPDIR");
     } else {
@@ -37,7 +37,7 @@ class KeptWrites : public testing::Test {
   std::string before_;
 };
 
-TEST_F(KeptWrites, OfManyFilesGoOnAtOnce) {
+TEST_F(KeptWriteTest, OfManyFilesGoOnAtOnce) {
   Patience patience;
   std::list<KeptWrite> writes;
   for (int number = 0; number < 40; ++number) {
@@ -52,7 +52,7 @@ TEST_F(KeptWrites, OfManyFilesGoOnAtOnce) {
   EXPECT_EQ(folder_.listing(), "");
 }
 
-TEST_F(KeptWrites, AreNoneOfFilesInNoFolder) {
+TEST_F(KeptWriteTest, AreNoneOfFilesInNoFolder) {
   Patience patience;
   KeptWrite write(operatingSystem(), patience, folder_ / "missing" / "f");
   EXPECT_EQ(write.open().obstacle, Obstacle::Denied);
@@ -60,7 +60,7 @@ TEST_F(KeptWrites, AreNoneOfFilesInNoFolder) {
   EXPECT_EQ(folder_.listing(), "");
 }
 
-TEST_F(KeptWrites, StayUntilTheyAreDiscarded) {
+TEST_F(KeptWriteTest, StayUntilTheyAreDiscarded) {
   const Path path = folder_ / "f";
   Patience patience;
   {

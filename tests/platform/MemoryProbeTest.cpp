@@ -18,25 +18,25 @@ bool isWritable(void* address, std::size_t size) {
   return writability == Writability::Writable;
 }
 
-TEST(IsWritable, AcceptsOwnMemoryAndLeavesItAlone) {
+TEST(MemoryProbe, AcceptsOwnMemoryAndLeavesItAlone) {
   char bytes[] = "abcdefgh";
   EXPECT_TRUE(isWritable(bytes, sizeof(bytes)));
   EXPECT_STREQ(bytes, "abcdefgh");
 }
 
-TEST(IsWritable, AcceptsNoBytesAnywhere) {
+TEST(MemoryProbe, AcceptsNoBytesAnywhere) {
   EXPECT_TRUE(isWritable(nullptr, 0));
   EXPECT_TRUE(isWritable(reinterpret_cast<void*>(16), 0));
 }
 
-TEST(IsWritable, RefusesNullAndUnmappedMemory) {
+TEST(MemoryProbe, RefusesNullAndUnmappedMemory) {
   EXPECT_FALSE(isWritable(nullptr, 1));
   EXPECT_FALSE(isWritable(reinterpret_cast<void*>(16), 4));
   const GuardedPages pages(1, Access::None);
   EXPECT_FALSE(isWritable(pages.boundary(), 1));
 }
 
-TEST(IsWritable, RefusesARangeThatRunsIntoForbiddenMemory) {
+TEST(MemoryProbe, RefusesARangeThatRunsIntoForbiddenMemory) {
   for (const Access guard : {Access::None, Access::Read, Access::Signal}) {
     const GuardedPages pages(1, guard);
     const auto size = static_cast<std::size_t>(pages.boundary() - pages.begin());
@@ -47,7 +47,7 @@ TEST(IsWritable, RefusesARangeThatRunsIntoForbiddenMemory) {
   }
 }
 
-TEST(IsWritable, LeavesMemoryAloneAfterARefusal) {
+TEST(MemoryProbe, LeavesMemoryAloneAfterARefusal) {
   const GuardedPages pages(1, Access::Read);
   char bytes[] = "ab";
   for (int round = 0; round < 3; ++round) {
@@ -58,7 +58,7 @@ TEST(IsWritable, LeavesMemoryAloneAfterARefusal) {
   EXPECT_STREQ(bytes, "ab");
 }
 
-TEST(IsWritable, LeavesAPageAloneThatSignalsTheFirstTouch) {
+TEST(MemoryProbe, LeavesAPageAloneThatSignalsTheFirstTouch) {
   const GuardedPages pages(1, Access::Signal);
   for (int round = 0; round < 2; ++round) {
     EXPECT_FALSE(isWritable(pages.boundary(), 1)) << round;
@@ -67,7 +67,7 @@ TEST(IsWritable, LeavesAPageAloneThatSignalsTheFirstTouch) {
   }
 }
 
-TEST(IsWritable, RefusesARangeThatWrapsAround) {
+TEST(MemoryProbe, RefusesARangeThatWrapsAround) {
   char byte = 0;
   EXPECT_FALSE(isWritable(&byte, SIZE_MAX));
 }

@@ -26,7 +26,7 @@ class NoMoreFiles {
   rlimit before_{};
 };
 
-TEST(ProbeMemory, DoesNotKnowWhileThereAreNoFilesAndKnowsAgain) {
+TEST(MemoryProbe, DoesNotKnowWhileThereAreNoFilesAndKnowsAgain) {
   char byte = 'a';
   {
     const NoMoreFiles none;

@@ -46,7 +46,7 @@ std::string someBytes() {
   return bytes;
 }
 
-TEST(AnOpenFile, IsReadToItsEnd) {
+TEST(OpenFile, IsReadToItsEnd) {
   const test::TempFolder folder;
   const std::string content = someBytes();
   writeBytes(folder / "f", content);
@@ -64,7 +64,7 @@ TEST(AnOpenFile, IsReadToItsEnd) {
   }
 }
 
-TEST(AnOpenFile, IsWrittenToItsEnd) {
+TEST(OpenFile, IsWrittenToItsEnd) {
   const test::TempFolder folder;
   const std::string content = someBytes();
   for (const std::size_t part : {1U, 7U, 5000U}) {

@@ -5,7 +5,7 @@
 namespace brennet::platform {
 namespace {
 
-TEST(PathFromUtf16, KeepsAnEmptyNameEmpty) {
+TEST(PathsFromUtf16, KeepsAnEmptyNameEmpty) {
   EXPECT_TRUE(pathFromUtf16(u"").empty());
 }
 

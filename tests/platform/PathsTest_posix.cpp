@@ -5,12 +5,12 @@
 namespace brennet::platform {
 namespace {
 
-TEST(PathFromUtf16, WritesUtf8) {
+TEST(PathsFromUtf16, WritesUtf8) {
   EXPECT_EQ(pathFromUtf16(u"/a/\u00E9\u8C22\U0001F600.xml").native(),
             "/a/\xC3\xA9\xE8\xB0\xA2\xF0\x9F\x98\x80.xml");
 }
 
-TEST(PathFromUtf16, ReplacesUnpairedSurrogates) {
+TEST(PathsFromUtf16, ReplacesUnpairedSurrogates) {
   EXPECT_EQ(pathFromUtf16(std::u16string{0xD800}).native(), "\xEF\xBF\xBD");
   EXPECT_EQ(pathFromUtf16(std::u16string{0xDC00, u'a'}).native(),
             "\xEF\xBF\xBD"
@@ -19,7 +19,7 @@ TEST(PathFromUtf16, ReplacesUnpairedSurrogates) {
             "\xEF\xBF\xBD\xF0\x90\x80\x80");
 }
 
-TEST(PathFromNarrow, TakesBytesAsTheyAre) {
+TEST(PathsFromNarrow, TakesBytesAsTheyAre) {
   EXPECT_EQ(pathFromNarrow("/\xFF/a").native(), "/\xFF/a");
 }
 

@@ -50,9 +50,9 @@ struct LineCase {
   RegistryValue value;  // of the name N
 };
 
-class ReadValue : public testing::TestWithParam<LineCase> {};
+class RegFileReadValue : public testing::TestWithParam<LineCase> {};
 
-TEST_P(ReadValue, IsTheSameInBothEncodings) {
+TEST_P(RegFileReadValue, IsTheSameInBothEncodings) {
   const LineCase& row = GetParam();
   RegFile ansi;
   ASSERT_TRUE(ansi.merge(kAnsiHead + row.lines));
@@ -65,7 +65,7 @@ TEST_P(ReadValue, IsTheSameInBothEncodings) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, ReadValue,
+    Rows, RegFileReadValue,
     testing::Values(
         LineCase{"Dword", "\"N\"=dword:00000051", dwordValue(0x51)},
         LineCase{"ShortDword", "\"N\"=dword:5", dwordValue(5)},
@@ -92,15 +92,15 @@ INSTANTIATE_TEST_SUITE_P(
                  dwordValue(1)}),
     [](const auto& test) { return std::string(test.param.when); });
 
-class PassedOver : public testing::TestWithParam<const char*> {};
+class RegFilePassedOver : public testing::TestWithParam<const char*> {};
 
-TEST_P(PassedOver, AsIfItWereNotThere) {
+TEST_P(RegFilePassedOver, AsIfItWereNotThere) {
   const std::string lines = std::string(GetParam()) + "\r\n\"Next\"=dword:1\r\n";
   const RegFile file = fileWith(lines);
   EXPECT_EQ(file, fileWith("\"Next\"=dword:1\r\n"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, PassedOver,
+INSTANTIATE_TEST_SUITE_P(Rows, RegFilePassedOver,
                          testing::Values("N=dword:1", "\"N=dword:1", "\"N\"dword:1", "\"N\"",
                                          "\"N\"=", "\"N\"=dword:", "\"N\"=dword:g",
                                          "\"N\"=dword:123456789", "\"N\"=dword:1x", "\"N\"=dword 1",

@@ -60,9 +60,9 @@ class Crowded : public test::PassingFileSystem {
   int pauses = 0;
 };
 
-class Replacing : public testing::Test {
+class ReplacementTest : public testing::Test {
  protected:
-  Replacing() { writeBytes(path_, "old"); }
+  ReplacementTest() { writeBytes(path_, "old"); }
 
   FileError replace() {
     Patience patience;
@@ -79,7 +79,7 @@ class Replacing : public testing::Test {
   Crowded system_;
 };
 
-TEST_F(Replacing, IsUnderWayWhereTheFileOrItsBackupStands) {
+TEST_F(ReplacementTest, IsUnderWayWhereTheFileOrItsBackupStands) {
   struct Row {
     bool file, backup;
     Obstacle obstacle;
@@ -100,7 +100,7 @@ TEST_F(Replacing, IsUnderWayWhereTheFileOrItsBackupStands) {
   }
 }
 
-TEST_F(Replacing, WaitsForAnotherProcessThatHasMovedTheFileAway) {
+TEST_F(ReplacementTest, WaitsForAnotherProcessThatHasMovedTheFileAway) {
   system_.beforeExchange = [&](const Path& path, const Path& backup) {
     if (system_.exchanges > 1) return FileError();
     std::filesystem::rename(path, backup);
@@ -113,7 +113,7 @@ TEST_F(Replacing, WaitsForAnotherProcessThatHasMovedTheFileAway) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-TEST_F(Replacing, LeavesTheBackupWhereThatProcessHasEnded) {
+TEST_F(ReplacementTest, LeavesTheBackupWhereThatProcessHasEnded) {
   system_.beforeExchange = [&](const Path& path, const Path& backup) {
     if (system_.exchanges == 1) std::filesystem::rename(path, backup);
     return obstacle(Obstacle::Missing);
@@ -124,7 +124,7 @@ TEST_F(Replacing, LeavesTheBackupWhereThatProcessHasEnded) {
   EXPECT_EQ(folder_.listing(), "f.brennet-old\n");
 }
 
-TEST_F(Replacing, DoesNotWaitForAFileThatIsGoneForGood) {
+TEST_F(ReplacementTest, DoesNotWaitForAFileThatIsGoneForGood) {
   system_.beforeExchange = [](const Path& path, const Path&) {
     std::filesystem::remove(path);
     return obstacle(Obstacle::Missing);
@@ -135,7 +135,7 @@ TEST_F(Replacing, DoesNotWaitForAFileThatIsGoneForGood) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-TEST_F(Replacing, WaitsForAFileThatIsHeldAndWritesInPlaceInTheEnd) {
+TEST_F(ReplacementTest, WaitsForAFileThatIsHeldAndWritesInPlaceInTheEnd) {
   for (const int held : {1, kTries - 1, kTries}) {
     writeBytes(path_, "old");
     system_.exchanges = 0;
@@ -151,7 +151,7 @@ TEST_F(Replacing, WaitsForAFileThatIsHeldAndWritesInPlaceInTheEnd) {
   }
 }
 
-TEST_F(Replacing, MakesTheFileThatALinkToNothingNames) {
+TEST_F(ReplacementTest, MakesTheFileThatALinkToNothingNames) {
   system_.resolvesLinks = false;
   std::filesystem::remove(path_);
   std::filesystem::create_symlink(folder_ / "g", path_);
@@ -162,7 +162,7 @@ TEST_F(Replacing, MakesTheFileThatALinkToNothingNames) {
   EXPECT_EQ(readBytes(folder_ / "g"), "new");
 }
 
-TEST_F(Replacing, EndsWhatStoppedHalfway) {
+TEST_F(ReplacementTest, EndsWhatStoppedHalfway) {
   system_.beforeExchange = [](const Path& path, const Path& backup) {
     std::filesystem::rename(path, backup);
     return obstacle(Obstacle::Halfway);
@@ -172,7 +172,7 @@ TEST_F(Replacing, EndsWhatStoppedHalfway) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-TEST_F(Replacing, PutsTheOldFileBackWhereItStoppedHalfwayForGood) {
+TEST_F(ReplacementTest, PutsTheOldFileBackWhereItStoppedHalfwayForGood) {
   system_.beforeExchange = [](const Path& path, const Path& backup) {
     std::filesystem::rename(path, backup);
     return obstacle(Obstacle::Halfway);
@@ -186,7 +186,7 @@ TEST_F(Replacing, PutsTheOldFileBackWhereItStoppedHalfwayForGood) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-TEST_F(Replacing, WritesInPlaceAtOnceWhereTheRightsDoNotReach) {
+TEST_F(ReplacementTest, WritesInPlaceAtOnceWhereTheRightsDoNotReach) {
   system_.beforeExchange = [](const Path&, const Path&) { return obstacle(Obstacle::Denied); };
   EXPECT_FALSE(replace());
   EXPECT_EQ(system_.exchanges, 1);
@@ -195,7 +195,7 @@ TEST_F(Replacing, WritesInPlaceAtOnceWhereTheRightsDoNotReach) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-TEST_F(Replacing, TakesAnotherTemporaryNameWhereOneIsTaken) {
+TEST_F(ReplacementTest, TakesAnotherTemporaryNameWhereOneIsTaken) {
   const std::string taken = "f.brennet-" + std::to_string(system_.process()) + "-0.tmp";
   writeBytes(folder_ / taken, "somebody's");
   EXPECT_FALSE(replace());
@@ -204,7 +204,7 @@ TEST_F(Replacing, TakesAnotherTemporaryNameWhereOneIsTaken) {
   EXPECT_EQ(system_.exchanges, 1);
 }
 
-TEST_F(Replacing, WritesInPlaceWhereAllTemporaryNamesAreTaken) {
+TEST_F(ReplacementTest, WritesInPlaceWhereAllTemporaryNamesAreTaken) {
   for (int number = 0; number < 100; ++number) {
     writeBytes(folder_ / ("f.brennet-" + std::to_string(system_.process()) + "-" +
                           std::to_string(number) + ".tmp"),
@@ -215,7 +215,7 @@ TEST_F(Replacing, WritesInPlaceWhereAllTemporaryNamesAreTaken) {
   EXPECT_EQ(system_.exchanges, 0);
 }
 
-TEST_F(Replacing, StartsAgainWhereAFileHasComeMeanwhile) {
+TEST_F(ReplacementTest, StartsAgainWhereAFileHasComeMeanwhile) {
   std::filesystem::remove(path_);
   int moves = 0;
   system_.beforeMove = [&](const Path&, const Path& to) {
@@ -229,7 +229,7 @@ TEST_F(Replacing, StartsAgainWhereAFileHasComeMeanwhile) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-TEST_F(Replacing, WaitsForABackupToBecomeTheFile) {
+TEST_F(ReplacementTest, WaitsForABackupToBecomeTheFile) {
   for (const int waits : {1, kTries - 1}) {
     std::filesystem::rename(path_, backup_);
     system_.pauses = 0;
@@ -242,7 +242,7 @@ TEST_F(Replacing, WaitsForABackupToBecomeTheFile) {
   }
 }
 
-TEST_F(Replacing, MakesABackupTheFileThatNobodyWants) {
+TEST_F(ReplacementTest, MakesABackupTheFileThatNobodyWants) {
   std::filesystem::rename(path_, backup_);
   EXPECT_FALSE(settled());
   EXPECT_EQ(system_.pauses, Patience::kPauses);
@@ -250,7 +250,7 @@ TEST_F(Replacing, MakesABackupTheFileThatNobodyWants) {
   EXPECT_EQ(folder_.listing(), "f\n");
 }
 
-TEST_F(Replacing, IsDoneWhereSomebodyElseMakesTheBackupTheFile) {
+TEST_F(ReplacementTest, IsDoneWhereSomebodyElseMakesTheBackupTheFile) {
   for (const Obstacle kind : {Obstacle::Missing, Obstacle::Exists, Obstacle::Denied}) {
     std::filesystem::remove(path_);
     writeBytes(backup_, "old");
@@ -259,7 +259,7 @@ TEST_F(Replacing, IsDoneWhereSomebodyElseMakesTheBackupTheFile) {
   }
 }
 
-TEST_F(Replacing, RemovesABackupBesideTheFile) {
+TEST_F(ReplacementTest, RemovesABackupBesideTheFile) {
   writeBytes(backup_, "older");
   EXPECT_FALSE(settled());
   EXPECT_EQ(system_.pauses, 0);

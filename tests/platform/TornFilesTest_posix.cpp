@@ -29,7 +29,7 @@ mode_t modeOf(const Path& path) {
   return status.st_mode & 07777U;
 }
 
-TEST(TheSystem, MakesWhatIsPrivateForTheOwnerAlone) {
+TEST(TornFilesOfTheSystem, MakesWhatIsPrivateForTheOwnerAlone) {
   const TempFolder folder;
   const mode_t before = umask(0);
   OpenFile fresh(operatingSystem());
@@ -43,7 +43,7 @@ TEST(TheSystem, MakesWhatIsPrivateForTheOwnerAlone) {
   EXPECT_EQ(modeOf(folder / "own"), 0700U);
 }
 
-TEST(TheSystem, TakesNoFolderForPrivateThatOthersMayEnter) {
+TEST(TornFilesOfTheSystem, TakesNoFolderForPrivateThatOthersMayEnter) {
   const TempFolder folder;
   FileSystem& system = operatingSystem();
   for (const mode_t mode : {0755U, 0770U, 0701U}) {
@@ -60,7 +60,7 @@ TEST(TheSystem, TakesNoFolderForPrivateThatOthersMayEnter) {
   EXPECT_EQ(system.createPrivateFolder(folder / "own").obstacle, Obstacle::Denied);
 }
 
-TEST(TheSystem, FollowsLinksToTheEnd) {
+TEST(TornFilesOfTheSystem, FollowsLinksToTheEnd) {
   const TempFolder folder;
   ASSERT_EQ(symlink("second", (folder / "first").c_str()), 0);
   ASSERT_EQ(symlink("third", (folder / "second").c_str()), 0);
@@ -95,7 +95,7 @@ void tear(const Path& path, const char* torn) {
   writeBytes(path, torn);
 }
 
-TEST(ATornFile, IsPutRightByWhoeverReadsItNext) {
+TEST(TornFiles, IsPutRightByWhoeverReadsItNext) {
   const ScopedTemporaries temporaries;
   const TempFolder folder;
   writeBytes(folder / "f", "the old one");
@@ -107,7 +107,7 @@ TEST(ATornFile, IsPutRightByWhoeverReadsItNext) {
   EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
 }
 
-TEST(ATornFile, IsPutRightByWhateverNameItIsRead) {
+TEST(TornFiles, IsPutRightByWhateverNameItIsRead) {
   const ScopedTemporaries temporaries;
   const TempFolder folder;
   writeBytes(folder / "f", "the old one");
@@ -120,7 +120,7 @@ TEST(ATornFile, IsPutRightByWhateverNameItIsRead) {
 }
 
 // The name by which it was written is still one of the file, but no longer the one that is found.
-TEST(ATornFile, IsPutRightWhereItsFolderHasMovedAndALinkHasItsName) {
+TEST(TornFiles, IsPutRightWhereItsFolderHasMovedAndALinkHasItsName) {
   const ScopedTemporaries temporaries;
   const TempFolder folder;
   std::filesystem::create_directory(folder / "a");
@@ -136,7 +136,7 @@ TEST(ATornFile, IsPutRightWhereItsFolderHasMovedAndALinkHasItsName) {
   EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
 }
 
-TEST(ATornFile, IsLeftAloneWhereSomebodyHasWrittenItSince) {
+TEST(TornFiles, IsLeftAloneWhereSomebodyHasWrittenItSince) {
   const ScopedTemporaries temporaries;
   const TempFolder folder;
   writeBytes(folder / "f", "the old one");
@@ -147,7 +147,7 @@ TEST(ATornFile, IsLeftAloneWhereSomebodyHasWrittenItSince) {
   EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
 }
 
-TEST(ATornFile, IsLeftAloneWhereItIsLargerThanAnyThatIsWrittenInPlace) {
+TEST(TornFiles, IsLeftAloneWhereItIsLargerThanAnyThatIsWrittenInPlace) {
   const ScopedTemporaries temporaries;
   const TempFolder folder;
   writeBytes(folder / "f", "the old one");
@@ -159,7 +159,7 @@ TEST(ATornFile, IsLeftAloneWhereItIsLargerThanAnyThatIsWrittenInPlace) {
   EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
 }
 
-TEST(ATornFile, IsNotBelievedFromAFolderThatOthersMayEnter) {
+TEST(TornFiles, IsNotBelievedFromAFolderThatOthersMayEnter) {
   const ScopedTemporaries temporaries;
   const TempFolder folder;
   writeBytes(folder / "f", "the old one");
@@ -174,7 +174,7 @@ TEST(ATornFile, IsNotBelievedFromAFolderThatOthersMayEnter) {
   EXPECT_EQ(readBytes(folder / "f"), "the new one");
 }
 
-TEST(ATornFile, WaitsForTheProcessThatIsWritingIt) {
+TEST(TornFiles, WaitsForTheProcessThatIsWritingIt) {
   const ScopedTemporaries temporaries;
   const TempFolder folder;
   writeBytes(folder / "f", "the old one");
@@ -225,7 +225,7 @@ struct FailureRow {
 };
 
 // What the file held is kept as long as it could not be put back, and not a moment longer.
-TEST(AFailedWrite, KeepsTheOldContentUntilItIsPutBack) {
+TEST(TornFilesFailedWrite, KeepsTheOldContentUntilItIsPutBack) {
   constexpr FailureRow kRows[] = {{1, "the old one", false}, {2, "the nld one", true}};
   for (const FailureRow& row : kRows) {
     const ScopedTemporaries temporaries;

@@ -20,10 +20,10 @@ using test::readBytes;
 using test::writeBytes;
 using test::writtenModes;
 
-using APrivateFile = test::FileFaultsFixture;
+using WrittenRightsTest = test::FileFaultsFixture;
 
 // Until it has the rights of the old file, and also where it gets fewer for good.
-TEST_F(APrivateFile, IsWrittenForItsOwnerAlone) {
+TEST_F(WrittenRightsTest, IsWrittenForItsOwnerAlone) {
   for (const mode_t mode : {0600U, 0644U, 0666U}) {
     writeBytes(path(), "old");
     ASSERT_EQ(chmod(path().c_str(), mode), 0);
@@ -33,7 +33,7 @@ TEST_F(APrivateFile, IsWrittenForItsOwnerAlone) {
   }
 }
 
-TEST_F(APrivateFile, IsKeptForItsOwnerAloneWhileItIsWrittenInPlace) {
+TEST_F(WrittenRightsTest, IsKeptForItsOwnerAloneWhileItIsWrittenInPlace) {
   writeBytes(path(), "old");
   ASSERT_EQ(chmod(path().c_str(), 0600), 0);
   faults.newFiles = true;

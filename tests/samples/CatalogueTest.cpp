@@ -15,7 +15,7 @@ namespace {
 
 const QString kFolder = QStringLiteral(BRENNET_TRANSLATIONS);
 
-class TheHostsCatalogue : public testing::Test {
+class CatalogueTest : public testing::Test {
  protected:
   static QString cancel() { return QCoreApplication::translate("QDialogButtonBox", "Cancel"); }
 
@@ -26,7 +26,7 @@ class TheHostsCatalogue : public testing::Test {
   QCoreApplication application_{argc_, argv_};
 };
 
-TEST_F(TheHostsCatalogue, IsOfTheFirstLanguageThatThereIs) {
+TEST_F(CatalogueTest, IsOfTheFirstLanguageThatThereIs) {
   struct Row {
     QStringList languages;
     const char* file;
@@ -50,7 +50,7 @@ TEST_F(TheHostsCatalogue, IsOfTheFirstLanguageThatThereIs) {
   }
 }
 
-TEST_F(TheHostsCatalogue, TranslatesAsLongAsItLives) {
+TEST_F(CatalogueTest, TranslatesAsLongAsItLives) {
   {
     const Catalogue catalogue(kFolder, {QStringLiteral("zh-CN")});
     EXPECT_EQ(cancel(), QStringLiteral("取消"));
@@ -58,14 +58,14 @@ TEST_F(TheHostsCatalogue, TranslatesAsLongAsItLives) {
   EXPECT_EQ(cancel(), QStringLiteral("Cancel"));
 }
 
-TEST_F(TheHostsCatalogue, MayBeMissing) {
+TEST_F(CatalogueTest, MayBeMissing) {
   const QTemporaryDir empty;
   const Catalogue catalogue(empty.path(), {QStringLiteral("zh-CN")});
   EXPECT_EQ(catalogue.file(), QString());
   EXPECT_EQ(cancel(), QStringLiteral("Cancel"));
 }
 
-TEST_F(TheHostsCatalogue, LiesBesideTheProgram) {
+TEST_F(CatalogueTest, LiesBesideTheProgram) {
   const Catalogue catalogue;
   const Catalogue expected(kFolder, QLocale::system().uiLanguages());
   ASSERT_NE(catalogue.file(), QString());

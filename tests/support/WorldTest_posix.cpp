@@ -63,7 +63,7 @@ std::set<std::string> worldOfScripts() {
   return world;
 }
 
-TEST(TheWorldOfTheTests, IsThereFromTheStart) {
+TEST(World, IsThereFromTheStart) {
   EXPECT_STREQ(std::getenv("HOME"), "/nonexistent");
   EXPECT_FALSE(std::filesystem::exists("/nonexistent"));
   EXPECT_STREQ(std::getenv("LC_ALL"), "C.UTF-8");
@@ -74,7 +74,7 @@ TEST(TheWorldOfTheTests, IsThereFromTheStart) {
   for (const char* const name : kCallers) EXPECT_EQ(std::getenv(name), nullptr) << name;
 }
 
-TEST(TheWorldOfTheTests, HasNothingOfTheCallersAndIsThatOfScripts) {
+TEST(World, HasNothingOfTheCallersAndIsThatOfScripts) {
   for (const char* const name : kCallers) setenv(name, "/the/callers", 1);
   for (const char* const name : {"HOME", "TMPDIR"}) setenv(name, "/the/callers", 1);
   setenv("LC_ALL", "tr_TR.UTF-8", 1);
@@ -93,7 +93,7 @@ TEST(TheWorldOfTheTests, HasNothingOfTheCallersAndIsThatOfScripts) {
   for (const std::string& entry : own) EXPECT_EQ(entry.find("/the/callers"), std::string::npos);
 }
 
-TEST(TheWorldOfTheTests, HasAnotherFolderForTemporaryFilesWhereOneIsNamed) {
+TEST(World, HasAnotherFolderForTemporaryFilesWhereOneIsNamed) {
   const TempFolder another;
   const char* const before = std::getenv("BRENNET_TEST_TMPDIR");
   const std::string namedBefore = before != nullptr ? before : "";
@@ -106,7 +106,7 @@ TEST(TheWorldOfTheTests, HasAnotherFolderForTemporaryFilesWhereOneIsNamed) {
   leaveTheCallersWorld();
 }
 
-TEST(TheWorldOfTheTests, HasTheTimeOfGreenwich) {
+TEST(World, HasTheTimeOfGreenwich) {
   const std::time_t noon = 12 * 60 * 60;
   EXPECT_EQ(std::localtime(&noon)->tm_hour, 12);
 }

@@ -31,14 +31,14 @@ std::string variable(const char* name) {
   return value != nullptr ? value : "(none)";
 }
 
-TEST(TheWorldOfTheTests, HasNothingOfTheCallers) {
+TEST(World, HasNothingOfTheCallers) {
   for (const char* const name : kCallers) EXPECT_EQ(variable(name), "(none)") << name;
   for (const char* const name : kCallers) _putenv_s(name, "the caller's");
   leaveTheCallersWorld();
   for (const char* const name : kCallers) EXPECT_EQ(variable(name), "(none)") << name;
 }
 
-TEST(TheWorldOfTheTests, KeepsWhatIsTheSystemsOrForTests) {
+TEST(World, KeepsWhatIsTheSystemsOrForTests) {
   _putenv_s("BRENNET_TEST_ANYTHING", "a value");
   leaveTheCallersWorld();
   EXPECT_EQ(variable("BRENNET_TEST_ANYTHING"), "a value");

@@ -54,9 +54,9 @@ std::string nameOf(const Setting& row) {
 }
 
 // All windows but the dialog, which is made of them.
-class AllPages : public testing::Test {
+class AllWindowsPages : public testing::Test {
  protected:
-  AllPages() {
+  AllWindowsPages() {
     for (const WindowRow& row : allWindows()) {
       if (row.isPage) pages_.push_back(row.make(config_, manager_, nullptr));
     }
@@ -84,7 +84,7 @@ class AllPages : public testing::Test {
   std::vector<std::unique_ptr<QWidget>> pages_;
 };
 
-TEST_F(AllPages, HaveAFieldForEachKey) {
+TEST_F(AllWindowsPages, HaveAFieldForEachKey) {
   constexpr KeySlot kShownNowhere[] = {remapSource(5), remapDestination(5)};
   std::vector<KeySlot> found(std::begin(kShownNowhere), std::end(kShownNowhere));
   for (const QLineEdit* const field : controls<QLineEdit>()) {
@@ -103,7 +103,7 @@ TEST_F(AllPages, HaveAFieldForEachKey) {
   }
 }
 
-TEST_F(AllPages, HaveABoxForEachSwitch) {
+TEST_F(AllWindowsPages, HaveABoxForEachSwitch) {
   std::set<SettingId> found;
   for (QCheckBox* const box : controls<QCheckBox>() + boxesOfTheOrrery()) {
     const HotkeyScheme before = config_.scheme();

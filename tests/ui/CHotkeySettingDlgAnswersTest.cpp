@@ -12,9 +12,9 @@
 namespace brennet::test {
 namespace {
 
-class AnswersToTheDialog : public SettingsDialog {
+class CHotkeySettingDlgAnswersTest : public SettingsDialog {
  protected:
-  AnswersToTheDialog() {
+  CHotkeySettingDlgAnswersTest() {
     registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
     before = registry.content();
   }
@@ -41,7 +41,7 @@ class AnswersToTheDialog : public SettingsDialog {
   platform::RegFile before;
 };
 
-TEST_F(AnswersToTheDialog, TakeTheRegistryBackUnlessItIsAccepted) {
+TEST_F(CHotkeySettingDlgAnswersTest, TakeTheRegistryBackUnlessItIsAccepted) {
   struct {
     const char* name;
     std::function<void(CHotkeySettingDlg&)> end;
@@ -63,7 +63,7 @@ TEST_F(AnswersToTheDialog, TakeTheRegistryBackUnlessItIsAccepted) {
   }
 }
 
-TEST_F(AnswersToTheDialog, TakeItBackAtOnceWhereTheyAreCancel) {
+TEST_F(CHotkeySettingDlgAnswersTest, TakeItBackAtOnceWhereTheyAreCancel) {
   for (const char* const button : {"btnCancel", "btnClose"}) {
     ASSERT_NO_FATAL_FAILURE(changeAKey());
     find<QPushButton>(button).click();
@@ -72,7 +72,7 @@ TEST_F(AnswersToTheDialog, TakeItBackAtOnceWhereTheyAreCancel) {
   }
 }
 
-TEST_F(AnswersToTheDialog, KeepTheRegistryWhenItIsAccepted) {
+TEST_F(CHotkeySettingDlgAnswersTest, KeepTheRegistryWhenItIsAccepted) {
   ASSERT_NO_FATAL_FAILURE(changeAKey());
   find<QPushButton>("btnOK").click();
   EXPECT_FALSE(dialog->isVisible());
@@ -83,7 +83,7 @@ TEST_F(AnswersToTheDialog, KeepTheRegistryWhenItIsAccepted) {
   EXPECT_EQ(control(u"HStopKeyCode"), platform::dwordValue('X')) << "a later Cancel is too late";
 }
 
-TEST_F(AnswersToTheDialog, LetEditsOutliveASwitchOfModes) {
+TEST_F(CHotkeySettingDlgAnswersTest, LetEditsOutliveASwitchOfModes) {
   ASSERT_NO_FATAL_FAILURE(changeAKey());
   dialog->onSwitchPlatKeySettingDlg();
   dialog->onSwitchDota7KeySettingDlg();
@@ -93,7 +93,7 @@ TEST_F(AnswersToTheDialog, LetEditsOutliveASwitchOfModes) {
 }
 
 // The chat wheel of the settings is edited in the other mode, by the same dialog.
-TEST_F(AnswersToTheDialog, TakeTheChatWheelsKeyAwayForAPasteInTheOtherMode) {
+TEST_F(CHotkeySettingDlgAnswersTest, TakeTheChatWheelsKeyAwayForAPasteInTheOtherMode) {
   config.editableScheme()->ChatWheelkey = KeyWord('W', 0);
   ASSERT_NO_FATAL_FAILURE(changeAKey());
   const auto box = whenBoxIsShown([](QMessageBox& shown) { shown.accept(); });
@@ -101,14 +101,14 @@ TEST_F(AnswersToTheDialog, TakeTheChatWheelsKeyAwayForAPasteInTheOtherMode) {
   EXPECT_EQ(config.scheme().ChatWheelkey, kNoKey);
 }
 
-TEST_F(AnswersToTheDialog, TakeTheRegistryBackWithAModifierStillDown) {
+TEST_F(CHotkeySettingDlgAnswersTest, TakeTheRegistryBackWithAModifierStillDown) {
   ASSERT_NO_FATAL_FAILURE(holdControlDown());
   find<QPushButton>("btnCancel").click();
   EXPECT_EQ(registry.content(), before);
   EXPECT_TRUE(manager.records().empty());
 }
 
-TEST_F(AnswersToTheDialog, KeepNoModifierThatIsStillDown) {
+TEST_F(CHotkeySettingDlgAnswersTest, KeepNoModifierThatIsStillDown) {
   ASSERT_NO_FATAL_FAILURE(holdControlDown());
   find<QPushButton>("btnOK").click();
   EXPECT_EQ(control(u"HStopKeyCode"), platform::dwordValue(0));
@@ -118,7 +118,7 @@ TEST_F(AnswersToTheDialog, KeepNoModifierThatIsStillDown) {
 }
 
 // The windows of phrases, which the dialog runs.
-class ChatOfTheDialog : public SettingsDialog {
+class CHotkeySettingDlgAnswersOfChat : public SettingsDialog {
  protected:
   QLineEdit& greeting() { return on<Dota7ChatKeySettingWidget>("edt_SOnStartString0"); }
   // Runs the window, and does this in it.
@@ -138,7 +138,7 @@ class ChatOfTheDialog : public SettingsDialog {
   }
 };
 
-TEST_F(ChatOfTheDialog, ShowsWhatIsStoredWheneverItOpens) {
+TEST_F(CHotkeySettingDlgAnswersOfChat, ShowsWhatIsStoredWheneverItOpens) {
   dialog->show();
   registry.set(kDota7PhrasesPath, u"SOnStartString0", bytesValue("stored"));
   run([&](QDialog& window) {
@@ -155,7 +155,7 @@ TEST_F(ChatOfTheDialog, ShowsWhatIsStoredWheneverItOpens) {
   });
 }
 
-TEST_F(ChatOfTheDialog, WritesWhatItShowsByOk) {
+TEST_F(CHotkeySettingDlgAnswersOfChat, WritesWhatItShowsByOk) {
   dialog->show();
   run([&](QDialog& window) {
     greeting().setText(QStringLiteral("glhf"));
@@ -170,7 +170,7 @@ TEST_F(ChatOfTheDialog, WritesWhatItShowsByOk) {
   EXPECT_EQ(phrases(u"SOnStartString0"), std::nullopt) << "Cancel of the dialog takes it back";
 }
 
-TEST_F(ChatOfTheDialog, IsOpenedByItsButtons) {
+TEST_F(CHotkeySettingDlgAnswersOfChat, IsOpenedByItsButtons) {
   dialog->show();
   struct {
     QPushButton& button;

@@ -14,7 +14,7 @@
 namespace brennet::test {
 namespace {
 
-class BoxesOfTheDialog : public SettingsDialog {
+class CHotkeySettingDlgBoxesTest : public SettingsDialog {
  protected:
   using Signal = void (CHotkeySettingDlg::*)();
 
@@ -45,7 +45,7 @@ class BoxesOfTheDialog : public SettingsDialog {
   static constexpr Signal kRecommended = &CHotkeySettingDlg::useRecommendedSetting;
 };
 
-TEST_F(BoxesOfTheDialog, AskBeforeTheyAct) {
+TEST_F(CHotkeySettingDlgBoxesTest, AskBeforeTheyAct) {
   struct {
     Signal question;
     QMessageBox::Icon icon;
@@ -87,7 +87,7 @@ class Dota7Question : public QTranslator {
   }
 };
 
-TEST_F(BoxesOfTheDialog, CanSpeakOfTheKeysOfTheirMode) {
+TEST_F(CHotkeySettingDlgBoxesTest, CanSpeakOfTheKeysOfTheirMode) {
   Dota7Question catalogue;
   QCoreApplication::installTranslator(&catalogue);
   const auto asked = [this] {
@@ -106,7 +106,7 @@ TEST_F(BoxesOfTheDialog, CanSpeakOfTheKeysOfTheirMode) {
   EXPECT_TRUE(asked().startsWith(QLatin1String("After resetting"))) << "as without a catalogue";
 }
 
-TEST_F(BoxesOfTheDialog, ResetTheSchemeWhenThePlayerIsSure) {
+TEST_F(CHotkeySettingDlgBoxesTest, ResetTheSchemeWhenThePlayerIsSure) {
   recommend(*config.editableScheme());
   typePhrases();
   const HotkeyScheme before = config.scheme();
@@ -119,7 +119,7 @@ TEST_F(BoxesOfTheDialog, ResetTheSchemeWhenThePlayerIsSure) {
   expectNoPhrases();
 }
 
-TEST_F(BoxesOfTheDialog, ResetWhatTheAdvancedPageShows) {
+TEST_F(CHotkeySettingDlgBoxesTest, ResetWhatTheAdvancedPageShows) {
   config.editableScheme()->ShowFBlood = KeyWord('B', 0);
   dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
   ASSERT_EQ(on<CAdvancedSettingWidget>("edtShowFBlood").text(), QStringLiteral("B"));
@@ -127,7 +127,7 @@ TEST_F(BoxesOfTheDialog, ResetWhatTheAdvancedPageShows) {
   EXPECT_EQ(on<CAdvancedSettingWidget>("edtShowFBlood").text(), QString());
 }
 
-TEST_F(BoxesOfTheDialog, ResetTheRegistryInItsMode) {
+TEST_F(CHotkeySettingDlgBoxesTest, ResetTheRegistryInItsMode) {
   recommend(*config.editableScheme());
   registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
   dialog->onSwitchDota7KeySettingDlg();
@@ -144,7 +144,7 @@ TEST_F(BoxesOfTheDialog, ResetTheRegistryInItsMode) {
   EXPECT_EQ(control(u"HStopKeyCode"), platform::dwordValue('S')) << "Cancel takes it back";
 }
 
-TEST_F(BoxesOfTheDialog, LeaveTheRegistryAloneInTheOtherMode) {
+TEST_F(CHotkeySettingDlgBoxesTest, LeaveTheRegistryAloneInTheOtherMode) {
   registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
   const platform::RegFile before = registry.content();
   confirm(kReset);
@@ -152,7 +152,7 @@ TEST_F(BoxesOfTheDialog, LeaveTheRegistryAloneInTheOtherMode) {
   EXPECT_EQ(registry.content(), before);
 }
 
-TEST_F(BoxesOfTheDialog, PutTheRecommendedKeysInWhenThePlayerIsSure) {
+TEST_F(CHotkeySettingDlgBoxesTest, PutTheRecommendedKeysInWhenThePlayerIsSure) {
   typePhrases();
   const HotkeyScheme before = config.scheme();
   refuse(kRecommended);
@@ -163,7 +163,7 @@ TEST_F(BoxesOfTheDialog, PutTheRecommendedKeysInWhenThePlayerIsSure) {
   expectNoPhrases();
 }
 
-TEST_F(BoxesOfTheDialog, RecommendNothingInTheDota7Mode) {
+TEST_F(CHotkeySettingDlgBoxesTest, RecommendNothingInTheDota7Mode) {
   typePhrases();
   registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
   dialog->onSwitchDota7KeySettingDlg();
@@ -176,16 +176,16 @@ TEST_F(BoxesOfTheDialog, RecommendNothingInTheDota7Mode) {
 }
 
 // Links, and the signals that they send; nobody asks the player then.
-class LinksOfTheDialog : public SettingsDialog {
+class CHotkeySettingDlgBoxesOfLinks : public SettingsDialog {
  protected:
-  LinksOfTheDialog() {
+  CHotkeySettingDlgBoxesOfLinks() {
     QObject::disconnect(dialog.get(), &CHotkeySettingDlg::resetSetting, nullptr, nullptr);
     QObject::disconnect(dialog.get(), &CHotkeySettingDlg::useRecommendedSetting, nullptr, nullptr);
     dialog->show();
   }
 };
 
-TEST_F(LinksOfTheDialog, AreClicked) {
+TEST_F(CHotkeySettingDlgBoxesOfLinks, AreClicked) {
   const QSignalSpy resets(dialog.get(), &CHotkeySettingDlg::resetSetting);
   const QSignalSpy recommendations(dialog.get(), &CHotkeySettingDlg::useRecommendedSetting);
   clickLink(resetLink());
@@ -200,7 +200,7 @@ TEST_F(LinksOfTheDialog, AreClicked) {
   EXPECT_EQ(resets.count(), 1);
 }
 
-TEST_F(LinksOfTheDialog, AreUsedByTheKeyboard) {
+TEST_F(CHotkeySettingDlgBoxesOfLinks, AreUsedByTheKeyboard) {
   const QSignalSpy resets(dialog.get(), &CHotkeySettingDlg::resetSetting);
   struct {
     Qt::Key key;
@@ -217,7 +217,7 @@ TEST_F(LinksOfTheDialog, AreUsedByTheKeyboard) {
   }
 }
 
-TEST_F(LinksOfTheDialog, AreClickedByNoKeyThatWentDownElsewhere) {
+TEST_F(CHotkeySettingDlgBoxesOfLinks, AreClickedByNoKeyThatWentDownElsewhere) {
   const QSignalSpy resets(dialog.get(), &CHotkeySettingDlg::resetSetting);
   QTest::keyRelease(&resetLink(), Qt::Key_Space);
   EXPECT_EQ(resets.count(), 0) << "nothing went down";
@@ -240,7 +240,7 @@ TEST_F(LinksOfTheDialog, AreClickedByNoKeyThatWentDownElsewhere) {
 }
 
 // Keys as a system sends them: to what has the focus when they go down, and when they go up.
-class ALinkThatAsks : public SettingsDialog {
+class CHotkeySettingDlgBoxesThatAsk : public SettingsDialog {
  protected:
   void open() {
     ASSERT_NO_FATAL_FAILURE(show());
@@ -259,7 +259,7 @@ class ALinkThatAsks : public SettingsDialog {
   }
 };
 
-TEST_F(ALinkThatAsks, IsNotClickedByTheKeyThatAnswers) {
+TEST_F(CHotkeySettingDlgBoxesThatAsk, IsNotClickedByTheKeyThatAnswers) {
   ASSERT_NO_FATAL_FAILURE(open());
   for (const auto button : {QMessageBox::Ok, QMessageBox::Cancel}) {
     askAndAnswer(button);
@@ -273,7 +273,7 @@ TEST_F(ALinkThatAsks, IsNotClickedByTheKeyThatAnswers) {
   }
 }
 
-TEST_F(ALinkThatAsks, AsksAgainWhenAKeyGoesDownOnIt) {
+TEST_F(CHotkeySettingDlgBoxesThatAsk, AsksAgainWhenAKeyGoesDownOnIt) {
   ASSERT_NO_FATAL_FAILURE(open());
   askAndAnswer(QMessageBox::Cancel);
   QTest::keyRelease(&resetLink(), Qt::Key_Enter);

@@ -11,9 +11,9 @@
 namespace brennet::test {
 namespace {
 
-class ADraggedDialog : public SettingsDialog {
+class CHotkeySettingDlgDragTest : public SettingsDialog {
  protected:
-  ADraggedDialog() {
+  CHotkeySettingDlgDragTest() {
     dialog->move(30, 40);
     dialog->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
@@ -54,7 +54,7 @@ class ADraggedDialog : public SettingsDialog {
   }
 };
 
-TEST_F(ADraggedDialog, AnswersWindows) {
+TEST_F(CHotkeySettingDlgDragTest, AnswersWindows) {
   const int strip = middleOf(find<QWidget>("titleWidget")).y();
   struct {
     const char* what;
@@ -78,7 +78,7 @@ TEST_F(ADraggedDialog, AnswersWindows) {
   EXPECT_EQ(answer({dialog->width() / 2, strip}, 133), 77) << "another message";
 }
 
-TEST_F(ADraggedDialog, TakesLeftPressesOnEmptyPlaces) {
+TEST_F(CHotkeySettingDlgDragTest, TakesLeftPressesOnEmptyPlaces) {
   const int strip = middleOf(find<QWidget>("titleWidget")).y();
   const QPoint inStrip(dialog->width() / 2, strip);
   EXPECT_TRUE(isTaken(inStrip, Qt::LeftButton));

@@ -9,7 +9,7 @@
 namespace brennet::test {
 namespace {
 
-class KeysOfTheDialog : public SettingsDialog {
+class CHotkeySettingDlgKeysTest : public SettingsDialog {
  protected:
   // Whether the dialog has taken the key.
   bool isTaken(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -19,7 +19,7 @@ class KeysOfTheDialog : public SettingsDialog {
   }
 };
 
-TEST_F(KeysOfTheDialog, DoNotEndIt) {
+TEST_F(CHotkeySettingDlgKeysTest, DoNotEndIt) {
   dialog->show();
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) {
     EXPECT_TRUE(isTaken(key)) << key;
@@ -30,7 +30,7 @@ TEST_F(KeysOfTheDialog, DoNotEndIt) {
   EXPECT_EQ(dialog->result(), 0);
 }
 
-TEST_F(KeysOfTheDialog, ThatCloseWindowsAreSwallowed) {
+TEST_F(CHotkeySettingDlgKeysTest, ThatCloseWindowsAreSwallowed) {
   dialog->show();
   const QList<QKeySequence> closing = QKeySequence::keyBindings(QKeySequence::Close);
   ASSERT_FALSE(closing.isEmpty());
@@ -43,7 +43,7 @@ TEST_F(KeysOfTheDialog, ThatCloseWindowsAreSwallowed) {
   EXPECT_TRUE(dialog->isVisible());
 }
 
-TEST_F(KeysOfTheDialog, ClickNotEvenADefaultButton) {
+TEST_F(CHotkeySettingDlgKeysTest, ClickNotEvenADefaultButton) {
   dialog->show();
   find<QPushButton>("btnOK").setDefault(true);
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -52,7 +52,7 @@ TEST_F(KeysOfTheDialog, ClickNotEvenADefaultButton) {
   }
 }
 
-TEST_F(KeysOfTheDialog, GoToNoKeyFieldAtFirst) {
+TEST_F(CHotkeySettingDlgKeysTest, GoToNoKeyFieldAtFirst) {
   ASSERT_NO_FATAL_FAILURE(show());
   auto& focused = find<QWidget>("titleWidget");
   ASSERT_EQ(QApplication::focusWidget(), &focused);
@@ -66,7 +66,7 @@ TEST_F(KeysOfTheDialog, GoToNoKeyFieldAtFirst) {
 }
 
 // Buttons of dialogs are clicked by Return unless somebody takes that from them.
-TEST_F(KeysOfTheDialog, ClickNoButtonByReturn) {
+TEST_F(CHotkeySettingDlgKeysTest, ClickNoButtonByReturn) {
   ASSERT_NO_FATAL_FAILURE(show());
   const NoBoxes noBoxes;
   const HotkeyScheme before = config.scheme();

@@ -5,9 +5,9 @@
 namespace brennet::test {
 namespace {
 
-using DialogBehindAKilledOne = SettingsDialog;
+using CHotkeySettingDlgKilledTest = SettingsDialog;
 
-TEST_F(DialogBehindAKilledOne, ShowsWhatStoodThereBefore) {
+TEST_F(CHotkeySettingDlgKilledTest, ShowsWhatStoodThereBefore) {
   registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
   registry.set(kDota7ControlPath, u"HStopKey", bytesValue("S"));
   const platform::RegFile before = registry.content();

@@ -13,7 +13,7 @@
 namespace brennet::test {
 namespace {
 
-class ModesOfTheDialog : public SettingsDialog {
+class CHotkeySettingDlgModesTest : public SettingsDialog {
  protected:
   QComboBox& selector() { return find<QComboBox>("cmbHotkeySetting"); }
   int pageShown() { return dialog->findChild<QStackedLayout*>()->currentIndex(); }
@@ -40,7 +40,7 @@ class ModesOfTheDialog : public SettingsDialog {
   }
 };
 
-TEST_F(ModesOfTheDialog, SwitchSchemesOnAllPages) {
+TEST_F(CHotkeySettingDlgModesTest, SwitchSchemesOnAllPages) {
   HotkeyScheme& third = *config.editableScheme(2);
   third.HeroSkillKey[0] = KeyWord('T', 0);
   third.QuickChat[0] = u"third";
@@ -58,7 +58,7 @@ TEST_F(ModesOfTheDialog, SwitchSchemesOnAllPages) {
   EXPECT_EQ(stopKey().text(), QStringLiteral("S")) << "the registry is read again";
 }
 
-TEST_F(ModesOfTheDialog, KnowThreeSchemes) {
+TEST_F(CHotkeySettingDlgModesTest, KnowThreeSchemes) {
   selector().setCurrentIndex(2);
   dialog->onCurrentIndexChanged_HotkeySetting(3);
   dialog->onCurrentIndexChanged_HotkeySetting(-1);
@@ -66,7 +66,7 @@ TEST_F(ModesOfTheDialog, KnowThreeSchemes) {
 }
 
 // What is typed where there is no scheme would be lost.
-TEST_F(ModesOfTheDialog, ShowNoSchemeWhereTheFileNamesNone) {
+TEST_F(CHotkeySettingDlgModesTest, ShowNoSchemeWhereTheFileNamesNone) {
   config.editableScheme(0)->HeroSkillKey[0] = KeyWord('Q', 0);
   for (std::uint32_t index = HotkeyConfig::kSchemes; index <= HotkeyConfig::kLargestIndex;
        ++index) {
@@ -86,7 +86,7 @@ TEST_F(ModesOfTheDialog, ShowNoSchemeWhereTheFileNamesNone) {
   }
 }
 
-TEST_F(ModesOfTheDialog, ShowTheSchemeOfTheFile) {
+TEST_F(CHotkeySettingDlgModesTest, ShowTheSchemeOfTheFile) {
   for (const int index : {0, 1, 2}) {
     ASSERT_TRUE(config.setIndex(static_cast<std::uint32_t>(index)));
     dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
@@ -94,7 +94,7 @@ TEST_F(ModesOfTheDialog, ShowTheSchemeOfTheFile) {
   }
 }
 
-TEST_F(ModesOfTheDialog, ShowAndStoreTheSwitch) {
+TEST_F(CHotkeySettingDlgModesTest, ShowAndStoreTheSwitch) {
   auto& box = find<QCheckBox>("chkUseHotkeySettings");
   EXPECT_FALSE(box.isChecked());
   box.click();
@@ -109,7 +109,7 @@ TEST_F(ModesOfTheDialog, ShowAndStoreTheSwitch) {
   EXPECT_FALSE(config.enable());
 }
 
-TEST_F(ModesOfTheDialog, HaveTheirOwnControls) {
+TEST_F(CHotkeySettingDlgModesTest, HaveTheirOwnControls) {
   struct {
     const char* name;
     bool isInPlatformMode;
@@ -144,13 +144,13 @@ TEST_F(ModesOfTheDialog, HaveTheirOwnControls) {
   expectControls(false);
 }
 
-TEST_F(ModesOfTheDialog, ReadTheRegistryWhenTheyBegin) {
+TEST_F(CHotkeySettingDlgModesTest, ReadTheRegistryWhenTheyBegin) {
   registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
   dialog->onSwitchDota7KeySettingDlg();
   EXPECT_EQ(stopKey().text(), QStringLiteral("S"));
 }
 
-TEST_F(ModesOfTheDialog, AreOfOneSize) {
+TEST_F(CHotkeySettingDlgModesTest, AreOfOneSize) {
   dialog->show();
   const QSize size = dialog->size();
   EXPECT_EQ(dialog->sizeHint(), size) << "as large as the skin makes it, from the start";
@@ -164,7 +164,7 @@ TEST_F(ModesOfTheDialog, AreOfOneSize) {
   EXPECT_EQ(dialog->size(), size);
 }
 
-TEST_F(ModesOfTheDialog, AreLeftAloneBySlotsThatOnlyClientsUse) {
+TEST_F(CHotkeySettingDlgModesTest, AreLeftAloneBySlotsThatOnlyClientsUse) {
   dialog->onSwitchAdvancedSettingUI();
   EXPECT_EQ(pageShown(), 1);
   dialog->onSwitchSettingUI();
@@ -178,7 +178,7 @@ TEST_F(ModesOfTheDialog, AreLeftAloneBySlotsThatOnlyClientsUse) {
   EXPECT_TRUE(find<QPushButton>("btnSwitchPlat").isHidden());
 }
 
-TEST_F(ModesOfTheDialog, HaveAChatWheelThatOnlyTakesTheFocus) {
+TEST_F(CHotkeySettingDlgModesTest, HaveAChatWheelThatOnlyTakesTheFocus) {
   dialog->onSwitchChatWheelSettingUI();
   EXPECT_EQ(pageShown(), 0);
   EXPECT_TRUE(page<CChatRouletteSettingWidget>().isHidden());

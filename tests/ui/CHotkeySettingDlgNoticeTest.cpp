@@ -12,9 +12,9 @@
 namespace brennet::test {
 namespace {
 
-class NoticeOfTheDialog : public SettingsDialog {
+class CHotkeySettingDlgNoticeTest : public SettingsDialog {
  protected:
-  NoticeOfTheDialog() {
+  CHotkeySettingDlgNoticeTest() {
     EXPECT_TRUE(
         english_.load(QStringLiteral("brennet_en.qm"), QStringLiteral(BRENNET_TRANSLATIONS)));
     QCoreApplication::installTranslator(&english_);
@@ -51,13 +51,13 @@ class NoticeOfTheDialog : public SettingsDialog {
   TestScreens screens_{{{{1920, 1080}}}};
 };
 
-TEST_F(NoticeOfTheDialog, IsNotThereWhereAllKeysAreUsed) {
+TEST_F(CHotkeySettingDlgNoticeTest, IsNotThereWhereAllKeysAreUsed) {
   dialog->tellDroppedKeys({});
   ASSERT_NO_FATAL_FAILURE(show());
   EXPECT_EQ(strip(), nullptr);
 }
 
-TEST_F(NoticeOfTheDialog, TellsTheKeysAndWhoHoldsThem) {
+TEST_F(CHotkeySettingDlgNoticeTest, TellsTheKeysAndWhoHoldsThem) {
   dialog->tellDroppedKeys(reportOf(1));
   EXPECT_EQ(notice().text(), QStringLiteral("1 key of your settings could not be used: Wheel up: A "
                                             "is Hero skill 1"));
@@ -68,7 +68,7 @@ TEST_F(NoticeOfTheDialog, TellsTheKeysAndWhoHoldsThem) {
                            "1; Wheel click: A is Hero skill 1"));
 }
 
-TEST_F(NoticeOfTheDialog, HasRoomForTheFirstFewAndAllInItsToolTip) {
+TEST_F(CHotkeySettingDlgNoticeTest, HasRoomForTheFirstFewAndAllInItsToolTip) {
   dialog->tellDroppedKeys(reportOf(40));
   EXPECT_TRUE(notice().text().startsWith(QLatin1String("40 keys")));
   EXPECT_TRUE(notice().text().endsWith(QLatin1String("; ...")));
@@ -78,7 +78,7 @@ TEST_F(NoticeOfTheDialog, HasRoomForTheFirstFewAndAllInItsToolTip) {
 }
 
 // Whoever wrote the file wrote that text: it is no markup, which could name files to be read.
-TEST_F(NoticeOfTheDialog, ShowsMarkupOfTheFileAsText) {
+TEST_F(CHotkeySettingDlgNoticeTest, ShowsMarkupOfTheFileAsText) {
   LoadReport report;
   report.droppedKeys.emplace_back().slot = {SettingId::MouseKey, 0};
   report.droppedKeys.back().text = u"<b>&amp;<img src=x>";
@@ -90,7 +90,7 @@ TEST_F(NoticeOfTheDialog, ShowsMarkupOfTheFileAsText) {
   EXPECT_EQ(notice().textFormat(), Qt::PlainText);
 }
 
-TEST_F(NoticeOfTheDialog, StandsBelowTheTitleAndCutsNothing) {
+TEST_F(CHotkeySettingDlgNoticeTest, StandsBelowTheTitleAndCutsNothing) {
   ASSERT_NO_FATAL_FAILURE(show());
   const QSize without = dialog->size();
   dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
@@ -111,7 +111,7 @@ TEST_F(NoticeOfTheDialog, StandsBelowTheTitleAndCutsNothing) {
   EXPECT_EQ(picture.pixel(2, picture.height() / 2), 0xFF2F384E) << "its background";
 }
 
-TEST_F(NoticeOfTheDialog, GoesWhenItIsClosed) {
+TEST_F(CHotkeySettingDlgNoticeTest, GoesWhenItIsClosed) {
   dialog->tellDroppedKeys(reportOf(2));
   ASSERT_NO_FATAL_FAILURE(show());
   const QSize with = dialog->size();

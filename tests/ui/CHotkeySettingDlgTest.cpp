@@ -19,7 +19,9 @@
 namespace brennet::test {
 namespace {
 
-TEST_F(SettingsDialog, HasItsMethodsInTheOrderThatClientsKnow) {
+using CHotkeySettingDlgTest = SettingsDialog;
+
+TEST_F(CHotkeySettingDlgTest, HasItsMethodsInTheOrderThatClientsKnow) {
   const QStringList expected = {QStringLiteral("resetSetting"),
                                 QStringLiteral("useRecommendedSetting"),
                                 QStringLiteral("onSwitchSettingUI"),
@@ -68,7 +70,7 @@ class Births : public QObject {
   std::vector<std::pair<QObject*, QPointer<QObject>>> births_;
 };
 
-TEST_F(SettingsDialog, HasItsChildrenInTheirOrder) {
+TEST_F(CHotkeySettingDlgTest, HasItsChildrenInTheirOrder) {
   const QStringList expected = {
       QStringLiteral("CAdvancedSettingWidget"),    QStringLiteral("CBasicSettingWidget"),
       QStringLiteral("CBasicSetting7Widget"),      QStringLiteral("CChatRouletteSettingWidget"),
@@ -84,7 +86,7 @@ TEST_F(SettingsDialog, HasItsChildrenInTheirOrder) {
   EXPECT_EQ(pages, expected);
 }
 
-TEST_F(SettingsDialog, HasTwoPagesInItsStack) {
+TEST_F(CHotkeySettingDlgTest, HasTwoPagesInItsStack) {
   const auto& stack = *dialog->findChild<QStackedLayout*>();
   ASSERT_EQ(stack.count(), 2);
   EXPECT_EQ(stack.widget(0), &page<CBasicSetting7Widget>());
@@ -97,7 +99,7 @@ TEST_F(SettingsDialog, HasTwoPagesInItsStack) {
   EXPECT_TRUE(page<CChatRouletteSettingWidget>().isHidden());
 }
 
-TEST_F(SettingsDialog, IsAToolWindowWithoutAFrame) {
+TEST_F(CHotkeySettingDlgTest, IsAToolWindowWithoutAFrame) {
   QDialog like;
   like.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
   EXPECT_EQ(dialog->windowFlags(), like.windowFlags());
@@ -105,7 +107,7 @@ TEST_F(SettingsDialog, IsAToolWindowWithoutAFrame) {
   EXPECT_EQ(dialog->minimumSize(), dialog->maximumSize()) << "its size is fixed";
 }
 
-TEST_F(SettingsDialog, ReadsItsSheetWhenItIsFirstShownOnly) {
+TEST_F(CHotkeySettingDlgTest, ReadsItsSheetWhenItIsFirstShownOnly) {
   EXPECT_TRUE(dialog->styleSheet().isEmpty());
   dialog->show();
   EXPECT_FALSE(dialog->styleSheet().isEmpty());
@@ -115,7 +117,7 @@ TEST_F(SettingsDialog, ReadsItsSheetWhenItIsFirstShownOnly) {
   EXPECT_EQ(dialog->styleSheet(), QString());
 }
 
-TEST_F(SettingsDialog, HasItsTexts) {
+TEST_F(CHotkeySettingDlgTest, HasItsTexts) {
   EXPECT_EQ(dialog->windowTitle(), QStringLiteral(u"魔兽改键设置"));
   EXPECT_EQ(find<QCheckBox>("chkUseHotkeySettings").text(), QStringLiteral(u"启用改键"));
   EXPECT_EQ(find<QLabel>("lblResetToDefaultSetting").text(), QStringLiteral(u"清空设置"));
@@ -128,9 +130,9 @@ TEST_F(SettingsDialog, HasItsTexts) {
   EXPECT_FALSE(find<QLabel>("lblUseRecommendedSetting").isVisibleTo(dialog.get()));
 }
 
-class SettingsDialogOfANewPlayer : public testing::Test {
+class CHotkeySettingDlgOfANewPlayer : public testing::Test {
  protected:
-  SettingsDialogOfANewPlayer() { dialog.show(); }
+  CHotkeySettingDlgOfANewPlayer() { dialog.show(); }
 
   [[nodiscard]] bool isDota7Offered() const {
     const auto& basic = *dialog.findChild<CBasicSetting7Widget*>();
@@ -144,7 +146,7 @@ class SettingsDialogOfANewPlayer : public testing::Test {
   CHotkeySettingDlg dialog{config, manager};
 };
 
-TEST_F(SettingsDialogOfANewPlayer, OffersDota7OnlyIfItsKeysCanBeHad) {
+TEST_F(CHotkeySettingDlgOfANewPlayer, OffersDota7OnlyIfItsKeysCanBeHad) {
   ASSERT_TRUE(isDota7Offered());
   const std::u16string data = folder.path().u16string() + u'/';
   dialog.setDataFolder(data);
@@ -154,7 +156,7 @@ TEST_F(SettingsDialogOfANewPlayer, OffersDota7OnlyIfItsKeysCanBeHad) {
   EXPECT_TRUE(isDota7Offered()) << "the key is there";
 }
 
-TEST_F(SettingsDialog, ToldOfOneRefusedKeySetOnce) {
+TEST_F(CHotkeySettingDlgTest, ToldOfOneRefusedKeySetOnce) {
   config.editableScheme()->ShowFBlood = KeyWord('3', KeyWord::kAlt);
   auto* const digits = dialog->findChild<QWidget*>(QStringLiteral("CAdvancedSettingWidget"))
                            ->findChild<QRadioButton*>(QStringLiteral("optChatKey_1"));

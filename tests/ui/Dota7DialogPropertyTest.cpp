@@ -24,12 +24,12 @@
 namespace brennet::test {
 namespace {
 
-class AnyPlayer : public Dota7Test {
+class Dota7DialogPropertyTest : public Dota7Test {
  protected:
   static constexpr unsigned kPlayers = 8;
   static constexpr int kSteps = 40;
 
-  AnyPlayer() {
+  Dota7DialogPropertyTest() {
     // Used keys are told of all the time.
     QObject::connect(&closer_, &QTimer::timeout, [] {
       auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -115,7 +115,7 @@ class AnyPlayer : public Dota7Test {
   QTimer closer_;
 };
 
-TEST_F(AnyPlayer, GetsAllBackByCancel) {
+TEST_F(Dota7DialogPropertyTest, GetsAllBackByCancel) {
   for (unsigned seed = 0; seed < kPlayers; ++seed) {
     SCOPED_TRACE(seed);
     random_.seed(seed);
@@ -128,7 +128,7 @@ TEST_F(AnyPlayer, GetsAllBackByCancel) {
   }
 }
 
-TEST_F(AnyPlayer, KeepsWhatWasShownByOk) {
+TEST_F(Dota7DialogPropertyTest, KeepsWhatWasShownByOk) {
   for (unsigned seed = 0; seed < kPlayers; ++seed) {
     SCOPED_TRACE(seed);
     random_.seed(seed);

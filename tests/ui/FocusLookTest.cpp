@@ -59,9 +59,9 @@ void expectPlainFocus(QWidget& control, QWidget& other) {
   EXPECT_EQ(freshSizeHint(control), size) << "something jumps";
 }
 
-class TheFocus : public testing::Test {
+class FocusLookTest : public testing::Test {
  protected:
-  TheFocus() {
+  FocusLookTest() {
     QPalette palette;
     palette.setColor(QPalette::Window, QColor(0x1E, 0x24, 0x2F));
     window_.setPalette(palette);
@@ -125,12 +125,12 @@ const char* const kWithText[] = {"btnOther",
                                  "chatHotkeyBtn"};
 const char* const kWithoutText[] = {"btnClose", "btn_skillcast_1", "btn_goods_cast_1"};
 
-TEST_F(TheFocus, IsPlainToSeeInButtons) {
+TEST_F(FocusLookTest, IsPlainToSeeInButtons) {
   for (const char* const name : kWithText) checkButton(name, QStringLiteral("OK"));
   for (const char* const name : kWithoutText) checkButton(name, QString());
 }
 
-TEST_F(TheFocus, IsPlainToSeeInBoxesAndLinks) {
+TEST_F(FocusLookTest, IsPlainToSeeInBoxesAndLinks) {
   for (const bool isChecked : {false, true}) {
     auto& box = make<QCheckBox>("box", QStringLiteral("a check box"));
     box.setChecked(isChecked);
@@ -146,7 +146,7 @@ TEST_F(TheFocus, IsPlainToSeeInBoxesAndLinks) {
   }
 }
 
-TEST_F(TheFocus, IsPlainToSeeInFieldsAndLists) {
+TEST_F(FocusLookTest, IsPlainToSeeInFieldsAndLists) {
   auto& field = make<QLineEdit>("edtOther");
   field.setReadOnly(true);  // without the cursor
   check(field);
@@ -157,7 +157,7 @@ TEST_F(TheFocus, IsPlainToSeeInFieldsAndLists) {
   check(box);
 }
 
-TEST_F(TheFocus, IsPlainToSeeInTheChatWheel) {
+TEST_F(FocusLookTest, IsPlainToSeeInTheChatWheel) {
   auto& wheel = make<QWidget>("ChatWheel");
   wheel.resize(180, 60);
   auto* const phrase = new QLineEdit(&wheel);
@@ -167,7 +167,7 @@ TEST_F(TheFocus, IsPlainToSeeInTheChatWheel) {
   check(*phrase);
 }
 
-TEST_F(TheFocus, IsPlainToSeeInTreesAndTables) {
+TEST_F(FocusLookTest, IsPlainToSeeInTreesAndTables) {
   auto& tree = make<QTreeWidget>("tree");
   auto* const item = new QTreeWidgetItem(&tree, {QStringLiteral("an item")});
   check(tree);
@@ -180,7 +180,7 @@ TEST_F(TheFocus, IsPlainToSeeInTreesAndTables) {
   check(table);
 }
 
-TEST(TheFocusInTheBox, IsPlainToSee) {
+TEST(FocusLookInTheBox, IsPlainToSee) {
   CMsgBox box(QMessageBox::Warning, QStringLiteral("title"), QStringLiteral("a text"),
               QMessageBox::Ok | QMessageBox::Cancel);
   box.setButtonTexts();

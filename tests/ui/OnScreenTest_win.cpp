@@ -40,7 +40,7 @@ QPoint centreOf(const QWidget& widget) {
   return widget.mapTo(widget.window(), widget.rect().center());
 }
 
-TEST(TheBoxOnAScreen, TellsTheSystemWhereItCanBeDragged) {
+TEST(OnScreenBox, TellsTheSystemWhereItCanBeDragged) {
   CMsgBox box(QMessageBox::Warning, QStringLiteral("title"),
               QStringLiteral("a text that is long enough to make the box a wide one"),
               QMessageBox::Ok);
@@ -57,7 +57,7 @@ TEST(TheBoxOnAScreen, TellsTheSystemWhereItCanBeDragged) {
   EXPECT_EQ(hitAt(box, QPoint(0, 0)), margins.isNull() ? HTCAPTION : HTTOPLEFT);
 }
 
-TEST(TheOrreryWindowOnAScreen, CanBeDraggedByItsEmptyPlaces) {
+TEST(OnScreenOrreryWindow, CanBeDraggedByItsEmptyPlaces) {
   COrrerySettingDlg dialog;
   dialog.show();
   QCoreApplication::processEvents();
@@ -67,7 +67,7 @@ TEST(TheOrreryWindowOnAScreen, CanBeDraggedByItsEmptyPlaces) {
   EXPECT_EQ(hitAt(dialog, centreOf(*mana)), HTCLIENT);
 }
 
-TEST(TheOrreryWindowOnAScreen, IsAToolWindowOfTheDialog) {
+TEST(OnScreenOrreryWindow, IsAToolWindowOfTheDialog) {
   HotkeyConfig config;
   QDialog dialog;
   auto* const page = new CBasicSetting7Widget(config, &dialog);
@@ -84,7 +84,7 @@ TEST(TheOrreryWindowOnAScreen, IsAToolWindowOfTheDialog) {
   EXPECT_NE(GetWindowLongW(handleOf(**orrery), GWL_EXSTYLE) & WS_EX_TOOLWINDOW, 0);
 }
 
-TEST(TheSettingsDialogOnAScreen, TellsTheSystemWhereItCanBeDragged) {
+TEST(OnScreenSettingsDialog, TellsTheSystemWhereItCanBeDragged) {
   const ScopedRegistry registry;
   Dota7KeyInfoManager manager;
   HotkeyConfig config;

@@ -27,9 +27,9 @@ namespace {
 
 constexpr QRgb kBelow = 0xFF1E242F;
 
-class TheSettingsSheet : public testing::Test {
+class SettingsSheetTest : public testing::Test {
  protected:
-  TheSettingsSheet() {
+  SettingsSheetTest() {
     QPalette palette;
     palette.setColor(QPalette::Window, QColor(kBelow));
     window_.setPalette(palette);
@@ -98,7 +98,7 @@ QImage state(const char* picture, int at, int height) {
   return expected;
 }
 
-TEST_F(TheSettingsSheet, CutsTheStatesOfPicturesWithoutStretchingThem) {
+TEST_F(SettingsSheetTest, CutsTheStatesOfPicturesWithoutStretchingThem) {
   for (const PictureButton& row : kButtons) {
     auto* const button = make<QPushButton>(row.name);
     button->setCheckable(true);
@@ -119,7 +119,7 @@ TEST_F(TheSettingsSheet, CutsTheStatesOfPicturesWithoutStretchingThem) {
   }
 }
 
-TEST_F(TheSettingsSheet, ShowsWhichPictureHasTheFocus) {
+TEST_F(SettingsSheetTest, ShowsWhichPictureHasTheFocus) {
   QApplication::setActiveWindow(&window_);
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
   std::vector<const char*> names = {"btnClose"};
@@ -145,7 +145,7 @@ TEST_F(TheSettingsSheet, ShowsWhichPictureHasTheFocus) {
 }
 
 // The frame of the focus goes round the picture, which stays what it was.
-TEST_F(TheSettingsSheet, KeepsTheStateOfASmallPictureWithTheFocus) {
+TEST_F(SettingsSheetTest, KeepsTheStateOfASmallPictureWithTheFocus) {
   QApplication::setActiveWindow(&window_);
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
   struct {
@@ -186,7 +186,7 @@ TEST_F(TheSettingsSheet, KeepsTheStateOfASmallPictureWithTheFocus) {
 }
 
 // What is around a small picture is room to be hit, and stays empty.
-TEST_F(TheSettingsSheet, DrawsNothingAroundSmallPicturesWithTheFocus) {
+TEST_F(SettingsSheetTest, DrawsNothingAroundSmallPicturesWithTheFocus) {
   QApplication::setActiveWindow(&window_);
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
   struct {
@@ -209,7 +209,7 @@ TEST_F(TheSettingsSheet, DrawsNothingAroundSmallPicturesWithTheFocus) {
 }
 
 // Nobody has to aim: what can be clicked is 24 pixels high at the least.
-TEST_F(TheSettingsSheet, MakesEverythingLargeEnoughToBeHit) {
+TEST_F(SettingsSheetTest, MakesEverythingLargeEnoughToBeHit) {
   constexpr int kLeast = 24;
   for (const char* const name : {"btnClose", "btn_skillcast_1", "btn_goods_cast_1", "btnOther"}) {
     auto* const button = make<CPictureButton>(name);
@@ -227,7 +227,7 @@ TEST_F(TheSettingsSheet, MakesEverythingLargeEnoughToBeHit) {
 }
 
 // A border that is to be seen differs from what is around it by a factor of three.
-TEST_F(TheSettingsSheet, DrawsBordersOfFieldsThatCanBeSeen) {
+TEST_F(SettingsSheetTest, DrawsBordersOfFieldsThatCanBeSeen) {
   auto* const field = make<QLineEdit>("edtSkill_1");
   field->resize(100, field->sizeHint().height());
   const QRgb border = pictureOf(*field).pixel(50, 0);
@@ -235,7 +235,7 @@ TEST_F(TheSettingsSheet, DrawsBordersOfFieldsThatCanBeSeen) {
   EXPECT_GE(test::contrast(border, pictureOf(*field).pixel(50, 3)), 3.0);
 }
 
-TEST_F(TheSettingsSheet, ColoursTexts) {
+TEST_F(SettingsSheetTest, ColoursTexts) {
   struct Row {
     const char* name;
     QRgb color;
@@ -248,7 +248,7 @@ TEST_F(TheSettingsSheet, ColoursTexts) {
   EXPECT_EQ(make<QLabel>("lblTitle")->font().pixelSize(), 14);
 }
 
-TEST_F(TheSettingsSheet, DrawsPushButtons) {
+TEST_F(SettingsSheetTest, DrawsPushButtons) {
   auto* const button = make<QPushButton>("btnOther");
   button->resize(100, 40);
   EXPECT_EQ(pictureOf(*button).pixel(50, 0), 0xFF6886B4);
@@ -258,7 +258,7 @@ TEST_F(TheSettingsSheet, DrawsPushButtons) {
   EXPECT_EQ(pictureOf(*button).pixel(50, 20), 0xFF2D3851);
 }
 
-TEST_F(TheSettingsSheet, DrawsComboBoxes) {
+TEST_F(SettingsSheetTest, DrawsComboBoxes) {
   auto* const box = make<QComboBox>("cmbHotkeySetting");
   box->resize(100, box->sizeHint().height());
   EXPECT_EQ(box->height(), 26 + 2);
@@ -270,7 +270,7 @@ TEST_F(TheSettingsSheet, DrawsComboBoxes) {
   EXPECT_EQ(picture.pixel(100 - 1 - 28, 2), 0xFFFFFFFF);
 }
 
-TEST_F(TheSettingsSheet, DrawsScrollBarsOfEightPixels) {
+TEST_F(SettingsSheetTest, DrawsScrollBarsOfEightPixels) {
   for (const Qt::Orientation orientation : {Qt::Vertical, Qt::Horizontal}) {
     auto* const bar = make<QScrollBar>("bar");
     bar->setOrientation(orientation);
@@ -285,7 +285,7 @@ TEST_F(TheSettingsSheet, DrawsScrollBarsOfEightPixels) {
   }
 }
 
-TEST_F(TheSettingsSheet, DrawsABorderAroundGroupsButThree) {
+TEST_F(SettingsSheetTest, DrawsABorderAroundGroupsButThree) {
   for (const char* const name :
        {"grpOther", "grpNumKeypadHotkey", "grpCommonOptions", "grpMouseWheelKeys"}) {
     auto* const group = make<QGroupBox>(name);

@@ -11,16 +11,16 @@
 namespace brennet::test {
 namespace {
 
-TEST(TheTestsOfWindows, FailWhenQtWarns) {
+TEST(UiTest, FailWhenQtWarns) {
   EXPECT_NONFATAL_FAILURE(qWarning("careful"), "Qt warns: careful");
   EXPECT_NONFATAL_FAILURE(qCritical("worse"), "Qt warns: worse");
 }
 
-TEST(TheTestsOfWindows, LetTracesPass) {
+TEST(UiTest, LetTracesPass) {
   qDebug("by the way");
 }
 
-TEST(TheTestsOfWindows, CanAskForMessages) {
+TEST(UiTest, CanAskForMessages) {
   const CaughtMessages messages;
   qWarning("careful");
   qDebug("by the way");
@@ -28,12 +28,12 @@ TEST(TheTestsOfWindows, CanAskForMessages) {
             QStringList({QStringLiteral("careful"), QStringLiteral("by the way")}));
 }
 
-TEST(TheTestsOfWindows, FailWhenABoxIsLeftOpen) {
+TEST(UiTest, FailWhenABoxIsLeftOpen) {
   const auto box = whenBoxIsShown([](QMessageBox&) {});
   EXPECT_NONFATAL_FAILURE(QMessageBox().exec(), "the box is still open");
 }
 
-TEST(TheTestsOfWindows, FailWhenNoBoxComesAndWaitForItNoLonger) {
+TEST(UiTest, FailWhenNoBoxComesAndWaitForItNoLonger) {
   int acts = 0;
   const auto wait = [&acts] {
     const auto box = whenBoxIsShown([&acts](QMessageBox&) { ++acts; });
@@ -45,7 +45,7 @@ TEST(TheTestsOfWindows, FailWhenNoBoxComesAndWaitForItNoLonger) {
   EXPECT_EQ(acts, 0) << "the box is that of another test";
 }
 
-TEST(TheTestsOfWindows, FailWhenABoxComesThatMayNot) {
+TEST(UiTest, FailWhenABoxComesThatMayNot) {
   const NoBoxes none;
   EXPECT_NONFATAL_FAILURE(QMessageBox().exec(), "a box comes up");
 }

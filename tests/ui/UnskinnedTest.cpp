@@ -34,7 +34,7 @@
 namespace brennet::test {
 namespace {
 
-TEST(ABoxWithoutItsSheet, TellsOfItInAPlainBoxAndStaysUsable) {
+TEST(UnskinnedBoxWithoutItsSheet, TellsOfItInAPlainBoxAndStaysUsable) {
   std::optional<ExpectedBox> second;
   const auto first = whenBoxIsShown([&](QMessageBox& complaint) {
     EXPECT_EQ(qobject_cast<CMsgBox*>(&complaint), nullptr);
@@ -55,7 +55,7 @@ TEST(ABoxWithoutItsSheet, TellsOfItInAPlainBoxAndStaysUsable) {
             QMessageBox::Cancel);
 }
 
-TEST(TheDialogWithoutItsSheet, TellsOfItInABoxAndStaysUsable) {
+TEST(UnskinnedDialogWithoutItsSheet, TellsOfItInABoxAndStaysUsable) {
   const CaughtMessages messages;  // of pictures that are missing, too
   const ScopedRegistry registry;
   Dota7KeyInfoManager manager;
@@ -91,10 +91,10 @@ TEST(TheDialogWithoutItsSheet, TellsOfItInABoxAndStaysUsable) {
 
 enum class Missing { Sheet, Pictures };
 
-class AWindowWithoutItsSkin : public testing::TestWithParam<Missing> {
+class UnskinnedWindowWithoutItsSkin : public testing::TestWithParam<Missing> {
  protected:
   // Qt tells of each picture that it misses, and the pages of their fields.
-  ~AWindowWithoutItsSkin() override {
+  ~UnskinnedWindowWithoutItsSkin() override {
     for (const QString& message : messages_.texts()) {
       const QString text = QDir::fromNativeSeparators(message);
       const QLatin1String expected[] = {
@@ -144,7 +144,7 @@ class AWindowWithoutItsSkin : public testing::TestWithParam<Missing> {
   const CaughtMessages messages_;
 };
 
-TEST_P(AWindowWithoutItsSkin, IsUsableAsABasicPage) {
+TEST_P(UnskinnedWindowWithoutItsSkin, IsUsableAsABasicPage) {
   CBasicSetting7Widget page(config, nullptr);
   open(page);
   press(page, "edtSkill_12", Qt::Key_Q);
@@ -155,7 +155,7 @@ TEST_P(AWindowWithoutItsSkin, IsUsableAsABasicPage) {
   EXPECT_EQ(scheme.DisableLWinFlag, 1);
 }
 
-TEST_P(AWindowWithoutItsSkin, IsUsableAsAnOlderBasicPage) {
+TEST_P(UnskinnedWindowWithoutItsSkin, IsUsableAsAnOlderBasicPage) {
   CBasicSettingWidget page(config, nullptr);
   open(page);
   press(page, "edtGoodsKey_7", Qt::Key_Q);
@@ -164,7 +164,7 @@ TEST_P(AWindowWithoutItsSkin, IsUsableAsAnOlderBasicPage) {
   EXPECT_EQ(scheme.ViewNoDragFlag, 1);
 }
 
-TEST_P(AWindowWithoutItsSkin, IsUsableAsAnAdvancedPage) {
+TEST_P(UnskinnedWindowWithoutItsSkin, IsUsableAsAnAdvancedPage) {
   CAdvancedSettingWidget page(config, nullptr);
   open(page);
   press(page, "edtShowFBlood", Qt::Key_Q);
@@ -173,14 +173,14 @@ TEST_P(AWindowWithoutItsSkin, IsUsableAsAnAdvancedPage) {
   EXPECT_EQ(scheme.QuickChatIndex, 1U);
 }
 
-TEST_P(AWindowWithoutItsSkin, IsUsableAsAChatWheelPage) {
+TEST_P(UnskinnedWindowWithoutItsSkin, IsUsableAsAChatWheelPage) {
   CChatRouletteSettingWidget page(config, nullptr);
   open(page);
   press(page, "edtChatWheelKey", Qt::Key_Q);
   EXPECT_EQ(scheme.ChatWheelkey, KeyWord('Q', 0));
 }
 
-TEST_P(AWindowWithoutItsSkin, IsUsableAsAQuickChatWindow) {
+TEST_P(UnskinnedWindowWithoutItsSkin, IsUsableAsAQuickChatWindow) {
   ChatKeySettingWidget dialog(config, nullptr);
   open(dialog);
   find<QLineEdit>(dialog, "chatLineEdit_3").setText(QStringLiteral("glhf"));
@@ -189,7 +189,7 @@ TEST_P(AWindowWithoutItsSkin, IsUsableAsAQuickChatWindow) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_P(AWindowWithoutItsSkin, IsUsableAsAnOrreryWindow) {
+TEST_P(UnskinnedWindowWithoutItsSkin, IsUsableAsAnOrreryWindow) {
   COrrerySettingDlg dialog;
   EXPECT_TRUE(dialog.styleSheet().isEmpty());
   open(dialog);
@@ -199,7 +199,7 @@ TEST_P(AWindowWithoutItsSkin, IsUsableAsAnOrreryWindow) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, AWindowWithoutItsSkin,
+INSTANTIATE_TEST_SUITE_P(Of, UnskinnedWindowWithoutItsSkin,
                          testing::Values(Missing::Sheet, Missing::Pictures), [](const auto& what) {
                            return what.param == Missing::Sheet ? std::string("Sheet")
                                                                : std::string("Pictures");

@@ -84,10 +84,11 @@ struct PhraseCase {
   std::u16string shown;
 };
 
-class Dota7BadPhrases : public Dota7BadInput, public testing::WithParamInterface<PhraseCase> {};
+class Dota7BadInputPhrases : public Dota7BadInput,
+                             public testing::WithParamInterface<PhraseCase> {};
 
 // The chat page hands all phrases back when it is left with OK, changed or not.
-TEST_P(Dota7BadPhrases, AreLeftAloneUntilThePlayerChangesThem) {
+TEST_P(Dota7BadInputPhrases, AreLeftAloneUntilThePlayerChangesThem) {
   const PhraseCase& row = GetParam();
   const Dota7Phrase& phrase = *findDota7Phrase(u"edt_SQuickChatString0");
   registry.set(kDota7PhrasesPath, phrase.valueName, row.value);
@@ -111,7 +112,7 @@ TEST_P(Dota7BadPhrases, AreLeftAloneUntilThePlayerChangesThem) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, Dota7BadPhrases,
+    Rows, Dota7BadInputPhrases,
     testing::Values(PhraseCase{"TooLong", bytesValue(std::string(261, 'a')), u""},
                     PhraseCase{"FarTooLong", bytesValue(std::string(70000, 'a')), u""},
                     PhraseCase{"Text", typedText("a\0\0\0"s), u""},
@@ -155,7 +156,7 @@ TEST_F(Dota7BadInput, WithoutRightsNothingIsReadOrWritten) {
   EXPECT_EQ(registry.content(), before);
 }
 
-TEST(Dota7WithoutKeys, NothingIsReadOrWritten) {
+TEST(Dota7BadInputWithoutKeys, NothingIsReadOrWritten) {
   const test::ScopedRegistry registry;
   const platform::RegFile before = registry.content();
   Dota7KeyInfoManager manager;

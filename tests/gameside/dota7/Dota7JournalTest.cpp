@@ -16,16 +16,16 @@ namespace {
 using platform::dwordValue;
 using platform::RegFile;
 
-class Dota7Runs : public Dota7Test {
+class Dota7JournalTest : public Dota7Test {
  protected:
-  Dota7Runs() {
+  Dota7JournalTest() {
     registry.createKey(kDota7Path);
     registry.set(kDota7ControlPath, u"HStopKeyCode", dwordValue('S'));
     registry.set(kDota7ControlPath, u"HStopKey", bytesValue("S"));
     registry.set(kDota7PhrasesPath, u"SOnStartString0", bytesValue("go"));
     before = registry.content();
   }
-  ~Dota7Runs() override {
+  ~Dota7JournalTest() override {
     // What a failed test leaves would meet the next one, where a user has one registry only.
     for (const char number : {'0', '1', '2', '3', '4', '5', '6', '7'}) {
       platform::PrivateFile file;
@@ -65,7 +65,7 @@ class Dota7Runs : public Dota7Test {
   RegFile before;
 };
 
-TEST_F(Dota7Runs, AreUndoneByTheNextWhereTheyDidNotEnd) {
+TEST_F(Dota7JournalTest, AreUndoneByTheNextWhereTheyDidNotEnd) {
   auto run = newRun();
   edit(*run);
   edit(*run, 'U');
@@ -78,7 +78,7 @@ TEST_F(Dota7Runs, AreUndoneByTheNextWhereTheyDidNotEnd) {
   EXPECT_FALSE(isAnyThere());
 }
 
-TEST_F(Dota7Runs, AreUndoneByTheNextOfTheSameProcess) {
+TEST_F(Dota7JournalTest, AreUndoneByTheNextOfTheSameProcess) {
   manager.beginRun();
   edit(manager);
   manager.beginRun();
@@ -86,7 +86,7 @@ TEST_F(Dota7Runs, AreUndoneByTheNextOfTheSameProcess) {
   EXPECT_FALSE(isAnyThere());
 }
 
-TEST_F(Dota7Runs, StayWhereTheyWereAccepted) {
+TEST_F(Dota7JournalTest, StayWhereTheyWereAccepted) {
   auto run = newRun();
   edit(*run);
   run->acceptChanges();
@@ -97,7 +97,7 @@ TEST_F(Dota7Runs, StayWhereTheyWereAccepted) {
   EXPECT_EQ(registry.content(), accepted);
 }
 
-TEST_F(Dota7Runs, LeaveNothingWhereTheyWereCancelledOrChangedNothing) {
+TEST_F(Dota7JournalTest, LeaveNothingWhereTheyWereCancelledOrChangedNothing) {
   auto run = newRun();
   edit(*run);
   EXPECT_TRUE(isAnyThere());
@@ -110,7 +110,7 @@ TEST_F(Dota7Runs, LeaveNothingWhereTheyWereCancelledOrChangedNothing) {
   EXPECT_EQ(registry.content(), before);
 }
 
-TEST_F(Dota7Runs, LeaveAloneWhatSomebodyElseHasChangedSince) {
+TEST_F(Dota7JournalTest, LeaveAloneWhatSomebodyElseHasChangedSince) {
   auto run = newRun();
   edit(*run);
   run.reset();
@@ -123,7 +123,7 @@ TEST_F(Dota7Runs, LeaveAloneWhatSomebodyElseHasChangedSince) {
   EXPECT_FALSE(isAnyThere());
 }
 
-TEST_F(Dota7Runs, ThatAreUnderWayAreNotUndone) {
+TEST_F(Dota7JournalTest, ThatAreUnderWayAreNotUndone) {
   auto run = newRun();
   edit(*run);
   const RegFile edited = registry.content();
@@ -137,7 +137,7 @@ TEST_F(Dota7Runs, ThatAreUnderWayAreNotUndone) {
   EXPECT_FALSE(isAnyThere());
 }
 
-TEST_F(Dota7Runs, ThatWereKilledTogetherAreUndoneTogether) {
+TEST_F(Dota7JournalTest, ThatWereKilledTogetherAreUndoneTogether) {
   auto run = newRun();
   auto other = newRun();
   edit(*run);
@@ -149,7 +149,7 @@ TEST_F(Dota7Runs, ThatWereKilledTogetherAreUndoneTogether) {
   EXPECT_FALSE(isAnyThere());
 }
 
-TEST_F(Dota7Runs, ThatCouldNotBeGivenBackAreWhenTheNextBegins) {
+TEST_F(Dota7JournalTest, ThatCouldNotBeGivenBackAreWhenTheNextBegins) {
   manager.beginRun();
   settings.load();
   edit(manager);
@@ -164,9 +164,9 @@ TEST_F(Dota7Runs, ThatCouldNotBeGivenBackAreWhenTheNextBegins) {
 }
 
 // The registry refuses for a while: that is told apart from values that nobody has to undo.
-class Dota7RunsBehindADeniedOne : public Dota7Runs {
+class Dota7JournalBehindADeniedRun : public Dota7JournalTest {
  protected:
-  Dota7RunsBehindADeniedOne() {
+  Dota7JournalBehindADeniedRun() {
     auto killed = newRun();
     edit(*killed);
     killed.reset();
@@ -185,7 +185,7 @@ class Dota7RunsBehindADeniedOne : public Dota7Runs {
   std::unique_ptr<Manager> run;
 };
 
-TEST_F(Dota7Runs, ThatCannotBeUndoneAreSoOneAfterTheOther) {
+TEST_F(Dota7JournalTest, ThatCannotBeUndoneAreSoOneAfterTheOther) {
   auto run = newRun();
   auto other = newRun();
   EXPECT_TRUE(run->settings().storeKey(field(u"edt_HStopKey"), key('T')));
@@ -206,14 +206,14 @@ TEST_F(Dota7Runs, ThatCannotBeUndoneAreSoOneAfterTheOther) {
   EXPECT_FALSE(isAnyThere());
 }
 
-TEST_F(Dota7RunsBehindADeniedOne, GiveBackWhatStoodThereBeforeBoth) {
+TEST_F(Dota7JournalBehindADeniedRun, GiveBackWhatStoodThereBeforeBoth) {
   edit(*run, 'V');
   run->cancelChanges();
   EXPECT_EQ(registry.content(), before);
   EXPECT_FALSE(isAnyThere());
 }
 
-TEST_F(Dota7RunsBehindADeniedOne, ConfirmWhatThePlayerHasSeen) {
+TEST_F(Dota7JournalBehindADeniedRun, ConfirmWhatThePlayerHasSeen) {
   run->settings().setPhrase(*findDota7Phrase(u"edt_SOnStartString0"), u"newer");
   run->acceptChanges();
   const RegFile accepted = registry.content();
@@ -223,7 +223,7 @@ TEST_F(Dota7RunsBehindADeniedOne, ConfirmWhatThePlayerHasSeen) {
   EXPECT_EQ(registry.content(), accepted);
 }
 
-TEST_F(Dota7RunsBehindADeniedOne, LeaveBothToTheNextWhereTheyAreKilled) {
+TEST_F(Dota7JournalBehindADeniedRun, LeaveBothToTheNextWhereTheyAreKilled) {
   edit(*run, 'V');
   run = nullptr;
   run = newRun();
@@ -231,7 +231,7 @@ TEST_F(Dota7RunsBehindADeniedOne, LeaveBothToTheNextWhereTheyAreKilled) {
   EXPECT_FALSE(isAnyThere());
 }
 
-TEST_F(Dota7Runs, PassOverAJournalThatIsDamaged) {
+TEST_F(Dota7JournalTest, PassOverAJournalThatIsDamaged) {
   auto run = newRun();
   edit(*run);
   run.reset();
@@ -249,7 +249,7 @@ TEST_F(Dota7Runs, PassOverAJournalThatIsDamaged) {
   EXPECT_EQ(registry.content(), edited);
 }
 
-TEST_F(Dota7Runs, AreLeftToALaterOneWhereTheJournalCannotBeRead) {
+TEST_F(Dota7JournalTest, AreLeftToALaterOneWhereTheJournalCannotBeRead) {
   auto run = newRun();
   edit(*run);
   run.reset();
@@ -267,7 +267,7 @@ TEST_F(Dota7Runs, AreLeftToALaterOneWhereTheJournalCannotBeRead) {
   EXPECT_FALSE(isAnyThere());
 }
 
-TEST_F(Dota7Runs, HaveOneJournalForAllThatAResetChanges) {
+TEST_F(Dota7JournalTest, HaveOneJournalForAllThatAResetChanges) {
   auto run = newRun();
   edit(*run);
   run->settings().reset();
@@ -276,7 +276,7 @@ TEST_F(Dota7Runs, HaveOneJournalForAllThatAResetChanges) {
   EXPECT_EQ(registry.content(), before);
 }
 
-TEST_F(Dota7Runs, HaveEightJournalsAtOnce) {
+TEST_F(Dota7JournalTest, HaveEightJournalsAtOnce) {
   std::vector<std::unique_ptr<Manager>> runs;
   for (const char number : {'0', '1', '2', '3', '4', '5', '6', '7'}) {
     const std::u16string name =
@@ -292,7 +292,7 @@ TEST_F(Dota7Runs, HaveEightJournalsAtOnce) {
   EXPECT_FALSE(isAnyThere());
 }
 
-TEST_F(Dota7Runs, HaveNoJournalBeforeThereIsAnythingToUndo) {
+TEST_F(Dota7JournalTest, HaveNoJournalBeforeThereIsAnythingToUndo) {
   Dota7Change change;
   change.keyPath = kDota7ControlPath;
   change.valueName = u"HStopKeyCode";
@@ -306,7 +306,7 @@ TEST_F(Dota7Runs, HaveNoJournalBeforeThereIsAnythingToUndo) {
   EXPECT_EQ(registry.content(), before);
 }
 
-TEST_F(Dota7Runs, ChangeValuesAlsoWhereThereIsNoRoomForAJournal) {
+TEST_F(Dota7JournalTest, ChangeValuesAlsoWhereThereIsNoRoomForAJournal) {
   platform::PrivateFile files[8];
   for (int i = 0; i < 8; ++i) ASSERT_TRUE(files[i].take(nameOf(static_cast<char>('0' + i))));
   manager.writeValue([] {

@@ -14,7 +14,7 @@ using platform::dwordValue;
 using platform::RegistryValue;
 using test::bytesValue;
 using test::utf8;
-using Dota7Manager = test::Dota7Test;
+using Dota7KeyInfoManagerTest = test::Dota7Test;
 
 Dota7Change numberChange(std::u16string_view name, std::uint32_t value) {
   Dota7Change change;
@@ -33,13 +33,13 @@ Dota7Change textChange(std::u16string_view text, bool hasText = true) {
   return change;
 }
 
-TEST_F(Dota7Manager, WritesThroughASlot) {
+TEST_F(Dota7KeyInfoManagerTest, WritesThroughASlot) {
   manager.record(u"a", numberChange(u"N", 1));
   EXPECT_TRUE(QMetaObject::invokeMethod(&manager, "writeRecords"));
   EXPECT_EQ(control(u"N"), dwordValue(1));
 }
 
-TEST_F(Dota7Manager, OwnsTheKeyNames) {
+TEST_F(Dota7KeyInfoManagerTest, OwnsTheKeyNames) {
   EXPECT_EQ(manager.names().entries().size(), 106U);
   EXPECT_EQ(manager.keyText(0x51, Dota7Key::kCtrl), u"CTRL + Q");
   EXPECT_EQ(manager.keyText(0x51, Dota7Key::kNoModifier), u"Q");
@@ -48,7 +48,7 @@ TEST_F(Dota7Manager, OwnsTheKeyNames) {
   EXPECT_EQ(manager.names().entries().count(0xA0), 1U);
 }
 
-TEST_F(Dota7Manager, WritesTheFirstNumberAlone) {
+TEST_F(Dota7KeyInfoManagerTest, WritesTheFirstNumberAlone) {
   Dota7Change change = numberChange(u"First", 7);
   change.secondName = u"Second";
   change.textName = u"Text";
@@ -60,7 +60,7 @@ TEST_F(Dota7Manager, WritesTheFirstNumberAlone) {
   EXPECT_EQ(control(u"Text"), std::nullopt) << "the change is of numbers";
 }
 
-TEST_F(Dota7Manager, WritesTheSecondNumberThatIsNotZero) {
+TEST_F(Dota7KeyInfoManagerTest, WritesTheSecondNumberThatIsNotZero) {
   Dota7Change change = numberChange(u"First", 0);
   change.secondName = u"Second";
   change.secondValue = 0x80000001;
@@ -69,20 +69,20 @@ TEST_F(Dota7Manager, WritesTheSecondNumberThatIsNotZero) {
   EXPECT_EQ(control(u"Second"), dwordValue(0x80000001));
 }
 
-TEST_F(Dota7Manager, WritesATextWithoutAZero) {
+TEST_F(Dota7KeyInfoManagerTest, WritesATextWithoutAZero) {
   manager.writeValue(textChange(u"Q"));
   EXPECT_EQ(control(u"Text"), bytesValue("\x51"));
   EXPECT_EQ(control(u"Code"), dwordValue(0x51));
 }
 
-TEST_F(Dota7Manager, WritesAnEmptyTextWithLengthZero) {
+TEST_F(Dota7KeyInfoManagerTest, WritesAnEmptyTextWithLengthZero) {
   for (const Dota7Change& change : {textChange(u"Q", false), textChange(u"", true)}) {
     manager.writeValue(change);
     EXPECT_EQ(control(u"Text"), bytesValue(""));
   }
 }
 
-TEST_F(Dota7Manager, WritesNoNumberWithoutAName) {
+TEST_F(Dota7KeyInfoManagerTest, WritesNoNumberWithoutAName) {
   Dota7Change change = textChange(u"Q");
   change.valueName.clear();
   manager.writeValue(change);
@@ -90,7 +90,7 @@ TEST_F(Dota7Manager, WritesNoNumberWithoutAName) {
   EXPECT_EQ(control(u"Text"), bytesValue("Q"));
 }
 
-TEST_F(Dota7Manager, CutsTextsBetweenCharacters) {
+TEST_F(Dota7KeyInfoManagerTest, CutsTextsBetweenCharacters) {
   const std::string character = utf8(u8"\u8C22");
   for (const std::size_t length : {0U, 1U, 86U, 87U, 300U}) {
     manager.writeValue(textChange(std::u16string(length, u'\u8C22')));
@@ -105,7 +105,7 @@ TEST_F(Dota7Manager, CutsTextsBetweenCharacters) {
   EXPECT_EQ(control(u"Text").value_or(RegistryValue()).data.size(), 260U);
 }
 
-TEST_F(Dota7Manager, WritesTheLastChangeOfAFieldInTheOrderOfNames) {
+TEST_F(Dota7KeyInfoManagerTest, WritesTheLastChangeOfAFieldInTheOrderOfNames) {
   manager.record(u"edt_B", numberChange(u"B", 1));
   manager.record(u"edt_A", numberChange(u"Same", 1));
   manager.record(u"edt_C", numberChange(u"Same", 2));
@@ -117,7 +117,7 @@ TEST_F(Dota7Manager, WritesTheLastChangeOfAFieldInTheOrderOfNames) {
   EXPECT_EQ(control(u"Same"), dwordValue(2)) << "edt_C comes behind edt_A";
 }
 
-TEST_F(Dota7Manager, GivesBackWhatStoodThere) {
+TEST_F(Dota7KeyInfoManagerTest, GivesBackWhatStoodThere) {
   const RegistryValue odd{platform::kRegistryText, "\1\2\3"s};
   registry.set(kDota7ControlPath, u"Code", odd);
   registry.set(kDota7ControlPath, u"Other", dwordValue(9));
@@ -130,7 +130,7 @@ TEST_F(Dota7Manager, GivesBackWhatStoodThere) {
   EXPECT_TRUE(manager.records().empty());
 }
 
-TEST_F(Dota7Manager, GivesBackWhatStoodThereUnderANameInAnyCase) {
+TEST_F(Dota7KeyInfoManagerTest, GivesBackWhatStoodThereUnderANameInAnyCase) {
   registry.set(kDota7ControlPath, u"Code", dwordValue(9));
   const platform::RegFile before = registry.content();
   manager.writeValue(numberChange(u"CODE", 1));
@@ -147,7 +147,7 @@ TEST_F(Dota7Manager, GivesBackWhatStoodThereUnderANameInAnyCase) {
   EXPECT_EQ(registry.content(), before);
 }
 
-TEST_F(Dota7Manager, AcceptsOnceAndForAll) {
+TEST_F(Dota7KeyInfoManagerTest, AcceptsOnceAndForAll) {
   manager.record(u"a", numberChange(u"N", 1));
   manager.writeValue(numberChange(u"M", 1));
   manager.acceptChanges();
@@ -158,7 +158,7 @@ TEST_F(Dota7Manager, AcceptsOnceAndForAll) {
   EXPECT_TRUE(manager.records().empty());
 }
 
-TEST_F(Dota7Manager, CanStillCancelWhatARefreshForgot) {
+TEST_F(Dota7KeyInfoManagerTest, CanStillCancelWhatARefreshForgot) {
   const platform::RegFile before = registry.content();
   manager.record(u"a", numberChange(u"N", 1));
   manager.writeRecords();
@@ -169,7 +169,7 @@ TEST_F(Dota7Manager, CanStillCancelWhatARefreshForgot) {
   EXPECT_EQ(registry.content(), before);
 }
 
-TEST(Dota7ManagerWithoutKeys, WritesAndCreatesNothing) {
+TEST(Dota7KeyInfoManagerWithoutKeys, WritesAndCreatesNothing) {
   const test::ScopedRegistry registry;
   const platform::RegFile before = registry.content();
   Dota7KeyInfoManager manager;

@@ -115,15 +115,15 @@ struct TextCase {
   const char16_t* text;
 };
 
-class Dota7KeyText : public testing::TestWithParam<TextCase> {};
+class Dota7KeyNamesTest : public testing::TestWithParam<TextCase> {};
 
-TEST_P(Dota7KeyText, IsTheModifierAndTheKey) {
+TEST_P(Dota7KeyNamesTest, IsTheModifierAndTheKey) {
   const TextCase& row = GetParam();
   EXPECT_EQ(Dota7KeyNames().keyText(row.keyCode, row.modifierCode), row.text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, Dota7KeyText,
+    Rows, Dota7KeyNamesTest,
     testing::Values(TextCase{"WithCtrl", 0x51, kCtrlKey, u"CTRL + Q"},
                     TextCase{"WithAlt", 0x51, kAltKey, u"ALT + Q"},
                     TextCase{"WithoutModifier", 0x51, 0, u"Q"},

@@ -5,7 +5,7 @@
 namespace brennet::test {
 namespace {
 
-TEST(Dota7Changes, AreWrittenOnceTheKeyIsThere) {
+TEST(Dota7LifeOfChanges, AreWrittenOnceTheKeyIsThere) {
   ScopedRegistry registry;
   Dota7KeyInfoManager manager;
   EXPECT_TRUE(manager.settings().storeKey(*findDota7KeyField(u"edt_HStopKey"), key('S')));
@@ -17,7 +17,9 @@ TEST(Dota7Changes, AreWrittenOnceTheKeyIsThere) {
   EXPECT_EQ(*code, platform::dwordValue('S'));
 }
 
-TEST_F(Dota7Test, ChangesThatWereNotWrittenAreForgottenByARefresh) {
+using Dota7LifeTest = Dota7Test;
+
+TEST_F(Dota7LifeTest, ChangesThatWereNotWrittenAreForgottenByARefresh) {
   registry.denyWriting(kDota7ControlPath);
   EXPECT_TRUE(settings.storeKey(field(u"edt_HStopKey"), key('S')));
   registry.allowWriting(kDota7ControlPath);
@@ -29,7 +31,7 @@ TEST_F(Dota7Test, ChangesThatWereNotWrittenAreForgottenByARefresh) {
   EXPECT_EQ(registry.content(), before);
 }
 
-TEST_F(Dota7Test, WhatCouldNotBeGivenBackIsNotGivenBackLater) {
+TEST_F(Dota7LifeTest, WhatCouldNotBeGivenBackIsNotGivenBackLater) {
   EXPECT_TRUE(settings.storeKey(field(u"edt_HStopKey"), key('S')));
   registry.denyWriting(kDota7ControlPath);
   manager.cancelChanges();
@@ -40,7 +42,7 @@ TEST_F(Dota7Test, WhatCouldNotBeGivenBackIsNotGivenBackLater) {
   EXPECT_EQ(registry.content(), left);
 }
 
-TEST_F(Dota7Test, ResetTakesAwayWhatCannotBeRead) {
+TEST_F(Dota7LifeTest, ResetTakesAwayWhatCannotBeRead) {
   registry.set(kDota7PhrasesPath, u"SOnStartString0", bytesValue(std::string(300, 'x')));
   registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue(0x151));
   registry.set(kDota7ControlPath, u"HStopKey", bytesValue("Q"));

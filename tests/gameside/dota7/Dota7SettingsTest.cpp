@@ -79,10 +79,10 @@ struct ModifierCase {
   std::string text;
 };
 
-class Dota7Modifiers : public Dota7SettingsTest,
-                       public testing::WithParamInterface<ModifierCase> {};
+class Dota7SettingsModifiers : public Dota7SettingsTest,
+                               public testing::WithParamInterface<ModifierCase> {};
 
-TEST_P(Dota7Modifiers, SurviveARestart) {
+TEST_P(Dota7SettingsModifiers, SurviveARestart) {
   const ModifierCase& row = GetParam();
   const Dota7KeyField& stop = field(u"edt_HStopKey");
   ASSERT_TRUE(settings.storeKey(stop, row.asked));
@@ -92,7 +92,7 @@ TEST_P(Dota7Modifiers, SurviveARestart) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, Dota7Modifiers,
+    Rows, Dota7SettingsModifiers,
     testing::Values(ModifierCase{"None", key(kQ), key(kQ), "Q"},
                     ModifierCase{"Ctrl", key(kQ, 0x11), key(kQ, 0x11), "CTRL + Q"},
                     ModifierCase{"Alt", key(kQ, 0x12), key(kQ, 0x12), "ALT + Q"},

@@ -88,7 +88,9 @@ TEST_P(Dota7UndoCase, GivesBackWhatIsOurs) {
 INSTANTIATE_TEST_SUITE_P(Rows, Dota7UndoCase, testing::ValuesIn(kCases),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(Dota7Test, UndoingKeepsWhatCouldNotBeDone) {
+using Dota7UndoTest = Dota7Test;
+
+TEST_F(Dota7UndoTest, UndoingKeepsWhatCouldNotBeDone) {
   registry.set(kDota7ControlPath, kCode.second, dwordValue(2));
   registry.set(kDota7PhrasesPath, kPhrase.second, bytesValue("new"));
   const Dota7Undos all{{kCode, {number(1), {dwordValue(2)}, false}},

@@ -59,7 +59,7 @@ TEST(RegistryImport, LeavesAFileAloneThatIsTooLarge) {
   EXPECT_EQ(registry.content(), before);
 }
 
-TEST(SampleRegistry, HasEveryValueOfTheTablesAndNoOther) {
+TEST(RegistryImportSampleRegistry, HasEveryValueOfTheTablesAndNoOther) {
   RegFile sample;
   ASSERT_TRUE(sample.merge(readBytes(kSample)));
   RegFile rest = sample;
@@ -83,7 +83,7 @@ TEST(SampleRegistry, HasEveryValueOfTheTablesAndNoOther) {
   EXPECT_EQ(rest, keysAlone);
 }
 
-TEST(SampleRegistry, BindsNoKeyTwiceAndReadsAsItWasWritten) {
+TEST(RegistryImportSampleRegistry, BindsNoKeyTwiceAndReadsAsItWasWritten) {
   RegFile sample;
   ASSERT_TRUE(sample.merge(readBytes(kSample)));
   ScopedRegistry registry;

@@ -25,14 +25,14 @@ struct NameCase {
   const char* name;
 };
 
-class SectionName : public testing::TestWithParam<NameCase> {};
+class War3HotkeySectionName : public testing::TestWithParam<NameCase> {};
 
-TEST_P(SectionName, ComesFromKindRowAndColumn) {
+TEST_P(War3HotkeySectionName, ComesFromKindRowAndColumn) {
   const NameCase& row = GetParam();
   EXPECT_EQ(sectionName(sectionAt(row.kind, row.first, row.second)), row.name);
 }
 
-INSTANTIATE_TEST_SUITE_P(CommandCard, SectionName,
+INSTANTIATE_TEST_SUITE_P(CommandCard, War3HotkeySectionName,
                          testing::Values(NameCase{kCommandCard, 2, 0, "Commandbar Hotkeys 20"},
                                          NameCase{kCommandCard, 2, 3, "Commandbar Hotkeys 23"},
                                          NameCase{kCommandCard, 1, 0, "Commandbar Hotkeys 10"},
@@ -40,7 +40,7 @@ INSTANTIATE_TEST_SUITE_P(CommandCard, SectionName,
                                          NameCase{kCommandCard, 12, -3,
                                                   "Commandbar Hotkeys 12-3"}));
 
-INSTANTIATE_TEST_SUITE_P(Inventory, SectionName,
+INSTANTIATE_TEST_SUITE_P(Inventory, War3HotkeySectionName,
                          testing::Values(NameCase{kInventory, 0, 0, "Inventory Hotkeys 0"},
                                          NameCase{kInventory, 0, 1, "Inventory Hotkeys 1"},
                                          NameCase{kInventory, 1, 0, "Inventory Hotkeys 2"},
@@ -50,11 +50,11 @@ INSTANTIATE_TEST_SUITE_P(Inventory, SectionName,
                                          NameCase{kInventory, INT_MAX, INT_MAX,
                                                   "Inventory Hotkeys 6442450941"}));
 
-INSTANTIATE_TEST_SUITE_P(UnknownKind, SectionName,
+INSTANTIATE_TEST_SUITE_P(UnknownKind, War3HotkeySectionName,
                          testing::Values(NameCase{0, 1, 1, ""}, NameCase{3, 1, 1, ""},
                                          NameCase{-1, 1, 1, ""}));
 
-TEST(SectionText, WritesEverySwitchThatIsOn) {
+TEST(War3HotkeySectionText, WritesEverySwitchThatIsOn) {
   War3HotkeySection section = sectionAt(kCommandCard, 2, 1);
   section.metaKeyState = 4;
   section.heroOnly = true;
@@ -64,12 +64,12 @@ TEST(SectionText, WritesEverySwitchThatIsOn) {
             "[Commandbar Hotkeys 21]\nHeroOnly=1\nHotkey=87\nMetaKeyState=4\nQuickCast=1\n\n");
 }
 
-TEST(SectionText, WritesAPositionWithoutAKeyAllTheSame) {
+TEST(War3HotkeySectionText, WritesAPositionWithoutAKeyAllTheSame) {
   EXPECT_EQ(sectionText(sectionAt(kInventory, 1, 1)),
             "[Inventory Hotkeys 3]\nHeroOnly=0\nHotkey=0\nMetaKeyState=0\nQuickCast=0\n\n");
 }
 
-TEST(SectionText, GivesAnUnknownKindAnEmptyName) {
+TEST(War3HotkeySectionText, GivesAnUnknownKindAnEmptyName) {
   EXPECT_EQ(sectionText(sectionAt(9, 1, 1)),
             "[]\nHeroOnly=0\nHotkey=0\nMetaKeyState=0\nQuickCast=0\n\n");
 }

@@ -20,7 +20,7 @@ constexpr char kOnFile[] = "[Gameplay]\r\ncustomkeys=2\r\n\r\n";
 constexpr char kNoKeySection[] =
     "[Commandbar Hotkeys 00]\r\nHeroOnly=0\r\nHotkey=0\r\nMetaKeyState=0\r\nQuickCast=0\r\n\r\n";
 
-TEST(PrefsOnDisk, AreChangedInPlace) {
+TEST(War3PrefsDisk, AreChangedInPlace) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
   War3PrefsFile file(folder / kName);
@@ -30,7 +30,7 @@ TEST(PrefsOnDisk, AreChangedInPlace) {
   EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
-TEST(PrefsOnDisk, AreCreatedFromTheHotkeySectionsAlone) {
+TEST(War3PrefsDisk, AreCreatedFromTheHotkeySectionsAlone) {
   const TempFolder folder;
   War3PrefsFile file(folder / kName);
   file.setCustomKeys(true);
@@ -39,7 +39,7 @@ TEST(PrefsOnDisk, AreCreatedFromTheHotkeySectionsAlone) {
   EXPECT_EQ(readBytes(folder / kName), kNoKeySection);
 }
 
-TEST(PrefsOnDisk, GetHotkeySectionsWhenTheyWereEmpty) {
+TEST(War3PrefsDisk, GetHotkeySectionsWhenTheyWereEmpty) {
   const TempFolder folder;
   writeBytes(folder / kName, "");
   War3PrefsFile file(folder / kName);
@@ -48,7 +48,7 @@ TEST(PrefsOnDisk, GetHotkeySectionsWhenTheyWereEmpty) {
   EXPECT_EQ(readBytes(folder / kName), kNoKeySection);
 }
 
-TEST(PrefsOnDisk, AreNotTouchedByReading) {
+TEST(War3PrefsDisk, AreNotTouchedByReading) {
   const TempFolder folder;
   writeBytes(folder / kName, "loose=1\r\n[Inventory Hotkeys 0]\r\nHotkey=65\r\n");
   War3PrefsFile file(folder / kName);
@@ -56,7 +56,7 @@ TEST(PrefsOnDisk, AreNotTouchedByReading) {
   EXPECT_EQ(readBytes(folder / kName), "loose=1\r\n[Inventory Hotkeys 0]\r\nHotkey=65\r\n");
 }
 
-TEST(PrefsOnDisk, AreLeftAloneWhereNothingChanges) {
+TEST(War3PrefsDisk, AreLeftAloneWhereNothingChanges) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
   const auto old = std::filesystem::file_time_type::clock::now() - std::chrono::hours(48);
@@ -69,7 +69,7 @@ TEST(PrefsOnDisk, AreLeftAloneWhereNothingChanges) {
   EXPECT_EQ(std::filesystem::last_write_time(folder / kName), before);
 }
 
-TEST(PrefsOnDisk, AreTidiedUpWhereNothingChangesToo) {
+TEST(War3PrefsDisk, AreTidiedUpWhereNothingChangesToo) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
   writeBytes(folder / (std::string(kName) + ".brennet-4294967290-0.tmp"), "half");
@@ -79,7 +79,7 @@ TEST(PrefsOnDisk, AreTidiedUpWhereNothingChangesToo) {
   EXPECT_EQ(folder.listing(), std::string(kName) + "\n");
 }
 
-TEST(PrefsOnDisk, FollowAChangeAndItsWithdrawal) {
+TEST(War3PrefsDisk, FollowAChangeAndItsWithdrawal) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
   War3PrefsFile file(folder / kName);
@@ -90,7 +90,7 @@ TEST(PrefsOnDisk, FollowAChangeAndItsWithdrawal) {
   EXPECT_EQ(readBytes(folder / kName), kOffFile);
 }
 
-TEST(PrefsOnDisk, StayTheSameHoweverOftenTheyAreWritten) {
+TEST(War3PrefsDisk, StayTheSameHoweverOftenTheyAreWritten) {
   const TempFolder folder;
   // No last newline: the zeros of the first reading must not grow with each round.
   writeBytes(folder / kName, "[A]\r\nx=1\r\n[Gameplay]\r\ncustomkeys=0\r\nlast=1");
@@ -105,7 +105,7 @@ TEST(PrefsOnDisk, StayTheSameHoweverOftenTheyAreWritten) {
   }
 }
 
-TEST(PrefsOnDisk, AreLeftAloneWhereTheyAreTooLarge) {
+TEST(War3PrefsDisk, AreLeftAloneWhereTheyAreTooLarge) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
   constexpr std::uint64_t kTooLarge = 268'435'457;  // bytes: one more than 256 MiB
@@ -116,7 +116,7 @@ TEST(PrefsOnDisk, AreLeftAloneWhereTheyAreTooLarge) {
   EXPECT_EQ(std::filesystem::file_size(folder / kName), kTooLarge);
 }
 
-TEST(PrefsOnDisk, FailQuietlyWhereAFolderStandsInTheirPlace) {
+TEST(War3PrefsDisk, FailQuietlyWhereAFolderStandsInTheirPlace) {
   const TempFolder folder;
   std::filesystem::create_directory(folder / kName);
   War3PrefsFile file(folder / kName);
@@ -126,7 +126,7 @@ TEST(PrefsOnDisk, FailQuietlyWhereAFolderStandsInTheirPlace) {
   EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
-TEST(PrefsOnDisk, FailQuietlyWhereTheirFolderIsMissing) {
+TEST(War3PrefsDisk, FailQuietlyWhereTheirFolderIsMissing) {
   const TempFolder folder;
   War3PrefsFile file(folder.path() / "Warcraft III" / "War3Preferences.txt");
   file.addHotkeySection({});
@@ -134,7 +134,7 @@ TEST(PrefsOnDisk, FailQuietlyWhereTheirFolderIsMissing) {
   EXPECT_EQ(folder.listing(), "");
 }
 
-TEST(PrefsOnDisk, AreWrittenNowhereWithoutAPath) {
+TEST(War3PrefsDisk, AreWrittenNowhereWithoutAPath) {
   War3PrefsFile file{platform::Path()};
   file.addHotkeySection({});
   EXPECT_FALSE(file.save());
@@ -144,7 +144,7 @@ TEST(PrefsOnDisk, AreWrittenNowhereWithoutAPath) {
   EXPECT_FALSE(parsed.save());
 }
 
-TEST(PrefsPath, LiesBelowTheProfileFolder) {
+TEST(War3PrefsDiskPath, LiesBelowTheProfileFolder) {
   for (const char8_t* const user : {u8"Player One", u8"\u5F20\u4E09"}) {
     const TempFolder folder;
     const std::filesystem::path home = folder.path() / user;
@@ -160,7 +160,7 @@ TEST(PrefsPath, LiesBelowTheProfileFolder) {
   }
 }
 
-TEST(PrefsPath, IsNoneWithoutAProfileFolder) {
+TEST(War3PrefsDiskPath, IsNoneWithoutAProfileFolder) {
   const ScopedProfile profile{std::filesystem::path()};
   War3PrefsFile file;
   file.addHotkeySection({});

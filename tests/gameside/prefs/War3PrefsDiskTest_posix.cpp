@@ -40,7 +40,7 @@ bool trySwitchOn(const TempFolder& folder, mode_t folderMode, mode_t fileMode) {
   return saved;
 }
 
-TEST(PrefsPermissions, ProtectAReadOnlyFileInAWritableFolder) {
+TEST(War3PrefsDiskPermissions, ProtectAReadOnlyFileInAWritableFolder) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
   EXPECT_FALSE(trySwitchOn(folder, 0777, 0444));
@@ -48,7 +48,7 @@ TEST(PrefsPermissions, ProtectAReadOnlyFileInAWritableFolder) {
   EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
-TEST(PrefsPermissions, ProtectAReadOnlyFileInAReadOnlyFolder) {
+TEST(War3PrefsDiskPermissions, ProtectAReadOnlyFileInAReadOnlyFolder) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
   EXPECT_FALSE(trySwitchOn(folder, 0555, 0444));
@@ -56,7 +56,7 @@ TEST(PrefsPermissions, ProtectAReadOnlyFileInAReadOnlyFolder) {
   EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
-TEST(PrefsPermissions, LetAWritableFileChangeInAReadOnlyFolder) {
+TEST(War3PrefsDiskPermissions, LetAWritableFileChangeInAReadOnlyFolder) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
   EXPECT_TRUE(trySwitchOn(folder, 0555, 0666));
@@ -64,7 +64,7 @@ TEST(PrefsPermissions, LetAWritableFileChangeInAReadOnlyFolder) {
   EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
-TEST(PrefsPermissions, ProtectAFileThatMayNotBeOpenedAtAll) {
+TEST(War3PrefsDiskPermissions, ProtectAFileThatMayNotBeOpenedAtAll) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
   EXPECT_FALSE(trySwitchOn(folder, 0777, 0000));
@@ -73,7 +73,7 @@ TEST(PrefsPermissions, ProtectAFileThatMayNotBeOpenedAtAll) {
 }
 
 // What it holds is not known, so nothing can be put in its place.
-TEST(PrefsPermissions, ProtectAFileThatMayOnlyBeWritten) {
+TEST(War3PrefsDiskPermissions, ProtectAFileThatMayOnlyBeWritten) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);
   EXPECT_FALSE(trySwitchOn(folder, 0777, 0222));

@@ -26,9 +26,9 @@ struct BytesCase {
   std::string out;
 };
 
-class ReadAndWritten : public testing::TestWithParam<BytesCase> {};
+class War3PrefsFileReadAndWritten : public testing::TestWithParam<BytesCase> {};
 
-TEST_P(ReadAndWritten, GivesTheseBytes) {
+TEST_P(War3PrefsFileReadAndWritten, GivesTheseBytes) {
   const BytesCase& row = GetParam();
   EXPECT_EQ(War3PrefsFile::parse(row.in).serialize(), row.out);
 }
@@ -38,7 +38,7 @@ std::string caseName(const testing::TestParamInfo<BytesCase>& test) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    LineEnds, ReadAndWritten,
+    LineEnds, War3PrefsFileReadAndWritten,
     testing::Values(BytesCase{"CrLf", "[A]\r\nx=1\r\ny=2\r\n\r\n", "[A]\r\nx=1\r\ny=2\r\n\r\n"},
                     BytesCase{"Lf", "[A]\nx=1\ny=2\n\n", "[A]\r\nx=1\r\ny=2\r\n\r\n"},
                     BytesCase{"Mixed", "[A]\r\nx=1\ny=2\r\n\n", "[A]\r\nx=1\r\ny=2\r\n\r\n"},
@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 // The text is exactly as long as the file: each CR that was taken out leaves a zero at the end.
 INSTANTIATE_TEST_SUITE_P(
-    EndOfFile, ReadAndWritten,
+    EndOfFile, War3PrefsFileReadAndWritten,
     testing::Values(
         BytesCase{"NoLastNewlineWithLf", "[A]\nx=1", "[A]\r\nx=1\r\n\r\n"},
         BytesCase{"NoLastNewlineWithCrLf", "[A]\r\nx=1", "[A]\r\nx=1\0\r\n\r\n"s},
@@ -69,7 +69,7 @@ INSTANTIATE_TEST_SUITE_P(
     caseName);
 
 INSTANTIATE_TEST_SUITE_P(
-    Lines, ReadAndWritten,
+    Lines, War3PrefsFileReadAndWritten,
     testing::Values(
         BytesCase{"Empty", "", ""}, BytesCase{"OnlyNewlines", "\r\n\r\n\n", ""},
         BytesCase{"OnlyZeros", std::string(100, '\0'), ""},
@@ -96,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(
     caseName);
 
 INSTANTIATE_TEST_SUITE_P(
-    HotkeySections, ReadAndWritten,
+    HotkeySections, War3PrefsFileReadAndWritten,
     testing::Values(
         BytesCase{"Before", "[Commandbar Hotkeys 00]\nHotkey=65\n\n[A]\nx=1\n",
                   "[A]\r\nx=1\r\n\r\n"},
@@ -117,9 +117,9 @@ INSTANTIATE_TEST_SUITE_P(
         BytesCase{"AnEndMarkDoesNotSaveOne", "[Inventory Hotkeys 3]\x1A\n[A]\n", ""}),
     caseName);
 
-class CustomKeysSetOn : public testing::TestWithParam<BytesCase> {};
+class War3PrefsFileCustomKeysSetOn : public testing::TestWithParam<BytesCase> {};
 
-TEST_P(CustomKeysSetOn, ChangeOneValueAtMost) {
+TEST_P(War3PrefsFileCustomKeysSetOn, ChangeOneValueAtMost) {
   const BytesCase& row = GetParam();
   War3PrefsFile file = War3PrefsFile::parse(row.in);
   file.setCustomKeys(true);
@@ -127,7 +127,7 @@ TEST_P(CustomKeysSetOn, ChangeOneValueAtMost) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, CustomKeysSetOn,
+    Rows, War3PrefsFileCustomKeysSetOn,
     testing::Values(
         BytesCase{"WereOff", "[Gameplay]\ncustomkeys=0\n", "[Gameplay]\r\ncustomkeys=2\r\n\r\n"},
         BytesCase{"HadNoValue", "[Gameplay]\ncustomkeys=\n", "[Gameplay]\r\ncustomkeys=2\r\n\r\n"},
@@ -154,13 +154,13 @@ INSTANTIATE_TEST_SUITE_P(
                   "[Gameplay]\r\ncustomkeys=2\r\n\r\n"}),
     caseName);
 
-TEST(CustomKeys, AreZeroWhenOff) {
+TEST(War3PrefsFileCustomKeys, AreZeroWhenOff) {
   War3PrefsFile file = War3PrefsFile::parse("[Gameplay]\ncustomkeys=2\n");
   file.setCustomKeys(false);
   EXPECT_EQ(file.serialize(), "[Gameplay]\r\ncustomkeys=0\r\n\r\n");
 }
 
-TEST(SetValue, TakesAnyTextWithoutALineEnd) {
+TEST(War3PrefsFileSetValue, TakesAnyTextWithoutALineEnd) {
   War3PrefsFile file = War3PrefsFile::parse("[A]\nx=1\ny=2\n[]\nz=3\n");
   file.setValue("x", "A", "");
   file.setValue("y", "A", std::string(300, '='));
@@ -169,7 +169,7 @@ TEST(SetValue, TakesAnyTextWithoutALineEnd) {
             "[A]\r\nx=\r\ny=" + std::string(300, '=') + "\r\n\r\n[]\r\nz=[A]\r\n\r\n");
 }
 
-TEST(SetValue, FindsAnEmptyKeyAndNoKeyWithAnEqualsSign) {
+TEST(War3PrefsFileSetValue, FindsAnEmptyKeyAndNoKeyWithAnEqualsSign) {
   War3PrefsFile file = War3PrefsFile::parse("[A]\n=1\nx=1\n");
   file.setValue("", "A", "2");
   file.setValue("x=1", "A", "2");
@@ -177,13 +177,13 @@ TEST(SetValue, FindsAnEmptyKeyAndNoKeyWithAnEqualsSign) {
   EXPECT_EQ(file.serialize(), "[A]\r\n=2\r\nx=1\r\n\r\n");
 }
 
-TEST(SetValue, DoesNotTakeAPairForAHeader) {
+TEST(War3PrefsFileSetValue, DoesNotTakeAPairForAHeader) {
   War3PrefsFile file = War3PrefsFile::parse("[A]\n =[B]\nx=1\n");
   file.setValue("x", "B", "2");
   EXPECT_EQ(file.serialize(), "[A]\r\n =[B]\r\nx=1\r\n\r\n");
 }
 
-TEST(AddHotkeySection, KeepsTheOrderOfAdding) {
+TEST(War3PrefsFileAddHotkeySection, KeepsTheOrderOfAdding) {
   War3PrefsFile file = War3PrefsFile::parse("[A]\nx=1\n");
   file.addHotkeySection(commandKey(2, 0, 81));
   file.addHotkeySection(commandKey(0, 1, 87));
@@ -194,7 +194,7 @@ TEST(AddHotkeySection, KeepsTheOrderOfAdding) {
       "[A]\r\nx=1\r\n\r\n");
 }
 
-TEST(AddHotkeySection, OverwritesTheSectionOfTheSameNameInItsPlace) {
+TEST(War3PrefsFileAddHotkeySection, OverwritesTheSectionOfTheSameNameInItsPlace) {
   War3PrefsFile file = War3PrefsFile::parse("");
   file.addHotkeySection(commandKey(2, 0, 81));
   file.addHotkeySection(commandKey(0, 1, 87));
@@ -206,7 +206,7 @@ TEST(AddHotkeySection, OverwritesTheSectionOfTheSameNameInItsPlace) {
   EXPECT_EQ(file.serialize(), expected.serialize());
 }
 
-TEST(AddHotkeySection, ComparesNamesNotPositions) {
+TEST(War3PrefsFileAddHotkeySection, ComparesNamesNotPositions) {
   War3HotkeySection slot;
   slot.kind = War3HotkeySection::kInventory;
   slot.first = 1;
@@ -224,7 +224,7 @@ TEST(AddHotkeySection, ComparesNamesNotPositions) {
       "[Inventory Hotkeys 2]\r\nHeroOnly=0\r\nHotkey=87\r\nMetaKeyState=0\r\nQuickCast=0\r\n\r\n");
 }
 
-TEST(AddHotkeySection, TakesUnknownKindsForOneAndTheSame) {
+TEST(War3PrefsFileAddHotkeySection, TakesUnknownKindsForOneAndTheSame) {
   War3HotkeySection unknown;
   unknown.kind = 7;
   War3PrefsFile file = War3PrefsFile::parse("");
@@ -236,7 +236,7 @@ TEST(AddHotkeySection, TakesUnknownKindsForOneAndTheSame) {
             "[]\r\nHeroOnly=0\r\nHotkey=65\r\nMetaKeyState=0\r\nQuickCast=0\r\n\r\n");
 }
 
-TEST(ParseLine, HandsASectionOverWhenTheNextOneBegins) {
+TEST(War3PrefsFileParseLine, HandsASectionOverWhenTheNextOneBegins) {
   War3PrefsFile file = War3PrefsFile::parse("");
   War3PrefsFile::PlainSection section;
   file.parseLine("lost=1", section);
@@ -253,9 +253,9 @@ TEST(ParseLine, HandsASectionOverWhenTheNextOneBegins) {
 }
 
 // 32 MB of the shapes that would hurt a reader that copies or searches more than it has to.
-class ABigFile : public testing::TestWithParam<std::string_view> {};
+class War3PrefsFileBigFile : public testing::TestWithParam<std::string_view> {};
 
-TEST_P(ABigFile, LosesNothing) {
+TEST_P(War3PrefsFileBigFile, LosesNothing) {
   constexpr std::size_t kSize = std::size_t{32} << 20U;
   std::string in = "[Gameplay]\r\ncustomkeys=0\r\n\r\n";
   while (in.size() + GetParam().size() <= kSize) in += GetParam();
@@ -266,11 +266,11 @@ TEST_P(ABigFile, LosesNothing) {
   EXPECT_TRUE(file.serialize() == in) << "differs";
 }
 
-INSTANTIATE_TEST_SUITE_P(Shapes, ABigFile,
+INSTANTIATE_TEST_SUITE_P(Shapes, War3PrefsFileBigFile,
                          testing::Values("[S]\r\n\r\n", "[Gameplay]\r\ncustomkeys=1\r\n\r\n",
                                          "[Long]\r\nkey=value that goes on for a while\r\n\r\n"));
 
-TEST(ABigFile, MayBeOneLine) {
+TEST(War3PrefsFileBigFile, MayBeOneLine) {
   const std::string value(std::size_t{32} << 20U, '=');
   War3PrefsFile file = War3PrefsFile::parse("[Gameplay]\ncustomkeys" + value);
   EXPECT_EQ(file.serialize().size(), value.size() + 26);

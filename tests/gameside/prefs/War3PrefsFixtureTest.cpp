@@ -50,9 +50,9 @@ std::string withScheme(const std::string& fileBytes) {
   return file.serialize();
 }
 
-class APrefsFile : public testing::TestWithParam<const char*> {};
+class War3PrefsFixtureTest : public testing::TestWithParam<const char*> {};
 
-TEST_P(APrefsFile, GetsTheHotkeysOfTheScheme) {
+TEST_P(War3PrefsFixtureTest, GetsTheHotkeysOfTheScheme) {
   const std::string name = GetParam();
   std::string in;
   ASSERT_FALSE(platform::readFile(fixture(name + ".in.txt"), in, platform::kAnySize));
@@ -61,7 +61,7 @@ TEST_P(APrefsFile, GetsTheHotkeysOfTheScheme) {
   EXPECT_EQ(withScheme(actual), actual) << "a second run must change nothing";
 }
 
-INSTANTIATE_TEST_SUITE_P(Fixtures, APrefsFile,
+INSTANTIATE_TEST_SUITE_P(Fixtures, War3PrefsFixtureTest,
                          testing::Values("crlf", "lf", "mixed", "no-last-newline", "hotkeys-last",
                                          "no-gameplay", "with-zeros"),
                          [](const auto& test) {

@@ -15,16 +15,16 @@
 namespace brennet::test {
 namespace {
 
-class ANarrowKeyField : public testing::Test {
+class CKeyLineEditTest : public testing::Test {
  protected:
-  ANarrowKeyField() {
+  CKeyLineEditTest() {
     loadStyleSheet(window, QStringLiteral(":/skin/war3key.qss"));
     window.resize(300, 80);
     window.show();
     field.resize(field.sizeHint());
     field.show();
   }
-  ~ANarrowKeyField() override { QToolTip::hideText(); }
+  ~CKeyLineEditTest() override { QToolTip::hideText(); }
 
   void show(const char* text) { field.setText(QLatin1String(text)); }
   QString toolTip() {
@@ -39,7 +39,7 @@ class ANarrowKeyField : public testing::Test {
   CKeyLineEdit field{&window};
 };
 
-TEST_F(ANarrowKeyField, ShowsMostKeysWhole) {
+TEST_F(CKeyLineEditTest, ShowsMostKeysWhole) {
   for (const char* const text : {"Q", "CTRL +Alt + W", "Alt + HOME", "NUM LOCK", ""}) {
     show(text);
     EXPECT_EQ(field.shownText(), QLatin1String(text));
@@ -47,7 +47,7 @@ TEST_F(ANarrowKeyField, ShowsMostKeysWhole) {
   }
 }
 
-TEST_F(ANarrowKeyField, ShowsTheEndOfAKeyThatIsTooLong) {
+TEST_F(CKeyLineEditTest, ShowsTheEndOfAKeyThatIsTooLong) {
   show("CTRL +Alt + PAGEDOWN");
   const QString shown = field.shownText();
   EXPECT_TRUE(shown.startsWith(QChar(0x2026))) << qPrintable(shown);
@@ -56,13 +56,13 @@ TEST_F(ANarrowKeyField, ShowsTheEndOfAKeyThatIsTooLong) {
   EXPECT_EQ(field.text(), QStringLiteral("CTRL +Alt + PAGEDOWN")) << "all of it for who reads it";
 }
 
-TEST_F(ANarrowKeyField, IsAsHighAsAFieldForText) {
+TEST_F(CKeyLineEditTest, IsAsHighAsAFieldForText) {
   QLineEdit other(&window);
   other.show();
   EXPECT_EQ(field.sizeHint().height(), other.sizeHint().height());
 }
 
-TEST_F(ANarrowKeyField, DrawsWhatItShows) {
+TEST_F(CKeyLineEditTest, DrawsWhatItShows) {
   show("CTRL +Alt + PAGEDOWN");
   const QImage cut = picture();
   show("CTRL +Alt + PAGEUP");

@@ -13,9 +13,9 @@
 namespace brennet::test {
 namespace {
 
-class SlotTexts : public testing::Test {
+class SlotTextTest : public testing::Test {
  protected:
-  SlotTexts() {
+  SlotTextTest() {
     EXPECT_TRUE(
         english.load(QStringLiteral("brennet_en.qm"), QStringLiteral(BRENNET_TRANSLATIONS)));
     QCoreApplication::installTranslator(&english);
@@ -24,7 +24,7 @@ class SlotTexts : public testing::Test {
   QTranslator english;
 };
 
-TEST_F(SlotTexts, AreThoseOfTheWindows) {
+TEST_F(SlotTextTest, AreThoseOfTheWindows) {
   struct {
     KeySlot slot;
     const char* text;
@@ -46,7 +46,7 @@ TEST_F(SlotTexts, AreThoseOfTheWindows) {
 }
 
 // A setting that is added gets a name here too.
-TEST_F(SlotTexts, NameEachKeyOfAScheme) {
+TEST_F(SlotTextTest, NameEachKeyOfAScheme) {
   QSet<QString> names;
   for (std::size_t id = 0; id < kSettingCount; ++id) {
     const auto setting = static_cast<SettingId>(id);
@@ -64,7 +64,7 @@ TEST_F(SlotTexts, NameEachKeyOfAScheme) {
   EXPECT_EQ(slotText({SettingId::HeroSkillKey, 12}), QString());
 }
 
-TEST_F(SlotTexts, TellWhyAKeyIsRefused) {
+TEST_F(SlotTextTest, TellWhyAKeyIsRefused) {
   using Reason = KeyConflict::Reason;
   const KeyWord key('A', KeyWord::kAlt);
   struct {
@@ -84,7 +84,7 @@ TEST_F(SlotTexts, TellWhyAKeyIsRefused) {
   }
 }
 
-TEST_F(SlotTexts, TellWhatBecameOfAKeyOfAFile) {
+TEST_F(SlotTextTest, TellWhatBecameOfAKeyOfAFile) {
   DroppedKey dropped;
   dropped.slot = {SettingId::MouseKey, 0};
   dropped.key = KeyWord('A', 0);

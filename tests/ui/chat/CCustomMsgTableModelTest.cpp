@@ -35,7 +35,7 @@ void fill(AnyIndexModel& model, int count) {
   }
 }
 
-TEST(MsgTableModel, HasTwoColumnsOfTextsForDisplayAndEditing) {
+TEST(CCustomMsgTableModel, HasTwoColumnsOfTextsForDisplayAndEditing) {
   AnyIndexModel model;
   EXPECT_EQ(model.columnCount(), 2);
   EXPECT_EQ(model.rowCount(), 0);
@@ -44,7 +44,7 @@ TEST(MsgTableModel, HasTwoColumnsOfTextsForDisplayAndEditing) {
   EXPECT_EQ(model.data(model.at(1, 1), Qt::EditRole).toString(), QStringLiteral("xx"));
 }
 
-TEST(MsgTableModel, HasNoDataElsewhere) {
+TEST(CCustomMsgTableModel, HasNoDataElsewhere) {
   AnyIndexModel model;
   fill(model, 2);
   EXPECT_FALSE(model.data(QModelIndex(), Qt::DisplayRole).isValid());
@@ -53,7 +53,7 @@ TEST(MsgTableModel, HasNoDataElsewhere) {
   EXPECT_FALSE(model.data(model.at(0, 0), Qt::ToolTipRole).isValid());
 }
 
-TEST(MsgTableModel, TakesTheEditRoleAlone) {
+TEST(CCustomMsgTableModel, TakesTheEditRoleAlone) {
   AnyIndexModel model;
   fill(model, 1);
   const QString other = QStringLiteral("other");
@@ -63,7 +63,7 @@ TEST(MsgTableModel, TakesTheEditRoleAlone) {
   EXPECT_EQ(rows(model), QStringList(QStringLiteral("0=x")));
 }
 
-TEST(MsgTableModel, TellsOfEachChange) {
+TEST(CCustomMsgTableModel, TellsOfEachChange) {
   AnyIndexModel model;
   fill(model, 1);
   std::vector<QModelIndex> changed;
@@ -82,7 +82,7 @@ TEST(MsgTableModel, TellsOfEachChange) {
   EXPECT_EQ(rows(model), QStringList(QStringLiteral("0=new")));
 }
 
-TEST(MsgTableModel, LetsTheContentAloneBeEditedInPlace) {
+TEST(CCustomMsgTableModel, LetsTheContentAloneBeEditedInPlace) {
   AnyIndexModel model;
   fill(model, 1);
   EXPECT_EQ(model.flags(QModelIndex()), Qt::ItemFlags(Qt::ItemIsEnabled));
@@ -91,11 +91,11 @@ TEST(MsgTableModel, LetsTheContentAloneBeEditedInPlace) {
   EXPECT_TRUE(model.flags(model.at(0, 1)).testFlag(Qt::ItemIsEditable));
 }
 
-TEST(MsgTableModel, IsKnownToCataloguesByItsName) {
+TEST(CCustomMsgTableModel, IsKnownToCataloguesByItsName) {
   EXPECT_STREQ(CCustomMsgTableModel::staticMetaObject.className(), "CCustomMsgTableModel");
 }
 
-TEST(MsgTableModel, NamesItsColumns) {
+TEST(CCustomMsgTableModel, NamesItsColumns) {
   const AnyIndexModel model;
   EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::DisplayRole), QStringLiteral("index"));
   EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::DisplayRole), QStringLiteral("content"));
@@ -104,7 +104,7 @@ TEST(MsgTableModel, NamesItsColumns) {
   EXPECT_FALSE(model.headerData(0, Qt::Horizontal, Qt::EditRole).isValid());
 }
 
-TEST(MsgTableModel, InsertsAndRemovesRows) {
+TEST(CCustomMsgTableModel, InsertsAndRemovesRows) {
   struct Step {
     bool inserts;
     int row, count;

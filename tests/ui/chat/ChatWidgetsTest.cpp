@@ -52,13 +52,13 @@ class OpenLineEdit : public CCustomLineEdit {
   }
 };
 
-TEST(CustomLineEdit, LetsItemsInAlone) {
+TEST(ChatWidgetsCustomLineEdit, LetsItemsInAlone) {
   OpenLineEdit edit;
   EXPECT_TRUE(edit.enters(*mime(kFormat, items({QStringLiteral("a")}))));
   EXPECT_FALSE(edit.enters(*mime(QStringLiteral("text/plain"), "a")));
 }
 
-TEST(CustomLineEdit, TakesTheTextOfTheLastItem) {
+TEST(ChatWidgetsCustomLineEdit, TakesTheTextOfTheLastItem) {
   OpenLineEdit edit;
   const auto drop = [&](const QByteArray& bytes) { return edit.after(*mime(kFormat, bytes)); };
   EXPECT_EQ(drop(items({QStringLiteral("a")})), QStringLiteral("a"));
@@ -68,7 +68,7 @@ TEST(CustomLineEdit, TakesTheTextOfTheLastItem) {
   EXPECT_EQ(edit.after(*mime(QStringLiteral("text/plain"), "a")), QStringLiteral("before"));
 }
 
-TEST(CustomLineEdit, TakesNothingFromADamagedItem) {
+TEST(ChatWidgetsCustomLineEdit, TakesNothingFromADamagedItem) {
   OpenLineEdit edit;
   const QByteArray whole = items({QStringLiteral("first"), QStringLiteral("second")});
   const int firstSize = items({QStringLiteral("first")}).size();
@@ -100,7 +100,7 @@ class OpenTree : public CCustomTreeWidget {
   mutable bool asked_ = false;
 };
 
-TEST(CustomTreeWidget, DragsWhatIsInABranchAlone) {
+TEST(ChatWidgetsCustomTreeWidget, DragsWhatIsInABranchAlone) {
   OpenTree tree;
   auto* const branch = new QTreeWidgetItem(&tree, {QStringLiteral("branch")});
   auto* const phrase = new QTreeWidgetItem(branch, {QStringLiteral("phrase")});

@@ -42,9 +42,9 @@ QAction* entry(const QMenu& menu, const char* text) {
   return nullptr;
 }
 
-class ThePhraseMenu : public Dota7Test {
+class PhraseMenuTest : public Dota7Test {
  protected:
-  ThePhraseMenu() {
+  PhraseMenuTest() {
     loadStyleSheet(dialog, QStringLiteral(":/skin/war3key.qss"));
     dialog.show();
     QApplication::setActiveWindow(&dialog);
@@ -52,7 +52,7 @@ class ThePhraseMenu : public Dota7Test {
     field.setFocus();
     QApplication::clipboard()->clear();
   }
-  ~ThePhraseMenu() override { QApplication::clipboard()->clear(); }
+  ~PhraseMenuTest() override { QApplication::clipboard()->clear(); }
 
   // Chooses an entry of a menu of its own.
   void choose(const char* text) {
@@ -67,7 +67,7 @@ class ThePhraseMenu : public Dota7Test {
   QLineEdit& field = *dialog.findChild<QLineEdit*>(QStringLiteral("chatLineEdit_1"));
 };
 
-TEST_F(ThePhraseMenu, OffersWhatIsPossible) {
+TEST_F(PhraseMenuTest, OffersWhatIsPossible) {
   struct Row {
     const char* text;
     bool withSelection;
@@ -93,7 +93,7 @@ TEST_F(ThePhraseMenu, OffersWhatIsPossible) {
   }
 }
 
-TEST_F(ThePhraseMenu, DoesWhatItSays) {
+TEST_F(PhraseMenuTest, DoesWhatItSays) {
   choose("Select All");
   EXPECT_EQ(field.selectedText(), QStringLiteral("gl hf"));
   choose("&Copy");
@@ -111,7 +111,7 @@ TEST_F(ThePhraseMenu, DoesWhatItSays) {
   EXPECT_EQ(field.text(), QString());
 }
 
-TEST_F(ThePhraseMenu, IsInTheSkin) {
+TEST_F(PhraseMenuTest, IsInTheSkin) {
   const QPointer<QMenu> menu = menuOf(field);
   ASSERT_FALSE(menu.isNull());
   const QImage picture = menu->grab().toImage().convertToFormat(QImage::Format_RGB32);
@@ -120,7 +120,7 @@ TEST_F(ThePhraseMenu, IsInTheSkin) {
   menu->close();
 }
 
-TEST_F(ThePhraseMenu, IsGoneWhenItIsClosed) {
+TEST_F(PhraseMenuTest, IsGoneWhenItIsClosed) {
   const QPointer<QMenu> menu = menuOf(field);
   ASSERT_FALSE(menu.isNull());
   menu->close();
@@ -128,7 +128,7 @@ TEST_F(ThePhraseMenu, IsGoneWhenItIsClosed) {
   EXPECT_TRUE(menu.isNull());
 }
 
-TEST_F(ThePhraseMenu, SpeaksTheLanguageOfItsWindow) {
+TEST_F(PhraseMenuTest, SpeaksTheLanguageOfItsWindow) {
   QTranslator catalogue;
   ASSERT_TRUE(
       catalogue.load(QStringLiteral("brennet_zh_CN.qm"), QStringLiteral(BRENNET_TRANSLATIONS)));
@@ -139,7 +139,7 @@ TEST_F(ThePhraseMenu, SpeaksTheLanguageOfItsWindow) {
   menu->close();
 }
 
-TEST_F(ThePhraseMenu, IsThereForTheKeyboardToo) {
+TEST_F(PhraseMenuTest, IsThereForTheKeyboardToo) {
   QContextMenuEvent request(QContextMenuEvent::Keyboard, QPoint(5, 5));
   QCoreApplication::sendEvent(&field, &request);
   auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -147,7 +147,7 @@ TEST_F(ThePhraseMenu, IsThereForTheKeyboardToo) {
   menu->close();
 }
 
-TEST_F(ThePhraseMenu, IsForPhrasesAlone) {
+TEST_F(PhraseMenuTest, IsForPhrasesAlone) {
   CBasicSetting7Widget basic(config, nullptr);
   Dota7ChatKeySettingWidget dota7Chat(manager, nullptr);
   CChatRouletteSettingWidget wheel(config, nullptr);

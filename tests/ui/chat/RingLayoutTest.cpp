@@ -40,7 +40,7 @@ class Ring : public QWidget {
   QList<Box*> boxes_;
 };
 
-TEST(TheRing, StartsAtTheTopAndGoesClockwise) {
+TEST(RingLayout, StartsAtTheTopAndGoesClockwise) {
   Ring ring({100, 100}, {200, 100});
   for (int i = 0; i < 4; ++i) ring.add({20, 10});
   EXPECT_EQ(ring.layout().sizeHint(), QSize(220, 110));
@@ -52,7 +52,7 @@ TEST(TheRing, StartsAtTheTopAndGoesClockwise) {
   }
 }
 
-TEST(TheRing, StaysInTheMiddleOfMoreRoom) {
+TEST(RingLayout, StaysInTheMiddleOfMoreRoom) {
   Ring ring({100, 100}, {200, 100});
   const Box& box = ring.add({20, 10});
   ring.layout().setContentsMargins(10, 0, 0, 80);
@@ -61,13 +61,13 @@ TEST(TheRing, StaysInTheMiddleOfMoreRoom) {
   EXPECT_EQ(box.geometry(), QRect(10 + 200, 0 + 50, 20, 10));
 }
 
-TEST(TheRing, HasRoomForThePictureAndForNothingElseWhenItIsEmpty) {
+TEST(RingLayout, HasRoomForThePictureAndForNothingElseWhenItIsEmpty) {
   Ring ring({300, 50}, {200, 100});
   EXPECT_EQ(ring.layout().sizeHint(), QSize(300, 100));
   ring.arrange({300, 100});
 }
 
-TEST(TheRing, GivesAllTheSizeOfTheLargest) {
+TEST(RingLayout, GivesAllTheSizeOfTheLargest) {
   Ring ring({10, 10}, {400, 400});
   ring.add({20, 40});
   ring.add({50, 10});
@@ -75,7 +75,7 @@ TEST(TheRing, GivesAllTheSizeOfTheLargest) {
   for (const Box* const box : ring.boxes()) EXPECT_EQ(box->size(), QSize(50, 40));
 }
 
-TEST(TheRing, GrowsUntilNothingOverlaps) {
+TEST(RingLayout, GrowsUntilNothingOverlaps) {
   for (int count = 1; count <= 12; ++count) {
     for (const QSize size : {QSize(10, 10), QSize(200, 30), QSize(30, 200), QSize(500, 60)}) {
       Ring ring({50, 50}, {100, 100});
@@ -93,7 +93,7 @@ TEST(TheRing, GrowsUntilNothingOverlaps) {
   }
 }
 
-TEST(TheRing, GivesItemsBack) {
+TEST(RingLayout, GivesItemsBack) {
   Ring ring({50, 50}, {100, 100});
   const Box& first = ring.add({10, 10});
   const Box& second = ring.add({10, 10});

@@ -27,7 +27,9 @@ constexpr QSize kMost(1240, 660);
 
 const std::vector<const char*> kEnds = {"btnOK", "btnCancel"};
 
-TEST_P(FitWindows, TakesNoMoreThanALaptopLeaves) {
+using FitScreensTest = FitWindows;
+
+TEST_P(FitScreensTest, TakesNoMoreThanALaptopLeaves) {
   const TestScreens screens({{{1920, 1080}}});
   QSize sizes[2];
   for (const bool isDota7 : {false, true}) {
@@ -42,7 +44,7 @@ TEST_P(FitWindows, TakesNoMoreThanALaptopLeaves) {
   EXPECT_EQ(sizes[0], sizes[1]) << "nothing jumps from one mode to the other";
 }
 
-TEST_P(FitWindows, ComesUpWholeOnEachScreen) {
+TEST_P(FitScreensTest, ComesUpWholeOnEachScreen) {
   for (const ScreenRow& row : playersScreens()) {
     SCOPED_TRACE(row.name);
     const TestScreens screens({row.shape});
@@ -58,7 +60,7 @@ TEST_P(FitWindows, ComesUpWholeOnEachScreen) {
 }
 
 // A host that lets Qt scale nothing has larger letters in more pixels.
-TEST_P(FitWindows, ComesUpWholeWithLargeLetters) {
+TEST_P(FitScreensTest, ComesUpWholeWithLargeLetters) {
   const TestScreens screens({{{1366, 768}}});
   for (const int percent : {150, 250}) {
     SCOPED_TRACE(percent);
@@ -74,7 +76,7 @@ TEST_P(FitWindows, ComesUpWholeWithLargeLetters) {
 }
 
 // What is told below the title takes more lines where the window is narrow.
-TEST_P(FitWindows, ComesUpWholeWithANotice) {
+TEST_P(FitScreensTest, ComesUpWholeWithANotice) {
   LoadReport report;
   for (int i = 0; i < 4; ++i) {
     DroppedKey& dropped = report.droppedKeys.emplace_back();
@@ -100,7 +102,7 @@ TEST_P(FitWindows, ComesUpWholeWithANotice) {
   }
 }
 
-TEST_P(FitWindows, ComesUpWholeInEachOtherWindow) {
+TEST_P(FitScreensTest, ComesUpWholeInEachOtherWindow) {
   for (const ScreenRow& row : playersScreens()) {
     SCOPED_TRACE(row.name);
     const TestScreens screens({row.shape});
@@ -128,7 +130,7 @@ TEST_P(FitWindows, ComesUpWholeInEachOtherWindow) {
   }
 }
 
-TEST_P(FitWindows, ScrollsTheChatWindowsWhereTheirLettersAreLarge) {
+TEST_P(FitScreensTest, ScrollsTheChatWindowsWhereTheirLettersAreLarge) {
   const TestScreens screens({{{1024, 768}}});
   QFont font = QApplication::font();
   font.setPointSizeF(26);
@@ -161,7 +163,7 @@ double middleOfLight(const QImage& picture) {
   return (first + last - picture.height() + 1) / 2.0;
 }
 
-TEST_P(FitWindows, HasItsSquaresOnTheLineOfTheirTexts) {
+TEST_P(FitScreensTest, HasItsSquaresOnTheLineOfTheirTexts) {
   const TestScreens screens({{{1920, 1080}}});
   const auto dialog = showDialog(false);
   dialog->findChild<QWidget*>(QStringLiteral("titleWidget"))->setFocus();
@@ -177,7 +179,7 @@ TEST_P(FitWindows, HasItsSquaresOnTheLineOfTheirTexts) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Fit, FitWindows, testing::Values("en", "zh_CN"),
+INSTANTIATE_TEST_SUITE_P(Fit, FitScreensTest, testing::Values("en", "zh_CN"),
                          [](const auto& language) { return std::string(language.param); });
 
 }  // namespace

@@ -16,34 +16,35 @@
 namespace brennet::test {
 namespace {
 
-TEST(TheCornerOfAWindow, StaysWhereItIsInside) {
+TEST(ScreenFitCorner, StaysWhereItIsInside) {
   const QRect area(100, 50, 800, 600);
   EXPECT_EQ(cornerInside(area, {200, 100}, {300, 300}), QPoint(300, 300));
   EXPECT_EQ(cornerInside(area, {200, 100}, {100, 50}), QPoint(100, 50));
   EXPECT_EQ(cornerInside(area, {200, 100}, {700, 550}), QPoint(700, 550));
 }
 
-TEST(TheCornerOfAWindow, IsMovedAsLittleAsPossible) {
+TEST(ScreenFitCorner, IsMovedAsLittleAsPossible) {
   const QRect area(100, 50, 800, 600);
   EXPECT_EQ(cornerInside(area, {200, 100}, {701, 551}), QPoint(700, 550));
   EXPECT_EQ(cornerInside(area, {200, 100}, {99, 49}), QPoint(100, 50));
   EXPECT_EQ(cornerInside(area, {200, 100}, {-5000, 300}), QPoint(100, 300));
 }
 
-TEST(TheCornerOfAWindow, ShowsTheTitleOfAWindowThatIsTooLarge) {
+TEST(ScreenFitCorner, ShowsTheTitleOfAWindowThatIsTooLarge) {
   const QRect area(100, 50, 800, 600);
   EXPECT_EQ(cornerInside(area, {900, 700}, {300, 300}), QPoint(100, 50));
   EXPECT_EQ(cornerInside(area, {800, 600}, {300, 300}), QPoint(100, 50));
 }
 
 // A desk with three screens side by side.
-class OnADesk : public SettingsDialog {
+class ScreenFitOnADesk : public SettingsDialog {
  protected:
   enum Place { kMiddle, kRight, kLeft };
 
-  explicit OnADesk(const QVector<ScreenShape>& shapes = {{{1920, 1080}},
-                                                         {{1366, 768}, 100, {1920, 100}},
-                                                         {{1280, 1024}, 100, {-1280, -80}}})
+  explicit ScreenFitOnADesk(
+      const QVector<ScreenShape>& shapes = {{{1920, 1080}},
+                                            {{1366, 768}, 100, {1920, 100}},
+                                            {{1280, 1024}, 100, {-1280, -80}}})
       : screens(shapes) {
     dialog.reset();
   }
@@ -68,7 +69,7 @@ class OnADesk : public SettingsDialog {
   QWidget host{nullptr, Qt::FramelessWindowHint};
 };
 
-TEST_F(OnADesk, ComesUpOverTheHost) {
+TEST_F(ScreenFitOnADesk, ComesUpOverTheHost) {
   for (const Place place : {kMiddle, kRight, kLeft}) {
     SCOPED_TRACE(place);
     showHost(place);
@@ -81,14 +82,14 @@ TEST_F(OnADesk, ComesUpOverTheHost) {
   }
 }
 
-TEST_F(OnADesk, ComesUpInsideThoughTheHostIsInTheCorner) {
+TEST_F(ScreenFitOnADesk, ComesUpInsideThoughTheHostIsInTheCorner) {
   showHost(kRight);
   host.move(screens.at(kRight).geometry().bottomRight() - host.rect().center());
   dialog->show();
   expectDialogIn(available(kRight));
 }
 
-TEST_F(OnADesk, ComesUpInTheMiddleOfTheScreenOfAHostThatIsMinimized) {
+TEST_F(ScreenFitOnADesk, ComesUpInTheMiddleOfTheScreenOfAHostThatIsMinimized) {
   showHost(kMiddle);
   host.move(screens.at(kMiddle).geometry().topLeft());
   host.showMinimized();
@@ -99,13 +100,13 @@ TEST_F(OnADesk, ComesUpInTheMiddleOfTheScreenOfAHostThatIsMinimized) {
   EXPECT_LE(aside.manhattanLength(), 2);
 }
 
-TEST_F(OnADesk, ComesUpSomewhereWithoutAHost) {
+TEST_F(ScreenFitOnADesk, ComesUpSomewhereWithoutAHost) {
   dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
   dialog->show();
   expectDialogIn(available(kMiddle));
 }
 
-TEST_F(OnADesk, StaysWhereThePlayerHasPutIt) {
+TEST_F(ScreenFitOnADesk, StaysWhereThePlayerHasPutIt) {
   showHost(kMiddle);
   dialog->move(available(kRight).topLeft() + QPoint(7, 0));
   dialog->show();
@@ -113,7 +114,7 @@ TEST_F(OnADesk, StaysWhereThePlayerHasPutIt) {
 }
 
 // The system drags it, and Qt does not count that as a move.
-TEST_F(OnADesk, StaysWhereItWasDraggedToWhenItIsMinimizedMeanwhile) {
+TEST_F(ScreenFitOnADesk, StaysWhereItWasDraggedToWhenItIsMinimizedMeanwhile) {
   showHost(kMiddle);
   dialog->show();
   QCoreApplication::processEvents();
@@ -128,7 +129,7 @@ TEST_F(OnADesk, StaysWhereItWasDraggedToWhenItIsMinimizedMeanwhile) {
   EXPECT_EQ(dialog->pos(), place);
 }
 
-TEST_F(OnADesk, GoesToAScreenThatIsThereWhenItsOwnIsTakenAway) {
+TEST_F(ScreenFitOnADesk, GoesToAScreenThatIsThereWhenItsOwnIsTakenAway) {
   showHost(kRight);
   dialog->show();
   expectDialogIn(available(kRight));
@@ -139,7 +140,7 @@ TEST_F(OnADesk, GoesToAScreenThatIsThereWhenItsOwnIsTakenAway) {
   expectDialogIn(available(kMiddle));
 }
 
-TEST_F(OnADesk, GivesWayToALargerTaskBar) {
+TEST_F(ScreenFitOnADesk, GivesWayToALargerTaskBar) {
   showHost(kRight);
   dialog->show();
   screens.setAvailable(kRight, {60, 0, 900, 500});
@@ -153,7 +154,7 @@ TEST_F(OnADesk, GivesWayToALargerTaskBar) {
   EXPECT_GT(dialog->height(), 500);
 }
 
-TEST_F(OnADesk, ComesUpOverTheHostEachTime) {
+TEST_F(ScreenFitOnADesk, ComesUpOverTheHostEachTime) {
   showHost(kRight);
   dialog->show();
   // What makes room for a task bar is no move by the player.
@@ -168,7 +169,7 @@ TEST_F(OnADesk, ComesUpOverTheHostEachTime) {
   expectDialogIn(available(kMiddle));
 }
 
-TEST_F(OnADesk, StaysInTheHandThatDragsItToASmallerScreen) {
+TEST_F(ScreenFitOnADesk, StaysInTheHandThatDragsItToASmallerScreen) {
   screens.setAvailable(kRight, {0, 0, 900, 500});
   showHost(kMiddle);
   dialog->show();
@@ -179,7 +180,7 @@ TEST_F(OnADesk, StaysInTheHandThatDragsItToASmallerScreen) {
   EXPECT_LE(dialog->height(), 500);
 }
 
-TEST_F(OnADesk, KnowsScreensThatArePluggedInLater) {
+TEST_F(ScreenFitOnADesk, KnowsScreensThatArePluggedInLater) {
   showHost(kMiddle);
   dialog->show();
   screens.plug({{1366, 768}, 100, {0, 1080}});
@@ -190,7 +191,7 @@ TEST_F(OnADesk, KnowsScreensThatArePluggedInLater) {
   expectDialogIn(QRect(0, 1080, 900, 500));
 }
 
-TEST_F(OnADesk, KeepsItsTitleAndItsButtonsOnAScreenThatIsTooSmallForMore) {
+TEST_F(ScreenFitOnADesk, KeepsItsTitleAndItsButtonsOnAScreenThatIsTooSmallForMore) {
   screens.setAvailable(kMiddle, {0, 0, 500, 60});
   showHost(kMiddle);
   dialog->show();
@@ -200,7 +201,7 @@ TEST_F(OnADesk, KeepsItsTitleAndItsButtonsOnAScreenThatIsTooSmallForMore) {
   EXPECT_TRUE(dialog->rect().contains(find<QWidget>("btnOK").geometry()));
 }
 
-TEST_F(OnADesk, OpensItsBoxesBesideIt) {
+TEST_F(ScreenFitOnADesk, OpensItsBoxesBesideIt) {
   showHost(kLeft);
   dialog->show();
   const auto box = whenBoxIsShown([&](QMessageBox& shown) {
@@ -210,7 +211,7 @@ TEST_F(OnADesk, OpensItsBoxesBesideIt) {
   emit dialog->resetSetting();
 }
 
-TEST_F(OnADesk, KeepsAClickWhereItIs) {
+TEST_F(ScreenFitOnADesk, KeepsAClickWhereItIs) {
   showHost(kRight);
   screens.setAvailable(kRight, {0, 0, 1024, 400});
   dialog->show();
@@ -225,7 +226,7 @@ TEST_F(OnADesk, KeepsAClickWhereItIs) {
 }
 
 // Whichever window is active: what belongs to the dialog comes up over it.
-TEST_F(OnADesk, OpensItsWindowsOverIt) {
+TEST_F(ScreenFitOnADesk, OpensItsWindowsOverIt) {
   showHost(kMiddle);
   dialog->move(available(kRight).topLeft());
   dialog->show();
@@ -251,7 +252,7 @@ TEST_F(OnADesk, OpensItsWindowsOverIt) {
   EXPECT_EQ(orreries, 1);
 }
 
-TEST_F(OnADesk, OpensTheWindowsOfOneThatIsHiddenInTheMiddleOfItsScreen) {
+TEST_F(ScreenFitOnADesk, OpensTheWindowsOfOneThatIsHiddenInTheMiddleOfItsScreen) {
   showHost(kMiddle);
   dialog->move(available(kRight).topLeft());
   dialog->show();
@@ -265,15 +266,15 @@ TEST_F(OnADesk, OpensTheWindowsOfOneThatIsHiddenInTheMiddleOfItsScreen) {
 }
 
 // A dense screen in the middle, one of a laptop on its right, one of another scale on its left.
-class OnADeskOfManyScales : public OnADesk {
+class ScreenFitOnADeskOfManyScales : public ScreenFitOnADesk {
  protected:
-  OnADeskOfManyScales()
-      : OnADesk({{{3840, 2160}, 200},
-                 {{1366, 768}, 100, {3840, 100}},
-                 {{1920, 1080}, 125, {-1920, -80}}}) {}
+  ScreenFitOnADeskOfManyScales()
+      : ScreenFitOnADesk({{{3840, 2160}, 200},
+                          {{1366, 768}, 100, {3840, 100}},
+                          {{1920, 1080}, 125, {-1920, -80}}}) {}
 };
 
-TEST_F(OnADeskOfManyScales, ComesUpInsideTheScreenOfTheHost) {
+TEST_F(ScreenFitOnADeskOfManyScales, ComesUpInsideTheScreenOfTheHost) {
   for (const Place place : {kMiddle, kRight, kLeft}) {
     SCOPED_TRACE(place);
     showHost(place);

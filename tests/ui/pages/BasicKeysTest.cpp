@@ -15,7 +15,7 @@ namespace brennet::test {
 namespace {
 
 template <class Page>
-class BothBasicPages : public testing::Test {
+class BasicKeysOfBothPages : public testing::Test {
  protected:
   // A page that shows the settings as they are now.
   Page& open() {
@@ -31,10 +31,10 @@ class BothBasicPages : public testing::Test {
   std::unique_ptr<Page> page_;
 };
 using Pages = testing::Types<CBasicSetting7Widget, CBasicSettingWidget>;
-TYPED_TEST_SUITE(BothBasicPages, Pages);
+TYPED_TEST_SUITE(BasicKeysOfBothPages, Pages);
 
 // It is stored where it is pressed, though the field shows nothing.
-TYPED_TEST(BothBasicPages, TakeThePasteKeyFromTheChatWheel) {
+TYPED_TEST(BasicKeysOfBothPages, TakeThePasteKeyFromTheChatWheel) {
   for (const char* const name : {"edtSkill_1", "edtGoodsKey_1", "edtMouseWheelUpKey"}) {
     SCOPED_TRACE(name);
     this->scheme = HotkeyScheme();
@@ -49,7 +49,7 @@ TYPED_TEST(BothBasicPages, TakeThePasteKeyFromTheChatWheel) {
   }
 }
 
-TYPED_TEST(BothBasicPages, TakeAKeyThatAFieldHasAlreadySilently) {
+TYPED_TEST(BasicKeysOfBothPages, TakeAKeyThatAFieldHasAlreadySilently) {
   this->scheme.HeroSkillKey[0] = KeyWord('Q', KeyWord::kAlt);
   const HotkeyScheme before = this->scheme;
   this->open();
@@ -61,7 +61,7 @@ TYPED_TEST(BothBasicPages, TakeAKeyThatAFieldHasAlreadySilently) {
   }
 }
 
-TYPED_TEST(BothBasicPages, LeaveSchemesThatTheyCannotEditAlone) {
+TYPED_TEST(BasicKeysOfBothPages, LeaveSchemesThatTheyCannotEditAlone) {
   for (unsigned index = HotkeyConfig::kSchemes; index <= 10; ++index) {
     SCOPED_TRACE(index);
     ASSERT_TRUE(this->config.setIndex(index));
@@ -77,7 +77,9 @@ TYPED_TEST(BothBasicPages, LeaveSchemesThatTheyCannotEditAlone) {
 }
 
 // The box belongs to the page, which is there even when the Orrery window is not shown.
-TEST_F(BasicPage, RefusesAUsedKeyInTheOrreryWindow) {
+using BasicKeysTest = BasicPage;
+
+TEST_F(BasicKeysTest, RefusesAUsedKeyInTheOrreryWindow) {
   scheme.HeroSkillKey[0] = KeyWord('Q', 0);
   scheme.SecretaryKey[0] = KeyWord('W', 0);
   page.showSettings();
@@ -88,7 +90,7 @@ TEST_F(BasicPage, RefusesAUsedKeyInTheOrreryWindow) {
   EXPECT_EQ(scheme.HeroSkillKey[0], KeyWord('Q', 0));
 }
 
-TEST_F(BasicPage, TakesThePasteKeyFromTheChatWheelInTheOrreryWindow) {
+TEST_F(BasicKeysTest, TakesThePasteKeyFromTheChatWheelInTheOrreryWindow) {
   scheme.ChatWheelkey = KeyWord('Y', 0);
   auto& ledger = test::find<QLineEdit>(orrery(), QStringLiteral("edtShowHideLedgerData"));
   expectWarning(page, "IDS_KEY_USED", [&] { pressKey(ledger, Qt::Key_V, Qt::ControlModifier); });

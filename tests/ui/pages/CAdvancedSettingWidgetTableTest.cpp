@@ -16,7 +16,7 @@
 namespace brennet::test {
 namespace {
 
-class PhraseTable : public testing::Test {
+class CAdvancedSettingWidgetTableTest : public testing::Test {
  protected:
   CAdvancedSettingWidget& page() { return page_; }
   QTableView& table() { return find<QTableView>(page_, QStringLiteral("tableStatement")); }
@@ -35,7 +35,7 @@ class PhraseTable : public testing::Test {
   CAdvancedSettingWidget page_{config, nullptr};
 };
 
-TEST_F(PhraseTable, StoresAPhraseInTheCurrentScheme) {
+TEST_F(CAdvancedSettingWidgetTableTest, StoresAPhraseInTheCurrentScheme) {
   const NoBoxes noBoxes;
   ASSERT_TRUE(config.setIndex(2));
   HotkeyScheme wanted;
@@ -52,7 +52,7 @@ TEST_F(PhraseTable, StoresAPhraseInTheCurrentScheme) {
   EXPECT_EQ(scheme(2).QuickChat[3], u"");
 }
 
-TEST_F(PhraseTable, CutsWhatIsTooLongAndShowsItUntilTheNextRefresh) {
+TEST_F(CAdvancedSettingWidgetTableTest, CutsWhatIsTooLongAndShowsItUntilTheNextRefresh) {
   const std::u16string whole(42, u'字');
   const std::u16string typed[] = {whole, whole + u"a", whole + u"字", whole + u"12345678"};
   for (const std::u16string& text : typed) {
@@ -67,7 +67,7 @@ TEST_F(PhraseTable, CutsWhatIsTooLongAndShowsItUntilTheNextRefresh) {
   EXPECT_EQ(scheme().QuickChat[4], almost) << "no half of a character is stored";
 }
 
-TEST_F(PhraseTable, StoresNothingOfOtherCells) {
+TEST_F(CAdvancedSettingWidgetTableTest, StoresNothingOfOtherCells) {
   const QString message = type(at(2, 0), QStringLiteral("label"));
   EXPECT_TRUE(message.startsWith(QStringLiteral("item chagned:  QModelIndex(2,0,")));
   EXPECT_EQ(table().model()->flags(at(2, 0)) & Qt::ItemIsEditable, 0);
@@ -76,7 +76,7 @@ TEST_F(PhraseTable, StoresNothingOfOtherCells) {
   EXPECT_EQ(scheme(), HotkeyScheme());
 }
 
-TEST_F(PhraseTable, StoresNothingOfSeveralCellsOrNone) {
+TEST_F(CAdvancedSettingWidgetTableTest, StoresNothingOfSeveralCellsOrNone) {
   const CaughtMessages messages;
   emit table().model()->dataChanged(at(0), at(1));
   emit table().model()->dataChanged(at(0, 0), at(0, 1));
@@ -85,7 +85,7 @@ TEST_F(PhraseTable, StoresNothingOfSeveralCellsOrNone) {
   EXPECT_EQ(scheme(), HotkeyScheme());
 }
 
-TEST_F(PhraseTable, IsEditedWithTheKeyboard) {
+TEST_F(CAdvancedSettingWidgetTableTest, IsEditedWithTheKeyboard) {
   page().show();
   table().setCurrentIndex(at(1));
   QTest::keyClick(&table(), Qt::Key_F2);
@@ -99,14 +99,14 @@ TEST_F(PhraseTable, IsEditedWithTheKeyboard) {
   EXPECT_EQ(scheme().QuickChat[1], u"gg");
 }
 
-TEST_F(PhraseTable, IsTranslatedWithThePage) {
+TEST_F(CAdvancedSettingWidgetTableTest, IsTranslatedWithThePage) {
   const LongerTexts longer;
   const CAdvancedSettingWidget page(config, nullptr);
   const auto& model = *find<QTableView>(page, QStringLiteral("tableStatement")).model();
   EXPECT_EQ(model.index(1, 0).data().toString(), QStringLiteral("message 2:messag"));
 }
 
-TEST_F(PhraseTable, AndThePageDoNothingWhereThereIsNoScheme) {
+TEST_F(CAdvancedSettingWidgetTableTest, AndThePageDoNothingWhereThereIsNoScheme) {
   auto& family = find<QRadioButton>(page(), QStringLiteral("optChatKey_1"));
   auto& other = find<QRadioButton>(page(), QStringLiteral("optChatKey_2"));
   auto& field = find<QLineEdit>(page(), QStringLiteral("edtShowFBlood"));

@@ -40,7 +40,7 @@ constexpr KeyField kFields[] = {
     {"ShowEBlood", u"敌方血量显示", &HotkeyScheme::ShowEBlood},
 };
 
-class AdvancedPage : public testing::Test {
+class CAdvancedSettingWidgetTest : public testing::Test {
  protected:
   CAdvancedSettingWidget& open() {
     page_ = std::make_unique<CAdvancedSettingWidget>(config, nullptr);
@@ -78,7 +78,7 @@ class AdvancedPage : public testing::Test {
   std::unique_ptr<CAdvancedSettingWidget> page_;
 };
 
-TEST_F(AdvancedPage, HasItsSlotsInOrder) {
+TEST_F(CAdvancedSettingWidgetTest, HasItsSlotsInOrder) {
   const QMetaObject& type = CAdvancedSettingWidget::staticMetaObject;
   EXPECT_EQ(methodNames(type).join(QLatin1Char(' ')),
             QStringLiteral("onToggled_GroupKey1 onToggled_GroupKey2 onToggled_GroupKey3 "
@@ -86,7 +86,7 @@ TEST_F(AdvancedPage, HasItsSlotsInOrder) {
   EXPECT_GE(type.indexOfSlot("onDataChanged_Table(QModelIndex,QModelIndex,QVector<int>)"), 0);
 }
 
-TEST_F(AdvancedPage, HasItsGroupsWithTheirTexts) {
+TEST_F(CAdvancedSettingWidgetTest, HasItsGroupsWithTheirTexts) {
   EXPECT_STREQ(page().metaObject()->className(), "CAdvancedSettingWidget");
   EXPECT_EQ(page().font().family(), QStringLiteral("微软雅黑"));
   QWidget parent;
@@ -107,7 +107,7 @@ TEST_F(AdvancedPage, HasItsGroupsWithTheirTexts) {
   EXPECT_EQ(family(2).text(), QStringLiteral("ALT + F1～F8"));
 }
 
-TEST_F(AdvancedPage, NamesItsControlsForScreenReaders) {
+TEST_F(CAdvancedSettingWidgetTest, NamesItsControlsForScreenReaders) {
   for (const KeyField& row : kFields) {
     const QString label = QLatin1String("lbl") + QLatin1String(row.name);
     EXPECT_EQ(find<QLabel>(page(), label).text(), toQString(row.text));
@@ -123,7 +123,7 @@ TEST_F(AdvancedPage, NamesItsControlsForScreenReaders) {
   EXPECT_EQ(accessible(table(), QAccessible::Name), QStringLiteral("快捷喊话设置"));
 }
 
-TEST_F(AdvancedPage, IsReadInOrderByTab) {
+TEST_F(CAdvancedSettingWidgetTest, IsReadInOrderByTab) {
   QStringList names;
   for (int n = 1; n <= 3; ++n) names += preset(n).objectName();
   names += {QStringLiteral("optChatKey_1"), QStringLiteral("optChatKey_2"),
@@ -134,7 +134,7 @@ TEST_F(AdvancedPage, IsReadInOrderByTab) {
   EXPECT_FALSE(table().tabKeyNavigation()) << "Tab must lead out of the table, too";
 }
 
-TEST_F(AdvancedPage, HasRoomForLongerTexts) {
+TEST_F(CAdvancedSettingWidgetTest, HasRoomForLongerTexts) {
   const LongerTexts longer;
   QWidget& window = open();
   window.resize(window.sizeHint());
@@ -147,7 +147,7 @@ TEST_F(AdvancedPage, HasRoomForLongerTexts) {
   }
 }
 
-TEST_F(AdvancedPage, HasRoomForTheLongestKey) {
+TEST_F(CAdvancedSettingWidgetTest, HasRoomForTheLongestKey) {
   scheme().WinLockMouse = KeyWord(0x2C, KeyWord::kCtrl | kAlt);
   page().resize(page().minimumSizeHint());
   page().show();
@@ -158,7 +158,7 @@ TEST_F(AdvancedPage, HasRoomForTheLongestKey) {
   }
 }
 
-TEST_F(AdvancedPage, HasATableOfLabelsAndPhrases) {
+TEST_F(CAdvancedSettingWidgetTest, HasATableOfLabelsAndPhrases) {
   EXPECT_STREQ(model().metaObject()->className(), "CCustomMsgTableModel");
   EXPECT_EQ(model().rowCount(), 8);
   EXPECT_EQ(model().columnCount(), 2);
@@ -172,14 +172,14 @@ TEST_F(AdvancedPage, HasATableOfLabelsAndPhrases) {
   EXPECT_LT(table().columnWidth(0), 200);
 }
 
-TEST_F(AdvancedPage, WrapsALongPhrase) {
+TEST_F(CAdvancedSettingWidgetTest, WrapsALongPhrase) {
   scheme().QuickChat[3] = std::u16string(kPhraseUnits, u'字');
   page().resize(page().sizeHint());
   page().show();
   EXPECT_GT(table().rowHeight(3), table().rowHeight(2) * 3 / 2);
 }
 
-TEST_F(AdvancedPage, ShowsTheCurrentScheme) {
+TEST_F(CAdvancedSettingWidgetTest, ShowsTheCurrentScheme) {
   expectPresets(false, false, false);
   expectFamily(2);
   scheme(1).NumComboKeyIndex = 1;
@@ -205,7 +205,7 @@ TEST_F(AdvancedPage, ShowsTheCurrentScheme) {
   }
 }
 
-TEST_F(AdvancedPage, LeavesTheRowOfAMissingPhraseAlone) {
+TEST_F(CAdvancedSettingWidgetTest, LeavesTheRowOfAMissingPhraseAlone) {
   scheme(0).QuickChat[0] = u"a";
   scheme(0).QuickChat[1] = u"b";
   scheme(1).QuickChat[0] = u"";
@@ -217,7 +217,7 @@ TEST_F(AdvancedPage, LeavesTheRowOfAMissingPhraseAlone) {
   EXPECT_FALSE(scheme(1).QuickChat[1].has_value());
 }
 
-TEST_F(AdvancedPage, StoresNothingAndAsksNothingWhenItRefreshes) {
+TEST_F(CAdvancedSettingWidgetTest, StoresNothingAndAsksNothingWhenItRefreshes) {
   const NoBoxes noBoxes;
   scheme().HeroSkillKey[0] = KeyWord('1', kAlt);
   scheme().HeroSkillKey[1] = KeyWord(kF1, kAlt);
@@ -238,7 +238,7 @@ TEST_F(AdvancedPage, StoresNothingAndAsksNothingWhenItRefreshes) {
   EXPECT_EQ(cell(2).size(), 43);
 }
 
-TEST_F(AdvancedPage, StoresAPresetAndUnchecksTheOthers) {
+TEST_F(CAdvancedSettingWidgetTest, StoresAPresetAndUnchecksTheOthers) {
   for (const int n : {1, 3, 2}) {
     preset(n).click();
     expectPresets(n == 1, n == 2, n == 3);
@@ -249,7 +249,7 @@ TEST_F(AdvancedPage, StoresAPresetAndUnchecksTheOthers) {
   EXPECT_EQ(scheme().NumComboKeyIndex, -1);
 }
 
-TEST_F(AdvancedPage, RefusesAPresetSilently) {
+TEST_F(CAdvancedSettingWidgetTest, RefusesAPresetSilently) {
   const NoBoxes noBoxes;
   scheme().QuickChatIndex = 0;
   page();
@@ -265,7 +265,7 @@ TEST_F(AdvancedPage, RefusesAPresetSilently) {
   EXPECT_EQ(scheme().NumComboKeyIndex, -1) << "Alt+X is a Ledger key";
 }
 
-TEST_F(AdvancedPage, StoresAKeySet) {
+TEST_F(CAdvancedSettingWidgetTest, StoresAKeySet) {
   const NoBoxes noBoxes;
   family(1).click();
   EXPECT_EQ(scheme().QuickChatIndex, 0U);
@@ -273,7 +273,7 @@ TEST_F(AdvancedPage, StoresAKeySet) {
   EXPECT_EQ(scheme().QuickChatIndex, 1U);
 }
 
-TEST_F(AdvancedPage, RefusesAKeySetWithAWarning) {
+TEST_F(CAdvancedSettingWidgetTest, RefusesAKeySetWithAWarning) {
   scheme().NumComboKeyIndex = 2;
   expectWarning(page(), "IDS_GROUP_KEY_USED", [&] { family(1).click(); });
   expectFamily(2);
@@ -291,7 +291,7 @@ TEST_F(AdvancedPage, RefusesAKeySetWithAWarning) {
   EXPECT_EQ(scheme().QuickChatIndex, 0U);
 }
 
-TEST_F(AdvancedPage, StoresTheKeyOfEachField) {
+TEST_F(CAdvancedSettingWidgetTest, StoresTheKeyOfEachField) {
   const NoBoxes noBoxes;
   HotkeyScheme wanted;
   int key = Qt::Key_A;
@@ -308,7 +308,7 @@ TEST_F(AdvancedPage, StoresTheKeyOfEachField) {
   EXPECT_EQ(field("ShowFBlood").text(), QStringLiteral("F9"));
 }
 
-TEST_F(AdvancedPage, RefusesAKeyThatIsUsed) {
+TEST_F(CAdvancedSettingWidgetTest, RefusesAKeyThatIsUsed) {
   scheme().NumComboKeyIndex = 0;
   scheme().ItemKey[0] = KeyWord('I', 0);
   scheme().WinLockMouse = KeyWord('L', 0);
@@ -330,7 +330,7 @@ TEST_F(AdvancedPage, RefusesAKeyThatIsUsed) {
   }
 }
 
-TEST_F(AdvancedPage, ClearsWithBackspaceAndDelete) {
+TEST_F(CAdvancedSettingWidgetTest, ClearsWithBackspaceAndDelete) {
   const NoBoxes noBoxes;
   for (const Qt::Key key : {Qt::Key_Backspace, Qt::Key_Delete}) {
     pressKey(field("HotkeyContrl"), Qt::Key_F8);
@@ -341,7 +341,7 @@ TEST_F(AdvancedPage, ClearsWithBackspaceAndDelete) {
   }
 }
 
-TEST_F(AdvancedPage, IgnoresReturnAndWaitsAfterALoneModifier) {
+TEST_F(CAdvancedSettingWidgetTest, IgnoresReturnAndWaitsAfterALoneModifier) {
   const NoBoxes noBoxes;
   pressKey(field("QuickChatKey"), Qt::Key_F8);
   const HotkeyScheme before = scheme();
@@ -358,7 +358,7 @@ TEST_F(AdvancedPage, IgnoresReturnAndWaitsAfterALoneModifier) {
   EXPECT_EQ(scheme(), before);
 }
 
-TEST_F(AdvancedPage, TakesTheChatWheelsKeyForAPaste) {
+TEST_F(CAdvancedSettingWidgetTest, TakesTheChatWheelsKeyForAPaste) {
   scheme().ChatWheelkey = KeyWord('W', 0);
   const auto paste = [&] { pressKey(field("QuickChatKey"), Qt::Key_V, Qt::ControlModifier); };
   expectWarning(page(), "IDS_KEY_USED", paste);

@@ -17,7 +17,9 @@ namespace {
 
 constexpr KeyWord kCtrlAltQ('Q', KeyWord::kCtrl | KeyWord::kAlt);
 
-TEST_F(BasicPage, StoresTheKeyOfEachField) {
+using CBasicSetting7WidgetEditsTest = BasicPage;
+
+TEST_F(CBasicSetting7WidgetEditsTest, StoresTheKeyOfEachField) {
   struct Row {
     const char* field;
     KeyWord& key;
@@ -60,7 +62,7 @@ TEST_F(BasicPage, StoresTheKeyOfEachField) {
   }
 }
 
-TEST_F(BasicPage, RefusesAKeyOfThePreset) {
+TEST_F(CBasicSetting7WidgetEditsTest, RefusesAKeyOfThePreset) {
   scheme.NumComboKeyIndex = 0;
   QString told;
   const auto warning = whenBoxIsShown([&](QMessageBox& box) {
@@ -75,7 +77,7 @@ TEST_F(BasicPage, RefusesAKeyOfThePreset) {
   EXPECT_EQ(field("edtSkill_4").text(), QString());
 }
 
-TEST_F(BasicPage, StoresEachSwitch) {
+TEST_F(CBasicSetting7WidgetEditsTest, StoresEachSwitch) {
   struct Row {
     const char* box;
     std::uint8_t HotkeyScheme::*field;
@@ -110,7 +112,7 @@ TEST_F(BasicPage, StoresEachSwitch) {
   }
 }
 
-TEST_F(BasicPage, ShowsNoManaWithoutHealth) {
+TEST_F(CBasicSetting7WidgetEditsTest, ShowsNoManaWithoutHealth) {
   mana().click();
   EXPECT_EQ(scheme.ShowFManaFlag, 1);
   EXPECT_EQ(scheme.ShowFBloodFlag, 1) << "mana brings health along";
@@ -123,7 +125,7 @@ TEST_F(BasicPage, ShowsNoManaWithoutHealth) {
   EXPECT_EQ(scheme.ShowFManaFlag, 0) << "health does without mana";
 }
 
-TEST_F(BasicPage, ChoosesAPresetSilently) {
+TEST_F(CBasicSetting7WidgetEditsTest, ChoosesAPresetSilently) {
   box("chkGroupKey1").click();
   EXPECT_EQ(scheme.NumComboKeyIndex, 0);
   box("chkGroupKey3").click();
@@ -138,7 +140,7 @@ TEST_F(BasicPage, ChoosesAPresetSilently) {
   EXPECT_EQ(scheme.NumComboKeyIndex, -1);
 }
 
-TEST_F(BasicPage, MarksSkillsAndItemsForQuickCast) {
+TEST_F(CBasicSetting7WidgetEditsTest, MarksSkillsAndItemsForQuickCast) {
   button("btn_skillcast_12").click();
   EXPECT_EQ(scheme.HeroSkillAutocast[11], true);
   EXPECT_EQ(scheme.HeroSkillAutocast[0], false) << "all twelve are stored";
@@ -156,7 +158,7 @@ TEST_F(BasicPage, MarksSkillsAndItemsForQuickCast) {
   EXPECT_FALSE(button("btn_skillcast_12").isChecked());
 }
 
-TEST_F(BasicPage, LeadsToTheOtherWindows) {
+TEST_F(CBasicSetting7WidgetEditsTest, LeadsToTheOtherWindows) {
   QSignalSpy hotkeys(&page, &CBasicSetting7Widget::showHotKeySettingDlg);
   QSignalSpy dota7(&page, &CBasicSetting7Widget::showDota7SettingDlg);
   QSignalSpy talk(&page, &CBasicSetting7Widget::showTalkSettingDlg);
@@ -169,7 +171,7 @@ TEST_F(BasicPage, LeadsToTheOtherWindows) {
   EXPECT_EQ(talk.count() + orrerySignal.count(), 0) << "nobody sends these";
 }
 
-TEST_F(BasicPage, ShowsAndHidesTheOrreryWindow) {
+TEST_F(CBasicSetting7WidgetEditsTest, ShowsAndHidesTheOrreryWindow) {
   button("btnOrrerySetting").click();
   EXPECT_TRUE(orrery().isVisible());
   EXPECT_FALSE(orrery().isModal());
@@ -184,7 +186,7 @@ QWidget* orreryWindow() {
   });
 }
 
-TEST(BasicPageInADialog, GivesTheOrreryWindowAnOwner) {
+TEST(CBasicSetting7WidgetEditsInADialog, GivesTheOrreryWindowAnOwner) {
   HotkeyConfig config;
   QDialog dialog;
   auto* const page = new CBasicSetting7Widget(config, &dialog);
@@ -208,7 +210,7 @@ TEST(BasicPageInADialog, GivesTheOrreryWindowAnOwner) {
   }
 }
 
-TEST_F(BasicPage, CapturesTheKeysOfTheOrreryWindow) {
+TEST_F(CBasicSetting7WidgetEditsTest, CapturesTheKeysOfTheOrreryWindow) {
   const char* const names[] = {"edtOpenCloseLedger", "edtShowHideLedgerData",
                                "edtHotKeyLedgerSkill"};
   for (std::size_t i = 0; i < 3; ++i) {
@@ -223,7 +225,7 @@ TEST_F(BasicPage, CapturesTheKeysOfTheOrreryWindow) {
   EXPECT_EQ(orrery().findChild<QLineEdit*>(QLatin1String(names[1]))->text(), QString());
 }
 
-TEST_F(BasicPage, StoresNothingWhileItShowsAScheme) {
+TEST_F(CBasicSetting7WidgetEditsTest, StoresNothingWhileItShowsAScheme) {
   recommend(scheme);
   scheme.NumComboKeyIndex = 2;  // its keys are taken: choosing it would be refused
   scheme.ShowFManaFlag = 1;     // without health
@@ -241,7 +243,7 @@ TEST_F(BasicPage, StoresNothingWhileItShowsAScheme) {
   EXPECT_TRUE(button("btn_skillcast_4").isChecked());
 }
 
-TEST_F(BasicPage, ClearsTheSchemeOnReset) {
+TEST_F(CBasicSetting7WidgetEditsTest, ClearsTheSchemeOnReset) {
   recommend(scheme);
   scheme.HeroSkillAutocast[0] = true;
   scheme.ItemAutocast[0] = true;
@@ -258,7 +260,7 @@ TEST_F(BasicPage, ClearsTheSchemeOnReset) {
   EXPECT_FALSE(box("chkLockMouse").isChecked());
 }
 
-TEST_F(BasicPage, ShowsTheRecommendedKeys) {
+TEST_F(CBasicSetting7WidgetEditsTest, ShowsTheRecommendedKeys) {
   page.useRecommended();
   HotkeyScheme expected;
   recommend(expected);
@@ -267,7 +269,7 @@ TEST_F(BasicPage, ShowsTheRecommendedKeys) {
   EXPECT_EQ(field("edtGoodsKey_2").text(), QStringLiteral("Alt + 6"));
 }
 
-TEST_F(BasicPage, LeavesSchemesThatItCannotEditAlone) {
+TEST_F(CBasicSetting7WidgetEditsTest, LeavesSchemesThatItCannotEditAlone) {
   const HotkeyScheme expected[] = {config.scheme(0), config.scheme(1), config.scheme(2)};
   for (unsigned index = HotkeyConfig::kSchemes; index <= 10; ++index) {
     SCOPED_TRACE(index);
@@ -284,7 +286,7 @@ TEST_F(BasicPage, LeavesSchemesThatItCannotEditAlone) {
   }
 }
 
-TEST_F(BasicPage, TracesWhichSettingAFieldEdits) {
+TEST_F(CBasicSetting7WidgetEditsTest, TracesWhichSettingAFieldEdits) {
   CaughtMessages messages;
   pressKey(field("edtSkill_12"), Qt::Key_Q);
   ASSERT_EQ(messages.texts().size(), 1);

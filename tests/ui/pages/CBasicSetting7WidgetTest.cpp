@@ -11,7 +11,9 @@
 namespace brennet::test {
 namespace {
 
-TEST_F(BasicPage, HasItsMethodsInTheOrderThatClientsKnow) {
+using CBasicSetting7WidgetTest = BasicPage;
+
+TEST_F(CBasicSetting7WidgetTest, HasItsMethodsInTheOrderThatClientsKnow) {
   const QStringList expected = {QStringLiteral("showHotKeySettingDlg"),
                                 QStringLiteral("showDota7SettingDlg"),
                                 QStringLiteral("showTalkSettingDlg"),
@@ -42,7 +44,7 @@ TEST_F(BasicPage, HasItsMethodsInTheOrderThatClientsKnow) {
   EXPECT_EQ(methodNames(CBasicSetting7Widget::staticMetaObject), expected);
 }
 
-TEST_F(BasicPage, HasItsTexts) {
+TEST_F(CBasicSetting7WidgetTest, HasItsTexts) {
   struct Text {
     const char* name;
     QString text;
@@ -93,7 +95,7 @@ TEST_F(BasicPage, HasItsTexts) {
   EXPECT_EQ(groups, expected);
 }
 
-TEST_F(BasicPage, ShowsTheSkillsWhereTheGameHasThem) {
+TEST_F(CBasicSetting7WidgetTest, ShowsTheSkillsWhereTheGameHasThem) {
   page.resize(page.sizeHint());
   page.show();
   // The rows of the command card, from its top left.
@@ -118,7 +120,7 @@ TEST_F(BasicPage, ShowsTheSkillsWhereTheGameHasThem) {
   }
 }
 
-TEST_F(BasicPage, ShowsTheItemsWhereTheGameHasThem) {
+TEST_F(CBasicSetting7WidgetTest, ShowsTheItemsWhereTheGameHasThem) {
   page.resize(page.sizeHint());
   page.show();
   const auto place = [this](int digit) {
@@ -134,7 +136,7 @@ TEST_F(BasicPage, ShowsTheItemsWhereTheGameHasThem) {
   }
 }
 
-TEST_F(BasicPage, HidesTheOlderViewOfTheGroupRemap) {
+TEST_F(CBasicSetting7WidgetTest, HidesTheOlderViewOfTheGroupRemap) {
   page.show();
   EXPECT_FALSE(field("edt_skillex_GROUP_L_1").isVisible());
   EXPECT_TRUE(field("edt_skillex_GROUP_2_L_3").isVisible());
@@ -142,7 +144,7 @@ TEST_F(BasicPage, HidesTheOlderViewOfTheGroupRemap) {
   EXPECT_EQ(scheme.ComboKey.Key_B, KeyWord('G', 0)) << "hidden, but it works";
 }
 
-TEST_F(BasicPage, ShowsTheGroupRemapInTheColumnsOfTheOthers) {
+TEST_F(CBasicSetting7WidgetTest, ShowsTheGroupRemapInTheColumnsOfTheOthers) {
   page.resize(page.sizeHint());
   page.show();
   const char* const pairs[][2] = {{"edt_skillex_GROUP_2_L_1", "edt_skillex_L_1"},
@@ -160,13 +162,13 @@ TEST_F(BasicPage, ShowsTheGroupRemapInTheColumnsOfTheOthers) {
   }
 }
 
-TEST_F(BasicPage, HasNamesForScreenReaders) {
+TEST_F(CBasicSetting7WidgetTest, HasNamesForScreenReaders) {
   page.show();
   expectAccessible(page);
   expectAccessible(orrery());
 }
 
-TEST_F(BasicPage, IsReadInOrder) {
+TEST_F(CBasicSetting7WidgetTest, IsReadInOrder) {
   page.show();
   const QStringList order = tabOrder(page);
   const auto at = [&order](const char* name) { return order.indexOf(QLatin1String(name)); };

@@ -15,7 +15,7 @@
 namespace brennet::test {
 namespace {
 
-class OlderBasicPage : public testing::Test {
+class CBasicSettingWidgetTest : public testing::Test {
  protected:
   HotkeyConfig config;
   HotkeyScheme& scheme = *config.editableScheme();
@@ -25,7 +25,7 @@ class OlderBasicPage : public testing::Test {
   QCheckBox& box(const char* name) { return *page.findChild<QCheckBox*>(QLatin1String(name)); }
 };
 
-TEST_F(OlderBasicPage, HasItsMethodsInTheOrderThatClientsKnow) {
+TEST_F(CBasicSettingWidgetTest, HasItsMethodsInTheOrderThatClientsKnow) {
   const QStringList expected = {
       QStringLiteral("onToggled_DisableLWin"),      QStringLiteral("onToggled_LockMouse"),
       QStringLiteral("onToggled_ShowFriendBlood"),  QStringLiteral("onToggled_ShowFirendMana"),
@@ -34,7 +34,7 @@ TEST_F(OlderBasicPage, HasItsMethodsInTheOrderThatClientsKnow) {
   EXPECT_EQ(methodNames(CBasicSettingWidget::staticMetaObject), expected);
 }
 
-TEST_F(OlderBasicPage, HasItsTexts) {
+TEST_F(CBasicSettingWidgetTest, HasItsTexts) {
   QStringList texts;
   for (const QGroupBox* const group : page.findChildren<QGroupBox*>()) texts += group->title();
   for (const QLabel* const label : page.findChildren<QLabel*>()) texts += label->text();
@@ -46,14 +46,14 @@ TEST_F(OlderBasicPage, HasItsTexts) {
   }
 }
 
-TEST_F(OlderBasicPage, HasSevenSkillsAndNothingThatLeadsElsewhere) {
+TEST_F(CBasicSettingWidgetTest, HasSevenSkillsAndNothingThatLeadsElsewhere) {
   EXPECT_NE(page.findChild<QLineEdit*>(QStringLiteral("edtSkill_7")), nullptr);
   EXPECT_EQ(page.findChild<QLineEdit*>(QStringLiteral("edtSkill_8")), nullptr);
   EXPECT_TRUE(page.findChildren<QPushButton*>().isEmpty());
   EXPECT_EQ(page.findChild<QCheckBox*>(QStringLiteral("chkGroupKey1")), nullptr);
 }
 
-TEST_F(OlderBasicPage, CapturesKeys) {
+TEST_F(CBasicSettingWidgetTest, CapturesKeys) {
   pressKey(field("edtSkill_7"), Qt::Key_Q, Qt::AltModifier);
   EXPECT_EQ(scheme.HeroSkillKey[6], KeyWord('Q', KeyWord::kAlt));
   EXPECT_EQ(field("edtSkill_7").text(), QStringLiteral("Alt + Q"));
@@ -66,7 +66,7 @@ TEST_F(OlderBasicPage, CapturesKeys) {
   EXPECT_EQ(scheme.ComboKey.Key_B, KeyWord('E', 0));
 }
 
-TEST_F(OlderBasicPage, ParsesNamesByItsOwnRule) {
+TEST_F(CBasicSettingWidgetTest, ParsesNamesByItsOwnRule) {
   EditControl control;
   EXPECT_TRUE(page.getEditControlTypeByParseName(QStringLiteral("edtSkill_7"), control));
   EXPECT_FALSE(page.getEditControlTypeByParseName(QStringLiteral("edtSkill_8"), control));
@@ -76,7 +76,7 @@ TEST_F(OlderBasicPage, ParsesNamesByItsOwnRule) {
       page.getEditControlTypeByParseName(QStringLiteral("edt_skillex_GROUP_2_R_1"), control));
 }
 
-TEST_F(OlderBasicPage, StoresEachSwitch) {
+TEST_F(CBasicSettingWidgetTest, StoresEachSwitch) {
   struct Row {
     const char* box;
     std::uint8_t HotkeyScheme::*field;
@@ -98,7 +98,7 @@ TEST_F(OlderBasicPage, StoresEachSwitch) {
   }
 }
 
-TEST_F(OlderBasicPage, ShowsNoManaWithoutHealth) {
+TEST_F(CBasicSettingWidgetTest, ShowsNoManaWithoutHealth) {
   box("chkShowFirendMana").click();
   EXPECT_EQ(scheme.ShowFManaFlag, 1);
   EXPECT_EQ(scheme.ShowFBloodFlag, 1);
@@ -106,12 +106,12 @@ TEST_F(OlderBasicPage, ShowsNoManaWithoutHealth) {
   EXPECT_EQ(scheme.ShowFManaFlag, 0);
 }
 
-TEST_F(OlderBasicPage, HasNamesForScreenReaders) {
+TEST_F(CBasicSettingWidgetTest, HasNamesForScreenReaders) {
   page.show();
   expectAccessible(page);
 }
 
-TEST_F(OlderBasicPage, IsReadInOrder) {
+TEST_F(CBasicSettingWidgetTest, IsReadInOrder) {
   page.show();
   // The switches, then the fields: the rows of the command card, then the other groups.
   QStringList expected;
@@ -136,7 +136,7 @@ TEST_F(OlderBasicPage, IsReadInOrder) {
   EXPECT_EQ(tabOrder(page), expected);
 }
 
-TEST_F(OlderBasicPage, ShowsTheSchemeAsItComes) {
+TEST_F(CBasicSettingWidgetTest, ShowsTheSchemeAsItComes) {
   scheme.HeroSkillKey[6] = KeyWord('Q', KeyWord::kCtrl);
   scheme.ComboKey.Key_D = KeyWord('P', 0);
   scheme.SecretaryKey[2] = KeyWord('W', 0);
@@ -160,7 +160,7 @@ TEST_F(OlderBasicPage, ShowsTheSchemeAsItComes) {
   EXPECT_EQ(scheme, before) << "showing it stores nothing";
 }
 
-TEST_F(OlderBasicPage, TracesWhichSettingAFieldEdits) {
+TEST_F(CBasicSettingWidgetTest, TracesWhichSettingAFieldEdits) {
   const CaughtMessages messages;
   pressKey(field("edtGoodsKey_4"), Qt::Key_Q);
   EXPECT_EQ(messages.texts(), QStringList(QStringLiteral(

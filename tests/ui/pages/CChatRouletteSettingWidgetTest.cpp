@@ -23,7 +23,9 @@ QStringList signatures(const QMetaObject& type) {
   return found;
 }
 
-TEST_F(WheelPage, HasItsSlotsInOrder) {
+using CChatRouletteSettingWidgetTest = WheelPage;
+
+TEST_F(CChatRouletteSettingWidgetTest, HasItsSlotsInOrder) {
   EXPECT_STREQ(page().metaObject()->className(), "CChatRouletteSettingWidget");
   EXPECT_EQ(signatures(CChatRouletteSettingWidget::staticMetaObject),
             QStringList({QStringLiteral("OnChatPhraseChanged()"),
@@ -31,7 +33,7 @@ TEST_F(WheelPage, HasItsSlotsInOrder) {
                          QStringLiteral("onToggled_ShowFMana(bool)")}));
 }
 
-TEST_F(WheelPage, HasItsWidgetsAndTexts) {
+TEST_F(CChatRouletteSettingWidgetTest, HasItsWidgetsAndTexts) {
   EXPECT_EQ(page().windowTitle(), QStringLiteral("Form"));
   EXPECT_EQ(page().font().family(), QStringLiteral("微软雅黑"));
   QWidget parent;
@@ -48,7 +50,7 @@ TEST_F(WheelPage, HasItsWidgetsAndTexts) {
                            "center;\nmargin-top:-80px;  \n}"));
 }
 
-TEST_F(WheelPage, HasEightSlotsThatTakeNoTyping) {
+TEST_F(CChatRouletteSettingWidgetTest, HasEightSlotsThatTakeNoTyping) {
   for (int n = 1; n <= 8; ++n) {
     EXPECT_STREQ(slot(n).metaObject()->className(), "CCustomLineEdit");
     EXPECT_EQ(slot(n).parentWidget()->objectName(), QStringLiteral("ChatWheel"));
@@ -64,7 +66,7 @@ TEST_F(WheelPage, HasEightSlotsThatTakeNoTyping) {
   EXPECT_EQ(page().findChildren<QLineEdit*>(QRegularExpression(QStringLiteral("^edt"))).size(), 9);
 }
 
-TEST_F(WheelPage, IsReadInOrderByTab) {
+TEST_F(CChatRouletteSettingWidgetTest, IsReadInOrderByTab) {
   QStringList names;
   for (int n = 1; n <= 8; ++n) names += slot(n).objectName();
   names += QStringLiteral("edtChatWheelKey");
@@ -73,7 +75,7 @@ TEST_F(WheelPage, IsReadInOrderByTab) {
   EXPECT_EQ(tabOrder(page()), names + QStringList(QStringLiteral("chkShowMana")));
 }
 
-TEST_F(WheelPage, NamesItsControlsForScreenReaders) {
+TEST_F(CChatRouletteSettingWidgetTest, NamesItsControlsForScreenReaders) {
   for (int n = 1; n <= 8; ++n) {
     EXPECT_EQ(accessible(slot(n), QAccessible::Name), QStringLiteral("轮盘短语 %1").arg(n));
   }
@@ -86,7 +88,7 @@ TEST_F(WheelPage, NamesItsControlsForScreenReaders) {
   expectAccessible(page());
 }
 
-TEST_F(WheelPage, HasATreeThatOnlyGivesPhrases) {
+TEST_F(CChatRouletteSettingWidgetTest, HasATreeThatOnlyGivesPhrases) {
   EXPECT_STREQ(tree().metaObject()->className(), "CCustomTreeWidget");
   EXPECT_EQ(tree().focusPolicy(), Qt::NoFocus);
   EXPECT_FALSE(tree().acceptDrops());
@@ -98,7 +100,7 @@ TEST_F(WheelPage, HasATreeThatOnlyGivesPhrases) {
   EXPECT_FALSE(tree().itemsExpandable());
 }
 
-TEST_F(WheelPage, ListsThePhrasesOfAllCategories) {
+TEST_F(CChatRouletteSettingWidgetTest, ListsThePhrasesOfAllCategories) {
   const auto categories = chatPhrases();
   ASSERT_EQ(tree().topLevelItemCount(), static_cast<int>(categories.size()));
   for (int i = 0; i < tree().topLevelItemCount(); ++i) {
@@ -120,7 +122,7 @@ TEST_F(WheelPage, ListsThePhrasesOfAllCategories) {
   }
 }
 
-TEST_F(WheelPage, NeverClosesACategory) {
+TEST_F(CChatRouletteSettingWidgetTest, NeverClosesACategory) {
   show();
   for (int i = 0; i < 2; ++i) {
     click(category(0));
@@ -131,7 +133,7 @@ TEST_F(WheelPage, NeverClosesACategory) {
   }
 }
 
-TEST_F(WheelPage, ShowsTheCurrentSchemeAndStoresNothing) {
+TEST_F(CChatRouletteSettingWidgetTest, ShowsTheCurrentSchemeAndStoresNothing) {
   const std::u16string longPhrase(50, u'字');
   scheme().ChatWheel[0] = longPhrase;
   scheme().ChatWheel[7] = u"gank";
@@ -155,7 +157,7 @@ TEST_F(WheelPage, ShowsTheCurrentSchemeAndStoresNothing) {
   EXPECT_FALSE(scheme().ChatWheel[7]);
 }
 
-TEST_F(WheelPage, CutsNothingByShowingIt) {
+TEST_F(CChatRouletteSettingWidgetTest, CutsNothingByShowingIt) {
   EXPECT_EQ(slot(4).text(), QString());
   const std::u16string longPhrase(50, u'字');
   scheme().ChatWheel[3] = longPhrase;
@@ -164,13 +166,13 @@ TEST_F(WheelPage, CutsNothingByShowingIt) {
   EXPECT_EQ(stored(4), longPhrase);
 }
 
-TEST_F(WheelPage, ShowsMarkupInAPhraseAsText) {
+TEST_F(CChatRouletteSettingWidgetTest, ShowsMarkupInAPhraseAsText) {
   slot(1).setText(QStringLiteral("<img src='//host/a'>"));
   EXPECT_EQ(slot(1).text(), QStringLiteral("<img src='//host/a'>"));
   EXPECT_TRUE(slot(1).toolTip().contains(QStringLiteral("&lt;img"))) << "and the tool tip";
 }
 
-TEST_F(WheelPage, HidesTheCheckBoxThatStillWorks) {
+TEST_F(CChatRouletteSettingWidgetTest, HidesTheCheckBoxThatStillWorks) {
   show();
   EXPECT_FALSE(mana().isVisible());
   mana().show();
@@ -182,7 +184,7 @@ TEST_F(WheelPage, HidesTheCheckBoxThatStillWorks) {
   EXPECT_EQ(scheme().ShowFManaFlag, 0);
 }
 
-TEST_F(WheelPage, StoresWhatASlotShowsCut) {
+TEST_F(CChatRouletteSettingWidgetTest, StoresWhatASlotShowsCut) {
   struct Row {
     int length;
     int stored;
@@ -200,14 +202,14 @@ TEST_F(WheelPage, StoresWhatASlotShowsCut) {
   EXPECT_EQ(stored(6), std::u16string(42, u'\u5B57') + u'\u5B00');
 }
 
-TEST_F(WheelPage, StoresEachSlotAtItsPlaceInTheCurrentScheme) {
+TEST_F(CChatRouletteSettingWidgetTest, StoresEachSlotAtItsPlaceInTheCurrentScheme) {
   ASSERT_TRUE(config.setIndex(2));
   for (int n = 1; n <= 8; ++n) slot(n).setText(QString::number(n));
   for (int n = 1; n <= 8; ++n) EXPECT_EQ(toQString(stored(n)), QString::number(n));
   EXPECT_EQ(config.scheme(0), HotkeyScheme());
 }
 
-TEST_F(WheelPage, IgnoresTextsOfOtherFields) {
+TEST_F(CChatRouletteSettingWidgetTest, IgnoresTextsOfOtherFields) {
   const HotkeyScheme before = scheme();
   page().OnChatPhraseChanged();
   for (const char* const name : {"", "edtChatWheel_0", "edtChatWheel_9", "edtChatWheel_x"}) {

@@ -19,9 +19,9 @@ namespace brennet::test {
 namespace {
 
 // The page on a registry with both keys and no values.
-class Dota7Page : public Dota7Test {
+class CDotA7BasicSettingTest : public Dota7Test {
  protected:
-  Dota7Page() { page = std::make_unique<CDotA7BasicSetting>(manager, nullptr); }
+  CDotA7BasicSettingTest() { page = std::make_unique<CDotA7BasicSetting>(manager, nullptr); }
 
   QLineEdit& fieldOf(std::u16string_view name) {
     return *page->findChild<QLineEdit*>(QString::fromStdU16String(std::u16string(name)));
@@ -43,7 +43,7 @@ class Dota7Page : public Dota7Test {
   std::unique_ptr<CDotA7BasicSetting> page;
 };
 
-TEST_F(Dota7Page, HasItsMethodsInTheOrderThatClientsKnow) {
+TEST_F(CDotA7BasicSettingTest, HasItsMethodsInTheOrderThatClientsKnow) {
   const QStringList expected = {QStringLiteral("showDota7HotKeySettingDlg"),
                                 QStringLiteral("onClickedDota7HotKeySettingBtn"),
                                 QStringLiteral("onClickedSLegacyKeys"),
@@ -56,7 +56,7 @@ TEST_F(Dota7Page, HasItsMethodsInTheOrderThatClientsKnow) {
   EXPECT_EQ(page->windowTitle(), QStringLiteral("Form"));
 }
 
-TEST_F(Dota7Page, HasItsTexts) {
+TEST_F(CDotA7BasicSettingTest, HasItsTexts) {
   QStringList groups;
   for (const QGroupBox* const group : page->findChildren<QGroupBox*>()) groups += group->title();
   groups.sort();
@@ -78,7 +78,7 @@ TEST_F(Dota7Page, HasItsTexts) {
   for (const Text& row : kTexts) EXPECT_EQ(button(row.name).text(), QString::fromUtf16(row.text));
 }
 
-TEST_F(Dota7Page, NamesEachField) {
+TEST_F(CDotA7BasicSettingTest, NamesEachField) {
   struct Text {
     std::u16string_view field;
     const char16_t* label;
@@ -120,7 +120,7 @@ TEST_F(Dota7Page, NamesEachField) {
 
 // Every field of the control key, in both cast modes: the pair of values that it edits, and no
 // other.
-TEST_F(Dota7Page, WritesTheValuesOfEachFieldInBothModes) {
+TEST_F(CDotA7BasicSettingTest, WritesTheValuesOfEachFieldInBothModes) {
   for (const Dota7Cast cast : {Dota7Cast::Normal, Dota7Cast::Quick}) {
     button(cast == Dota7Cast::Normal ? "chk_Normal" : "chk_QuickUse").setChecked(false);
     button(cast == Dota7Cast::Normal ? "chk_Normal" : "chk_QuickUse").click();
@@ -140,7 +140,7 @@ TEST_F(Dota7Page, WritesTheValuesOfEachFieldInBothModes) {
   }
 }
 
-TEST_F(Dota7Page, KeepsTheModesApart) {
+TEST_F(CDotA7BasicSettingTest, KeepsTheModesApart) {
   pressKey(fieldOf(u"edt_HMoveKeyC"), Qt::Key_M);
   button("chk_QuickUse").click();
   EXPECT_FALSE(button("chk_Normal").isChecked());
@@ -152,7 +152,7 @@ TEST_F(Dota7Page, KeepsTheModesApart) {
   EXPECT_EQ(fieldOf(u"edt_HMoveKeyC").text(), QStringLiteral("M"));
 }
 
-TEST_F(Dota7Page, AlwaysHasOneMode) {
+TEST_F(CDotA7BasicSettingTest, AlwaysHasOneMode) {
   EXPECT_TRUE(button("chk_Normal").isChecked());
   button("chk_Normal").click();
   EXPECT_FALSE(button("chk_Normal").isChecked());
@@ -164,7 +164,7 @@ TEST_F(Dota7Page, AlwaysHasOneMode) {
   EXPECT_EQ(manager.settings().cast(), Dota7Cast::Normal);
 }
 
-TEST_F(Dota7Page, ShowsKeysAsTheyArePressed) {
+TEST_F(CDotA7BasicSettingTest, ShowsKeysAsTheyArePressed) {
   QLineEdit& move = fieldOf(u"edt_HMoveKeyC");
   pressKey(move, Qt::Key_Q);
   EXPECT_EQ(move.text(), QStringLiteral(" Q"));
@@ -177,7 +177,7 @@ TEST_F(Dota7Page, ShowsKeysAsTheyArePressed) {
   EXPECT_EQ(move.text(), QStringLiteral("CTRL +ALT + E")) << "Return does nothing";
 }
 
-TEST_F(Dota7Page, StoresALoneModifierUntilItIsReleased) {
+TEST_F(CDotA7BasicSettingTest, StoresALoneModifierUntilItIsReleased) {
   QLineEdit& move = fieldOf(u"edt_HMoveKeyC");
   pressKey(move, Qt::Key_Alt, Qt::AltModifier);
   EXPECT_EQ(move.text(), QStringLiteral("ALT"));
@@ -187,7 +187,7 @@ TEST_F(Dota7Page, StoresALoneModifierUntilItIsReleased) {
   EXPECT_EQ(number(u"HMoveKeyCodeC"), 0U);
 }
 
-TEST_F(Dota7Page, RefusesAKeyThatAnotherFieldHas) {
+TEST_F(CDotA7BasicSettingTest, RefusesAKeyThatAnotherFieldHas) {
   pressKey(fieldOf(u"edt_HStopKey"), Qt::Key_S);
   pressKey(fieldOf(u"edt_HHoldKey"), Qt::Key_H);
   QString told;
@@ -205,7 +205,7 @@ TEST_F(Dota7Page, RefusesAKeyThatAnotherFieldHas) {
   EXPECT_EQ(number(u"HStopKeyCode"), 0x53U);
 }
 
-TEST_F(Dota7Page, StoresItsOptions) {
+TEST_F(CDotA7BasicSettingTest, StoresItsOptions) {
   struct Row {
     const char* box;
     std::u16string_view value;
@@ -225,7 +225,7 @@ TEST_F(Dota7Page, StoresItsOptions) {
   }
 }
 
-TEST_F(Dota7Page, BeginsWithNormalCast) {
+TEST_F(CDotA7BasicSettingTest, BeginsWithNormalCast) {
   button("chk_QuickUse").click();
   EXPECT_EQ(settings.cast(), Dota7Cast::Quick);
   page = std::make_unique<CDotA7BasicSetting>(manager, nullptr);
@@ -237,7 +237,7 @@ TEST_F(Dota7Page, BeginsWithNormalCast) {
 }
 
 // Ctrl+V is a paste in the chat of the game.
-TEST_F(Dota7Page, TakesTheKeyOfTheChatWheelAwayForAPaste) {
+TEST_F(CDotA7BasicSettingTest, TakesTheKeyOfTheChatWheelAwayForAPaste) {
   HotkeyConfig config;
   page = std::make_unique<CDotA7BasicSetting>(manager, nullptr, &config);
   const Qt::KeyboardModifiers both = Qt::ControlModifier | Qt::AltModifier;
@@ -260,13 +260,13 @@ TEST_F(Dota7Page, TakesTheKeyOfTheChatWheelAwayForAPaste) {
   EXPECT_EQ(fieldOf(u"edt_HHoldKey").text(), QStringLiteral(" V"));
 }
 
-TEST_F(Dota7Page, ShowsWhatTheRegistryHolds) {
+TEST_F(CDotA7BasicSettingTest, ShowsWhatTheRegistryHolds) {
   registry.set(kDota7ControlPath, u"HScoreboardKeyCode", platform::dwordValue(0x09));
   page->showSettings();
   EXPECT_EQ(fieldOf(u"edt_HScoreboardKey").text(), QStringLiteral("Tab"));
 }
 
-TEST_F(Dota7Page, GivesAllBackWhenItIsCancelled) {
+TEST_F(CDotA7BasicSettingTest, GivesAllBackWhenItIsCancelled) {
   registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
   page->showSettings();
   const platform::RegFile before = registry.content();
@@ -280,7 +280,7 @@ TEST_F(Dota7Page, GivesAllBackWhenItIsCancelled) {
   EXPECT_EQ(fieldOf(u"edt_HHoldKey").text(), QString());
 }
 
-TEST_F(Dota7Page, ResetsAllToNothing) {
+TEST_F(CDotA7BasicSettingTest, ResetsAllToNothing) {
   pressKey(fieldOf(u"edt_HStopKey"), Qt::Key_X);
   button("chk_SLegacyKeys").click();
   button("chk_QuickUse").click();
@@ -291,13 +291,13 @@ TEST_F(Dota7Page, ResetsAllToNothing) {
   EXPECT_TRUE(button("chk_Normal").isChecked());
 }
 
-TEST_F(Dota7Page, AsksForTheChatWindow) {
+TEST_F(CDotA7BasicSettingTest, AsksForTheChatWindow) {
   const QSignalSpy spy(page.get(), &CDotA7BasicSetting::showDota7HotKeySettingDlg);
   button("chatHotkeyBtn").click();
   EXPECT_EQ(spy.count(), 1);
 }
 
-TEST_F(Dota7Page, HasTheAbilitiesInTheOrderOfTheGame) {
+TEST_F(CDotA7BasicSettingTest, HasTheAbilitiesInTheOrderOfTheGame) {
   page->resize(page->sizeHint());
   page->show();
   const char16_t* const rows[][6] = {{u"edtOrderSkill_2", u"edtOrderSkill_5", u"edtOrderSkill_8",
@@ -313,7 +313,7 @@ TEST_F(Dota7Page, HasTheAbilitiesInTheOrderOfTheGame) {
   EXPECT_GT(fieldOf(u"edtHACSkill_3").y(), fieldOf(u"edtOrderSkill_2").y());
 }
 
-TEST_F(Dota7Page, IsReadInOrder) {
+TEST_F(CDotA7BasicSettingTest, IsReadInOrder) {
   page->show();
   const QStringList order = tabOrder(*page);
   int last = -1;
@@ -327,7 +327,7 @@ TEST_F(Dota7Page, IsReadInOrder) {
   expectKeyFieldsLast(order);
 }
 
-TEST(Dota7PageWithoutRegistry, StaysQuiet) {
+TEST(CDotA7BasicSettingWithoutRegistry, StaysQuiet) {
   ScopedRegistry registry;
   Dota7KeyInfoManager manager;
   CDotA7BasicSetting page(manager, nullptr);
@@ -342,7 +342,7 @@ TEST(Dota7PageWithoutRegistry, StaysQuiet) {
   EXPECT_EQ(registry.content(), before) << "no key is made";
 }
 
-TEST_F(Dota7Page, HasNamesForScreenReaders) {
+TEST_F(CDotA7BasicSettingTest, HasNamesForScreenReaders) {
   page->show();
   expectAccessible(*page);
 }

@@ -13,7 +13,7 @@
 namespace brennet::test {
 namespace {
 
-TEST(OrreryWindow, HasItsWidgets) {
+TEST(COrrerySettingDlg, HasItsWidgets) {
   const COrrerySettingDlg dialog;
   EXPECT_EQ(dialog.windowTitle(), QStringLiteral(u"Orrery设置"));
   EXPECT_TRUE(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
@@ -39,7 +39,7 @@ TEST(OrreryWindow, HasItsWidgets) {
   EXPECT_EQ(mana->text(), QStringLiteral(u"显示己方蓝量（Dota）"));
 }
 
-TEST(OrreryWindow, PassesItsCheckBoxOn) {
+TEST(COrrerySettingDlg, PassesItsCheckBoxOn) {
   COrrerySettingDlg dialog;
   const QSignalSpy spy(&dialog, &COrrerySettingDlg::chkShowFriendsMana);
   auto* const mana = dialog.findChild<QCheckBox*>(QStringLiteral("chkShowFriendsMana"));
@@ -50,7 +50,7 @@ TEST(OrreryWindow, PassesItsCheckBoxOn) {
   EXPECT_FALSE(spy.at(1).at(0).toBool());
 }
 
-TEST(OrreryWindow, IsAcceptedByItsCloseButton) {
+TEST(COrrerySettingDlg, IsAcceptedByItsCloseButton) {
   COrrerySettingDlg dialog;
   dialog.show();
   dialog.findChild<QPushButton*>(QStringLiteral("btnClose"))->click();
@@ -58,7 +58,7 @@ TEST(OrreryWindow, IsAcceptedByItsCloseButton) {
   EXPECT_EQ(dialog.result(), QDialog::Accepted);
 }
 
-TEST(OrreryWindow, WearsTheSkin) {
+TEST(COrrerySettingDlg, WearsTheSkin) {
   COrrerySettingDlg dialog;
   EXPECT_FALSE(dialog.styleSheet().isEmpty());
   dialog.show();
@@ -67,13 +67,13 @@ TEST(OrreryWindow, WearsTheSkin) {
   EXPECT_EQ(picture.pixelColor(3, 3), QColor(0x1e, 0x24, 0x2f)) << "background";
 }
 
-TEST(OrreryWindow, HasNamesForScreenReaders) {
+TEST(COrrerySettingDlg, HasNamesForScreenReaders) {
   COrrerySettingDlg dialog;
   dialog.show();
   expectAccessible(dialog);
 }
 
-TEST(OrreryWindow, IsReadInOrder) {
+TEST(COrrerySettingDlg, IsReadInOrder) {
   COrrerySettingDlg dialog;
   dialog.show();
   const QStringList expected = {QStringLiteral("btnClose"), QStringLiteral("chkShowFriendsMana"),

@@ -14,7 +14,7 @@
 namespace brennet::test {
 namespace {
 
-class ChatDialogEvents : public testing::Test {
+class ChatKeySettingWidgetEventsTest : public testing::Test {
  protected:
   QLineEdit& phrase() { return find<QLineEdit>(dialog_, QStringLiteral("chatLineEdit_1")); }
   ChatKeySettingWidget& dialog() { return dialog_; }
@@ -36,7 +36,7 @@ constexpr auto kPress = QEvent::MouseButtonPress;
 constexpr auto kMove = QEvent::MouseMove;
 constexpr auto kRelease = QEvent::MouseButtonRelease;
 
-TEST_F(ChatDialogEvents, IsMovedWithTheLeftButton) {
+TEST_F(ChatKeySettingWidgetEventsTest, IsMovedWithTheLeftButton) {
   dialog().move(100, 100);
   sendMouse(dialog(), kPress, Qt::LeftButton, {105, 107});
   sendMouse(dialog(), kMove, Qt::NoButton, {125, 117});
@@ -49,7 +49,7 @@ TEST_F(ChatDialogEvents, IsMovedWithTheLeftButton) {
 }
 
 // What hides it may keep the release.
-TEST_F(ChatDialogEvents, IsNotMovedAnyMoreWhenItWasHiddenMeanwhile) {
+TEST_F(ChatKeySettingWidgetEventsTest, IsNotMovedAnyMoreWhenItWasHiddenMeanwhile) {
   dialog().show();
   const QPoint corner = dialog().pos();
   sendMouse(dialog(), kPress, Qt::LeftButton, corner + QPoint(5, 5));
@@ -59,7 +59,7 @@ TEST_F(ChatDialogEvents, IsNotMovedAnyMoreWhenItWasHiddenMeanwhile) {
   EXPECT_EQ(dialog().pos(), corner);
 }
 
-TEST_F(ChatDialogEvents, IsNotMovedWithOtherButtonsButTheyTakeItElsewhere) {
+TEST_F(ChatKeySettingWidgetEventsTest, IsNotMovedWithOtherButtonsButTheyTakeItElsewhere) {
   dialog().move(100, 100);
   sendMouse(dialog(), kPress, Qt::RightButton, {105, 107});
   sendMouse(dialog(), kMove, Qt::NoButton, {125, 117});
@@ -70,7 +70,7 @@ TEST_F(ChatDialogEvents, IsNotMovedWithOtherButtonsButTheyTakeItElsewhere) {
   EXPECT_EQ(dialog().pos(), QPoint(101, 102));
 }
 
-TEST_F(ChatDialogEvents, IsMovedByItsLabelsButNotByItsFields) {
+TEST_F(ChatKeySettingWidgetEventsTest, IsMovedByItsLabelsButNotByItsFields) {
   dialog().move(100, 100);
   dialog().show();
   auto& label = find<QLabel>(dialog(), QStringLiteral("chatKey_1"));
@@ -84,7 +84,7 @@ TEST_F(ChatDialogEvents, IsMovedByItsLabelsButNotByItsFields) {
   }
 }
 
-TEST_F(ChatDialogEvents, LetsItsFieldsTakeText) {
+TEST_F(ChatKeySettingWidgetEventsTest, LetsItsFieldsTakeText) {
   const NoBoxes noBoxes;
   scheme().ChatWheelkey = KeyWord('Z', 0);
   dialog().show();
@@ -95,7 +95,7 @@ TEST_F(ChatDialogEvents, LetsItsFieldsTakeText) {
   EXPECT_EQ(scheme().ChatWheelkey, KeyWord('Z', 0));
 }
 
-TEST_F(ChatDialogEvents, CapturesKeysForWhomItFilters) {
+TEST_F(ChatKeySettingWidgetEventsTest, CapturesKeysForWhomItFilters) {
   const NoBoxes noBoxes;
   scheme().HeroSkillKey[0] = KeyWord('Q', 0);
   const HotkeyScheme before = scheme();
@@ -117,7 +117,7 @@ TEST_F(ChatDialogEvents, CapturesKeysForWhomItFilters) {
   EXPECT_EQ(scheme(), before);
 }
 
-TEST_F(ChatDialogEvents, TakesTheChatWheelsKeyForAPaste) {
+TEST_F(ChatKeySettingWidgetEventsTest, TakesTheChatWheelsKeyForAPaste) {
   scheme().ChatWheelkey = KeyWord('Z', 0);
   QLineEdit field(QStringLiteral("text"));
   field.installEventFilter(&dialog());

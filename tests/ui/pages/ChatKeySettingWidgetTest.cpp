@@ -23,7 +23,7 @@ namespace {
 constexpr auto kAlt = KeyWord::kAlt;
 constexpr std::uint8_t kF1 = 0x70;
 
-class ChatDialog : public testing::Test {
+class ChatKeySettingWidgetTest : public testing::Test {
  protected:
   ChatKeySettingWidget& open() {
     dialog_ = std::make_unique<ChatKeySettingWidget>(config, nullptr);
@@ -56,7 +56,7 @@ class ChatDialog : public testing::Test {
 
 const QStringList kNothing = {{}, {}, {}, {}, {}, {}, {}, {}};
 
-TEST_F(ChatDialog, HasNoFrameAndItsNames) {
+TEST_F(ChatKeySettingWidgetTest, HasNoFrameAndItsNames) {
   EXPECT_STREQ(dialog().metaObject()->className(), "ChatKeySettingWidget");
   EXPECT_EQ(dialog().windowTitle(), QStringLiteral("CAdvancedSettingWidget"));
   EXPECT_EQ(dialog().windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
@@ -67,13 +67,13 @@ TEST_F(ChatDialog, HasNoFrameAndItsNames) {
   EXPECT_EQ(ChatKeySettingWidget(config, &parent).parentWidget(), &parent);
 }
 
-TEST_F(ChatDialog, HasItsSlotsInOrder) {
+TEST_F(ChatKeySettingWidgetTest, HasItsSlotsInOrder) {
   EXPECT_EQ(
       methodNames(ChatKeySettingWidget::staticMetaObject).join(QLatin1Char(' ')),
       QStringLiteral("onClickedOkBtn onClickedCancelBtn onToggled_ChatKey_1 onToggled_ChatKey_2"));
 }
 
-TEST_F(ChatDialog, HasItsWidgetsWithTheirTexts) {
+TEST_F(ChatKeySettingWidgetTest, HasItsWidgetsWithTheirTexts) {
   EXPECT_EQ(dialog().findChildren<QGroupBox*>().size(), 1);
   EXPECT_EQ(dialog().findChild<QGroupBox*>()->title(), QStringLiteral("快捷喊话设置"));
   for (int n = 1; n <= kPhrases; ++n) {
@@ -95,7 +95,7 @@ TEST_F(ChatDialog, HasItsWidgetsWithTheirTexts) {
   EXPECT_TRUE(button("btnOK").isDefault());
 }
 
-TEST_F(ChatDialog, IsReadInOrderByTab) {
+TEST_F(ChatKeySettingWidgetTest, IsReadInOrderByTab) {
   QStringList names;
   for (int n = 1; n <= kPhrases; ++n) names += phrase(n).objectName();
   names += {QStringLiteral("optChatKey_1"), QStringLiteral("optChatKey_2"), QStringLiteral("btnOK"),
@@ -105,7 +105,7 @@ TEST_F(ChatDialog, IsReadInOrderByTab) {
   expectAccessible(dialog());
 }
 
-TEST_F(ChatDialog, ShowsTheLongestPhraseWholeInOneColumn) {
+TEST_F(ChatKeySettingWidgetTest, ShowsTheLongestPhraseWholeInOneColumn) {
   dialog().show();
   const QString longest(static_cast<int>(kPhraseUnits), QChar(u'字'));
   for (int n = 1; n <= kPhrases; ++n) {
@@ -115,13 +115,13 @@ TEST_F(ChatDialog, ShowsTheLongestPhraseWholeInOneColumn) {
   }
 }
 
-TEST_F(ChatDialog, HasRoomForLongerTexts) {
+TEST_F(ChatKeySettingWidgetTest, HasRoomForLongerTexts) {
   const LongerTexts longer;
   open().show();
   expectNothingIsCut(dialog());
 }
 
-TEST_F(ChatDialog, LoadsTheCurrentScheme) {
+TEST_F(ChatKeySettingWidgetTest, LoadsTheCurrentScheme) {
   scheme(0).QuickChatIndex = 0;
   scheme(0).QuickChat = {u"一", u"2", u"3", u"4", u"5", u"6", u"7", u"8"};
   scheme(1).QuickChat = {u"a", u"b", u"c", u"d", u"e", u"f", u"g", u"h"};
@@ -133,7 +133,7 @@ TEST_F(ChatDialog, LoadsTheCurrentScheme) {
   expectFamily(2);
 }
 
-TEST_F(ChatDialog, CarriesATextOverPhrasesThatAreMissing) {
+TEST_F(ChatKeySettingWidgetTest, CarriesATextOverPhrasesThatAreMissing) {
   EXPECT_EQ(shown(), kNothing);
   scheme().QuickChat[1] = u"b";
   scheme().QuickChat[4] = u"";
@@ -142,7 +142,7 @@ TEST_F(ChatDialog, CarriesATextOverPhrasesThatAreMissing) {
   EXPECT_EQ(shown().join(QLatin1Char(',')), QStringLiteral(",b,b,b,,,g,g"));
 }
 
-TEST_F(ChatDialog, StoresNothingAndAsksNothingWhenItLoads) {
+TEST_F(ChatKeySettingWidgetTest, StoresNothingAndAsksNothingWhenItLoads) {
   const NoBoxes noBoxes;
   scheme().HeroSkillKey[0] = KeyWord('1', kAlt);
   scheme().HeroSkillKey[1] = KeyWord(kF1, kAlt);
@@ -157,7 +157,7 @@ TEST_F(ChatDialog, StoresNothingAndAsksNothingWhenItLoads) {
   EXPECT_EQ(phrase(1).text().size(), 50);
 }
 
-TEST_F(ChatDialog, StoresItsPhrasesWithOk) {
+TEST_F(ChatKeySettingWidgetTest, StoresItsPhrasesWithOk) {
   for (int n = 1; n <= kPhrases; ++n) phrase(n).setText(QStringLiteral("第%1").arg(n));
   phrase(7).clear();
   HotkeyScheme wanted = scheme();
@@ -175,7 +175,7 @@ struct CutCase {
   std::u16string stored;
 };
 
-TEST_F(ChatDialog, CutsWhatIsTooLong) {
+TEST_F(ChatKeySettingWidgetTest, CutsWhatIsTooLong) {
   const std::u16string whole(42, u'中');
   const CutCase cases[] = {
       {whole, whole},
@@ -195,7 +195,7 @@ TEST_F(ChatDialog, CutsWhatIsTooLong) {
   }
 }
 
-TEST_F(ChatDialog, StoresNoPhraseWithCancel) {
+TEST_F(ChatKeySettingWidgetTest, StoresNoPhraseWithCancel) {
   const auto before = scheme().QuickChat;
   family(1).click();
   phrase(1).setText(QStringLiteral("typed"));
@@ -209,7 +209,7 @@ TEST_F(ChatDialog, StoresNoPhraseWithCancel) {
   EXPECT_EQ(scheme().QuickChatIndex, 0U) << "the keys were stored when they were chosen";
 }
 
-TEST_F(ChatDialog, TakesReturnForOkAndEscapeForCancel) {
+TEST_F(ChatKeySettingWidgetTest, TakesReturnForOkAndEscapeForCancel) {
   dialog().show();
   phrase(2).setText(QStringLiteral("typed"));
   QTest::keyClick(&phrase(2), Qt::Key_Escape);
@@ -221,7 +221,7 @@ TEST_F(ChatDialog, TakesReturnForOkAndEscapeForCancel) {
   EXPECT_EQ(scheme().QuickChat[1], u"typed");
 }
 
-TEST_F(ChatDialog, StoresTheKeysAtOnce) {
+TEST_F(ChatKeySettingWidgetTest, StoresTheKeysAtOnce) {
   const NoBoxes noBoxes;
   family(1).click();
   EXPECT_EQ(scheme().QuickChatIndex, 0U);
@@ -229,7 +229,7 @@ TEST_F(ChatDialog, StoresTheKeysAtOnce) {
   EXPECT_EQ(scheme().QuickChatIndex, 1U);
 }
 
-TEST_F(ChatDialog, RefusesKeysThatAreUsed) {
+TEST_F(ChatKeySettingWidgetTest, RefusesKeysThatAreUsed) {
   using Use = void (*)(HotkeyScheme&);
   constexpr Use kUses[] = {
       [](HotkeyScheme& scheme) { scheme.ItemKey[2] = KeyWord('3', kAlt); },
@@ -245,7 +245,7 @@ TEST_F(ChatDialog, RefusesKeysThatAreUsed) {
   }
 }
 
-TEST_F(ChatDialog, AsksOnceWhenNoKeysCanBeHad) {
+TEST_F(ChatKeySettingWidgetTest, AsksOnceWhenNoKeysCanBeHad) {
   scheme().HeroSkillKey[0] = KeyWord('1', kAlt);
   scheme().HeroSkillKey[1] = KeyWord(kF1, kAlt);
   expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { family(1).click(); });
@@ -257,7 +257,7 @@ TEST_F(ChatDialog, AsksOnceWhenNoKeysCanBeHad) {
   EXPECT_EQ(scheme().QuickChatIndex, 0U);
 }
 
-TEST_F(ChatDialog, ResetsKeysAndPhrases) {
+TEST_F(ChatKeySettingWidgetTest, ResetsKeysAndPhrases) {
   const NoBoxes noBoxes;
   config.setIndex(1);
   scheme(1).QuickChatIndex = 0;
@@ -272,14 +272,14 @@ TEST_F(ChatDialog, ResetsKeysAndPhrases) {
   EXPECT_EQ(scheme(0), other);
 }
 
-TEST_F(ChatDialog, ResetsKeysThatWereChosenElsewhere) {
+TEST_F(ChatKeySettingWidgetTest, ResetsKeysThatWereChosenElsewhere) {
   expectFamily(2);
   scheme().QuickChatIndex = 0;
   dialog().clearSettings();
   EXPECT_EQ(scheme().QuickChatIndex, 1U);
 }
 
-TEST_F(ChatDialog, ResetsThePhrasesEvenIfTheKeysAreUsed) {
+TEST_F(ChatKeySettingWidgetTest, ResetsThePhrasesEvenIfTheKeysAreUsed) {
   scheme().QuickChatIndex = 0;
   scheme().QuickChat[0] = u"a";
   scheme().HeroSkillKey[0] = KeyWord(kF1 + 7, kAlt);
@@ -290,7 +290,7 @@ TEST_F(ChatDialog, ResetsThePhrasesEvenIfTheKeysAreUsed) {
   EXPECT_EQ(shown(), kNothing);
 }
 
-TEST_F(ChatDialog, StoresNothingWhereThereIsNoScheme) {
+TEST_F(ChatKeySettingWidgetTest, StoresNothingWhereThereIsNoScheme) {
   for (std::uint32_t index = 3; index <= HotkeyConfig::kLargestIndex; ++index) {
     ASSERT_TRUE(config.setIndex(index));
     open();

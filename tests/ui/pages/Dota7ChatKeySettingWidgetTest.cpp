@@ -19,9 +19,11 @@
 namespace brennet::test {
 namespace {
 
-class Dota7ChatDialog : public Dota7Test {
+class Dota7ChatKeySettingWidgetTest : public Dota7Test {
  protected:
-  Dota7ChatDialog() { dialog = std::make_unique<Dota7ChatKeySettingWidget>(manager, nullptr); }
+  Dota7ChatKeySettingWidgetTest() {
+    dialog = std::make_unique<Dota7ChatKeySettingWidget>(manager, nullptr);
+  }
 
   QLineEdit& fieldOf(const QString& name) { return *dialog->findChild<QLineEdit*>(name); }
   QLineEdit& phrase(int row) { return fieldOf(QStringLiteral("edt_SQuickChatString%1").arg(row)); }
@@ -33,7 +35,7 @@ class Dota7ChatDialog : public Dota7Test {
   std::unique_ptr<Dota7ChatKeySettingWidget> dialog;
 };
 
-TEST_F(Dota7ChatDialog, HasItsWidgets) {
+TEST_F(Dota7ChatKeySettingWidgetTest, HasItsWidgets) {
   EXPECT_EQ(methodNames(Dota7ChatKeySettingWidget::staticMetaObject),
             QStringList({QStringLiteral("onClickedOkBtn"), QStringLiteral("onClickedCancelBtn")}));
   EXPECT_EQ(dialog->windowTitle(), QStringLiteral("CAdvancedSettingWidget"));
@@ -58,7 +60,7 @@ TEST_F(Dota7ChatDialog, HasItsWidgets) {
             QStringLiteral(u"取消"));
 }
 
-TEST_F(Dota7ChatDialog, TakesTextInPhrasesAndKeysInKeyFields) {
+TEST_F(Dota7ChatKeySettingWidgetTest, TakesTextInPhrasesAndKeysInKeyFields) {
   EXPECT_FALSE(phrase(0).isReadOnly());
   EXPECT_FALSE(atStart(14).isReadOnly());
   EXPECT_TRUE(phrase(0).testAttribute(Qt::WA_InputMethodEnabled)) << "phrases are Chinese";
@@ -69,7 +71,7 @@ TEST_F(Dota7ChatDialog, TakesTextInPhrasesAndKeysInKeyFields) {
   EXPECT_EQ(phrases(u"HQuickChatHot14Key"), bytesValue("CTRL + F5"));
 }
 
-TEST_F(Dota7ChatDialog, WritesPhrasesOnlyWhenItIsTold) {
+TEST_F(Dota7ChatKeySettingWidgetTest, WritesPhrasesOnlyWhenItIsTold) {
   phrase(0).setText(QStringLiteral(u"谢谢"));
   atStart(14).setText(QStringLiteral("glhf"));
   EXPECT_EQ(phrases(u"SQuickChatString0"), std::nullopt);
@@ -79,7 +81,7 @@ TEST_F(Dota7ChatDialog, WritesPhrasesOnlyWhenItIsTold) {
   EXPECT_EQ(phrases(u"HQuickChatHot0Key"), std::nullopt) << "key fields are no phrases";
 }
 
-TEST_F(Dota7ChatDialog, LeavesAPhraseThatItCannotReadUntilThePlayerTypesIt) {
+TEST_F(Dota7ChatKeySettingWidgetTest, LeavesAPhraseThatItCannotReadUntilThePlayerTypesIt) {
   const auto unreadable = bytesValue("gg\xFF");
   registry.set(kDota7PhrasesPath, u"SOnStartString0", unreadable);
   dialog->showSettings();
@@ -93,7 +95,7 @@ TEST_F(Dota7ChatDialog, LeavesAPhraseThatItCannotReadUntilThePlayerTypesIt) {
 }
 
 // Ctrl+V is a paste in the chat of the game.
-TEST_F(Dota7ChatDialog, TakesTheKeyOfTheChatWheelAwayForAPaste) {
+TEST_F(Dota7ChatKeySettingWidgetTest, TakesTheKeyOfTheChatWheelAwayForAPaste) {
   HotkeyConfig config;
   config.editableScheme()->ChatWheelkey = KeyWord('W', 0);
   dialog = std::make_unique<Dota7ChatKeySettingWidget>(manager, nullptr, &config);
@@ -107,7 +109,7 @@ TEST_F(Dota7ChatDialog, TakesTheKeyOfTheChatWheelAwayForAPaste) {
   EXPECT_EQ(phrases(u"HQuickChatHot4KeyCode"), platform::dwordValue('V')) << "stored all the same";
 }
 
-TEST_F(Dota7ChatDialog, ForgetsPhrasesAndKeepsKeysWhenItIsCancelled) {
+TEST_F(Dota7ChatKeySettingWidgetTest, ForgetsPhrasesAndKeepsKeysWhenItIsCancelled) {
   phrase(3).setText(QStringLiteral("typed"));
   pressKey(keyField(3), Qt::Key_F6);
   dialog->findChild<QPushButton*>(QStringLiteral("btnCancel"))->click();
@@ -118,7 +120,7 @@ TEST_F(Dota7ChatDialog, ForgetsPhrasesAndKeepsKeysWhenItIsCancelled) {
   EXPECT_EQ(phrases(u"HQuickChatHot3KeyCode"), platform::dwordValue(0x75));
 }
 
-TEST_F(Dota7ChatDialog, KeepsPhrasesOfAllLengths) {
+TEST_F(Dota7ChatKeySettingWidgetTest, KeepsPhrasesOfAllLengths) {
   // 86 characters of three bytes are 258; 87 are 261, one more than there is room for.
   for (const int length : {0, 1, 86, 87, 300}) {
     SCOPED_TRACE(length);
@@ -129,7 +131,7 @@ TEST_F(Dota7ChatDialog, KeepsPhrasesOfAllLengths) {
   }
 }
 
-TEST_F(Dota7ChatDialog, RefusesAKeyThatAnotherRowHas) {
+TEST_F(Dota7ChatKeySettingWidgetTest, RefusesAKeyThatAnotherRowHas) {
   pressKey(keyField(0), Qt::Key_F5);
   const auto box = whenBoxIsShown([&](QMessageBox& shown) {
     EXPECT_EQ(shown.text(), QStringLiteral("IDS_KEY_USED"));
@@ -140,7 +142,7 @@ TEST_F(Dota7ChatDialog, RefusesAKeyThatAnotherRowHas) {
   EXPECT_EQ(phrases(u"HQuickChatHot0KeyCode"), platform::dwordValue(0x74));
 }
 
-TEST_F(Dota7ChatDialog, IsMovedWithTheLeftButton) {
+TEST_F(Dota7ChatKeySettingWidgetTest, IsMovedWithTheLeftButton) {
   dialog->move(100, 100);
   dialog->show();
   const auto send = [&](QEvent::Type type, Qt::MouseButton button, QPoint at) {
@@ -156,7 +158,7 @@ TEST_F(Dota7ChatDialog, IsMovedWithTheLeftButton) {
   EXPECT_EQ(dialog->pos(), start + QPoint(20, 30));
 }
 
-TEST_F(Dota7ChatDialog, HasNamesForScreenReaders) {
+TEST_F(Dota7ChatKeySettingWidgetTest, HasNamesForScreenReaders) {
   dialog->show();
   expectAccessible(*dialog);
 }

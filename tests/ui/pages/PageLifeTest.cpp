@@ -27,7 +27,7 @@ COrrerySettingDlg* orreryWindow() {
   return nullptr;
 }
 
-TEST(ABox, MayGoWithItsParentWhileItIsOpen) {
+TEST(PageLifeBox, MayGoWithItsParentWhileItIsOpen) {
   auto parent = std::make_unique<QWidget>();
   bool isShown = false;
   QTimer::singleShot(0, [&] {
@@ -40,7 +40,7 @@ TEST(ABox, MayGoWithItsParentWhileItIsOpen) {
   EXPECT_TRUE(isShown);
 }
 
-TEST(APage, MayGoWhileItTellsOfAUsedKey) {
+TEST(PageLifePage, MayGoWhileItTellsOfAUsedKey) {
   HotkeyConfig config;
   config.editableScheme()->HeroSkillKey[0] = KeyWord('Q', 0);
   auto page = std::make_unique<CBasicSetting7Widget>(config, nullptr);
@@ -50,7 +50,7 @@ TEST(APage, MayGoWhileItTellsOfAUsedKey) {
   EXPECT_EQ(config.scheme().HeroSkillKey[1], kNoKey);
 }
 
-TEST(ABasicPage, TakesTheOrreryWindowAlongWhenItGoes) {
+TEST(PageLifeBasicPage, TakesTheOrreryWindowAlongWhenItGoes) {
   HotkeyConfig config;
   auto page = std::make_unique<CBasicSetting7Widget>(config, nullptr);
   page->onClickedOrrerySettingBtn();
@@ -59,7 +59,7 @@ TEST(ABasicPage, TakesTheOrreryWindowAlongWhenItGoes) {
   EXPECT_EQ(orreryWindow(), nullptr);
 }
 
-TEST(ABasicPage, HidesTheOrreryWindowWithItself) {
+TEST(PageLifeBasicPage, HidesTheOrreryWindowWithItself) {
   HotkeyConfig config;
   QDialog dialog;
   auto* const page = new CBasicSetting7Widget(config, &dialog);
@@ -71,7 +71,7 @@ TEST(ABasicPage, HidesTheOrreryWindowWithItself) {
 }
 
 // The dialog connects the advanced page's buttons to the quick-chat window, which follows.
-TEST(KeySetsOfTwoWindows, StayTogether) {
+TEST(PageLifeKeySetsOfTwoWindows, StayTogether) {
   HotkeyConfig config;
   CAdvancedSettingWidget page(config, nullptr);
   ChatKeySettingWidget window(config, nullptr);
@@ -83,7 +83,7 @@ TEST(KeySetsOfTwoWindows, StayTogether) {
   EXPECT_TRUE(window.findChild<QRadioButton*>(QStringLiteral("optChatKey_1"))->isChecked());
 }
 
-TEST(KeyFieldsOfTheBasicPage, TellAKeyThatIsTooLongToShow) {
+TEST(PageLifeKeyFieldsOfTheBasicPage, TellAKeyThatIsTooLongToShow) {
   HotkeyConfig config;
   HotkeyScheme& scheme = *config.editableScheme();
   scheme.HeroSkillKey[0] = KeyWord(0x22, KeyWord::kCtrl | KeyWord::kAlt);  // Page Down

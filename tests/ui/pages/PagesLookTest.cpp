@@ -101,7 +101,7 @@ TEST_F(PagesLook, HasRoomForBothLanguages) {
   }
 }
 
-TEST(TheCheckForCutTexts, FindsThem) {
+TEST(PagesLookCheckForCutTexts, FindsThem) {
   QWidget window;
   QLabel text(QStringLiteral("a text"), &window);
   QLabel other(QStringLiteral("another"), &window);
@@ -132,7 +132,7 @@ class Restyled : public QObject {
   }
 };
 
-TEST(TheBasicPage, KeepsItsLookWhenItShowsAnotherScheme) {
+TEST(PagesLookBasicPage, KeepsItsLookWhenItShowsAnotherScheme) {
   HotkeyConfig config;
   recommend(*config.editableScheme(1));
   config.editableScheme(1)->HeroSkillAutocast.fill(true);

@@ -56,9 +56,9 @@ QList<Entry> readEntries(const QString& language) {
   return entries;
 }
 
-class TheCatalogue : public testing::TestWithParam<const char*> {
+class TranslationsTest : public testing::TestWithParam<const char*> {
  protected:
-  TheCatalogue() {
+  TranslationsTest() {
     const QString name = QStringLiteral("brennet_%1.qm").arg(QLatin1String(GetParam()));
     EXPECT_TRUE(catalogue.load(name, QStringLiteral(BRENNET_TRANSLATIONS)));
   }
@@ -76,7 +76,7 @@ class TheCatalogue : public testing::TestWithParam<const char*> {
   QList<Entry> entries = readEntries(QLatin1String(GetParam()));
 };
 
-TEST_P(TheCatalogue, IsWhole) {
+TEST_P(TranslationsTest, IsWhole) {
   EXPECT_FALSE(entries.isEmpty());
   for (const Entry& entry : entries) {
     EXPECT_EQ(entry.state, QString()) << where(entry);
@@ -86,7 +86,7 @@ TEST_P(TheCatalogue, IsWhole) {
   }
 }
 
-TEST_P(TheCatalogue, KeepsPlaceholdersAndHasNoStraySpaces) {
+TEST_P(TranslationsTest, KeepsPlaceholdersAndHasNoStraySpaces) {
   const QRegularExpression placeholder(QStringLiteral("%[0-9n]"));
   for (const Entry& entry : entries) {
     QStringList in[2];
@@ -101,7 +101,7 @@ TEST_P(TheCatalogue, KeepsPlaceholdersAndHasNoStraySpaces) {
   }
 }
 
-TEST_P(TheCatalogue, HasNoMnemonicTwiceInAWindow) {
+TEST_P(TranslationsTest, HasNoMnemonicTwiceInAWindow) {
   const QRegularExpression mnemonic(QStringLiteral("&([^&])"));
   QSet<QString> used;
   for (const Entry& entry : entries) {
@@ -113,7 +113,7 @@ TEST_P(TheCatalogue, HasNoMnemonicTwiceInAWindow) {
   }
 }
 
-TEST_P(TheCatalogue, HasPhrasesThatAreStoredWhole) {
+TEST_P(TranslationsTest, HasPhrasesThatAreStoredWhole) {
   const QString context = QStringLiteral("CChatRouletteSettingWidget");
   for (const PhraseCategory& category : chatPhrases()) {
     EXPECT_NE(translated(context, QLatin1String(category.key)), QString()) << category.key;
@@ -197,7 +197,7 @@ void showMessages(QStringList& texts) {
     texts += table.headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();
 }
 
-TEST_P(TheCatalogue, HasAllThatTheWindowsAskFor) {
+TEST_P(TranslationsTest, HasAllThatTheWindowsAskFor) {
   QCoreApplication::installTranslator(&catalogue);
   HotkeyConfig config;
   QStringList texts;
@@ -222,7 +222,7 @@ TEST_P(TheCatalogue, HasAllThatTheWindowsAskFor) {
       << qPrintable(texts.filter(chinese).join(QLatin1Char('\n')));
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, TheCatalogue, testing::Values("en", "zh_CN"),
+INSTANTIATE_TEST_SUITE_P(Of, TranslationsTest, testing::Values("en", "zh_CN"),
                          [](const auto& language) { return std::string(language.param); });
 
 }  // namespace

@@ -8,7 +8,9 @@ namespace {
 constexpr auto kCtrl = KeyWord::kCtrl;
 constexpr auto kAlt = KeyWord::kAlt;
 
-TEST_F(WheelPage, PutsAClickedPhraseIntoTheSlotWithTheFocus) {
+using WheelKeysTest = WheelPage;
+
+TEST_F(WheelKeysTest, PutsAClickedPhraseIntoTheSlotWithTheFocus) {
   show();
   slot(3).setFocus();
   click(phrase(0, 18));
@@ -20,14 +22,14 @@ TEST_F(WheelPage, PutsAClickedPhraseIntoTheSlotWithTheFocus) {
   for (const int n : {1, 2, 4, 5, 6, 7, 8}) EXPECT_EQ(stored(n), u"") << n;
 }
 
-TEST_F(WheelPage, KeepsTheSpacesOfAPhrase) {
+TEST_F(WheelKeysTest, KeepsTheSpacesOfAPhrase) {
   show();
   slot(1).setFocus();
   click(phrase(0, 11));
   EXPECT_EQ(stored(1), u"jungle ");
 }
 
-TEST_F(WheelPage, DoesNothingForACategoryOrWithoutASlot) {
+TEST_F(WheelKeysTest, DoesNothingForACategoryOrWithoutASlot) {
   show();
   const HotkeyScheme before = scheme();
   slot(3).setFocus();
@@ -46,7 +48,7 @@ TEST_F(WheelPage, DoesNothingForACategoryOrWithoutASlot) {
   EXPECT_TRUE(scheme() == before);
 }
 
-TEST_F(WheelPage, TakesAKeyThatIsFree) {
+TEST_F(WheelKeysTest, TakesAKeyThatIsFree) {
   const NoBoxes none;
   pressKey(key(), Qt::Key_Y, Qt::ControlModifier | Qt::AltModifier);
   EXPECT_EQ(key().text(), QStringLiteral("CTRL +Alt +Y"));
@@ -62,7 +64,7 @@ TEST_F(WheelPage, TakesAKeyThatIsFree) {
   QCoreApplication::processEvents();
 }
 
-TEST_F(WheelPage, RefusesAKeyThatIsUsed) {
+TEST_F(WheelKeysTest, RefusesAKeyThatIsUsed) {
   scheme().HeroSkillKey[0] = KeyWord('Q', 0);
   scheme().NumComboKeyIndex = 0;
   scheme().QuickChatIndex = 1;
@@ -81,7 +83,7 @@ TEST_F(WheelPage, RefusesAKeyThatIsUsed) {
   }
 }
 
-TEST_F(WheelPage, ClearsTheKeyWithoutAWord) {
+TEST_F(WheelKeysTest, ClearsTheKeyWithoutAWord) {
   const NoBoxes none;
   for (const Qt::Key clear : {Qt::Key_Backspace, Qt::Key_Delete}) {
     scheme().ChatWheelkey = KeyWord('Y', 0);
@@ -93,7 +95,7 @@ TEST_F(WheelPage, ClearsTheKeyWithoutAWord) {
   QCoreApplication::processEvents();
 }
 
-TEST_F(WheelPage, NeverKeepsThePasteKey) {
+TEST_F(WheelKeysTest, NeverKeepsThePasteKey) {
   scheme().ChatWheelkey = KeyWord('V', kCtrl);
   page().showSettings();
   expectWarning(page(), "IDS_KEY_USED", [&] { pressKey(key(), Qt::Key_V, Qt::ControlModifier); });
@@ -101,7 +103,7 @@ TEST_F(WheelPage, NeverKeepsThePasteKey) {
   EXPECT_EQ(scheme().ChatWheelkey, kNoKey);
 }
 
-TEST_F(WheelPage, ForgetsALoneModifier) {
+TEST_F(WheelKeysTest, ForgetsALoneModifier) {
   scheme().ChatWheelkey = KeyWord('Y', 0);
   page().showSettings();
   pressKey(key(), Qt::Key_Control);
@@ -111,7 +113,7 @@ TEST_F(WheelPage, ForgetsALoneModifier) {
   EXPECT_EQ(scheme().ChatWheelkey, KeyWord('Y', 0));
 }
 
-TEST_F(WheelPage, LeavesTheKeysOfSlotsAlone) {
+TEST_F(WheelKeysTest, LeavesTheKeysOfSlotsAlone) {
   show();
   slot(1).setFocus();
   slot(1).setText(QStringLiteral("gank"));
@@ -122,7 +124,7 @@ TEST_F(WheelPage, LeavesTheKeysOfSlotsAlone) {
   EXPECT_EQ(stored(1), u"gank");
 }
 
-TEST_F(WheelPage, StoresNothingForAnIndexWithoutAScheme) {
+TEST_F(WheelKeysTest, StoresNothingForAnIndexWithoutAScheme) {
   for (std::uint32_t index = HotkeyConfig::kSchemes; index <= 10; ++index) {
     SCOPED_TRACE(index);
     ASSERT_TRUE(config.setIndex(index));

@@ -17,14 +17,14 @@ namespace {
 
 const std::filesystem::path kFolder = std::filesystem::path(BRENNET_SKIN_FOLDER) / "image";
 
-TEST(ThePictures, AreWhatTheirSourcesDraw) {
+TEST(Pictures, AreWhatTheirSourcesDraw) {
   for (const Picture& picture : kPictures) {
     EXPECT_TRUE(encodePng(picture.draw()) == test::readBytes(kFolder / picture.file))
         << picture.file << " differs; brennet-draw-skin ui/skin/image draws all of them anew";
   }
 }
 
-TEST(ThePictures, AreAllThereAre) {
+TEST(Pictures, AreAllThereAre) {
   std::set<std::string> expected;
   for (const Picture& picture : kPictures) expected.emplace(picture.file);
   std::set<std::string> found;
@@ -35,7 +35,7 @@ TEST(ThePictures, AreAllThereAre) {
 }
 
 // Another decoder agrees with the encoder about each pixel.
-TEST(ThePictures, ReadBackAsTheyWereDrawn) {
+TEST(Pictures, ReadBackAsTheyWereDrawn) {
   for (const Picture& picture : kPictures) {
     const Canvas canvas = picture.draw();
     const QImage image = QImage::fromData(QByteArray::fromStdString(encodePng(canvas)), "PNG");

@@ -52,7 +52,7 @@ QString pathOf(const char* picture) {
   return QStringLiteral(":/skin/image/%1.png").arg(QLatin1String(picture));
 }
 
-TEST(TheResources, AreTheSheetsAndThePictures) {
+TEST(Resources, AreTheSheetsAndThePictures) {
   std::set<std::string> expected = {":/skin/msgbox.qss", ":/skin/war3key.qss"};
   for (const Picture& picture : kPictures) expected.insert(pathOf(picture.name).toStdString());
   std::set<std::string> found;
@@ -61,7 +61,7 @@ TEST(TheResources, AreTheSheetsAndThePictures) {
   EXPECT_EQ(found, expected);
 }
 
-TEST(TheResources, AreTheFilesOfTheSource) {
+TEST(Resources, AreTheFilesOfTheSource) {
   QDirIterator files(QStringLiteral(":/skin"), QDir::Files, QDirIterator::Subdirectories);
   while (files.hasNext()) {
     const QString name = files.next();
@@ -71,7 +71,7 @@ TEST(TheResources, AreTheFilesOfTheSource) {
   }
 }
 
-TEST(TheResources, AreNotCompressedAndHaveNoTime) {
+TEST(Resources, AreNotCompressedAndHaveNoTime) {
   QDirIterator files(QStringLiteral(":/skin"), QDir::Files, QDirIterator::Subdirectories);
   while (files.hasNext()) {
     const QResource resource(files.next());
@@ -80,7 +80,7 @@ TEST(TheResources, AreNotCompressedAndHaveNoTime) {
   }
 }
 
-TEST(TheResources, HavePicturesOfTheFixedSizes) {
+TEST(Resources, HavePicturesOfTheFixedSizes) {
   for (const Picture& picture : kPictures) {
     EXPECT_EQ(QImage(pathOf(picture.name)).size(), picture.size) << picture.name;
   }
@@ -95,7 +95,7 @@ QStringList urlsOf(const QString& sheet) {
   return names;
 }
 
-TEST(TheStyleSheets, NameOnlyPicturesThatAreThere) {
+TEST(ResourcesStyleSheets, NameOnlyPicturesThatAreThere) {
   for (const char* const sheet : {":/skin/war3key.qss", ":/skin/msgbox.qss"}) {
     const QStringList names = urlsOf(QLatin1String(sheet));
     EXPECT_FALSE(names.isEmpty()) << sheet;

@@ -12,7 +12,7 @@ bool skinIsThere() {
          QFile::exists(QStringLiteral(":/skin/image/wheel.png"));
 }
 
-TEST(TheLibrary, HasTheSkinWhileItIsLoaded) {
+TEST(SkinLibrary, HasTheSkinWhileItIsLoaded) {
   ASSERT_FALSE(skinIsThere());
   QLibrary library(QStringLiteral(BRENNET_LIBRARY));
   for (int round = 0; round < 3; ++round) {

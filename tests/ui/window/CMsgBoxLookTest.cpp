@@ -49,7 +49,7 @@ class ShownBox {
   CMsgBox box_;
 };
 
-TEST(TheLookOfTheBox, IsABorderOfTwoPixelsAroundIt) {
+TEST(CMsgBoxLook, IsABorderOfTwoPixelsAroundIt) {
   ShownBox shown;
   const QImage picture = shown.picture();
   const int right = picture.width() - 1;
@@ -66,7 +66,7 @@ TEST(TheLookOfTheBox, IsABorderOfTwoPixelsAroundIt) {
   }
 }
 
-TEST(TheLookOfTheBox, IsATitleStripOf30PixelsOverItsWholeWidth) {
+TEST(CMsgBoxLook, IsATitleStripOf30PixelsOverItsWholeWidth) {
   ShownBox shown;
   EXPECT_EQ(shown.rectOf("msgbox_title_widget"), QRect(0, 0, shown.box().width(), 30));
   const QImage picture = shown.picture();
@@ -79,7 +79,7 @@ TEST(TheLookOfTheBox, IsATitleStripOf30PixelsOverItsWholeWidth) {
 }
 
 // The mouse takes the box in its upper 30 pixels, however tall the strip is (HitTestTest.cpp).
-TEST(TheLookOfTheBox, HasATallerStripWhereTheLettersOfTheTitleAreTaller) {
+TEST(CMsgBoxLook, HasATallerStripWhereTheLettersOfTheTitleAreTaller) {
   const QFont font = QApplication::font();
   QFont large = font;
   large.setPointSizeF(9.0 * 3);
@@ -100,7 +100,7 @@ TEST(TheLookOfTheBox, HasATallerStripWhereTheLettersOfTheTitleAreTaller) {
   QApplication::setFont(font);
 }
 
-TEST(TheLookOfTheBox, IsAPanelFromTheButtonsToItsBorder) {
+TEST(CMsgBoxLook, IsAPanelFromTheButtonsToItsBorder) {
   ShownBox shown;
   const QImage picture = shown.picture();
   const int top = shown.rectOf("qt_msgbox_buttonbox").top();
@@ -114,7 +114,7 @@ TEST(TheLookOfTheBox, IsAPanelFromTheButtonsToItsBorder) {
   }
 }
 
-TEST(TheLookOfTheBox, LeavesTheMarginsOfTheBoxOutOfThePanel) {
+TEST(CMsgBoxLook, LeavesTheMarginsOfTheBoxOutOfThePanel) {
   ShownBox shown;
   shown.box().setContentsMargins(5, 0, 7, 9);
   const QImage picture = shown.picture();
@@ -128,7 +128,7 @@ TEST(TheLookOfTheBox, LeavesTheMarginsOfTheBoxOutOfThePanel) {
   EXPECT_EQ(picture.pixel(right, bottom + 1), kPage);
 }
 
-TEST(TheLookOfTheBox, IsWhiteTextOnDark) {
+TEST(CMsgBoxLook, IsWhiteTextOnDark) {
   ShownBox shown;
   for (const char* const name : {"msgbox_title_label", "qt_msgbox_label"}) {
     const auto* const label = shown.box().findChild<QLabel*>(QLatin1String(name));
@@ -137,7 +137,7 @@ TEST(TheLookOfTheBox, IsWhiteTextOnDark) {
   }
 }
 
-TEST(TheLookOfTheBox, KeepsItsPartsApart) {
+TEST(CMsgBoxLook, KeepsItsPartsApart) {
   ShownBox shown;
   const QRect strip = shown.rectOf("msgbox_title_widget");
   const QRect text = shown.rectOf("qt_msgbox_label");
@@ -149,7 +149,7 @@ TEST(TheLookOfTheBox, KeepsItsPartsApart) {
 }
 
 // QMessageBox makes a new layout for it.
-TEST(TheLookOfTheBox, KeepsItsStripWhenItsIconChanges) {
+TEST(CMsgBoxLook, KeepsItsStripWhenItsIconChanges) {
   CMsgBox box(QMessageBox::Warning, QStringLiteral("title"), QStringLiteral("text"));
   box.setIcon(QMessageBox::Critical);
   box.setInformativeText(QStringLiteral("more"));
@@ -159,7 +159,7 @@ TEST(TheLookOfTheBox, KeepsItsStripWhenItsIconChanges) {
   EXPECT_GE(box.findChild<QWidget*>(QStringLiteral("qt_msgbox_label"))->y(), 30);
 }
 
-TEST(TheLookOfTheBox, IsTheSameInADialogWithTheOtherSheet) {
+TEST(CMsgBoxLook, IsTheSameInADialogWithTheOtherSheet) {
   QWidget dialog;
   ASSERT_TRUE(loadStyleSheet(dialog, QStringLiteral(":/skin/war3key.qss")));
   ShownBox alone;
@@ -170,7 +170,7 @@ TEST(TheLookOfTheBox, IsTheSameInADialogWithTheOtherSheet) {
 }
 
 // The four states of the picture, without being stretched.
-TEST(TheCloseButton, ShowsItsStates) {
+TEST(CMsgBoxLookCloseButton, ShowsItsStates) {
   ShownBox shown;
   const QImage states(QStringLiteral(":/skin/image/closebtn_4s.png"));
   auto* const button = shown.box().findChild<QPushButton*>(QStringLiteral("btnClose"));

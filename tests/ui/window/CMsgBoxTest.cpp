@@ -39,7 +39,7 @@ QPushButton* closeButton(const QMessageBox& box) {
   return box.findChild<QPushButton*>(QStringLiteral("btnClose"));
 }
 
-TEST(TheBox, IsAFramelessDialogWithWhatItWasGiven) {
+TEST(CMsgBox, IsAFramelessDialogWithWhatItWasGiven) {
   const CMsgBox box(QMessageBox::Question, QStringLiteral("a title"), QStringLiteral("a text"),
                     kBoth, nullptr, Qt::Dialog | Qt::WindowStaysOnTopHint);
   EXPECT_EQ(box.icon(), QMessageBox::Question);
@@ -51,7 +51,7 @@ TEST(TheBox, IsAFramelessDialogWithWhatItWasGiven) {
   EXPECT_EQ(box.windowType(), Qt::Dialog);
 }
 
-TEST(TheBox, HasATitleStripWithTheTitleAndACloseButton) {
+TEST(CMsgBox, HasATitleStripWithTheTitleAndACloseButton) {
   CMsgBox box(QMessageBox::Warning, QStringLiteral("<b>title"), {});
   auto* const strip = box.findChild<QWidget*>(QStringLiteral("msgbox_title_widget"));
   ASSERT_NE(strip, nullptr);
@@ -67,7 +67,7 @@ TEST(TheBox, HasATitleStripWithTheTitleAndACloseButton) {
   EXPECT_EQ(closeButton(box)->toolTip(), QStringLiteral("Close"));
 }
 
-TEST(TheBox, IsShownAsADialogOfFixedSize) {
+TEST(CMsgBox, IsShownAsADialogOfFixedSize) {
   ask(kOk, QMessageBox::NoButton, [](QMessageBox& box) {
     EXPECT_NE(qobject_cast<CMsgBox*>(&box), nullptr);
     EXPECT_EQ(box.icon(), QMessageBox::Warning);
@@ -80,12 +80,12 @@ TEST(TheBox, IsShownAsADialogOfFixedSize) {
   });
 }
 
-TEST(TheBox, AnswersWithTheButtonThatWasClicked) {
+TEST(CMsgBox, AnswersWithTheButtonThatWasClicked) {
   EXPECT_EQ(ask(kBoth, kOk, [](QMessageBox& box) { click(box.button(kOk)); }), 0x400);
   EXPECT_EQ(ask(kBoth, kOk, [](QMessageBox& box) { click(box.button(kCancel)); }), 0x400000);
 }
 
-TEST(TheBox, AnswersNothingWhenItsCloseButtonIsClicked) {
+TEST(CMsgBox, AnswersNothingWhenItsCloseButtonIsClicked) {
   EXPECT_EQ(ask(kBoth, kOk, [](QMessageBox& box) { click(closeButton(box)); }), 0);
   int rejections = 0;
   EXPECT_EQ(ask(kOk, kOk,
@@ -97,11 +97,11 @@ TEST(TheBox, AnswersNothingWhenItsCloseButtonIsClicked) {
   EXPECT_EQ(rejections, 1);
 }
 
-TEST(TheBox, AnswersCancelWhenItsRunFails) {
+TEST(CMsgBox, AnswersCancelWhenItsRunFails) {
   EXPECT_EQ(ask(kOk, kOk, [](QMessageBox& box) { box.done(-1); }), kCancel);
 }
 
-TEST(TheBox, TakesReturnForTheDefaultButtonAndEscapeForCancel) {
+TEST(CMsgBox, TakesReturnForTheDefaultButtonAndEscapeForCancel) {
   const auto press = [](Qt::Key key) {
     return [key](QMessageBox& box) { QTest::keyClick(&box, key); };
   };
@@ -110,7 +110,7 @@ TEST(TheBox, TakesReturnForTheDefaultButtonAndEscapeForCancel) {
   EXPECT_EQ(ask(kBoth, kOk, press(Qt::Key_Escape)), kCancel);
 }
 
-TEST(TheBox, NeverGivesItsCloseButtonTheFocusOrTheReturnKey) {
+TEST(CMsgBox, NeverGivesItsCloseButtonTheFocusOrTheReturnKey) {
   ask(QMessageBox::Yes | QMessageBox::No, QMessageBox::NoButton, [](QMessageBox& box) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
     for (int i = 0; i < 4; ++i) {
@@ -135,13 +135,13 @@ QMessageBox::StandardButton defaultOf(QMessageBox::StandardButtons buttons,
   return found;
 }
 
-TEST(TheDefaultButton, IsTheGivenOneWhereTheBoxHasIt) {
+TEST(CMsgBoxDefaultButton, IsTheGivenOneWhereTheBoxHasIt) {
   EXPECT_EQ(defaultOf(kBoth, kCancel), kCancel);
   EXPECT_EQ(defaultOf(kBoth, kOk), kOk);
   EXPECT_EQ(defaultOf(kBoth, QMessageBox::Retry), QMessageBox::NoButton);
 }
 
-TEST(TheDefaultButton, IsElseTheFirstThatAccepts) {
+TEST(CMsgBoxDefaultButton, IsElseTheFirstThatAccepts) {
   EXPECT_EQ(defaultOf(kBoth, QMessageBox::NoButton), kOk);
   EXPECT_EQ(defaultOf(kCancel | QMessageBox::Open | QMessageBox::Save, QMessageBox::NoButton),
             QMessageBox::Save);
@@ -163,7 +163,7 @@ constexpr Row kTexts[] = {
     {0x2000000, "Apply"}, {0x4000000, "Reset"},  {0x8000000, "RestoreDefaults"},
 };
 
-TEST(TheButtons, AreThoseOfTheMaskWithTheirTextsAndWidths) {
+TEST(CMsgBoxButtons, AreThoseOfTheMaskWithTheirTextsAndWidths) {
   for (const Row& row : kTexts) {
     const auto which = static_cast<QMessageBox::StandardButton>(row.bit);
     ask(which, QMessageBox::NoButton, [&](QMessageBox& box) {
@@ -180,7 +180,7 @@ TEST(TheButtons, AreThoseOfTheMaskWithTheirTextsAndWidths) {
   }
 }
 
-TEST(TheButtons, AreAllThereWhenAllAreAskedFor) {
+TEST(CMsgBoxButtons, AreAllThereWhenAllAreAskedFor) {
   QMessageBox::StandardButtons all;
   for (const Row& row : kTexts) all |= static_cast<QMessageBox::StandardButton>(row.bit);
   ask(all, QMessageBox::NoButton, [&](QMessageBox& box) {
@@ -189,7 +189,7 @@ TEST(TheButtons, AreAllThereWhenAllAreAskedFor) {
   });
 }
 
-TEST(TheButtons, AreWiderByTheirOwnMargins) {
+TEST(CMsgBoxButtons, AreWiderByTheirOwnMargins) {
   CMsgBox box(QMessageBox::Warning, {}, {}, kOk);
   box.setButtonTexts();
   auto* const button = qobject_cast<QPushButton*>(box.button(kOk));
@@ -203,7 +203,7 @@ TEST(TheButtons, AreWiderByTheirOwnMargins) {
   EXPECT_EQ(button->minimumWidth(), width + 7 + 10);
 }
 
-TEST(TheButtons, HaveNoIcons) {
+TEST(CMsgBoxButtons, HaveNoIcons) {
   CMsgBox box(QMessageBox::Warning, {}, {}, kOk);
   // As on a desktop whose boxes have some.
   auto* const button = qobject_cast<QPushButton*>(box.button(kOk));
@@ -222,7 +222,7 @@ class Catalogue : public QTranslator {
   }
 };
 
-TEST(TheTexts, ComeFromTheHostsCatalogue) {
+TEST(CMsgBoxTexts, ComeFromTheHostsCatalogue) {
   Catalogue catalogue;
   QCoreApplication::installTranslator(&catalogue);
   ask(kBoth, kOk, [](QMessageBox& box) {

@@ -13,9 +13,9 @@ namespace {
 
 constexpr int kBar = 8;
 
-class APageThatMayScroll : public testing::Test {
+class CPageScrollerTest : public testing::Test {
  protected:
-  APageThatMayScroll() {
+  CPageScrollerTest() {
     scroller.setStyleSheet(QStringLiteral(
         "QScrollBar:vertical { width: 8px; } QScrollBar:horizontal { height: 8px; }"));
     auto* const page = new QWidget;
@@ -33,7 +33,7 @@ class APageThatMayScroll : public testing::Test {
   CPageScroller scroller;
 };
 
-TEST_F(APageThatMayScroll, IsAsLargeAsItsPageWithinTheLimit) {
+TEST_F(CPageScrollerTest, IsAsLargeAsItsPageWithinTheLimit) {
   struct {
     QSize limit, size;
   } const kRows[] = {
@@ -57,7 +57,7 @@ TEST_F(APageThatMayScroll, IsAsLargeAsItsPageWithinTheLimit) {
 }
 
 // What is asked for is enough: in it the page has no bar that its limit does not force.
-TEST_F(APageThatMayScroll, HasTheBarsThatItsLimitAsksFor) {
+TEST_F(CPageScrollerTest, HasTheBarsThatItsLimitAsksFor) {
   struct {
     QSize limit;
     bool isTall, isWide;
@@ -76,7 +76,7 @@ TEST_F(APageThatMayScroll, HasTheBarsThatItsLimitAsksFor) {
   }
 }
 
-TEST(AnEmptyScroller, AsksForNothing) {
+TEST(CPageScrollerEmpty, AsksForNothing) {
   const CPageScroller scroller;
   EXPECT_FALSE(scroller.sizeHint().isValid());
 }

@@ -68,7 +68,7 @@ void whenItHangs(QDialog& dialog) {
   QTimer::singleShot(kPatienceMs, &dialog, [&dialog] { dialog.done(-1); });
 }
 
-TEST(AGuardedRun, EndsWithoutResultWhereAnEventFails) {
+TEST(EventGuardRun, EndsWithoutResultWhereAnEventFails) {
   for (const QEvent::Type type :
        {QEvent::Polish, QEvent::Show, QEvent::Resize, QEvent::Paint, QEvent::User}) {
     GuardedDialog dialog;
@@ -82,7 +82,7 @@ TEST(AGuardedRun, EndsWithoutResultWhereAnEventFails) {
   }
 }
 
-TEST(AGuardedRun, EndsWithoutResultWhereASlotFails) {
+TEST(EventGuardRun, EndsWithoutResultWhereASlotFails) {
   const ToleratedLeaks ofTheButton;
   GuardedDialog dialog;
   QPushButton button(&dialog);
@@ -94,7 +94,7 @@ TEST(AGuardedRun, EndsWithoutResultWhereASlotFails) {
   EXPECT_EQ(runModal(dialog), QDialog::Rejected);
 }
 
-TEST(AGuardedRun, EndsWithTheOnesBelow) {
+TEST(EventGuardRun, EndsWithTheOnesBelow) {
   GuardedDialog dialog;
   QDialog inner(&dialog);
   new FailingWidget(QEvent::Paint, &inner);
@@ -106,7 +106,7 @@ TEST(AGuardedRun, EndsWithTheOnesBelow) {
   EXPECT_FALSE(inner.isVisible());
 }
 
-TEST(AGuardedRun, DoesNotBeginAfterAFailure) {
+TEST(EventGuardRun, DoesNotBeginAfterAFailure) {
   GuardedDialog dialog;
   FailingWidget failing(QEvent::User, &dialog);
   QEvent event(QEvent::User);
@@ -117,7 +117,7 @@ TEST(AGuardedRun, DoesNotBeginAfterAFailure) {
   EXPECT_FALSE(isShown);
 }
 
-TEST(AGuardedRun, KeepsAConfirmationThatWasThereBefore) {
+TEST(EventGuardRun, KeepsAConfirmationThatWasThereBefore) {
   GuardedDialog dialog;
   FailingWidget failing(QEvent::Hide, &dialog);
   whenItRuns(dialog, [&] {
@@ -132,7 +132,7 @@ void type(QWidget& field) {
   QCoreApplication::sendEvent(&field, &event);
 }
 
-TEST(AGuard, LeavesKeysThatNobodyTakesToTheParents) {
+TEST(EventGuard, LeavesKeysThatNobodyTakesToTheParents) {
   class Window : public GuardedDialog {
    public:
     int keys = 0;
@@ -160,7 +160,7 @@ class TakesAllKeys : public QObject {
 };
 
 // Also where an object is put somewhere else when it has them.
-TEST(AGuard, ComesBehindAllOtherEventFilters) {
+TEST(EventGuard, ComesBehindAllOtherEventFilters) {
   TakesAllKeys filter;
   GuardedDialog dialog;
   QWidget place(&dialog);
@@ -172,7 +172,7 @@ TEST(AGuard, ComesBehindAllOtherEventFilters) {
   EXPECT_EQ(field.text(), QString());
 }
 
-TEST(AGuard, IsThereForWhatIsPutIntoAWindow) {
+TEST(EventGuard, IsThereForWhatIsPutIntoAWindow) {
   GuardedDialog dialog;
   QWidget page;
   const QLineEdit field(&page);
@@ -186,7 +186,7 @@ TEST(AGuard, IsThereForWhatIsPutIntoAWindow) {
   page.setParent(nullptr);
 }
 
-TEST(AGuard, LetsItsObjectsGo) {
+TEST(EventGuard, LetsItsObjectsGo) {
   GuardedDialog dialog;
   const QPointer<QWidget> child = new QWidget(&dialog);
   child->deleteLater();
@@ -194,7 +194,7 @@ TEST(AGuard, LetsItsObjectsGo) {
   EXPECT_TRUE(child.isNull());
 }
 
-TEST(AGuard, IsThereForWhatQtCallsPastIt) {
+TEST(EventGuard, IsThereForWhatQtCallsPastIt) {
   EXPECT_EQ(guarded([] { return 7; }), 7);
   EXPECT_THROW(guarded([] { runOut(); }), std::bad_alloc) << "without one";
   {
@@ -210,7 +210,7 @@ TEST(AGuard, IsThereForWhatQtCallsPastIt) {
   EXPECT_EQ(EventGuard::current(), nullptr);
 }
 
-TEST(TheSettingsDialog, IsGuardedInAllItsWindows) {
+TEST(EventGuardOfTheSettingsDialog, IsGuardedInAllItsWindows) {
   const ScopedRegistry registry;
   HotkeyConfig config;
   Dota7KeyInfoManager dota7;

@@ -51,7 +51,7 @@ constexpr std::initializer_list<Case> kEdges = {
     {"below the window", {300, 400}, Hit::NotHandled},
 };
 
-TEST(TheHitTest, FindsTheEightBandsWhateverIsUnderThePoint) {
+TEST(HitTest, FindsTheEightBandsWhateverIsUnderThePoint) {
   for (const DragArea area : {DragArea::EmptyPlaces, DragArea::TopStrip}) {
     for (const Under under : {Under::Nothing, Under::PushButton, Under::Control}) {
       expectHits({kFrame, kMargins, area}, under, kEdges);
@@ -59,7 +59,7 @@ TEST(TheHitTest, FindsTheEightBandsWhateverIsUnderThePoint) {
   }
 }
 
-TEST(TheHitTest, FindsNoBandsWithoutMargins) {
+TEST(HitTest, FindsNoBandsWithoutMargins) {
   expectHits({kFrame, {}, DragArea::EmptyPlaces}, Under::Nothing,
              {{"first pixel", {100, 200}, Hit::Caption},
               {"last pixel", {499, 399}, Hit::Caption},
@@ -68,7 +68,7 @@ TEST(TheHitTest, FindsNoBandsWithoutMargins) {
 }
 
 // Where two opposite margins overlap, the first one wins.
-TEST(TheHitTest, PrefersTheLeftAndTheTopWhereMarginsOverlap) {
+TEST(HitTest, PrefersTheLeftAndTheTopWhereMarginsOverlap) {
   expectHits({{0, 0, 10, 10}, {8, 8, 8, 8}, DragArea::EmptyPlaces}, Under::Nothing,
              {{"middle", {5, 5}, Hit::TopLeft},
               {"right", {9, 5}, Hit::TopRight},
@@ -76,14 +76,14 @@ TEST(TheHitTest, PrefersTheLeftAndTheTopWhereMarginsOverlap) {
               {"corner", {9, 9}, Hit::BottomRight}});
 }
 
-TEST(TheHitTest, WorksLeftOfAndAboveTheFirstScreen) {
+TEST(HitTest, WorksLeftOfAndAboveTheFirstScreen) {
   expectHits({{-1000, -500, 400, 200}, kMargins, DragArea::EmptyPlaces}, Under::Nothing,
              {{"corner", {-1000, -500}, Hit::TopLeft},
               {"last pixel", {-601, -301}, Hit::BottomRight},
               {"inside", {-900, -400}, Hit::Caption}});
 }
 
-TEST(ADialog, IsDraggedWhereNoControlAndNoLinkIs) {
+TEST(HitTestOfADialog, IsDraggedWhereNoControlAndNoLinkIs) {
   const WindowShape window{kFrame, kMargins, DragArea::EmptyPlaces};
   const auto hitOver = [&](Under under) { return hitTest(window, {300, 380}, under); };
   EXPECT_EQ(hitOver(Under::Nothing), Hit::Caption);
@@ -95,7 +95,7 @@ TEST(ADialog, IsDraggedWhereNoControlAndNoLinkIs) {
   EXPECT_EQ(hitOver(Under::Control), Hit::Client);
 }
 
-TEST(ABox, IsDraggedByItsTopStripAlone) {
+TEST(HitTestOfABox, IsDraggedByItsTopStripAlone) {
   const WindowShape window{kFrame, kMargins, DragArea::TopStrip};
   for (const Under under :
        {Under::Nothing, Under::Label, Under::Link, Under::GroupBox, Under::Frame, Under::Control}) {
@@ -110,7 +110,7 @@ TEST(ABox, IsDraggedByItsTopStripAlone) {
 }
 
 // What Windows expects is a number.
-TEST(TheHitTest, AnswersWithTheNumbersOfWindows) {
+TEST(HitTest, AnswersWithTheNumbersOfWindows) {
   EXPECT_EQ(static_cast<int>(Hit::NotHandled), -2);
   EXPECT_EQ(static_cast<int>(Hit::Client), 1);
   EXPECT_EQ(static_cast<int>(Hit::Caption), 2);

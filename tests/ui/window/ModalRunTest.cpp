@@ -15,7 +15,7 @@
 namespace brennet::test {
 namespace {
 
-TEST(AModalRun, EndsWhenItsWindowGoes) {
+TEST(ModalRun, EndsWhenItsWindowGoes) {
   struct {
     const char* name;
     void (*end)(QDialog&);
@@ -40,13 +40,13 @@ TEST(AModalRun, EndsWhenItsWindowGoes) {
   }
 }
 
-TEST(AModalRun, EndsWhenItsWindowIsDeleted) {
+TEST(ModalRun, EndsWhenItsWindowIsDeleted) {
   auto* const dialog = new QDialog;
   QTimer::singleShot(0, dialog, [dialog] { delete dialog; });
   EXPECT_EQ(runModal(*dialog), QDialog::Rejected);
 }
 
-TEST(AModalRun, EndsBeforeItBeginsWhereItsWindowHidesAtOnce) {
+TEST(ModalRun, EndsBeforeItBeginsWhereItsWindowHidesAtOnce) {
   class Shy : public QDialog {
     void showEvent(QShowEvent* /*event*/) override { hide(); }
   };
@@ -54,7 +54,7 @@ TEST(AModalRun, EndsBeforeItBeginsWhereItsWindowHidesAtOnce) {
   EXPECT_EQ(runModal(dialog), QDialog::Rejected);
 }
 
-TEST(AModalRun, CanBeRepeated) {
+TEST(ModalRun, CanBeRepeated) {
   QDialog dialog;
   for (int round = 1; round <= 3; ++round) {
     QTimer::singleShot(0, &dialog, [&] { dialog.done(round); });
@@ -62,7 +62,7 @@ TEST(AModalRun, CanBeRepeated) {
   }
 }
 
-TEST(AModalRun, LeavesOtherWindowsAsTheyWereModal) {
+TEST(ModalRun, LeavesOtherWindowsAsTheyWereModal) {
   QDialog dialog;
   QTimer::singleShot(0, &dialog, [&] {
     EXPECT_EQ(dialog.windowModality(), Qt::ApplicationModal);
@@ -72,7 +72,7 @@ TEST(AModalRun, LeavesOtherWindowsAsTheyWereModal) {
   EXPECT_EQ(dialog.windowModality(), Qt::NonModal);
 }
 
-TEST(AModalRun, LetsItsWindowGoThatCannotBeShown) {
+TEST(ModalRun, LetsItsWindowGoThatCannotBeShown) {
   class Failing : public QDialog {
    public:
     void setVisible(bool visible) override {

@@ -196,7 +196,7 @@ TEST_F(OwnerHandling, TakesTheParentInPlaceOfAChild) {
 }
 
 // The dialog on settings of its own, run before a host's window.
-class SettingsBeforeAHost : public OwnerHandling {
+class OwnerHandlingBeforeAHost : public OwnerHandling {
  protected:
   // Does `look` when the dialog has come up, and cancels it then.
   int runSettings(const std::function<void()>& look) {
@@ -215,7 +215,7 @@ class SettingsBeforeAHost : public OwnerHandling {
   CHotkeySettingDlg dialog{config, manager};
 };
 
-TEST_F(SettingsBeforeAHost, GiveTheWindowBackWhenTheyAreCancelled) {
+TEST_F(OwnerHandlingBeforeAHost, GiveTheWindowBackWhenTheyAreCancelled) {
   EXPECT_EQ(runSettings([&] {
               EXPECT_TRUE(dialog.isVisible());
               EXPECT_FALSE(host.isEnabled());
@@ -225,11 +225,11 @@ TEST_F(SettingsBeforeAHost, GiveTheWindowBackWhenTheyAreCancelled) {
   EXPECT_EQ(GetActiveWindow(), host.handle());
 }
 
-TEST_F(SettingsBeforeAHost, HaveTheKeyboard) {
+TEST_F(OwnerHandlingBeforeAHost, HaveTheKeyboard) {
   runSettings([&] { EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog)); });
 }
 
-TEST_F(SettingsBeforeAHost, GiveTheKeyboardToTheirOwnWindows) {
+TEST_F(OwnerHandlingBeforeAHost, GiveTheKeyboardToTheirOwnWindows) {
   runSettings([&] {
     dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
@@ -263,7 +263,7 @@ void moveTo(const HostWindow& window, int x, int y) {
   SetWindowPos(window.handle(), nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-TEST(ThePlaceOfTheHost, IsThatOfTheWindowThatThePlayerHasBeforeHim) {
+TEST(OwnerHandlingPlace, IsThatOfTheWindowThatThePlayerHasBeforeHim) {
   const HostWindow root;
   moveTo(root, 30, 20);
   expectPlaceOf(root);
@@ -273,7 +273,7 @@ TEST(ThePlaceOfTheHost, IsThatOfTheWindowThatThePlayerHasBeforeHim) {
   expectPlaceOf(popup);
 }
 
-TEST(ThePlaceOfTheHost, IsNoneWithoutAWindowThatIsSeen) {
+TEST(OwnerHandlingPlace, IsNoneWithoutAWindowThatIsSeen) {
   EXPECT_FALSE(platform::ownerFrame().has_value());
   const HostWindow host;
   ShowWindow(host.handle(), SW_MINIMIZE);
@@ -281,7 +281,7 @@ TEST(ThePlaceOfTheHost, IsNoneWithoutAWindowThatIsSeen) {
   EXPECT_FALSE(platform::ownerFrame().has_value());
 }
 
-TEST_F(SettingsBeforeAHost, ComeUpInTheMiddleOfIt) {
+TEST_F(OwnerHandlingBeforeAHost, ComeUpInTheMiddleOfIt) {
   moveTo(host, 250, 300);
   runSettings([&] {
     const QScreen& screen = *dialog.screen();
@@ -309,7 +309,7 @@ TEST_F(OwnerHandling, GivesTheWindowBackWhenTheDialogFails) {
   EXPECT_EQ(GetActiveWindow(), host.handle());
 }
 
-TEST(WithoutOwnerHandling, TheHostsWindowIsLeftAlone) {
+TEST(OwnerHandlingLeftOut, TheHostsWindowIsLeftAlone) {
   const HostWindow host;
   EXPECT_EQ(run(QDialog::Accepted, [&] { EXPECT_TRUE(host.isEnabled()); }), QDialog::Accepted);
 }

@@ -12,9 +12,9 @@ namespace {
 
 constexpr const char* kBefore = "QWidget { color: red }";
 
-class AStyleSheet : public testing::Test {
+class StyleSheetTest : public testing::Test {
  protected:
-  AStyleSheet() { widget_.setStyleSheet(QLatin1String(kBefore)); }
+  StyleSheetTest() { widget_.setStyleSheet(QLatin1String(kBefore)); }
 
   // A file with that content.
   QString fileWith(const char* content) {
@@ -27,23 +27,23 @@ class AStyleSheet : public testing::Test {
   QWidget widget_;
 };
 
-TEST_F(AStyleSheet, IsAppliedAsItStandsThere) {
+TEST_F(StyleSheetTest, IsAppliedAsItStandsThere) {
   EXPECT_TRUE(loadStyleSheet(widget_, fileWith("QLabel { color: #123456 } /* \xE7\x9A\xAE */")));
   EXPECT_EQ(widget_.styleSheet(), QStringLiteral(u"QLabel { color: #123456 } /* 皮 */"));
 }
 
-TEST_F(AStyleSheet, ThatIsEmptyChangesNothing) {
+TEST_F(StyleSheetTest, ThatIsEmptyChangesNothing) {
   EXPECT_TRUE(loadStyleSheet(widget_, fileWith("")));
   EXPECT_EQ(widget_.styleSheet(), QLatin1String(kBefore));
 }
 
-TEST_F(AStyleSheet, ThatIsNotThereIsToldAndChangesNothing) {
+TEST_F(StyleSheetTest, ThatIsNotThereIsToldAndChangesNothing) {
   EXPECT_FALSE(loadStyleSheet(widget_, QStringLiteral(":/skin/none.qss")));
   EXPECT_EQ(widget_.styleSheet(), QLatin1String(kBefore));
 }
 
 // Qt says on its output where a sheet cannot be parsed, which fails the test.
-TEST_F(AStyleSheet, OfTheSkinIsUnderstoodByQt) {
+TEST_F(StyleSheetTest, OfTheSkinIsUnderstoodByQt) {
   for (const char* const name : {":/skin/war3key.qss", ":/skin/msgbox.qss"}) {
     ASSERT_TRUE(loadStyleSheet(widget_, QLatin1String(name)));
     widget_.ensurePolished();

@@ -21,9 +21,9 @@ namespace brennet {
 namespace {
 
 // A window with one thing of each kind, side by side on a form.
-class AWindow : public testing::Test {
+class WindowDragTest : public testing::Test {
  protected:
-  AWindow() {
+  WindowDragTest() {
     window_.setWindowFlags(Qt::FramelessWindowHint);
     window_.setGeometry(50, 60, 900, 200);
     form_.setGeometry(0, 0, 800, 200);
@@ -63,7 +63,7 @@ class AWindow : public testing::Test {
   QCheckBox inArea_{&area_};
 };
 
-TEST_F(AWindow, KnowsWhatIsUnderThePoint) {
+TEST_F(WindowDragTest, KnowsWhatIsUnderThePoint) {
   EXPECT_EQ(under(strip_), Under::Frame);
   EXPECT_EQ(under(label_), Under::Label);
   EXPECT_EQ(under(link_), Under::Link);
@@ -79,16 +79,16 @@ TEST_F(AWindow, KnowsWhatIsUnderThePoint) {
   EXPECT_EQ(underPoint(dragged(), besideTheForm), Under::Nothing);
 }
 
-TEST_F(AWindow, CountsOtherWidgetsAsControls) {
+TEST_F(WindowDragTest, CountsOtherWidgetsAsControls) {
   EXPECT_EQ(underPoint({window_}, middleOf(strip_)), Under::Control);
 }
 
-TEST_F(AWindow, KnowsAGroupBoxAlsoWhereItHoldsOthers) {
+TEST_F(WindowDragTest, KnowsAGroupBoxAlsoWhereItHoldsOthers) {
   const QVBoxLayout inGroup(&group_);
   EXPECT_EQ(under(group_), Under::GroupBox);
 }
 
-TEST_F(AWindow, IsDraggedByItsEmptyPlacesAndSizedByItsMargins) {
+TEST_F(WindowDragTest, IsDraggedByItsEmptyPlacesAndSizedByItsMargins) {
   EXPECT_EQ(hitAt(dragged(), middleOf(label_)), Hit::Caption);
   EXPECT_EQ(hitAt(dragged(), middleOf(area_)), Hit::Caption);
   EXPECT_EQ(hitAt(dragged(), middleOf(link_)), Hit::Client);
@@ -100,7 +100,7 @@ TEST_F(AWindow, IsDraggedByItsEmptyPlacesAndSizedByItsMargins) {
   EXPECT_EQ(hitAt(dragged(), {949, 259}), Hit::BottomRight);
 }
 
-TEST(APointOfWindows, IsScaledFromTheCornerOfItsScreen) {
+TEST(WindowDragPoint, IsScaledFromTheCornerOfItsScreen) {
   EXPECT_EQ(fromNative({300, 200}, {0, 0}, 1), QPoint(300, 200));
   EXPECT_EQ(fromNative({300, 200}, {0, 0}, 2), QPoint(150, 100));
   EXPECT_EQ(fromNative({2220, 200}, {1920, 0}, 1.5), QPoint(2120, 133));
@@ -108,7 +108,7 @@ TEST(APointOfWindows, IsScaledFromTheCornerOfItsScreen) {
 }
 
 // A message of Windows to this window.
-class AMessage : public AWindow {
+class WindowDragMessages : public WindowDragTest {
  protected:
   [[nodiscard]] NativeMessage messageAt(QPoint point) const {
     const auto low = static_cast<std::uint16_t>(point.x());
@@ -125,14 +125,14 @@ class AMessage : public AWindow {
   long result_ = 0;
 };
 
-TEST_F(AMessage, ThatAsksWhatAPointIsIsAnswered) {
+TEST_F(WindowDragMessages, ThatAsksWhatAPointIsIsAnswered) {
   EXPECT_TRUE(answer(messageAt(middleOf(label_))));
   EXPECT_EQ(result_, 2);
   EXPECT_TRUE(answer(messageAt(middleOf(button_))));
   EXPECT_EQ(result_, 1);
 }
 
-TEST_F(AMessage, HasTwoSignedHalves) {
+TEST_F(WindowDragMessages, HasTwoSignedHalves) {
   window_.move(-400, -50);
   EXPECT_TRUE(answer(messageAt(middleOf(button_))));
   EXPECT_EQ(result_, 1);
@@ -140,7 +140,7 @@ TEST_F(AMessage, HasTwoSignedHalves) {
   EXPECT_EQ(result_, 2);
 }
 
-TEST_F(AMessage, ThatIsNotForTheWindowIsLeftAlone) {
+TEST_F(WindowDragMessages, ThatIsNotForTheWindowIsLeftAlone) {
   NativeMessage message = messageAt(middleOf(label_));
   EXPECT_FALSE(answer(message, "xcb_generic_event_t"));
   message.message = 133;
@@ -152,7 +152,7 @@ TEST_F(AMessage, ThatIsNotForTheWindowIsLeftAlone) {
   EXPECT_EQ(result_, 77);
 }
 
-TEST_F(AMessage, ToAWindowThatIsNotMadeYetIsLeftAlone) {
+TEST_F(WindowDragMessages, ToAWindowThatIsNotMadeYetIsLeftAlone) {
   const QWidget other;
   NativeMessage message = messageAt({0, 0});
   message.window = nullptr;
@@ -166,9 +166,9 @@ bool isTaken(QWidget& window, QPoint place, Qt::MouseButton button) {
   return press.isAccepted();
 }
 
-class ADraggedBox : public testing::Test {
+class WindowDragOfABox : public testing::Test {
  protected:
-  ADraggedBox() {
+  WindowDragOfABox() {
     box_.setButtonTexts();
     box_.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&box_));
@@ -178,7 +178,7 @@ class ADraggedBox : public testing::Test {
                QStringLiteral("a text of some length, with a second half"), QMessageBox::Ok};
 };
 
-TEST_F(ADraggedBox, TakesALeftPressInItsTopStripAlone) {
+TEST_F(WindowDragOfABox, TakesALeftPressInItsTopStripAlone) {
   EXPECT_TRUE(isTaken(box_, {20, 0}, Qt::LeftButton));
   EXPECT_TRUE(isTaken(box_, {20, 30}, Qt::LeftButton));
   EXPECT_FALSE(isTaken(box_, {20, 31}, Qt::LeftButton));
@@ -200,7 +200,7 @@ bool waits(const QWidget& window) {
               .isEmpty();
 }
 
-TEST_F(ADraggedBox, GoesWithTheMouseWhenThatMoves) {
+TEST_F(WindowDragOfABox, GoesWithTheMouseWhenThatMoves) {
   const QPoint place(20, 10);
   ASSERT_FALSE(waits(box_));
   sendMouse(box_, QEvent::MouseButtonPress, place, Qt::LeftButton);
@@ -211,7 +211,7 @@ TEST_F(ADraggedBox, GoesWithTheMouseWhenThatMoves) {
   EXPECT_FALSE(waits(box_));
 }
 
-TEST_F(ADraggedBox, StaysAfterAClick) {
+TEST_F(WindowDragOfABox, StaysAfterAClick) {
   const QPoint place(20, 10);
   sendMouse(box_, QEvent::MouseButtonPress, place, Qt::LeftButton);
   sendMouse(box_, QEvent::MouseButtonRelease, place, Qt::NoButton);
@@ -222,7 +222,7 @@ TEST_F(ADraggedBox, StaysAfterAClick) {
   EXPECT_FALSE(waits(box_));
 }
 
-TEST_F(ADraggedBox, AnswersWindowsLikewise) {
+TEST_F(WindowDragOfABox, AnswersWindowsLikewise) {
   struct Opened : CMsgBox {
     using CMsgBox::nativeEvent;
   };

@@ -19,7 +19,7 @@ static_assert(offsetof(NativeMessage, lParam) == offsetof(MSG, lParam));
 static_assert(sizeof(NativeMessage::lParam) == sizeof(LPARAM));
 static_assert(std::is_signed_v<decltype(NativeMessage::lParam)>);
 
-TEST(TheNumbersOfWindows, AreThoseOfItsHeader) {
+TEST(WindowDragNumbers, AreThoseOfItsHeader) {
   EXPECT_EQ(static_cast<int>(Hit::Client), HTCLIENT);
   EXPECT_EQ(static_cast<int>(Hit::Caption), HTCAPTION);
   EXPECT_EQ(static_cast<int>(Hit::Left), HTLEFT);
