@@ -87,24 +87,38 @@ std::optional<std::uint8_t> placeAmong(const Keys& keys, KeyWord key) {
   return static_cast<std::uint8_t>(found - keys.begin());
 }
 
-// Why `key` is not assignable; nothing when it is.
-std::optional<KeyConflict> conflictOfNew(const HotkeyScheme& scheme, KeyWord key) {
+// Calls `visit` with each conflict that keeps `key` from being assignable.
+template <class Visit>
+void forEachHolder(const HotkeyScheme& scheme, KeyWord key, Visit visit) {
   using Reason = KeyConflict::Reason;
-  if (!canBeBound(key)) return KeyConflict{Reason::CannotBeBound};
-  if (const auto holder = holderOf(scheme, key)) return KeyConflict{Reason::Held, *holder};
+  if (!canBeBound(key)) return visit(KeyConflict{Reason::CannotBeBound});
+  lookAtGuardedKeys(scheme, [&](KeySlot slot, int step, const auto& keys, auto keyOf) {
+    for (const auto& one : keys) {
+      if (keyOf(one).sameKey(key)) visit(KeyConflict{Reason::Held, slot});
+      slot.index = static_cast<std::uint8_t>(slot.index + step);
+    }
+  });
   if (const ItemPreset* preset = chosenItemPreset(scheme)) {
     if (const auto place = placeAmong(*preset, key)) {
-      return KeyConflict{Reason::ItemPresetKey,
-                         {SettingId::NumComboKeyIndex, *place},
-                         static_cast<std::uint8_t>(scheme.NumComboKeyIndex)};
+      visit(KeyConflict{Reason::ItemPresetKey,
+                        {SettingId::NumComboKeyIndex, *place},
+                        static_cast<std::uint8_t>(scheme.NumComboKeyIndex)});
     }
   }
   if (const auto place = placeAmong(chosenQuickChatKeys(scheme), key)) {
-    return KeyConflict{Reason::QuickChatSetKey,
-                       {SettingId::QuickChatIndex, *place},
-                       static_cast<std::uint8_t>(scheme.QuickChatIndex == 0 ? 0 : 1)};
+    visit(KeyConflict{Reason::QuickChatSetKey,
+                      {SettingId::QuickChatIndex, *place},
+                      static_cast<std::uint8_t>(scheme.QuickChatIndex == 0 ? 0 : 1)});
   }
-  return std::nullopt;
+}
+
+// Why `key` is not assignable, the first reason of several; nothing when it is.
+std::optional<KeyConflict> conflictOfNew(const HotkeyScheme& scheme, KeyWord key) {
+  std::optional<KeyConflict> first;
+  forEachHolder(scheme, key, [&](const KeyConflict& conflict) {
+    if (!first) first = conflict;
+  });
+  return first;
 }
 
 }  // namespace
@@ -118,16 +132,10 @@ bool isKeyFree(const HotkeyScheme& scheme, KeyWord key) {
   return !taken;
 }
 
-std::optional<KeySlot> holderOf(const HotkeyScheme& scheme, KeyWord key) {
-  std::optional<KeySlot> holder;
-  if (!key.isSet()) return holder;
-  lookAtGuardedKeys(scheme, [&](KeySlot slot, int step, const auto& keys, auto keyOf) {
-    for (const auto& one : keys) {
-      if (!holder && keyOf(one).sameKey(key)) holder = slot;
-      slot.index = static_cast<std::uint8_t>(slot.index + step);
-    }
-  });
-  return holder;
+std::vector<KeyConflict> holdersOf(const HotkeyScheme& scheme, KeyWord key) {
+  std::vector<KeyConflict> holders;
+  forEachHolder(scheme, key, [&](const KeyConflict& conflict) { holders.push_back(conflict); });
+  return holders;
 }
 
 std::optional<KeyConflict> conflictOf(const HotkeyScheme& scheme, KeySlot slot, KeyWord key) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "keys/KeyWord.h"
 #include "model/HotkeyScheme.h"
@@ -9,7 +10,8 @@
 
 namespace brennet {
 
-// Questions about the keys of a scheme. Pure functions: nothing is changed, shown or allocated.
+// Questions about the keys of a scheme. Pure functions: nothing is changed or shown, and but for
+// holdersOf nothing is allocated.
 
 // Whether `key` may be bound: it is a key other than Backspace, Delete and Enter, and no hero
 // skill, item of the item-key map, remap destination, combination key D, Ledger key or single
@@ -25,10 +27,6 @@ namespace brennet {
 // Whether `key` is free and neither an item preset key nor a quick-chat key, as every new binding
 // must be.
 [[nodiscard]] bool isKeyAssignable(const HotkeyScheme& scheme, KeyWord key);
-
-// The setting that has `key`, of those whose keys isKeyFree looks at: the first one if several have
-// it, nothing if none has it or it is no key.
-[[nodiscard]] std::optional<KeySlot> holderOf(const HotkeyScheme& scheme, KeyWord key);
 
 // Why a scheme refuses a key.
 struct KeyConflict {
@@ -46,6 +44,11 @@ struct KeyConflict {
 
   friend constexpr bool operator==(const KeyConflict&, const KeyConflict&) = default;
 };
+
+// Every place that keeps `key` from being assignable, in the order of the settings; empty when the
+// key is assignable. A key that can never be bound has that one reason alone. Unlike the other
+// questions, this one allocates. Throws std::bad_alloc.
+[[nodiscard]] std::vector<KeyConflict> holdersOf(const HotkeyScheme& scheme, KeyWord key);
 
 // Why `scheme` would refuse `key` in `slot`; nothing when it would accept it (KeyAssignment.h). The
 // key that is already there is accepted, and so is any key that is only pressed: the source of a

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
+#include "tests/model/KeyPlaces.h"
 #include "tests/model/Keys.h"
 
 namespace brennet {
@@ -11,63 +10,8 @@ namespace {
 
 using namespace test;
 
-struct Place {
-  const char* name;
-  std::function<void(HotkeyScheme&, KeyWord)> put;
-  KeySlot slot{};
-};
-
-const Place kTakenPlaces[] = {
-    {"first hero skill",
-     [](HotkeyScheme& s, KeyWord k) { s.HeroSkillKey.front() = k; },
-     {SettingId::HeroSkillKey, 0}},
-    {"last hero skill",
-     [](HotkeyScheme& s, KeyWord k) { s.HeroSkillKey.back() = k; },
-     {SettingId::HeroSkillKey, 11}},
-    {"first item",
-     [](HotkeyScheme& s, KeyWord k) { s.ItemKey.front() = k; },
-     {SettingId::ItemKey, 0}},
-    {"last item",
-     [](HotkeyScheme& s, KeyWord k) { s.ItemKey.back() = k; },
-     {SettingId::ItemKey, 5}},
-    {"remap destination",
-     [](HotkeyScheme& s, KeyWord k) { s.HotKey.back().Dest = k; },
-     {SettingId::HotKey, 11}},
-    {"combination key D",
-     [](HotkeyScheme& s, KeyWord k) { s.ComboKey.Key_D = k; },
-     {SettingId::ComboKey, 3}},
-    {"first Ledger key",
-     [](HotkeyScheme& s, KeyWord k) { s.SecretaryKey.front() = k; },
-     {SettingId::SecretaryKey, 0}},
-    {"last Ledger key",
-     [](HotkeyScheme& s, KeyWord k) { s.SecretaryKey.back() = k; },
-     {SettingId::SecretaryKey, 2}},
-    {"ShowFBlood", [](HotkeyScheme& s, KeyWord k) { s.ShowFBlood = k; }, {SettingId::ShowFBlood}},
-    {"ShowEBlood", [](HotkeyScheme& s, KeyWord k) { s.ShowEBlood = k; }, {SettingId::ShowEBlood}},
-    {"HotkeyContrl",
-     [](HotkeyScheme& s, KeyWord k) { s.HotkeyContrl = k; },
-     {SettingId::HotkeyContrl}},
-    {"WinLockMouse",
-     [](HotkeyScheme& s, KeyWord k) { s.WinLockMouse = k; },
-     {SettingId::WinLockMouse}},
-    {"QuickChatKey",
-     [](HotkeyScheme& s, KeyWord k) { s.QuickChatKey = k; },
-     {SettingId::QuickChatKey}},
-    {"ChatWheelkey",
-     [](HotkeyScheme& s, KeyWord k) { s.ChatWheelkey = k; },
-     {SettingId::ChatWheelkey}},
-};
-
-const Place kIgnoredPlaces[] = {
-    {"mouse key", [](HotkeyScheme& s, KeyWord k) { s.MouseKey.front() = k; }},
-    {"remap source", [](HotkeyScheme& s, KeyWord k) { s.HotKey.front().Src = k; }},
-    {"combination key A", [](HotkeyScheme& s, KeyWord k) { s.ComboKey.Key_A = k; }},
-    {"combination key B", [](HotkeyScheme& s, KeyWord k) { s.ComboKey.Key_B = k; }},
-    {"combination key C", [](HotkeyScheme& s, KeyWord k) { s.ComboKey.Key_C = k; }},
-};
-
 TEST(KeyConflictsIsKeyFree, IsFalseForAKeyThatAnythingHas) {
-  for (const Place& place : kTakenPlaces) {
+  for (const KeyPlace& place : kGuardedPlaces) {
     HotkeyScheme scheme;
     EXPECT_TRUE(isKeyFree(scheme, kAltQ)) << place.name;
     place.put(scheme, kAltQ);
@@ -86,13 +30,12 @@ TEST(KeyConflictsIsKeyFree, IsTrueForAllThatCanBeBoundWhereNothingIs) {
       const std::uint8_t vk = key.virtualKey();
       const bool canBeBound = key.isSet() && vk != 0x08 && vk != 0x0D && vk != 0x2E;
       ASSERT_EQ(isKeyFree(scheme, key), canBeBound) << raw;
-      ASSERT_EQ(holderOf(scheme, key), std::nullopt) << raw;
     }
   }
 }
 
 TEST(KeyConflictsIsKeyFree, DoesNotConsultMouseKeysAndSources) {
-  for (const Place& place : kIgnoredPlaces) {
+  for (const KeyPlace& place : kSharedPlaces) {
     HotkeyScheme scheme;
     place.put(scheme, kQ);
     EXPECT_TRUE(isKeyFree(scheme, kQ)) << place.name;
@@ -106,23 +49,6 @@ TEST(KeyConflictsIsKeyFree, IsFalseForKeysThatAreNeverBound) {
     EXPECT_FALSE(isKeyFree(scheme, KeyWord(vk, 0))) << int{vk};
     EXPECT_FALSE(isKeyFree(scheme, KeyWord(vk, KeyWord::kAlt))) << int{vk};
   }
-}
-
-TEST(KeyConflictsHolderOf, NamesTheSettingThatHasTheKey) {
-  for (const Place& place : kTakenPlaces) {
-    HotkeyScheme scheme;
-    EXPECT_EQ(holderOf(scheme, kAltQ), std::nullopt) << place.name;
-    place.put(scheme, kAltQ);
-    EXPECT_EQ(holderOf(scheme, kAltQ), place.slot) << place.name;
-    EXPECT_EQ(holderOf(scheme, kQ), std::nullopt) << place.name;
-    EXPECT_EQ(keyAt(scheme, place.slot), kAltQ) << place.name;
-  }
-  for (const Place& place : kIgnoredPlaces) {
-    HotkeyScheme scheme;
-    place.put(scheme, kQ);
-    EXPECT_EQ(holderOf(scheme, kQ), std::nullopt) << place.name;
-  }
-  EXPECT_EQ(holderOf(HotkeyScheme(), kNoKey), std::nullopt);
 }
 
 TEST(KeyConflictsConflictOf, TellsWhyAKeyIsRefused) {
@@ -207,7 +133,7 @@ TEST(KeyConflictsIsQuickChatKey, KnowsTheEightKeysOfTheChosenSet) {
 }
 
 TEST(KeyConflictsIsKeyUsed, LooksAtEverythingThatIsPressed) {
-  for (const Place& place : kTakenPlaces) {
+  for (const KeyPlace& place : kGuardedPlaces) {
     if (std::string_view(place.name) == "remap destination") continue;
     HotkeyScheme scheme;
     EXPECT_FALSE(isKeyUsed(scheme, 'Q')) << place.name;
