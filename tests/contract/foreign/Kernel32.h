@@ -31,8 +31,12 @@ struct HeapEntry {
 };
 
 __declspec(dllimport) Module __stdcall LoadLibraryW(const wchar_t* name);
+__declspec(dllimport) Module
+    __stdcall LoadLibraryExW(const wchar_t* name, Handle reserved, unsigned flags);
 __declspec(dllimport) int __stdcall FreeLibrary(Module module);
 __declspec(dllimport) Module __stdcall GetModuleHandleW(const wchar_t* name);
+__declspec(dllimport) unsigned __stdcall GetModuleFileNameW(Module module, wchar_t* path,
+                                                            unsigned size);
 __declspec(dllimport) Address __stdcall GetProcAddress(Module module, const char* name);
 
 __declspec(dllimport) Address
@@ -68,6 +72,8 @@ __declspec(dllimport) unsigned __stdcall TlsAlloc();
 __declspec(dllimport) int __stdcall TlsFree(unsigned index);
 
 __declspec(dllimport) const wchar_t* __stdcall GetCommandLineW();
+__declspec(dllimport) unsigned __stdcall GetEnvironmentVariableW(const wchar_t* name,
+                                                                 wchar_t* value, unsigned size);
 __declspec(dllimport) int __stdcall SetEnvironmentVariableW(const wchar_t* name,
                                                             const wchar_t* value);
 __declspec(dllimport) Handle __stdcall GetStdHandle(unsigned which);
@@ -76,6 +82,7 @@ __declspec(dllimport) ExceptionFilter __stdcall SetUnhandledExceptionFilter(Exce
 
 }  // extern "C"
 
+constexpr unsigned kLoadWithAlteredSearchPath = 8;
 constexpr unsigned kStandardOutput = 0xFFFFFFF5;
 constexpr unsigned kMemCommit = 0x1000;
 constexpr unsigned kMemReserve = 0x2000;
