@@ -112,6 +112,19 @@ void forEachHolder(const HotkeyScheme& scheme, KeyWord key, Visit visit) {
   }
 }
 
+// The keys of a set that are taken. The choice that the set would replace is no reason.
+template <class Keys>
+std::vector<TakenKey> takenKeysOf(const HotkeyScheme& scheme, const Keys& keys,
+                                  KeyConflict::Reason replaced) {
+  std::vector<TakenKey> taken;
+  for (const KeyWord key : keys) {
+    forEachHolder(scheme, key, [&](const KeyConflict& conflict) {
+      if (conflict.reason != replaced) taken.push_back({key, conflict});
+    });
+  }
+  return taken;
+}
+
 // Why `key` is not assignable, the first reason of several; nothing when it is.
 std::optional<KeyConflict> conflictOfNew(const HotkeyScheme& scheme, KeyWord key) {
   std::optional<KeyConflict> first;
@@ -163,6 +176,17 @@ std::optional<KeyConflict> conflictOf(const HotkeyScheme& scheme, const ComboKey
   }
   if (scheme.ComboKey.Key_D.sameKey(keys.Key_D)) return std::nullopt;
   return conflictOfNew(scheme, keys.Key_D);
+}
+
+std::vector<TakenKey> takenKeysOfPreset(const HotkeyScheme& scheme, std::int32_t preset) {
+  if (preset < 0 || preset >= kItemPresets) return {};
+  return takenKeysOf(scheme, kItemPresetKeys[static_cast<std::size_t>(preset)],
+                     KeyConflict::Reason::ItemPresetKey);
+}
+
+std::vector<TakenKey> takenQuickChatKeys(const HotkeyScheme& scheme, std::uint32_t set) {
+  if (set >= kQuickChatKeySets.size()) return {};
+  return takenKeysOf(scheme, kQuickChatKeySets[set], KeyConflict::Reason::QuickChatSetKey);
 }
 
 bool isItemPresetKey(const HotkeyScheme& scheme, KeyWord key) {

@@ -10,8 +10,8 @@
 
 namespace brennet {
 
-// Questions about the keys of a scheme. Pure functions: nothing is changed or shown, and but for
-// holdersOf nothing is allocated.
+// Questions about the keys of a scheme. Pure functions: nothing is changed or shown, and nothing is
+// allocated but by those that answer with a vector, which throw std::bad_alloc.
 
 // Whether `key` may be bound: it is a key other than Backspace, Delete and Enter, and no hero
 // skill, item of the item-key map, remap destination, combination key D, Ledger key or single
@@ -46,8 +46,7 @@ struct KeyConflict {
 };
 
 // Every place that keeps `key` from being assignable, in the order of the settings; empty when the
-// key is assignable. A key that can never be bound has that one reason alone. Unlike the other
-// questions, this one allocates. Throws std::bad_alloc.
+// key is assignable. A key that can never be bound has that one reason alone.
 [[nodiscard]] std::vector<KeyConflict> holdersOf(const HotkeyScheme& scheme, KeyWord key);
 
 // Why `scheme` would refuse `key` in `slot`; nothing when it would accept it (KeyAssignment.h). The
@@ -60,6 +59,22 @@ struct KeyConflict {
 // The same for all four combination keys at once.
 [[nodiscard]] std::optional<KeyConflict> conflictOf(const HotkeyScheme& scheme,
                                                     const ComboKeys& keys);
+
+// A key of a set that is chosen as a whole, and one of the things that have it already.
+struct TakenKey {
+  KeyWord key;
+  KeyConflict conflict;
+
+  friend constexpr bool operator==(const TakenKey&, const TakenKey&) = default;
+};
+
+// Why `scheme` would refuse an item preset (0 to 2) or a quick-chat key set (0 or 1): the keys of
+// it that are taken, in their order, each with all that has it. Empty when it would be accepted,
+// and for a set that does not exist.
+[[nodiscard]] std::vector<TakenKey> takenKeysOfPreset(const HotkeyScheme& scheme,
+                                                      std::int32_t preset);
+[[nodiscard]] std::vector<TakenKey> takenQuickChatKeys(const HotkeyScheme& scheme,
+                                                       std::uint32_t set);
 
 // Whether anything the player can press is bound to the virtual key `vk`, modifiers aside. Only
 // here the mouse keys and the sources of remaps count too.

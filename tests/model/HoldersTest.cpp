@@ -5,6 +5,7 @@
 #include <random>
 
 #include "model/FixedKeys.h"
+#include "model/KeyAssignment.h"
 #include "model/KeyConflicts.h"
 #include "tests/model/KeyPlaces.h"
 #include "tests/model/Keys.h"
@@ -79,6 +80,42 @@ TEST(Holders, SayOfAKeyThatIsNeverBoundNothingElse) {
   }
 }
 
+TEST(Holders, OfTheKeysOfASetAreWhatKeepsItFromBeingChosen) {
+  HotkeyScheme scheme;
+  scheme.QuickChatIndex = 1;
+  scheme.NumComboKeyIndex = 0;
+  scheme.HeroSkillKey[5] = KeyWord('2', KeyWord::kAlt);
+  scheme.WinLockMouse = KeyWord('2', KeyWord::kAlt);
+  scheme.ShowFBlood = kAlt8;
+  const TakenKey skill{KeyWord('2', KeyWord::kAlt), held({SettingId::HeroSkillKey, 5})};
+  const TakenKey lock{KeyWord('2', KeyWord::kAlt), held({SettingId::WinLockMouse})};
+  EXPECT_THAT(takenQuickChatKeys(scheme, 0),
+              ElementsAre(skill, lock, TakenKey{kAlt8, held({SettingId::ShowFBlood})}));
+  EXPECT_THAT(takenQuickChatKeys(scheme, 1), IsEmpty());
+  EXPECT_THAT(takenKeysOfPreset(scheme, 2), ElementsAre(skill, lock));
+  EXPECT_THAT(takenKeysOfPreset(scheme, 0), IsEmpty());
+}
+
+TEST(Holders, OfASetAreKeysOfTheOtherSetAndNotOfTheOneThatItReplaces) {
+  HotkeyScheme scheme;
+  scheme.NumComboKeyIndex = 2;
+  scheme.QuickChatIndex = 1;
+  EXPECT_THAT(takenQuickChatKeys(scheme, 0), testing::SizeIs(6));
+  EXPECT_THAT(takenKeysOfPreset(scheme, 1), IsEmpty());
+  scheme.NumComboKeyIndex = 0;
+  scheme.QuickChatIndex = 0;
+  EXPECT_THAT(takenKeysOfPreset(scheme, 2), testing::SizeIs(6));
+  EXPECT_THAT(takenQuickChatKeys(scheme, 1), IsEmpty());
+}
+
+TEST(Holders, AreNoneOfASetThatDoesNotExist) {
+  HotkeyScheme scheme;
+  for (const std::int32_t preset : {-1, 3, 1000}) {
+    EXPECT_THAT(takenKeysOfPreset(scheme, preset), IsEmpty()) << preset;
+  }
+  EXPECT_THAT(takenQuickChatKeys(scheme, 2), IsEmpty());
+}
+
 // Each key of each of some hundred schemes with keys at random, a few of which are the same.
 TEST(Holders, AgreeWithTheQuestionsThatAreAnsweredByYesAndNo) {
   std::minstd_rand random(15);
@@ -99,6 +136,14 @@ TEST(Holders, AgreeWithTheQuestionsThatAreAnsweredByYesAndNo) {
       });
       ASSERT_EQ(isKeyFree(scheme, key), !isGuarded) << raw;
       ASSERT_EQ(isKeyAssignable(scheme, key), holders.empty()) << raw;
+    }
+    for (const int preset : {0, 1, 2}) {
+      HotkeyScheme changed = scheme;
+      ASSERT_EQ(choosePreset(changed, preset), takenKeysOfPreset(scheme, preset).empty());
+    }
+    for (const unsigned set : {0U, 1U}) {
+      HotkeyScheme changed = scheme;
+      ASSERT_EQ(chooseQuickChatKeys(changed, set), takenQuickChatKeys(scheme, set).empty());
     }
   }
 }
