@@ -975,6 +975,77 @@ Do you want to go on?</translation>
     </message>
 </context>
 <context>
+    <name>KeyHolder</name>
+    <message>
+        <source>上排</source>
+        <translation>top row</translation>
+    </message>
+    <message>
+        <source>中排</source>
+        <translation>middle row</translation>
+    </message>
+    <message>
+        <source>下排</source>
+        <translation>bottom row</translation>
+    </message>
+    <message>
+        <source>第一个</source>
+        <translation>first</translation>
+    </message>
+    <message>
+        <source>第二个</source>
+        <translation>second</translation>
+    </message>
+    <message>
+        <source>第三个</source>
+        <translation>third</translation>
+    </message>
+    <message>
+        <source>第四个</source>
+        <translation>fourth</translation>
+    </message>
+    <message>
+        <source>%1（%2，%3）</source>
+        <translation>%1 (%2, %3)</translation>
+    </message>
+    <message>
+        <source>%1（在主窗口中）</source>
+        <translation>%1 (in the main window)</translation>
+    </message>
+    <message>
+        <source>%1（在“Orrery设置”中）</source>
+        <translation>%1 (under &quot;Orrery settings&quot;)</translation>
+    </message>
+    <message>
+        <source>%1（在“快捷喊话”中）</source>
+        <translation>%1 (under &quot;Quick chat&quot;)</translation>
+    </message>
+    <message>
+        <source>%1（没有窗口显示它；“清空设置”可将其移除）</source>
+        <translation>%1 (no window shows it; &quot;Clear settings&quot; removes it)</translation>
+    </message>
+    <message>
+        <source>快捷喊话第 %1 句</source>
+        <translation>quick-chat phrase %1</translation>
+    </message>
+    <message>
+        <source>小键盘组合快捷键 %1，小键盘 %2</source>
+        <translation>keypad preset %1, keypad %2</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>不能用作快捷键</source>
+        <translation>cannot be a hotkey</translation>
+    </message>
+    <message>
+        <source>在游戏聊天中用于粘贴；聊天轮盘的热键已移除</source>
+        <translation>pastes text in the game&apos;s chat; the chat wheel has no key any more</translation>
+    </message>
+</context>
+<context>
     <name>QDialogButtonBox</name>
     <message>
         <source>OK</source>

@@ -974,6 +974,77 @@ Are you sure to continue?</source>
     </message>
 </context>
 <context>
+    <name>KeyHolder</name>
+    <message>
+        <source>上排</source>
+        <translation>上排</translation>
+    </message>
+    <message>
+        <source>中排</source>
+        <translation>中排</translation>
+    </message>
+    <message>
+        <source>下排</source>
+        <translation>下排</translation>
+    </message>
+    <message>
+        <source>第一个</source>
+        <translation>第一个</translation>
+    </message>
+    <message>
+        <source>第二个</source>
+        <translation>第二个</translation>
+    </message>
+    <message>
+        <source>第三个</source>
+        <translation>第三个</translation>
+    </message>
+    <message>
+        <source>第四个</source>
+        <translation>第四个</translation>
+    </message>
+    <message>
+        <source>%1（%2，%3）</source>
+        <translation>%1（%2，%3）</translation>
+    </message>
+    <message>
+        <source>%1（在主窗口中）</source>
+        <translation>%1（在主窗口中）</translation>
+    </message>
+    <message>
+        <source>%1（在“Orrery设置”中）</source>
+        <translation>%1（在“Orrery设置”中）</translation>
+    </message>
+    <message>
+        <source>%1（在“快捷喊话”中）</source>
+        <translation>%1（在“快捷喊话”中）</translation>
+    </message>
+    <message>
+        <source>%1（没有窗口显示它；“清空设置”可将其移除）</source>
+        <translation>%1（没有窗口显示它；“清空设置”可将其移除）</translation>
+    </message>
+    <message>
+        <source>快捷喊话第 %1 句</source>
+        <translation>快捷喊话第 %1 句</translation>
+    </message>
+    <message>
+        <source>小键盘组合快捷键 %1，小键盘 %2</source>
+        <translation>小键盘组合快捷键 %1，小键盘 %2</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>不能用作快捷键</source>
+        <translation>不能用作快捷键</translation>
+    </message>
+    <message>
+        <source>在游戏聊天中用于粘贴；聊天轮盘的热键已移除</source>
+        <translation>在游戏聊天中用于粘贴；聊天轮盘的热键已移除</translation>
+    </message>
+</context>
+<context>
     <name>QDialogButtonBox</name>
     <message>
         <source>OK</source>

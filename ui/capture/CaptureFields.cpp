@@ -1,9 +1,11 @@
 #include "ui/capture/CaptureFields.h"
 
+#include <QEvent>
 #include <QLineEdit>
 #include <algorithm>
 #include <utility>
 
+#include "ui/capture/RefusalText.h"
 #include "ui/capture/SlotCapture.h"
 #include "ui/window/Text.h"
 
@@ -24,6 +26,7 @@ void CaptureFields::install(const QWidget& window, QObject& page) {
 
 void CaptureFields::refresh() {
   filter_.forget();
+  outline_.clear();
   for (const Field& row : fields_) row.field->setText(keyText(keyAt(config_->scheme(), row.slot)));
 }
 
@@ -34,11 +37,32 @@ std::optional<KeySlot> CaptureFields::slotOf(const QLineEdit& field) const {
   return row->slot;
 }
 
+bool CaptureFields::filter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) outline_.clear();
+  return filter_.filter(watched, event);
+}
+
+void CaptureFields::outline(const std::vector<KeySlot>& holders) {
+  std::vector<QWidget*> fields;
+  for (const Field& row : fields_) {
+    if (std::ranges::find(holders, row.slot) != holders.end()) fields.push_back(row.field);
+  }
+  outline_.show(std::move(fields));
+}
+
 void CaptureFields::take(QLineEdit& field, const Capture& capture) {
   if (capture.outcome != Capture::Outcome::Shown) page_.trace(field);
-  const bool isUsed = store(capture, slotOf(field), *config_);
-  field.setText(isUsed ? QString() : toQString(capture.text.view()));
-  if (isUsed) page_.tellUsed();
+  const std::optional<KeySlot> slot = slotOf(field);
+  const std::optional<Refusal> refusal = store(capture, slot, *config_);
+  field.setText(refusal ? QString() : toQString(capture.text.view()));
+  if (refusal) tell(slot, *refusal);
+}
+
+void CaptureFields::tell(const std::optional<KeySlot>& slot, const Refusal& refusal) {
+  std::vector<KeySlot> holders;
+  for (const KeyConflict& reason : refusal.reasons) holders.push_back(reason.holder);
+  outline(holders);
+  page_.tellUsed(refusalText(refusal, slot ? windowOf(*slot) : KeyWindow::Main));
 }
 
 }  // namespace brennet

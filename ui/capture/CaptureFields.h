@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <functional>
 #include <optional>
 #include <string_view>
@@ -7,9 +9,12 @@
 
 #include "model/HotkeyConfig.h"
 #include "model/KeySlot.h"
+#include "ui/capture/HolderOutline.h"
 #include "ui/capture/KeyFieldFilter.h"
 
 namespace brennet {
+
+struct Refusal;
 
 // What a page with fields for keys of the scheme contributes.
 struct CapturePage {
@@ -19,8 +24,8 @@ struct CapturePage {
   std::function<std::optional<KeySlot>(std::u16string_view)> slotOf;
   // Is told which field a key was pressed in, before the key is stored.
   std::function<void(const QLineEdit&)> trace = [](const QLineEdit&) {};
-  // Tells the player that a key is already used. May run an event loop.
-  std::function<void()> tellUsed;
+  // Tells the player that a key is already used, and by what. May run an event loop.
+  std::function<void(const QString& why)> tellUsed;
 };
 
 // The fields of a page for keys of the current scheme.
@@ -40,7 +45,11 @@ class CaptureFields {
   void refresh();
 
   // For the event filter of the page: whether the event was consumed.
-  bool filter(QObject* watched, QEvent* event) { return filter_.filter(watched, event); }
+  bool filter(QObject* watched, QEvent* event);
+
+  // Outlines the fields that edit these slots, until the next key is pressed in a field or all are
+  // shown anew.
+  void outline(const std::vector<KeySlot>& holders);
 
  private:
   struct Field {
@@ -50,11 +59,13 @@ class CaptureFields {
 
   [[nodiscard]] std::optional<KeySlot> slotOf(const QLineEdit& field) const;
   void take(QLineEdit& field, const Capture& capture);
+  void tell(const std::optional<KeySlot>& slot, const Refusal& refusal);
 
   CapturePage page_;
   HotkeyConfig* config_;
   KeyFieldFilter filter_;
   std::vector<Field> fields_;
+  HolderOutline outline_;
 };
 
 }  // namespace brennet

@@ -31,7 +31,7 @@ Dota7Key toDota7Key(KeyWord key) {
 }  // namespace
 
 Dota7KeyFields::Dota7KeyFields(Dota7KeyInfoManager& manager, HotkeyConfig* config,
-                               std::function<void()> tellUsed)
+                               std::function<void(const QString& why)> tellUsed)
     : manager_(&manager),
       config_(config),
       tellUsed_(std::move(tellUsed)),
@@ -67,7 +67,7 @@ void Dota7KeyFields::take(QLineEdit& field, const Capture& capture) {
   // that.
   if (isPasted && config_ != nullptr) makeRoomForPaste(*config_);
   field.clear();
-  if (isCaptured) tellUsed_();
+  if (isCaptured) tellUsed_({});
 }
 
 QString Dota7KeyFields::textOf(KeyWord key) const {

@@ -21,7 +21,7 @@ class Dota7KeyFields {
   // the key of the chat wheel, which a paste takes away; it may be null. Both `manager` and
   // `config` outlive this object.
   Dota7KeyFields(Dota7KeyInfoManager& manager, HotkeyConfig* config,
-                 std::function<void()> tellUsed);
+                 std::function<void(const QString& why)> tellUsed);
   Dota7KeyFields(const Dota7KeyFields&) = delete;
   Dota7KeyFields& operator=(const Dota7KeyFields&) = delete;
   ~Dota7KeyFields() = default;
@@ -47,7 +47,7 @@ class Dota7KeyFields {
 
   Dota7KeyInfoManager* manager_;
   HotkeyConfig* config_;
-  std::function<void()> tellUsed_;
+  std::function<void(const QString& why)> tellUsed_;
   KeyFieldFilter filter_;
   std::vector<Field> fields_;
 };

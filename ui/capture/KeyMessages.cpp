@@ -12,19 +12,20 @@ QString shared(const char* key) {
   return QCoreApplication::translate("QObject", key);
 }
 
-void warn(QWidget* parent, const char* key) {
+void warn(QWidget* parent, const char* key, const QString& why) {
   CMsgBox::showMessage(parent, QMessageBox::Warning,
-                       shared(QT_TRANSLATE_NOOP("QObject", "IDS_TITLE")), shared(key));
+                       shared(QT_TRANSLATE_NOOP("QObject", "IDS_TITLE")), shared(key),
+                       QMessageBox::Ok, QMessageBox::NoButton, why);
 }
 
 }  // namespace
 
-void tellKeyIsUsed(QWidget* parent) {
-  warn(parent, QT_TRANSLATE_NOOP("QObject", "IDS_KEY_USED"));
+void tellKeyIsUsed(QWidget* parent, const QString& why) {
+  warn(parent, QT_TRANSLATE_NOOP("QObject", "IDS_KEY_USED"), why);
 }
 
-void tellKeySetIsUsed(QWidget* parent) {
-  warn(parent, QT_TRANSLATE_NOOP("QObject", "IDS_GROUP_KEY_USED"));
+void tellKeySetIsUsed(QWidget* parent, const QString& why) {
+  warn(parent, QT_TRANSLATE_NOOP("QObject", "IDS_GROUP_KEY_USED"), why);
 }
 
 }  // namespace brennet

@@ -11,12 +11,22 @@ void clear(HotkeyConfig& config, KeySlot slot) {
   if (HotkeyScheme* const scheme = config.editableScheme()) storeKey(*scheme, slot, kNoKey);
 }
 
-// Whether the key was refused; the slot has no key then.
-bool isRefused(HotkeyConfig& config, KeySlot slot, KeyWord key) {
+// All that keeps `key` from being stored in `slot`; empty when it may be.
+std::vector<KeyConflict> conflictsOf(const HotkeyScheme& scheme, KeySlot slot, KeyWord key) {
+  const std::optional<KeyConflict> first = conflictOf(scheme, slot, key);
+  if (!first) return {};
+  if (first->reason == KeyConflict::Reason::SentByItself) return {*first};
+  return holdersOf(scheme, key);
+}
+
+// Stores the key; or tells why not, and the slot has no key then.
+std::optional<Refusal> refusalOf(HotkeyConfig& config, KeySlot slot, KeyWord key) {
   HotkeyScheme* const scheme = config.editableScheme();
-  if (scheme != nullptr && assignKey(*scheme, slot, key)) return false;
+  if (scheme == nullptr) return Refusal{key, {}};
+  Refusal refusal{key, conflictsOf(*scheme, slot, key)};
+  if (assignKey(*scheme, slot, key)) return std::nullopt;
   clear(config, slot);
-  return true;
+  return refusal;
 }
 
 }  // namespace
@@ -29,16 +39,18 @@ void makeRoomForPaste(HotkeyConfig& config) {
   if (HotkeyScheme* const scheme = config.editableScheme()) scheme->ChatWheelkey = kNoKey;
 }
 
-bool store(const Capture& capture, const std::optional<KeySlot>& slot, HotkeyConfig& config) {
+std::optional<Refusal> store(const Capture& capture, const std::optional<KeySlot>& slot,
+                             HotkeyConfig& config) {
   if (capture.outcome == Capture::Outcome::Cleared) {
     if (slot) clear(config, *slot);
-    return false;
+    return std::nullopt;
   }
-  if (capture.outcome != Capture::Outcome::Captured) return false;
-  const bool refused = slot && isRefused(config, *slot, capture.key);
-  if (!isPaste(capture.key)) return refused;
+  if (capture.outcome != Capture::Outcome::Captured) return std::nullopt;
+  std::optional<Refusal> refusal;
+  if (slot) refusal = refusalOf(config, *slot, capture.key);
+  if (!isPaste(capture.key)) return refusal;
   makeRoomForPaste(config);
-  return true;
+  return refusal ? refusal : Refusal{capture.key, {}};
 }
 
 }  // namespace brennet

@@ -4,7 +4,9 @@
 #include <QSignalBlocker>
 
 #include "model/HotkeyConfig.h"
+#include "model/KeyConflicts.h"
 #include "ui/capture/KeyMessages.h"
+#include "ui/capture/RefusalText.h"
 
 namespace brennet {
 
@@ -15,13 +17,16 @@ void QuickChatKeyButtons::refresh() const {
 void QuickChatKeyButtons::toggled(int set, bool isChecked) const {
   if (!isChecked) return;
   // The choice may come from the buttons of another window.
-  const bool isChosen = config_->SetQuickChatIndex(static_cast<std::uint32_t>(set));
+  const auto index = static_cast<std::uint32_t>(set);
+  const QString why =
+      refusalText(takenQuickChatKeys(config_->scheme(), index), KeyWindow::QuickChat);
+  const bool isChosen = config_->SetQuickChatIndex(index);
   check(isChosen ? set : 1 - set);
   if (isChosen) return;
   // A hidden window asks through its parent window.
   QWidget* const window = button(set).window();
   const bool isAside = !window->isVisible() && window->parentWidget() != nullptr;
-  tellKeySetIsUsed(isAside ? window->parentWidget() : window);
+  tellKeySetIsUsed(isAside ? window->parentWidget() : window, why);
 }
 
 QRadioButton& QuickChatKeyButtons::button(int set) const {

@@ -42,7 +42,7 @@ CapturePage basicCapturePage(BasicPage kind, QWidget& page) {
             EditControl control;
             if (!featureKeyOf(viewOf(name))) tracedEditControl(name, kind, control);
           },
-      .tellUsed = [&page] { tellKeyIsUsed(&page); },
+      .tellUsed = [&page](const QString& why) { tellKeyIsUsed(&page, why); },
   };
 }
 

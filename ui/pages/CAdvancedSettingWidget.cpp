@@ -46,7 +46,7 @@ CAdvancedSettingWidget::CAdvancedSettingWidget(brennet::HotkeyConfig& config, QW
       chatKeys_({form_->optChatKey_1, form_->optChatKey_2}, config),
       keys_({.style = {},
              .slotOf = brennet::featureKeyOf,
-             .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
+             .tellUsed = [this](const QString& why) { brennet::tellKeyIsUsed(this, why); }},
             config) {
   buildTable();
   keys_.install(*this, *this);
@@ -102,15 +102,15 @@ void CAdvancedSettingWidget::refreshPhrases() {
 }
 
 void CAdvancedSettingWidget::onToggled_GroupKey1(bool bChecked) {
-  presets_.toggled(0, bChecked);
+  keys_.outline(presets_.toggled(0, bChecked));
 }
 
 void CAdvancedSettingWidget::onToggled_GroupKey2(bool bChecked) {
-  presets_.toggled(1, bChecked);
+  keys_.outline(presets_.toggled(1, bChecked));
 }
 
 void CAdvancedSettingWidget::onToggled_GroupKey3(bool bChecked) {
-  presets_.toggled(2, bChecked);
+  keys_.outline(presets_.toggled(2, bChecked));
 }
 
 void CAdvancedSettingWidget::onToggled_ChatKey_1(bool bChecked) {

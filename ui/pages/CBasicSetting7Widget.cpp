@@ -262,15 +262,15 @@ void CBasicSetting7Widget::onToggled_DelayOptimization(bool bChecked) {
 }
 
 void CBasicSetting7Widget::onToggled_GroupKey1(bool bChecked) {
-  presets_.toggled(0, bChecked);
+  fields_.outline(presets_.toggled(0, bChecked));
 }
 
 void CBasicSetting7Widget::onToggled_GroupKey2(bool bChecked) {
-  presets_.toggled(1, bChecked);
+  fields_.outline(presets_.toggled(1, bChecked));
 }
 
 void CBasicSetting7Widget::onToggled_GroupKey3(bool bChecked) {
-  presets_.toggled(2, bChecked);
+  fields_.outline(presets_.toggled(2, bChecked));
 }
 
 void CBasicSetting7Widget::onToggled_HideUI(bool bChecked) {

@@ -72,7 +72,7 @@ CChatRouletteSettingWidget::CChatRouletteSettingWidget(brennet::HotkeyConfig& co
           {.style = {},
            .captures = [this](const QLineEdit& field) { return &field == form_->edtChatWheelKey; },
            .slotOf = brennet::featureKeyOf,
-           .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
+           .tellUsed = [this](const QString& why) { brennet::tellKeyIsUsed(this, why); }},
           config) {
   makeSlots();
   capture_.install(*this, *this);

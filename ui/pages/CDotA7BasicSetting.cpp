@@ -87,7 +87,7 @@ CDotA7BasicSetting::CDotA7BasicSetting(brennet::Dota7KeyInfoManager& manager, QW
     : QWidget(parent),
       manager_(manager),
       form_(brennet::formOn<Ui::CDotA7BasicSetting>(*this)),
-      fields_(manager, config, [this] { brennet::tellKeyIsUsed(this); }) {
+      fields_(manager, config, [this](const QString& why) { brennet::tellKeyIsUsed(this, why); }) {
   buildRows();
   connectButtons();
   fields_.install(*this, *this);

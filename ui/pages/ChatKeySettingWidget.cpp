@@ -35,7 +35,7 @@ ChatKeySettingWidget::ChatKeySettingWidget(brennet::HotkeyConfig& config, QWidge
       keyButtons_({form_->optChatKey_1, form_->optChatKey_2}, config),
       capture_({.style = {},
                 .slotOf = [](std::u16string_view) { return std::nullopt; },
-                .tellUsed = [this] { brennet::tellKeyIsUsed(this); }},
+                .tellUsed = [this](const QString& why) { brennet::tellKeyIsUsed(this, why); }},
                config) {
   // The labels are mere numbers, which say little to somebody who cannot see the column.
   for (std::size_t n = 0; n < brennet::kPhrases; ++n) {

@@ -43,7 +43,7 @@ Dota7ChatKeySettingWidget::Dota7ChatKeySettingWidget(brennet::Dota7KeyInfoManage
     : MovableDialog(parent),
       manager_(manager),
       form_(brennet::formOn<Ui::Dota7ChatKeySettingWidget>(*this)),
-      keys_(manager, config, [this] { brennet::tellKeyIsUsed(this); }) {
+      keys_(manager, config, [this](const QString& why) { brennet::tellKeyIsUsed(this, why); }) {
   buildRows();
   connect(form_->btnCancel, &QPushButton::clicked, this,
           &Dota7ChatKeySettingWidget::onClickedCancelBtn);

@@ -2,12 +2,31 @@
 
 #include <QCheckBox>
 #include <QSignalBlocker>
+#include <QToolTip>
 
 #include <algorithm>
 
 #include "model/HotkeyConfig.h"
+#include "model/KeyConflicts.h"
+#include "ui/capture/RefusalText.h"
 
 namespace brennet {
+
+namespace {
+
+// At once, and whenever the mouse is over the box.
+void showWhy(QCheckBox& box, const QString& why) {
+  box.setToolTip(why);
+  if (box.isVisible()) QToolTip::showText(box.mapToGlobal(box.rect().bottomLeft()), why, &box);
+}
+
+std::vector<KeySlot> holdersIn(const std::vector<TakenKey>& taken) {
+  std::vector<KeySlot> holders;
+  for (const TakenKey& key : taken) holders.push_back(key.conflict.holder);
+  return holders;
+}
+
+}  // namespace
 
 void PresetBoxes::refresh() const {
   const std::int32_t chosen = config_->scheme().NumComboKeyIndex;
@@ -15,21 +34,26 @@ void PresetBoxes::refresh() const {
     QCheckBox* const box = boxes_[static_cast<std::size_t>(preset)];
     const QSignalBlocker quiet(box);
     box->setChecked(preset == chosen);
+    box->setToolTip({});
   }
 }
 
-void PresetBoxes::toggled(int preset, bool isChecked) const {
+std::vector<KeySlot> PresetBoxes::toggled(int preset, bool isChecked) const {
+  for (QCheckBox* const box : boxes_) box->setToolTip({});
   if (isChecked) {
+    const std::vector<TakenKey> taken = takenKeysOfPreset(config_->scheme(), preset);
     config_->SetNumComboKeyIndex(preset);
     QCheckBox* const own = boxes_[static_cast<std::size_t>(preset)];
     for (QCheckBox* const box : boxes_) {
       if (box != own) box->setChecked(false);
     }
-    return;
+    if (!taken.empty()) showWhy(*own, refusalText(taken, KeyWindow::Main));
+    return holdersIn(taken);
   }
   const bool anyIsLeft = std::any_of(boxes_.begin(), boxes_.end(),
                                      [](const QCheckBox* box) { return box->isChecked(); });
   if (!anyIsLeft) config_->SetNumComboKeyIndex(HotkeyScheme::kItemKeysFromMap);
+  return {};
 }
 
 }  // namespace brennet

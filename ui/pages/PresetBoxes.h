@@ -1,6 +1,9 @@
 #pragma once
 
 #include <array>
+#include <vector>
+
+#include "model/KeySlot.h"
 
 class QCheckBox;
 
@@ -22,9 +25,10 @@ class PresetBoxes {
   void refresh() const;
 
   // To be called when the box of `preset` was toggled. A checked box unchecks the others; its
-  // preset is chosen unless one of its keys is used for something else: then the scheme silently
-  // stays as it was. When no box is checked any more, the items have their own keys again.
-  void toggled(int preset, bool isChecked) const;
+  // preset is chosen unless one of its keys is used for something else: then the scheme stays as it
+  // was, and a tool tip on the box says why. When no box is checked any more, the items have their
+  // own keys again. Returns the settings that are in the way of the preset.
+  std::vector<KeySlot> toggled(int preset, bool isChecked) const;
 
  private:
   Boxes boxes_;

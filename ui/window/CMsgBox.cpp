@@ -87,17 +87,26 @@ CMsgBox::CMsgBox(Icon icon, const QString& title, const QString& text, StandardB
 
 CMsgBox::StandardButton CMsgBox::showMessage(QWidget* parent, Icon icon, const QString& title,
                                              const QString& text, StandardButtons buttons,
-                                             StandardButton defaultButton) {
+                                             StandardButton defaultButton,
+                                             const QString& moreText) {
   // While it runs, its parent may be destroyed and the box with it.
   const QPointer<CMsgBox> box =
       new CMsgBox(icon, title, text, NoButton, parent,
                   Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::FramelessWindowHint);
+  box->addText(moreText);
   box->addButtons(buttons, defaultButton);
   box->setButtonTexts();
   const int result = brennet::runWindow(*box);
   if (box.isNull()) return NoButton;
   const std::unique_ptr<CMsgBox> done(box.data());
   return result == -1 ? Cancel : done->standardButton(done->clickedButton());
+}
+
+void CMsgBox::addText(const QString& moreText) {
+  if (moreText.isEmpty()) return;
+  setInformativeText(moreText);
+  // It may hold the names of keys, of which "<" is one.
+  findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))->setTextFormat(Qt::PlainText);
 }
 
 void CMsgBox::addButtons(StandardButtons buttons, StandardButton defaultButton) {

@@ -19,10 +19,11 @@ class CMsgBox : public QMessageBox {
 
   // Shows a box and returns the answer: the button that was clicked, or NoButton when the box was
   // closed by its close button. Return clicks `defaultButton`; without one, the first button that
-  // accepts.
+  // accepts. `moreText` stands below the text, a smaller matter; empty for none.
   static StandardButton showMessage(QWidget* parent, Icon icon, const QString& title,
                                     const QString& text, StandardButtons buttons = Ok,
-                                    StandardButton defaultButton = NoButton);
+                                    StandardButton defaultButton = NoButton,
+                                    const QString& moreText = {});
 
   // Gives the standard buttons of the box their texts, and widths to match.
   void setButtonTexts();
@@ -36,6 +37,7 @@ class CMsgBox : public QMessageBox {
  private:
   void applySkin();
   void buildTitleStrip();
+  void addText(const QString& moreText);
   void addButtons(StandardButtons buttons, StandardButton defaultButton);
   [[nodiscard]] QWidget* titleStrip() const;
   [[nodiscard]] QWidget* buttonPanel() const;

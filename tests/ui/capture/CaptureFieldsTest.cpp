@@ -40,6 +40,7 @@ class Page : public QWidget {
 
   HotkeyConfig config;
   int told = 0;
+  QString why;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -51,7 +52,11 @@ class Page : public QWidget {
       {.style = {.beforeName = u" "},
        .captures = [](const QLineEdit& field) { return field.objectName() != u"edtText"; },
        .slotOf = basicSlot,
-       .tellUsed = [this] { ++told; }},
+       .tellUsed =
+           [this](const QString& text) {
+             ++told;
+             why = text;
+           }},
       config};
 };
 
@@ -84,6 +89,31 @@ TEST(CaptureFields, TellOfAUsedKeyOnce) {
   EXPECT_EQ(page.field("edtSkill_2").text(), QString());
   EXPECT_EQ(page.config.scheme().HeroSkillKey[1], kNoKey);
   EXPECT_EQ(page.told, 1);
+}
+
+// An outline that the style sheet draws.
+bool isOutlined(const QLineEdit& field) {
+  return field.property("holdsKey").toBool();
+}
+
+TEST(CaptureFields, OutlineTheHolderUntilTheNextPress) {
+  Page page;
+  QLineEdit& holder = page.field("edtSkill_1");
+  QLineEdit& other = page.field("edtSkill_2");
+  press(holder, Qt::Key_Q);
+  press(other, Qt::Key_Q);
+  EXPECT_TRUE(isOutlined(holder));
+  EXPECT_FALSE(isOutlined(other));
+  EXPECT_TRUE(page.why.contains(QLatin1String("Q"))) << qPrintable(page.why);
+  release(other, Qt::Key_Q);
+  EXPECT_TRUE(isOutlined(holder)) << "a release is no press";
+  press(other, Qt::Key_W);
+  EXPECT_FALSE(isOutlined(holder));
+
+  press(other, Qt::Key_Q);
+  EXPECT_TRUE(isOutlined(holder));
+  page.refresh();
+  EXPECT_FALSE(isOutlined(holder));
 }
 
 TEST(CaptureFields, ShowAKeyThatTheyDoNotStore) {

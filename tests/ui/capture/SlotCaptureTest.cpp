@@ -1,5 +1,6 @@
 #include "ui/capture/SlotCapture.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -65,7 +66,13 @@ TEST(SlotCapture, LeavesNoKeyAfterARefusal) {
     HotkeyConfig config;
     ASSERT_FALSE(store(captured(kQ), holder, config));
     ASSERT_FALSE(store(captured(kW), slot, config));
-    EXPECT_EQ(store(captured(kQ), slot, config), !isSource);
+    const auto refusal = store(captured(kQ), slot, config);
+    ASSERT_EQ(refusal.has_value(), !isSource);
+    if (refusal) {
+      EXPECT_EQ(refusal->key, kQ);
+      EXPECT_THAT(refusal->reasons,
+                  testing::ElementsAre(KeyConflict{KeyConflict::Reason::Held, holder}));
+    }
     EXPECT_EQ(keyOf(config, slot), isSource ? kQ : kNoKey);
     EXPECT_EQ(keyOf(config, holder), kQ);
   }

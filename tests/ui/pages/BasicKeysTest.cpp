@@ -9,6 +9,7 @@
 #include "tests/ui/pages/BasicPageTest.h"
 #include "tests/ui/pages/ChatPageTest.h"
 #include "tests/ui/pages/PageChecks.h"
+#include "ui/capture/RefusalText.h"
 #include "ui/pages/CBasicSettingWidget.h"
 
 namespace brennet::test {
@@ -84,7 +85,11 @@ TEST_F(BasicKeysTest, RefusesAUsedKeyInTheOrreryWindow) {
   scheme.SecretaryKey[0] = KeyWord('W', 0);
   page.showSettings();
   auto& ledger = test::find<QLineEdit>(orrery(), QStringLiteral("edtOpenCloseLedger"));
-  expectWarning(page, "IDS_KEY_USED", [&] { pressKey(ledger, Qt::Key_Q); });
+  const QString why = expectWarning(page, "IDS_KEY_USED", [&] { pressKey(ledger, Qt::Key_Q); });
+  EXPECT_EQ(why, refusalText(Refusal{KeyWord('Q', 0), holdersOf(scheme, KeyWord('Q', 0))},
+                             KeyWindow::Orrery));
+  EXPECT_TRUE(
+      test::find<QLineEdit>(page, QStringLiteral("edtSkill_1")).property("holdsKey").toBool());
   EXPECT_EQ(ledger.text(), QString());
   EXPECT_EQ(scheme.SecretaryKey[0], kNoKey);
   EXPECT_EQ(scheme.HeroSkillKey[0], KeyWord('Q', 0));

@@ -11,6 +11,7 @@
 #include "tests/ui/pages/BasicPageTest.h"
 #include "tests/ui/pages/ChatPageTest.h"
 #include "tests/ui/pages/PageChecks.h"
+#include "ui/capture/RefusalText.h"
 
 namespace brennet::test {
 namespace {
@@ -138,6 +139,29 @@ TEST_F(CBasicSetting7WidgetEditsTest, ChoosesAPresetSilently) {
   EXPECT_EQ(scheme.NumComboKeyIndex, 2) << "a refused preset leaves the stored one";
   box("chkGroupKey2").click();
   EXPECT_EQ(scheme.NumComboKeyIndex, -1);
+}
+
+TEST_F(CBasicSetting7WidgetEditsTest, ShowsWhatIsInTheWayOfAPreset) {
+  const auto isOutlined = [&](const char* name) {
+    return field(name).property("holdsKey").toBool();
+  };
+  scheme.HeroSkillKey[0] = KeyWord('W', KeyWord::kAlt);
+  page.showSettings();
+  box("chkGroupKey3").click();
+  EXPECT_EQ(box("chkGroupKey3").toolTip(), QString());
+  box("chkGroupKey2").click();
+  EXPECT_EQ(box("chkGroupKey2").toolTip(),
+            refusalText(takenKeysOfPreset(scheme, 1), KeyWindow::Main));
+  EXPECT_TRUE(box("chkGroupKey2").toolTip().contains(QStringLiteral("Alt + W")));
+  EXPECT_TRUE(isOutlined("edtSkill_1"));
+  EXPECT_FALSE(isOutlined("edtSkill_2"));
+  box("chkGroupKey2").click();
+  EXPECT_EQ(box("chkGroupKey2").toolTip(), QString());
+  EXPECT_FALSE(isOutlined("edtSkill_1"));
+  box("chkGroupKey1").click();
+  page.showSettings();
+  EXPECT_EQ(box("chkGroupKey1").toolTip(), QString());
+  EXPECT_FALSE(isOutlined("edtSkill_1"));
 }
 
 TEST_F(CBasicSetting7WidgetEditsTest, MarksSkillsAndItemsForQuickCast) {

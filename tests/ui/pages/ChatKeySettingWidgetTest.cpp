@@ -15,6 +15,7 @@
 
 #include "tests/ui/pages/ChatPageTest.h"
 #include "tests/ui/pages/PageChecks.h"
+#include "ui/capture/RefusalText.h"
 #include "ui/window/Text.h"
 
 namespace brennet::test {
@@ -239,7 +240,9 @@ TEST_F(ChatKeySettingWidgetTest, RefusesKeysThatAreUsed) {
   for (const Use use : kUses) {
     scheme() = HotkeyScheme();
     use(scheme());
-    expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { family(1).click(); });
+    const QString why = refusalText(takenQuickChatKeys(scheme(), 0), KeyWindow::QuickChat);
+    EXPECT_NE(why, QString());
+    EXPECT_EQ(expectWarning(dialog(), "IDS_GROUP_KEY_USED", [&] { family(1).click(); }), why);
     expectFamily(2);
     EXPECT_EQ(scheme().QuickChatIndex, 1U);
   }

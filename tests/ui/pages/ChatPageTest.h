@@ -33,9 +33,11 @@ inline QString buddyOf(const QWidget& window, const QString& label) {
 }
 
 // Does `act`, which has to bring one warning up: about `text`, modal to `parent`, with OK alone.
+// Returns what the warning says below that.
 template <class Act>
-void expectWarning(const QWidget& parent, const char* text, Act act) {
+QString expectWarning(const QWidget& parent, const char* text, Act act) {
   std::optional<NoBoxes> noMore;
+  QString why;
   const auto expected = whenBoxIsShown([&](QMessageBox& box) {
     EXPECT_EQ(box.icon(), QMessageBox::Warning);
     EXPECT_EQ(box.windowTitle(), QStringLiteral("IDS_TITLE"));
@@ -43,10 +45,12 @@ void expectWarning(const QWidget& parent, const char* text, Act act) {
     EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
     EXPECT_EQ(box.parentWidget(), &parent);
     EXPECT_STREQ(box.metaObject()->className(), "CMsgBox");
+    why = box.informativeText();
     box.button(QMessageBox::Ok)->click();
     noMore.emplace();
   });
   act();
+  return why;
 }
 
 }  // namespace brennet::test

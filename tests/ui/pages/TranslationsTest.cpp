@@ -185,12 +185,12 @@ QStringList textsOf(const QWidget& window) {
 }
 
 void showMessages(QStringList& texts) {
-  for (void (*const tell)(QWidget*) : {tellKeyIsUsed, tellKeySetIsUsed}) {
+  for (void (*const tell)(QWidget*, const QString&) : {tellKeyIsUsed, tellKeySetIsUsed}) {
     const auto warning = whenBoxIsShown([&](QMessageBox& box) {
       texts << box.windowTitle() << box.text() << textsOf(box);
       box.done(0);
     });
-    tell(nullptr);
+    tell(nullptr, {});
   }
   const CCustomMsgTableModel table;
   for (int i = 0; i < 2; ++i)

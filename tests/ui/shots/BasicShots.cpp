@@ -1,5 +1,6 @@
 // The basic pages and the Orrery window, with keys of all lengths.
 
+#include "model/FixedKeys.h"
 #include "model/RecommendedScheme.h"
 #include "tests/ui/shots/Shots.h"
 #include "ui/pages/CBasicSetting7Widget.h"
@@ -36,11 +37,24 @@ std::unique_ptr<QWidget> makePage() {
   return inDialog([](QWidget* parent) { return new Page(settings(), parent); });
 }
 
+// After a preset was refused: two of its keys are held by fields.
+std::unique_ptr<QWidget> makeRefusal() {
+  auto window = makePage<CBasicSetting7Widget>();
+  HotkeyScheme& scheme = *settings().editableScheme();
+  scheme.HeroSkillKey[8] = kItemPresetKeys[1][2];
+  scheme.ShowFBlood = kItemPresetKeys[1][3];
+  auto* const page = window->findChild<CBasicSetting7Widget*>();
+  page->showSettings();
+  page->onToggled_GroupKey2(true);
+  return window;
+}
+
 }  // namespace
 
 QList<Shot> basicShots() {
   return {{QStringLiteral("basic"), makePage<CBasicSetting7Widget>},
           {QStringLiteral("basic-older"), makePage<CBasicSettingWidget>},
+          {QStringLiteral("basic-refusal"), makeRefusal},
           {QStringLiteral("orrery"), [] { return std::make_unique<COrrerySettingDlg>(); }}};
 }
 

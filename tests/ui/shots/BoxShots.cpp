@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "tests/ui/shots/Shots.h"
+#include "ui/capture/RefusalText.h"
 #include "ui/window/CMsgBox.h"
 
 namespace brennet::shots {
@@ -42,6 +43,18 @@ std::unique_ptr<QWidget> makeBox(QMessageBox::Icon icon, QMessageBox::StandardBu
   return box;
 }
 
+// With what has the keys of a set, below the text.
+std::unique_ptr<QWidget> makeRefusal() {
+  const std::vector<TakenKey> taken = {
+      {KeyWord('1', KeyWord::kAlt), {KeyConflict::Reason::Held, {SettingId::HeroSkillKey, 8}}},
+      {KeyWord('8', KeyWord::kAlt), {KeyConflict::Reason::Held, {SettingId::SecretaryKey, 2}}},
+      {KeyWord('8', KeyWord::kAlt), {KeyConflict::Reason::Held, {SettingId::ChatWheelkey}}},
+  };
+  auto box = makeBox(QMessageBox::Warning, QMessageBox::Ok);
+  static_cast<QMessageBox&>(*box).setInformativeText(refusalText(taken, KeyWindow::QuickChat));
+  return box;
+}
+
 }  // namespace
 
 QList<Shot> boxShots() {
@@ -52,6 +65,7 @@ QList<Shot> boxShots() {
     shots.append({name + QStringLiteral("-cancel"),
                   [&row] { return makeBox(row.icon, QMessageBox::Ok | QMessageBox::Cancel); }});
   }
+  shots.append({QStringLiteral("box-refusal"), makeRefusal});
   return shots;
 }
 

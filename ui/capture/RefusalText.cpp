@@ -1,0 +1,122 @@
+#include "ui/capture/RefusalText.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include "model/CardPositions.h"
+#include "ui/capture/SlotText.h"
+#include "ui/window/Text.h"
+
+namespace brennet {
+namespace {
+
+constexpr const char* kRows[] = {
+    QT_TRANSLATE_NOOP("KeyHolder", "上排"),
+    QT_TRANSLATE_NOOP("KeyHolder", "中排"),
+    QT_TRANSLATE_NOOP("KeyHolder", "下排"),
+};
+constexpr const char* kColumns[] = {
+    QT_TRANSLATE_NOOP("KeyHolder", "第一个"),
+    QT_TRANSLATE_NOOP("KeyHolder", "第二个"),
+    QT_TRANSLATE_NOOP("KeyHolder", "第三个"),
+    QT_TRANSLATE_NOOP("KeyHolder", "第四个"),
+};
+
+QString words(const char* text) {
+  return QCoreApplication::translate("KeyHolder", text);
+}
+
+// A slot, and where it is if its name does not say so.
+QString placeText(KeySlot slot) {
+  QString name = slotText(slot);
+  if (slot.setting != SettingId::HeroSkillKey) return name;
+  const CardPosition place = kCommandCard[slot.index];
+  return words(QT_TRANSLATE_NOOP("KeyHolder", "%1（%2，%3）"))
+      .arg(name, words(kRows[place.row]), words(kColumns[place.column]));
+}
+
+// How to get from one window to a field of another.
+QString withTheWay(const QString& place, KeyWindow to) {
+  switch (to) {
+    case KeyWindow::Main:
+      return words(QT_TRANSLATE_NOOP("KeyHolder", "%1（在主窗口中）")).arg(place);
+    case KeyWindow::Orrery:
+      return words(QT_TRANSLATE_NOOP("KeyHolder", "%1（在“Orrery设置”中）")).arg(place);
+    case KeyWindow::QuickChat:
+      return words(QT_TRANSLATE_NOOP("KeyHolder", "%1（在“快捷喊话”中）")).arg(place);
+    case KeyWindow::None:
+      break;
+  }
+  return words(QT_TRANSLATE_NOOP("KeyHolder", "%1（没有窗口显示它；“清空设置”可将其移除）"))
+      .arg(place);
+}
+
+// A key of a set, in the window where the set is chosen.
+QString choiceText(const KeyConflict& conflict) {
+  const int number = conflict.holder.index;
+  if (conflict.reason == KeyConflict::Reason::QuickChatSetKey) {
+    return words(QT_TRANSLATE_NOOP("KeyHolder", "快捷喊话第 %1 句")).arg(number + 1);
+  }
+  constexpr int kNumpad0 = 0x60;
+  const int digit = kItemSlotCodes[static_cast<std::size_t>(number)] - kNumpad0;
+  return words(QT_TRANSLATE_NOOP("KeyHolder", "小键盘组合快捷键 %1，小键盘 %2"))
+      .arg(conflict.choice + 1)
+      .arg(digit);
+}
+
+// Not every key has a text.
+QString lineOf(KeyWord key, const QString& what) {
+  const QString text = keyText(key);
+  return words(QT_TRANSLATE_NOOP("KeyHolder", "%1：%2"))
+      .arg(text.isEmpty() ? QString::number(key.raw()) : text, what);
+}
+
+}  // namespace
+
+KeyWindow windowOf(KeySlot slot) {
+  switch (slot.setting) {
+    case SettingId::SecretaryKey:
+      return KeyWindow::Orrery;
+    case SettingId::QuickChatIndex:
+      return KeyWindow::QuickChat;
+    case SettingId::HotkeyContrl:
+    case SettingId::QuickChatKey:
+    case SettingId::ChatWheelkey:
+      return KeyWindow::None;
+    default:
+      return KeyWindow::Main;
+  }
+}
+
+QString holderText(const KeyConflict& conflict, KeyWindow from) {
+  using Reason = KeyConflict::Reason;
+  if (conflict.reason == Reason::CannotBeBound) {
+    return words(QT_TRANSLATE_NOOP("KeyHolder", "不能用作快捷键"));
+  }
+  const bool isChoice =
+      conflict.reason == Reason::ItemPresetKey || conflict.reason == Reason::QuickChatSetKey;
+  const QString place = isChoice ? choiceText(conflict) : placeText(conflict.holder);
+  const KeyWindow to = windowOf(conflict.holder);
+  return to == from ? place : withTheWay(place, to);
+}
+
+QString refusalText(const Refusal& refusal, KeyWindow from) {
+  QStringList lines;
+  for (const KeyConflict& reason : refusal.reasons) {
+    lines += lineOf(refusal.key, holderText(reason, from));
+  }
+  if (isPaste(refusal.key)) {
+    lines +=
+        lineOf(refusal.key,
+               words(QT_TRANSLATE_NOOP("KeyHolder", "在游戏聊天中用于粘贴；聊天轮盘的热键已移除")));
+  }
+  return lines.join(QLatin1Char('\n'));
+}
+
+QString refusalText(const std::vector<TakenKey>& taken, KeyWindow from) {
+  QStringList lines;
+  for (const TakenKey& key : taken) lines += lineOf(key.key, holderText(key.conflict, from));
+  return lines.join(QLatin1Char('\n'));
+}
+
+}  // namespace brennet

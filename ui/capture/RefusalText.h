@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+#include "model/KeyConflicts.h"
+#include "ui/capture/SlotCapture.h"
+
+// Why keys are refused, in the player's language. Each line names a key and one thing that has it:
+// "Alt + Q: Hero skill 9 (top row, first)".
+namespace brennet {
+
+// The windows that have fields for keys of a scheme.
+enum class KeyWindow : std::uint8_t {
+  Main,
+  Orrery,
+  QuickChat,
+  None,  // keys of which only the settings file knows
+};
+
+// The window with the field of a key.
+[[nodiscard]] KeyWindow windowOf(KeySlot slot);
+
+// What has a key. Says how to get there if that is not in the window `from`.
+[[nodiscard]] QString holderText(const KeyConflict& conflict, KeyWindow from);
+
+// Why a key that was pressed in a field of `from` was refused.
+[[nodiscard]] QString refusalText(const Refusal& refusal, KeyWindow from);
+
+// Why a set of keys was refused that was chosen in `from`.
+[[nodiscard]] QString refusalText(const std::vector<TakenKey>& taken, KeyWindow from);
+
+}  // namespace brennet
