@@ -1,7 +1,13 @@
-// Settings files: as the component writes them, older ones, and such as players edit.
+// Settings files: as the component writes them, older ones, and such as players edit. The settings
+// are those of the table.
+
+#include <deque>
+#include <string>
+#include <variant>
 
 #include "fuzz/grammar/FileRules.h"
 #include "fuzz/grammar/Grammar.h"
+#include "model/SettingTable.h"
 
 namespace brennet::fuzz {
 namespace {
@@ -32,23 +38,68 @@ std::vector<Rule> fileRules() {
   };
 }
 
-// A scheme, and its settings.
+// The rules of one setting. The rule that bears the name of its element writes it whole.
+class RulesOf {
+ public:
+  explicit RulesOf(std::string_view element) : element_(element) {}
+
+  std::vector<Rule> operator()(const SwitchSetting&) const { return holding("{bit}"); }
+  std::vector<Rule> operator()(const ByteSetting&) const { return holding("{number}"); }
+  std::vector<Rule> operator()(const KeySetting&) const { return holding("{key code}"); }
+  std::vector<Rule> operator()(const KeyListSetting& row) const {
+    const std::string_view id = kept("id of ", element_);
+    const std::string_view key = kept("key of ", element_);
+    std::vector<std::string_view> ids;
+    for (const std::uint16_t number : row.ids) ids.push_back(kept(std::to_string(number), ""));
+    ids.emplace_back("{number}");
+    std::vector<Rule> rules = holding(kept("{eol}{", key, "*13}"));
+    rules.push_back({key, {kept("<Key id=\"{", id, "}\"{mark?}>{key code}</Key>{eol}")}});
+    rules.push_back({id, ids});
+    return rules;
+  }
+  std::vector<Rule> operator()(const RemapSetting&) const { return holding("{eol}{remap*7}"); }
+  std::vector<Rule> operator()(const ComboSetting&) const { return holding("{combination}"); }
+  std::vector<Rule> operator()(const PresetSetting&) const { return holding("{preset number}"); }
+  std::vector<Rule> operator()(const QuickChatSetSetting&) const { return holding("{bit}"); }
+  std::vector<Rule> operator()(const PhraseSetting&) const { return holding("{eol}{chat*9}"); }
+
+  // Texts that live as long as the grammars, which only refer to them.
+  template <class... Parts>
+  static std::string_view kept(const Parts&... parts) {
+    static std::deque<std::string> texts;
+    std::string& text = texts.emplace_back();
+    (text.append(parts), ...);
+    return text;
+  }
+
+ private:
+  [[nodiscard]] std::vector<Rule> holding(std::string_view content) const {
+    return {{element_, {kept("<", element_, ">", content, "</", element_, ">{eol}")}}};
+  }
+
+  std::string_view element_;
+};
+
+// A scheme: its settings in any order, or in the order in which they are written. Those with more
+// than a number to them come more often.
 std::vector<Rule> schemeRules() {
-  return {
-      {"scheme",
-       {"{setting*9}", "{setting*40}",
-        "{zoom?}{skills?}{items?}{mouse?}{ledger?}{switch*9}{remaps?}{combo?}{combo 3?}{preset?}"
-        "{single key*9}{chat keys?}{single key*3}{phrases?}{wheel?}{switch*5}"}},
-      {"setting",
-       {"{zoom}", "{skills}", "{items}", "{mouse}", "{ledger}", "{switch}", "{switch}", "{remaps}",
-        "{combo}", "{combo 3}", "{preset}", "{single key}", "{single key}", "{chat keys}",
-        "{phrases}", "{wheel}", "{markup}"}},
-      {"zoom", {"<ZoomValue>{number}</ZoomValue>{eol}"}},
-      {"skills", {"<HeroSkillKey>{eol}{key*13}</HeroSkillKey>{eol}"}},
-      {"items", {"<ItemKey>{eol}{item*8}</ItemKey>{eol}"}},
-      {"mouse", {"<MouseKey>{eol}{key*4}</MouseKey>{eol}"}},
-      {"ledger", {"<SecretaryKey>{eol}{key*4}</SecretaryKey>{eol}"}},
-  };
+  std::vector<Rule> rules;
+  std::string inOrder;
+  std::vector<std::string_view> anyOrder;
+  for (const Setting& row : kSettings) {
+    const std::string_view element =
+        RulesOf::kept(std::string(row.element.begin(), row.element.end()));
+    const auto ofRow = std::visit(RulesOf(element), row.kind);
+    rules.insert(rules.end(), ofRow.begin(), ofRow.end());
+    inOrder += "{" + std::string(element) + "?}";
+    const bool isNumber = std::holds_alternative<SwitchSetting>(row.kind) ||
+                          std::holds_alternative<ByteSetting>(row.kind);
+    anyOrder.insert(anyOrder.end(), isNumber ? 1 : 3, RulesOf::kept("{", element, "}"));
+  }
+  anyOrder.emplace_back("{markup}");
+  rules.push_back({"scheme", {"{setting*9}", "{setting*40}", RulesOf::kept(inOrder)}});
+  rules.push_back({"setting", anyOrder});
+  return rules;
 }
 
 // The entries of settings.
@@ -57,40 +108,16 @@ std::vector<Rule> entryRules() {
       {"key",
        {"<Key id=\"{id}\"{mark?}>{key code}</Key>{eol}",
         "<Key id=\"{id}\"{mark?}>{key code}</Key>{eol}", "<Key {mark?} id='{number}'/>"}},
-      {"item", {"<Key id=\"{slot}\"{mark?}>{key code}</Key>{eol}"}},
       {"mark", {" autocast=\"{bit}\"", " autocast=\"{number}\""}},
       {"id", {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "{number}"}},
-      {"slot", {"103", "104", "100", "101", "97", "98", "{number}"}},
-      {"switch",
-       {"<DisableLWinFlag>{bit}</DisableLWinFlag>{eol}",
-        "<LockMouseFlag>{bit}</LockMouseFlag>{eol}", "<ShowFBloodFlag>{bit}</ShowFBloodFlag>{eol}",
-        "<ShowEBloodFlag>{bit}</ShowEBloodFlag>{eol}", "<ShowFManaFlag>{bit}</ShowFManaFlag>{eol}",
-        "<ViewNoDragFlag>{bit}</ViewNoDragFlag>{eol}", "<StartJSQFlag>{number}</StartJSQFlag>{eol}",
-        "<HideUI>{bit}</HideUI>{eol}", "<SkillHeroOnly>{bit}</SkillHeroOnly>{eol}",
-        "<CombokeyHeroOnly>{bit}</CombokeyHeroOnly>{eol}",
-        "<DisableLeftAlt>{bit}</DisableLeftAlt>{eol}",
-        "<DisableLeftAltShowHP>{bit}</DisableLeftAltShowHP>{eol}"}},
-      {"remaps", {"<HotKey>{eol}{remap*7}</HotKey>{eol}"}},
       {"remap",
        {"<Key id=\"{id}\"><Src>{key code}</Src><Dest>{key code}</Dest></Key>{eol}",
         "<Key id=\"{id}\">{key code}<Dest>{key code}</Dest></Key>"}},
-      {"combo", {"<ComboKey>{combination}</ComboKey>{eol}"}},
-      {"combo 3", {"<ComboKey3to1>{combination}</ComboKey3to1>{eol}"}},
       {"combination",
        {"<Key_A>{key code}</Key_A><Key_B>{key code}</Key_B><Key_C>{key code}</Key_C>"
         "<Key_D>{key code}</Key_D>",
         "<Key_B>{key code}</Key_B><Key_D>{key code}</Key_D>"}},
-      {"preset", {"<NumComboKeyIndex>{preset number}</NumComboKeyIndex>{eol}"}},
       {"preset number", {"-1", "0", "1", "2", "{number}"}},
-      {"single key",
-       {"<ShowFBlood>{key code}</ShowFBlood>{eol}", "<ShowEBlood>{key code}</ShowEBlood>{eol}",
-        "<HotkeyContrl>{key code}</HotkeyContrl>{eol}",
-        "<WinLockMouse>{key code}</WinLockMouse>{eol}",
-        "<QuickChatKey>{key code}</QuickChatKey>{eol}",
-        "<ChatWheelkey>{key code}</ChatWheelkey>{eol}"}},
-      {"chat keys", {"<QuickChatIndex>{bit}</QuickChatIndex>{eol}"}},
-      {"phrases", {"<QuickChat>{eol}{chat*9}</QuickChat>{eol}"}},
-      {"wheel", {"<ChatWheel>{eol}{chat*9}</ChatWheel>{eol}"}},
       {"chat", {"<Chat id=\"{id}\">{phrase}</Chat>{eol}", "<Chat id=\"{id}\"/>{eol}"}},
   };
 }
@@ -137,8 +164,8 @@ const Grammar& settingsGrammar() {
     return TextGrammar(
         rules, {.cutBefore = "<",
                 .cutBehind = ">",
-                .fragments = {"setting", "key", "item", "chat", "remap", "scheme 0", "scheme 1",
-                              "number", "key code", "phrase", "markup", "time", "declaration"},
+                .fragments = {"setting", "key", "chat", "remap", "scheme 0", "scheme 1", "number",
+                              "key code", "phrase", "markup", "time", "declaration"},
                 .wideOneIn = 12});
   }();
   return grammar;

@@ -2,19 +2,28 @@
 
 #include <iterator>
 #include <random>
+#include <variant>
+#include <vector>
+
+#include "model/SettingTable.h"
 
 namespace brennet::test {
 namespace {
 
-constexpr const char* kNumbers[] = {
-    "ZoomValue",        "DisableLWinFlag", "LockMouseFlag", "ShowFBloodFlag",   "ShowEBloodFlag",
-    "ShowFManaFlag",    "ViewNoDragFlag",  "StartJSQFlag",  "ShowFBlood",       "ShowEBlood",
-    "HotkeyContrl",     "WinLockMouse",    "QuickChatKey",  "QuickChatIndex",   "ChatWheelkey",
-    "NumComboKeyIndex", "HideUI",          "SkillHeroOnly", "CombokeyHeroOnly", "DisableLeftAlt",
-};
-constexpr const char* kKeyLists[] = {"HeroSkillKey", "ItemKey", "MouseKey", "SecretaryKey"};
-constexpr const char* kPhraseLists[] = {"QuickChat", "ChatWheel"};
-constexpr const char* kCombos[] = {"ComboKey", "ComboKey3to1"};
+// The elements of the settings of some kinds.
+template <class... Kinds>
+const std::vector<std::string>& elements() {
+  static const std::vector<std::string> names = [] {
+    std::vector<std::string> found;
+    for (const Setting& row : kSettings) {
+      const bool isOfThem = (std::holds_alternative<Kinds>(row.kind) || ...);
+      if (isOfThem) found.emplace_back(row.element.begin(), row.element.end());
+    }
+    return found;
+  }();
+  return names;
+}
+
 constexpr const char* kCodes[] = {"Q",  "4096",  "20736", "22272", "65280", "12290", "28673",
                                   "-1", "99999", "0",     "",      "20740", "20992", "32768"};
 // Text as it stands in a file: Chinese of GB2312, of GBK alone, broken pairs, references.
@@ -44,7 +53,7 @@ class Writer {
   unsigned below(unsigned bound) { return static_cast<unsigned>(random_() % bound); }
   std::string number(unsigned bound) { return std::to_string(below(bound)); }
   template <class List>
-  const char* pick(const List& list) {
+  std::string pick(const List& list) {
     return list[below(static_cast<unsigned>(std::size(list)))];
   }
 
@@ -61,16 +70,23 @@ class Writer {
   void writeSetting() {
     switch (below(5)) {
       case 0:
-        return element(pick(kNumbers), number(130));
+        return writeNumber();
       case 1:
-        return writeList(pick(kKeyLists), "Key", [this] { return std::string(pick(kCodes)); });
+        return writeList(pick(elements<KeyListSetting>()), "Key", [this] { return pick(kCodes); });
       case 2:
-        return writeList(pick(kPhraseLists), "Chat", [this] { return phrase(); });
+        return writeList(pick(elements<PhraseSetting>()), "Chat", [this] { return phrase(); });
       case 3:
-        return writeCombo(pick(kCombos));
+        return writeCombo(pick(elements<ComboSetting>()));
       default:
         return writeRemaps();
     }
+  }
+
+  // Not in one expression, whose parts each compiler evaluates in an order of its own.
+  void writeNumber() {
+    const std::string name = pick(
+        elements<SwitchSetting, ByteSetting, KeySetting, PresetSetting, QuickChatSetSetting>());
+    element(name, number(130));
   }
 
   template <class Content>
