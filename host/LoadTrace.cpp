@@ -11,38 +11,10 @@ namespace {
 
 using Reason = KeyConflict::Reason;
 
-// What a slot is called; %1 stands for its number, from 1.
-struct SlotName {
-  SettingId setting;
-  const char* name;
-};
-constexpr SlotName kNames[] = {
-    {SettingId::HeroSkillKey, "hero skill %1"},   {SettingId::ItemKey, "item %1"},
-    {SettingId::MouseKey, "mouse key %1"},        {SettingId::SecretaryKey, "Ledger key %1"},
-    {SettingId::ComboKey, "combination key %1"},  {SettingId::ShowFBlood, "allied health bars"},
-    {SettingId::ShowEBlood, "enemy health bars"}, {SettingId::HotkeyContrl, "hotkeys on and off"},
-    {SettingId::WinLockMouse, "cursor lock"},     {SettingId::QuickChatKey, "quick chat"},
-    {SettingId::ChatWheelkey, "chat wheel"},
-};
-constexpr const char* kMouseKeyNames[] = {"wheel up", "wheel click", "wheel down"};
 constexpr int kLongestText = 24;  // longer than any number of a key
 
 QString nameOf(KeySlot slot) {
-  const int index = slot.index;
-  if (slot.setting == SettingId::MouseKey) return QLatin1String(kMouseKeyNames[index]);
-  if (slot.setting == SettingId::HotKey) {
-    const char* const half = index % 2 == 0 ? "source of remap %1" : "target of remap %1";
-    return QString::fromLatin1(half).arg(index / 2 + 1);
-  }
-  if (slot.setting == SettingId::ComboKey) {
-    return QStringLiteral("combination key %1").arg(QLatin1Char(static_cast<char>('A' + index)));
-  }
-  for (const SlotName& row : kNames) {
-    if (row.setting != slot.setting) continue;
-    const QString name = QString::fromLatin1(row.name);
-    return name.contains(QLatin1Char('%')) ? name.arg(index + 1) : name;
-  }
-  return QString();
+  return QString::fromStdString(keyName(slot));
 }
 
 QString textOf(KeyWord key) {

@@ -56,12 +56,14 @@ inline constexpr std::array<std::uint16_t, kLedgerKeys> kLedgerOffsets = {
 
 inline constexpr KeyListSetting kHeroSkillRow = {
     .keys = detail::spanOf<&HotkeyScheme::HeroSkillKey>,
+    .keyNames = "hero skill %1",
     .ids = detail::kZeroToEleven,
     .offsets = detail::kHeroSkillOffsets,
     .autocast = detail::spanOf<&HotkeyScheme::HeroSkillAutocast>,
 };
 inline constexpr KeyListSetting kItemRow = {
     .keys = detail::spanOf<&HotkeyScheme::ItemKey>,
+    .keyNames = "item %1",
     .ids = kItemSlotCodes,
     .offsets = detail::kItemOffsets,
     .autocast = detail::spanOf<&HotkeyScheme::ItemAutocast>,
@@ -69,11 +71,13 @@ inline constexpr KeyListSetting kItemRow = {
 };
 inline constexpr KeyListSetting kMouseRow = {
     .keys = detail::spanOf<&HotkeyScheme::MouseKey>,
+    .keyNames = "wheel up|wheel click|wheel down",
     .ids = std::span(detail::kZeroToEleven).first<kMouseKeys>(),
     .offsets = detail::kMouseOffsets,
 };
 inline constexpr KeyListSetting kLedgerRow = {
     .keys = detail::spanOf<&HotkeyScheme::SecretaryKey>,
+    .keyNames = "Ledger key %1",
     .ids = std::span(detail::kZeroToEleven).first<kLedgerKeys>(),
     .offsets = detail::kLedgerOffsets,
 };

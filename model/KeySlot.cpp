@@ -1,7 +1,9 @@
 #include "model/KeySlot.h"
 
 #include <iterator>
+#include <string_view>
 #include <variant>
+#include <vector>
 
 namespace brennet {
 namespace {
@@ -35,7 +37,39 @@ struct FieldOf {
   }
 };
 
+// The names of the keys, as the row of the setting has them.
+struct KeyNames {
+  template <class Row>
+  std::string_view operator()(const Row& row) const {
+    if constexpr (requires { row.keyNames; }) {
+      return row.keyNames;
+    } else {
+      return {};
+    }
+  }
+};
+
+std::vector<std::string_view> cutAtBars(std::string_view names) {
+  std::vector<std::string_view> parts;
+  for (std::size_t bar = names.find('|'); bar != std::string_view::npos; bar = names.find('|')) {
+    parts.push_back(names.substr(0, bar));
+    names.remove_prefix(bar + 1);
+  }
+  parts.push_back(names);
+  return parts;
+}
+
 }  // namespace
+
+std::string keyName(KeySlot slot) {
+  if (slot.index >= keyCount(slot.setting)) return {};
+  constexpr std::string_view kNumber = "%1";
+  const auto names = cutAtBars(std::visit(KeyNames(), setting(slot.setting).kind));
+  std::string name(names[slot.index % names.size()]);
+  const std::size_t at = name.find(kNumber);
+  if (at == std::string::npos) return name;
+  return name.replace(at, kNumber.size(), std::to_string(slot.index / names.size() + 1));
+}
 
 std::size_t keyCount(SettingId setting) {
   return std::visit(CountKeys(), brennet::setting(setting).kind);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 #include "keys/KeyWord.h"
 #include "model/HotkeyScheme.h"
@@ -35,6 +36,10 @@ inline constexpr KeyWord ComboKeys::*kComboKeys[] = {&ComboKeys::Key_A, &ComboKe
 
 // The key that a combination sends.
 inline constexpr KeySlot kComboTarget{SettingId::ComboKey, 3};
+
+// What a trace calls the key in `slot`, in English: "hero skill 1". Empty for a slot that does not
+// exist.
+[[nodiscard]] std::string keyName(KeySlot slot);
 
 // How many keys `setting` holds: 0 if it holds none.
 [[nodiscard]] std::size_t keyCount(SettingId setting);

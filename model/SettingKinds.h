@@ -6,12 +6,16 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <variant>
 
 #include "model/HotkeyScheme.h"
 
 // The kinds of settings that a scheme has. Each operation on a setting (reading and writing the
 // file, filling a block and taking one back, copying) is written once for each kind.
+//
+// Kinds with keys say what a trace calls these (keyName in KeySlot.h): `keyNames` is one name, or
+// several with | between them, which take turns; "%1" stands for the number of the turn, from 1.
 namespace brennet {
 
 // A switch, 0 or 1. In the block it is a bit of the flag word, or a byte of its own.
@@ -33,13 +37,15 @@ struct ByteSetting {
 struct KeySetting {
   KeyWord HotkeyScheme::*field;
   std::size_t offset;
+  std::string_view keyNames;
 };
 
 // A row of keys, with quick-cast marks where the game can cast without a second click.
 struct KeyListSetting {
   std::span<KeyWord> (*keys)(HotkeyScheme&);
-  std::span<const std::uint16_t> ids;      // the `id` attribute of each key
-  std::span<const std::uint16_t> offsets;  // where each key is in the block
+  std::string_view keyNames;
+  std::span<const std::uint16_t> ids;           // the `id` attribute of each key
+  std::span<const std::uint16_t> offsets = {};  // where each key is in the block, if they are
   std::span<std::optional<bool>> (*autocast)(HotkeyScheme&) = nullptr;
   bool followsPreset = false;  // a chosen item preset replaces the keys in the block
 
@@ -57,12 +63,14 @@ struct KeyListSetting {
 struct RemapSetting {
   std::array<KeyRemap, kKeyRemaps> HotkeyScheme::*field;
   std::size_t offset;
+  std::string_view keyNames;
 };
 
 // The combination of keys.
 struct ComboSetting {
   ComboKeys HotkeyScheme::*field;
   std::size_t offset;
+  std::string_view keyNames;
 };
 
 // The choice of an item preset, which the block shows only as the item keys.

@@ -98,6 +98,8 @@ using enum KeyRole;
 using Scheme = HotkeyScheme;
 using Block = HotkeyBlock;
 inline constexpr auto kStays = OnReset::Stays;
+inline constexpr std::string_view kComboNames =
+    "combination key A|combination key B|combination key C|combination key D";
 
 // clang-format off
 inline constexpr std::array<Setting, kSettingCount> kSettings = {{
@@ -118,28 +120,35 @@ inline constexpr std::array<Setting, kSettingCount> kSettings = {{
     {StartJSQFlag, u"StartJSQFlag", flagBit(&Scheme::StartJSQFlag, 5), 170, 70},
 
     {HotKey, u"HotKey",
-     RemapSetting{&Scheme::HotKey, offsetof(Block, keyRemaps)}, 180, 110, Guarded},
+     RemapSetting{&Scheme::HotKey, offsetof(Block, keyRemaps),
+                  "source of remap %1|target of remap %1"}, 180, 110, Guarded},
     {ComboKey, u"ComboKey",
-     ComboSetting{&Scheme::ComboKey, offsetof(Block, comboKeys)}, 190, 120, Guarded},
+     ComboSetting{&Scheme::ComboKey, offsetof(Block, comboKeys), kComboNames}, 190, 120, Guarded},
     {ComboKey3to1, u"ComboKey3to1",  // the same keys once more
-     ComboSetting{&Scheme::ComboKey, offsetof(Block, comboKeys)}, 200, kNotInBlock},
+     ComboSetting{&Scheme::ComboKey, offsetof(Block, comboKeys), kComboNames}, 200, kNotInBlock},
     {NumComboKeyIndex, u"NumComboKeyIndex",
      PresetSetting{&Scheme::NumComboKeyIndex}, 210, kNotInBlock},
 
     {ShowFBlood, u"ShowFBlood",
-     KeySetting{&Scheme::ShowFBlood, offsetof(Block, showFBlood)}, 220, 150, Guarded},
+     KeySetting{&Scheme::ShowFBlood, offsetof(Block, showFBlood), "allied health bars"},
+     220, 150, Guarded},
     {ShowEBlood, u"ShowEBlood",
-     KeySetting{&Scheme::ShowEBlood, offsetof(Block, showEBlood)}, 230, 160, Guarded},
+     KeySetting{&Scheme::ShowEBlood, offsetof(Block, showEBlood), "enemy health bars"},
+     230, 160, Guarded},
     {HotkeyContrl, u"HotkeyContrl",
-     KeySetting{&Scheme::HotkeyContrl, offsetof(Block, hotkeyContrl)}, 300, 170, Guarded},
+     KeySetting{&Scheme::HotkeyContrl, offsetof(Block, hotkeyContrl), "hotkeys on and off"},
+     300, 170, Guarded},
     {WinLockMouse, u"WinLockMouse",
-     KeySetting{&Scheme::WinLockMouse, offsetof(Block, winLockMouse)}, 250, 180, Guarded},
+     KeySetting{&Scheme::WinLockMouse, offsetof(Block, winLockMouse), "cursor lock"},
+     250, 180, Guarded},
     {QuickChatKey, u"QuickChatKey",
-     KeySetting{&Scheme::QuickChatKey, offsetof(Block, quickChatKey)}, 260, 190, Guarded},
+     KeySetting{&Scheme::QuickChatKey, offsetof(Block, quickChatKey), "quick chat"},
+     260, 190, Guarded},
     {QuickChatIndex, u"QuickChatIndex",
      QuickChatSetSetting{&Scheme::QuickChatIndex, offsetof(Block, quickChatIndex)}, 270, 210},
     {ChatWheelkey, u"ChatWheelkey",
-     KeySetting{&Scheme::ChatWheelkey, offsetof(Block, chatWheelKey)}, 240, 200, Guarded},
+     KeySetting{&Scheme::ChatWheelkey, offsetof(Block, chatWheelKey), "chat wheel"},
+     240, 200, Guarded},
 
     {QuickChat, u"QuickChat",
      PhraseSetting{&Scheme::QuickChat, offsetof(Block, quickChat), sizeof(Block::quickChat)},

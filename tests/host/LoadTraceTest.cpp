@@ -71,20 +71,6 @@ TEST(LoadTrace, PutsEachDroppedKeyInWords) {
   }
 }
 
-TEST(LoadTrace, HasANameForEachKey) {
-  for (const Setting& row : kSettings) {
-    for (std::size_t i = 0; i < keyCount(row.id); ++i) {
-      if (row.id == ComboKey3to1) continue;  // conflicts name the keys of ComboKey
-      const KeySlot slot{row.id, static_cast<std::uint8_t>(i)};
-      const QString words =
-          inWords({{{0, slot, row.id, kQ, u"", KeyConflict{}, {1, 1}}}}).join(QLatin1Char(' '));
-      EXPECT_FALSE(words.contains(QLatin1String("group 1, :")))
-          << "give key " << i << " of " << std::string(row.element.begin(), row.element.end())
-          << " a name in host/LoadTrace.cpp";
-    }
-  }
-}
-
 using LoadTraceOf = HostFixture;
 
 TEST_F(LoadTraceOf, ALoadGoesToTheDebugOutput) {

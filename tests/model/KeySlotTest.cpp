@@ -4,6 +4,8 @@
 
 #include <iterator>
 #include <random>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "model/KeyAssignment.h"
@@ -14,6 +16,10 @@ namespace brennet {
 namespace {
 
 using namespace test;
+
+std::string narrow(std::u16string_view element) {
+  return {element.begin(), element.end()};
+}
 
 std::vector<KeySlot> allSlots() {
   std::vector<KeySlot> slots;
@@ -39,7 +45,33 @@ TEST(KeySlot, CountsTheKeysOfEachSetting) {
   for (const auto& row : kRows) {
     EXPECT_EQ(keyCount(row.setting), row.keys) << static_cast<int>(row.setting);
   }
-  EXPECT_EQ(allSlots().size(), 46U);
+}
+
+TEST(KeySlot, IsCalledByAnEnglishName) {
+  const struct {
+    KeySlot slot;
+    const char* name;
+  } kRows[] = {
+      {{SettingId::HeroSkillKey, 11}, "hero skill 12"},
+      {{SettingId::MouseKey, 1}, "wheel click"},
+      {remapSource(0), "source of remap 1"},
+      {remapSource(5), "source of remap 6"},
+      {remapDestination(0), "target of remap 1"},
+      {kComboTarget, "combination key D"},
+      {{SettingId::ChatWheelkey}, "chat wheel"},
+      {{SettingId::HeroSkillKey, 12}, ""},
+      {{SettingId::ZoomValue}, ""},
+  };
+  for (const auto& row : kRows) EXPECT_EQ(keyName(row.slot), row.name);
+}
+
+TEST(KeySlot, HasANameThatNoOtherHas) {
+  std::set<std::string> names = {""};
+  for (const KeySlot slot : allSlots()) {
+    EXPECT_TRUE(names.insert(keyName(slot)).second)
+        << "give key " << +slot.index << " of " << narrow(setting(slot.setting).element)
+        << " a name of its own: `keyNames` in its row of model/SettingTable.h";
+  }
 }
 
 TEST(KeySlot, NamesAKeyOfItsOwn) {

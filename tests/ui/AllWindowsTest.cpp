@@ -98,7 +98,7 @@ TEST_F(AllWindowsPages, HaveAFieldForEachKey) {
       const KeySlot slot{row.id, static_cast<std::uint8_t>(i)};
       EXPECT_NE(std::ranges::find(found, slot), found.end())
           << "give key " << i << " of " << nameOf(row)
-          << " a field, and its name a row in ui/capture/FeatureKeys.cpp";
+          << " a field with a name that ui/capture/FeatureKeys.h knows";
     }
   }
 }

@@ -1,26 +1,46 @@
 #include "ui/capture/FeatureKeys.h"
 
+#include <variant>
+
 namespace brennet {
 namespace {
 
-struct FeatureKey {
-  std::u16string_view objectName;
-  KeySlot slot;
-};
-constexpr FeatureKey kFeatureKeys[] = {
-    {u"edtShowFBlood", {SettingId::ShowFBlood}},
-    {u"edtShowEBlood", {SettingId::ShowEBlood}},
-    {u"edtHotkeyContrl", {SettingId::HotkeyContrl}},
-    {u"edtWinLockMouse", {SettingId::WinLockMouse}},
-    {u"edtQuickChatKey", {SettingId::QuickChatKey}},
-    {u"edtChatWheelKey", {SettingId::ChatWheelkey}},
-};
+constexpr std::u16string_view kPrefix = u"edt";
+
+// The one name that is not spelt like its element.
+constexpr std::u16string_view kChatWheelKey = u"edtChatWheelKey";
+
+// The part of `name` behind `start`; nothing where it begins with something else.
+std::optional<std::u16string_view> behind(std::u16string_view start, std::u16string_view name) {
+  if (!name.starts_with(start)) return std::nullopt;
+  return name.substr(start.size());
+}
+
+// The index that "_1" and so on stand for in a row of `count` keys.
+std::optional<std::uint8_t> indexOf(std::u16string_view rest, std::size_t count) {
+  const auto digits = behind(u"_", rest);
+  if (!digits || digits->empty() || digits->front() == u'0') return std::nullopt;
+  std::size_t number = 0;
+  for (const char16_t digit : *digits) {
+    if (digit < u'0' || digit > u'9') return std::nullopt;
+    number = number * 10 + (digit - u'0');
+    if (number > count) return std::nullopt;
+  }
+  return static_cast<std::uint8_t>(number - 1);
+}
 
 }  // namespace
 
 std::optional<KeySlot> featureKeyOf(std::u16string_view objectName) {
-  for (const FeatureKey& row : kFeatureKeys) {
-    if (objectName == row.objectName) return row.slot;
+  if (objectName == kChatWheelKey) return KeySlot{SettingId::ChatWheelkey};
+  const auto name = behind(kPrefix, objectName);
+  if (!name) return std::nullopt;
+  for (const Setting& row : kSettings) {
+    const auto rest = behind(row.element, *name);
+    if (!rest) continue;
+    if (std::holds_alternative<KeySetting>(row.kind) && rest->empty()) return KeySlot{row.id};
+    if (!std::holds_alternative<KeyListSetting>(row.kind)) continue;
+    if (const auto index = indexOf(*rest, keyCount(row.id))) return KeySlot{row.id, *index};
   }
   return std::nullopt;
 }

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
+
+#include "ui/capture/FeatureKeys.h"
 
 namespace brennet {
 namespace {
@@ -111,6 +114,41 @@ TEST(EditControl, HasTheSlotThatTheNameSelects) {
   EXPECT_FALSE(slotOfField(u"edtGoodsKey_3", BasicPage::Current)) << "it is no inventory slot";
   EXPECT_FALSE(slotOfField(u"edtSkill_8", BasicPage::Older));
   EXPECT_FALSE(slotOfField(u"chatLineEdit_1", BasicPage::Current));
+}
+
+TEST(FeatureKey, HasTheSlotThatTheNameOfItsElementSelects) {
+  struct SlotRow {
+    std::u16string_view name;
+    std::optional<KeySlot> slot;
+  };
+  constexpr SlotRow kRows[] = {
+      {u"edtShowFBlood", KeySlot{SettingId::ShowFBlood}},
+      {u"edtShowEBlood", KeySlot{SettingId::ShowEBlood}},
+      {u"edtHotkeyContrl", KeySlot{SettingId::HotkeyContrl}},
+      {u"edtWinLockMouse", KeySlot{SettingId::WinLockMouse}},
+      {u"edtQuickChatKey", KeySlot{SettingId::QuickChatKey}},
+      {u"edtChatWheelKey", KeySlot{SettingId::ChatWheelkey}},
+      {u"edtMouseKey_1", KeySlot{SettingId::MouseKey, 0}},
+      {u"edtHeroSkillKey_12", KeySlot{SettingId::HeroSkillKey, 11}},
+      {u"edtHeroSkillKey_13", {}},
+      {u"edtHeroSkillKey_0", {}},
+      {u"edtHeroSkillKey_01", {}},
+      {u"edtHeroSkillKey_4294967297", {}},
+      {u"edtHeroSkillKey_1x", {}},
+      {u"edtHeroSkillKey_", {}},
+      {u"edtHeroSkillKey1", {}},
+      {u"edtHeroSkillKey", {}},
+      {u"edtShowFBlood_1", {}},
+      {u"edtShowFBloodFlag", {}},
+      {u"edtHotKey", {}},
+      {u"edtComboKey_1", {}},
+      {u"edt", {}},
+      {u"ShowFBlood", {}},
+      {u"", {}},
+  };
+  for (const SlotRow& row : kRows) {
+    EXPECT_EQ(featureKeyOf(row.name), row.slot) << std::string(row.name.begin(), row.name.end());
+  }
 }
 
 }  // namespace

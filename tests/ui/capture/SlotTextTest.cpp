@@ -52,9 +52,10 @@ TEST_F(SlotTextTest, NameEachKeyOfAScheme) {
     const auto setting = static_cast<SettingId>(id);
     if (setting == SettingId::ComboKey3to1) continue;  // the keys of ComboKey once more
     for (std::size_t i = 0; i < keyCount(setting); ++i) {
-      const QString name = slotText({setting, static_cast<std::uint8_t>(i)});
+      const auto index = static_cast<std::uint8_t>(i);
+      const QString name = slotText({setting, index});
       EXPECT_FALSE(name.isEmpty())
-          << "add a row to kNames in SlotText.cpp for setting " << id << ", key " << i;
+          << "add a row to kNames in ui/capture/SlotText.cpp for " << keyName({setting, index});
       EXPECT_FALSE(names.contains(name)) << qPrintable(name) << " names two keys";
       EXPECT_FALSE(name.contains(QLatin1Char('%'))) << qPrintable(name);
       names += name;
