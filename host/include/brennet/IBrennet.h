@@ -26,14 +26,14 @@ namespace brennet {
 
 struct HotkeyBlock;  // HotkeyBlock.h
 
-// Twelve operations in a fixed order. The order of the slots never changes: hosts are compiled
+// The operations, in a fixed order. The order of the slots never changes: hosts are compiled
 // against it. New operations are only ever appended; Version.h says how a host finds out whether a
 // library has them. No destructor and no data belong here. Nothing throws; failures are the stated
 // results.
 //
-// Each slot says in brackets on which thread and when it may be called, who owns what is passed,
-// and what a failure is. "Any time" is any time after GetBrennetPtr, including before the first
-// load and while the dialog is open.
+// Each slot says in its first sentence what it does or returns, and in brackets on which thread and
+// when it may be called, who owns what is passed, and what a failure is. "Any time" is any time
+// after GetBrennetPtr, including before the first load and while the dialog is open.
 class IBrennet {
  public:
   // Slot 0. Reads the player's settings from the file at `path` (UTF-16; copied) and keeps the
