@@ -12,7 +12,7 @@ FOLDERS ?=
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk bench bench-build fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage mutation shots translations format lint lint-windows clean
+.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk bench bench-build fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage mutation shots translations update format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -112,6 +112,12 @@ mutation: ## plant MUTANTS (600) small faults of SEED (1), and tell which no tes
 translations: ## bring the catalogues up to date with the texts of the windows
 	@tools/setup.sh build
 	@tools/translations.sh
+
+update: ## rewrite all files that are made from the code or by running it; then look at the difference
+	@tools/setup.sh build test
+	@cmake --preset native -DBRENNET_BUILD_TESTS=ON
+	@cmake --build --preset native -j $(JOBS) --target golden
+	@tools/update.sh build/native
 
 shots: ## take pictures of all windows in both languages, build/shots/
 	@tools/setup.sh build test

@@ -32,16 +32,21 @@ QString yesNo(const QByteArray& bytes) {
   return bytes[0] != 0 ? QStringLiteral("on") : QStringLiteral("off");
 }
 
+struct Flag {
+  unsigned bit;
+  const char* name;
+};
+
+#define FLAG_ROW(bit, name) {bit, #name},
+constexpr Flag kFlags[] = {BRENNET_BLOCK_FLAGS(FLAG_ROW){31, "enabled"}};
+#undef FLAG_ROW
+
 QString flags(const QByteArray& bytes) {
-  constexpr const char* kNames[] = {"DisableLWinFlag", "LockMouseFlag",  "ShowFBloodFlag",
-                                    "ShowEBloodFlag",  "ViewNoDragFlag", "StartJSQFlag",
-                                    nullptr,           "ShowFManaFlag"};
+  const std::uint32_t word = keyAt(bytes, 0) | std::uint32_t{keyAt(bytes, 2)} << 16U;
   QStringList set;
-  for (unsigned bit = 0; bit < 8; ++bit) {
-    const bool on = (static_cast<unsigned char>(bytes[0]) >> bit & 1U) != 0;
-    if (on && kNames[bit] != nullptr) set += QLatin1String(kNames[bit]);
+  for (const Flag& flag : kFlags) {
+    if ((word >> flag.bit & 1U) != 0) set += QLatin1String(flag.name);
   }
-  if ((static_cast<unsigned char>(bytes[3]) & 0x80U) != 0) set += QStringLiteral("enabled");
   return set.isEmpty() ? QStringLiteral("none") : set.join(QStringLiteral(", "));
 }
 

@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
+#include <map>
 
 #include "gameside/dota7/Dota7Values.h"
 #include "model/SettingTable.h"
 #include "tests/docs/Document.h"
+#include "tests/support/Golden.h"
 
 namespace brennet {
 namespace {
@@ -73,13 +76,36 @@ struct Describe {
 
 TEST(Formats, ListTheSettings) {
   HotkeyScheme fresh;
-  std::vector<Row> expected;
+  std::string table = "\n| Element | Kind | Default | Offset in the record |\n|---|---|---|---|\n";
   for (const Setting& setting : kSettings) {
-    Row row = std::visit(Describe{fresh}, setting.kind);
-    row.insert(row.begin(), narrow(setting.element));
-    expected.push_back(std::move(row));
+    table += "| `" + narrow(setting.element) + "`";
+    for (const std::string& cell : std::visit(Describe{fresh}, setting.kind)) table += " | " + cell;
+    table += " |\n";
   }
-  EXPECT_EQ(tableOfFormats("The elements of a scheme"), expected);
+  test::expectGoldenPart("docs/formats.md", "elements", table + "\n");
+}
+
+// The switches of the flag word, as the macro of the public header lists them.
+TEST(Formats, ListTheFlagsInTheHeader) {
+  std::map<std::size_t, std::string> flags;
+  for (const Setting& setting : kSettings) {
+    const auto* const kind = std::get_if<SwitchSetting>(&setting.kind);
+    if (kind == nullptr || kind->mask == SwitchSetting::kWholeByte) continue;
+    const auto bit = static_cast<std::size_t>(std::countr_zero(kind->mask));
+    flags[8 * (kind->offset - offsetof(HotkeyBlock, flags)) + bit] = narrow(setting.element);
+  }
+  std::vector<std::string> lines = {"#define BRENNET_BLOCK_FLAGS(FLAG)"};
+  for (const auto& [bit, name] : flags) {
+    lines.push_back("  FLAG(" + std::to_string(bit) + ", " + name + ")");
+  }
+  std::size_t width = 0;
+  for (const std::string& line : lines) width = std::max(width, line.size());
+  std::string macro;
+  for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+    macro += lines[i] + std::string(width - lines[i].size(), ' ') + " \\\n";
+  }
+  test::expectGoldenPart("model/include/brennet/HotkeyBlock.h", "flags",
+                         macro + lines.back() + "\n");
 }
 
 TEST(Formats, ListTheRecord) {

@@ -8,6 +8,7 @@
 
 #include "model/BlockBytes.h"
 #include "model/BlockFiller.h"
+#include "model/SettingTable.h"
 #include "tests/model/Keys.h"
 
 namespace brennet {
@@ -44,11 +45,22 @@ TEST(BlockMerger, FindsNothingInAnUnchangedBlock) {
   EXPECT_EQ(config.scheme(), before);
 }
 
+// The bits of the flag word that neither a switch of the table has nor the global one.
+std::uint32_t unusedFlags() {
+  std::uint32_t used = kEnableFlag;
+  for (const Setting& row : kSettings) {
+    const auto* const kind = std::get_if<SwitchSetting>(&row.kind);
+    if (kind == nullptr || kind->mask == SwitchSetting::kWholeByte) continue;
+    used |= std::uint32_t{kind->mask} << 8 * (kind->offset - offsetof(HotkeyBlock, flags));
+  }
+  return ~used;
+}
+
 TEST(BlockMerger, DoesNotLookAtUnusedBytesAndBits) {
   HotkeyConfig config = configWithKeys();
   EXPECT_FALSE(mergeEdited(config, [](HotkeyBlock& block) {
     block.size = 5;
-    block.flags |= 0x7FFFFF40U;
+    block.flags |= unusedFlags();
     block.reserved69[3] = 1;
     block.reserved88[3] = 1;
   }));

@@ -6,6 +6,7 @@
 #include "markup/MarkupDocument.h"
 #include "model/HotkeyConfig.h"
 #include "tests/model/Keys.h"
+#include "tests/support/Golden.h"
 #include "tests/support/ScopedProfile.h"
 #include "tests/support/TempFolder.h"
 
@@ -358,42 +359,7 @@ TEST_F(SettingsFile, IsWrittenInItsFixedForm) {
   scheme.HeroSkillAutocast[0] = true;
   scheme.QuickChat[3] = u"\u8C22\u8C22 <&>";
   ASSERT_TRUE(save(config, 1700000000));
-  const std::string bytes = readBytes(file_);
-
-  const std::string start = kDeclaration + std::string(
-                                               "<KeyInfo enable=\"1\" index=\"0\">\r\n"
-                                               "<LastSaveTime>1700000000</LastSaveTime>\r\n"
-                                               "<KeyInfo_0>\r\n"
-                                               "<ZoomValue>100</ZoomValue>\r\n"
-                                               "<HeroSkillKey>\r\n"
-                                               "<Key id=\"0\" autocast=\"1\">20740</Key>\r\n"
-                                               "<Key id=\"1\" autocast=\"0\">65280</Key>\r\n");
-  EXPECT_EQ(bytes.substr(0, start.size()), start);
-  for (const char* part : {
-           "</HeroSkillKey>\r\n<ItemKey>\r\n<Key id=\"103\" autocast=\"0\">65280</Key>\r\n"
-           "<Key id=\"104\" autocast=\"0\">65280</Key>\r\n<Key id=\"100\" autocast=\"0\">",
-           "</ItemKey>\r\n<MouseKey>\r\n<Key id=\"0\">65280</Key>\r\n",
-           "</SecretaryKey>\r\n<DisableLWinFlag>0</DisableLWinFlag>\r\n<LockMouseFlag>0"
-           "</LockMouseFlag>\r\n<ShowFBloodFlag>0</ShowFBloodFlag>\r\n<ShowEBloodFlag>0"
-           "</ShowEBloodFlag>\r\n<ShowFManaFlag>0</ShowFManaFlag>\r\n<ViewNoDragFlag>0"
-           "</ViewNoDragFlag>\r\n<StartJSQFlag>0</StartJSQFlag>\r\n<HotKey>\r\n<Key id=\"0\">\r\n"
-           "<Src>65280</Src>\r\n<Dest>65280</Dest>\r\n</Key>\r\n",
-           "</HotKey>\r\n<ComboKey>\r\n<Key_A>65280</Key_A>\r\n<Key_B>65280</Key_B>\r\n"
-           "<Key_C>65280</Key_C>\r\n<Key_D>65280</Key_D>\r\n</ComboKey>\r\n<ComboKey3to1>\r\n"
-           "<Key_A>65280</Key_A>",
-           "</ComboKey3to1>\r\n<NumComboKeyIndex>-1</NumComboKeyIndex>\r\n<ShowFBlood>65280"
-           "</ShowFBlood>\r\n<ShowEBlood>65280</ShowEBlood>\r\n<HotkeyContrl>65280"
-           "</HotkeyContrl>\r\n<WinLockMouse>65280</WinLockMouse>\r\n<QuickChatKey>65280"
-           "</QuickChatKey>\r\n<QuickChatIndex>1</QuickChatIndex>\r\n<ChatWheelkey>65280"
-           "</ChatWheelkey>\r\n<QuickChat>\r\n<Chat id=\"3\">\xD0\xBB\xD0\xBB &lt;&amp;&gt;"
-           "</Chat>\r\n</QuickChat>\r\n<ChatWheel>\r\n<Chat id=\"0\"/>\r\n",
-           "</ChatWheel>\r\n<HideUI>0</HideUI>\r\n<SkillHeroOnly>0</SkillHeroOnly>\r\n"
-           "<CombokeyHeroOnly>0</CombokeyHeroOnly>\r\n<DisableLeftAlt>0</DisableLeftAlt>\r\n"
-           "<DisableLeftAltShowHP>0</DisableLeftAltShowHP>\r\n</KeyInfo_0>\r\n<KeyInfo_1>\r\n",
-           "</KeyInfo_2>\r\n</KeyInfo>\r\n",
-       }) {
-    EXPECT_NE(bytes.find(part), std::string::npos) << part;
-  }
+  expectGolden("model/fixed-form.KeyInfo.xml", readBytes(file_));
 }
 
 TEST_F(SettingsFile, TakesTheItemMarksOfEverySchemeFromTheCurrentOne) {

@@ -3,11 +3,15 @@
 namespace brennet::test {
 
 std::string testData(std::string_view name) {
-  return std::string(BRENNET_SOURCE_FOLDER "/tests/data/").append(name);
+  return projectFile("tests/data/").append(name);
 }
 
 std::string sampleData(std::string_view name) {
-  return std::string(BRENNET_SOURCE_FOLDER "/samples/data/").append(name);
+  return projectFile("samples/data/").append(name);
+}
+
+std::string projectFile(std::string_view name) {
+  return std::string(BRENNET_SOURCE_FOLDER "/").append(name);
 }
 
 }  // namespace brennet::test

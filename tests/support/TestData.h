@@ -9,4 +9,7 @@ namespace brennet::test {
 [[nodiscard]] std::string testData(std::string_view name);
 [[nodiscard]] std::string sampleData(std::string_view name);
 
+// The path of a file of the project, named from its top folder.
+[[nodiscard]] std::string projectFile(std::string_view name);
+
 }  // namespace brennet::test

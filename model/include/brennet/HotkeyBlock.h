@@ -18,8 +18,7 @@ namespace brennet {
 struct HotkeyBlock {
   // Bytes that the caller provides, counted from this field on. Only that many are touched.
   std::uint32_t size;
-  // Bits 0-5 and 7: DisableLWinFlag, LockMouseFlag, ShowFBloodFlag, ShowEBloodFlag,
-  // ViewNoDragFlag, StartJSQFlag, ShowFManaFlag. Bit 31: the global switch. The others are 0.
+  // A bit for each of BRENNET_BLOCK_FLAGS. Bit 31: the global switch. The others are 0.
   std::uint32_t flags;
   std::uint16_t heroSkillKeys0to5[6];
   std::uint16_t itemKeys[6];     // inventory slots of keypad 7, 8, 4, 5, 1, 2
@@ -51,6 +50,18 @@ struct HotkeyBlock {
 };
 
 #pragma pack(pop)
+
+// The switches in `flags`: FLAG(bit, name) for each, the name being that of the settings file.
+// make update writes this: flags
+#define BRENNET_BLOCK_FLAGS(FLAG) \
+  FLAG(0, DisableLWinFlag)        \
+  FLAG(1, LockMouseFlag)          \
+  FLAG(2, ShowFBloodFlag)         \
+  FLAG(3, ShowEBloodFlag)         \
+  FLAG(4, ViewNoDragFlag)         \
+  FLAG(5, StartJSQFlag)           \
+  FLAG(7, ShowFManaFlag)
+// make update: end
 
 #define BRENNET_BLOCK_OFFSET(field, offset) \
   static_assert(offsetof(HotkeyBlock, field) == (offset), "HotkeyBlock is a wire format: " #field)

@@ -79,8 +79,9 @@ class TranslationsTest : public testing::TestWithParam<const char*> {
 TEST_P(TranslationsTest, IsWhole) {
   EXPECT_FALSE(entries.isEmpty());
   for (const Entry& entry : entries) {
-    EXPECT_EQ(entry.state, QString()) << where(entry);
-    EXPECT_FALSE(entry.translation.isEmpty()) << where(entry);
+    EXPECT_TRUE(entry.state.isEmpty() && !entry.translation.isEmpty())
+        << where(entry) << ": translate it in translations/brennet_" << GetParam()
+        << ".ts, and take its mark \"unfinished\" away";
     EXPECT_EQ(translated(entry.context, entry.source, entry.comment), entry.translation)
         << where(entry);
   }
