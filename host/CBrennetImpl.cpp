@@ -134,22 +134,10 @@ bool CBrennetImpl::FillHotkeyBlock(HotkeyBlock* block) noexcept {
   return true;
 }
 
-std::uint8_t CBrennetImpl::GetDisableLWinFlag() noexcept {
-  return config_.scheme().DisableLWinFlag;
-}
-
-std::uint32_t CBrennetImpl::GetLastSaveTime() noexcept {
-  return config_.LastSaveTime();
-}
-
 bool CBrennetImpl::SetEnabled(bool enable, std::uint32_t saveTime) noexcept {
   if (enable == config_.enable()) return false;
   config_.setEnable(enable);
   return orElse(false, [&] { return save(config_, saveTime); });
-}
-
-std::uint8_t CBrennetImpl::GetViewNoDragFlag() noexcept {
-  return config_.scheme().ViewNoDragFlag;
 }
 
 bool CBrennetImpl::IsCapsLockUsed() noexcept {
@@ -182,10 +170,6 @@ std::int32_t CBrennetImpl::ApplyHotkeyBlock(HotkeyBlock* block, std::uint32_t sa
         mergeBlock(current, returned, sharedSize(size), workingCopy_) && saveWorkingCopy(saveTime);
     return applied ? kApplied : kNotApplied;
   });
-}
-
-std::uint8_t CBrennetImpl::GetStartJSQFlag() noexcept {
-  return config_.scheme().StartJSQFlag;
 }
 
 bool CBrennetImpl::save(HotkeyConfig& config, std::uint32_t saveTime) {

@@ -13,7 +13,7 @@ class Dota7KeyInfoManager;
 
 // The only implementation of IBrennet, and all its state between calls. The library has one such
 // object (GetBrennetPtr.cpp), each test its own. IBrennet.h says what each operation promises to
-// the host.
+// the host. Those that only answer from the settings are written here.
 class CBrennetImpl final : public IBrennet {
  public:
   CBrennetImpl();
@@ -25,15 +25,21 @@ class CBrennetImpl final : public IBrennet {
   void BRENNET_CALL SetDataFolder(const wchar_t* folder) noexcept override;
   bool BRENNET_CALL ShowSettingsDialog(bool* saved, std::uint32_t saveTime) noexcept override;
   bool BRENNET_CALL FillHotkeyBlock(HotkeyBlock* block) noexcept override;
-  std::uint8_t BRENNET_CALL GetDisableLWinFlag() noexcept override;
-  std::uint32_t BRENNET_CALL GetLastSaveTime() noexcept override;
+  std::uint8_t BRENNET_CALL GetDisableLWinFlag() noexcept override {
+    return config_.scheme().DisableLWinFlag;
+  }
+  std::uint32_t BRENNET_CALL GetLastSaveTime() noexcept override { return config_.LastSaveTime(); }
   bool BRENNET_CALL SetEnabled(bool enable, std::uint32_t saveTime) noexcept override;
-  std::uint8_t BRENNET_CALL GetViewNoDragFlag() noexcept override;
+  std::uint8_t BRENNET_CALL GetViewNoDragFlag() noexcept override {
+    return config_.scheme().ViewNoDragFlag;
+  }
   bool BRENNET_CALL IsCapsLockUsed() noexcept override;
   bool BRENNET_CALL IsShiftUsed() noexcept override;
   std::int32_t BRENNET_CALL ApplyHotkeyBlock(HotkeyBlock* block,
                                              std::uint32_t saveTime) noexcept override;
-  std::uint8_t BRENNET_CALL GetStartJSQFlag() noexcept override;
+  std::uint8_t BRENNET_CALL GetStartJSQFlag() noexcept override {
+    return config_.scheme().StartJSQFlag;
+  }
 
   // What the player has saved; all operations answer from it.
   [[nodiscard]] const HotkeyConfig& config() const { return config_; }

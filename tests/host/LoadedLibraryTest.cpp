@@ -4,14 +4,18 @@
 
 #include <bit>
 #include <cstddef>
+#include <regex>
+#include <set>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 #include "brennet/HotkeyBlock.h"
 #include "brennet/IBrennet.h"
 #include "tests/support/ScopedProfile.h"
 #include "tests/support/SharedLibrary.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/TestData.h"
 
 namespace brennet {
 namespace {
@@ -77,6 +81,18 @@ auto memberAt(void* address) {
   return std::bit_cast<Member>(Pointer{address, 0});
 }
 
+// The operations that the public header declares, in their order.
+std::vector<std::string> declaredOperations() {
+  const std::string header = readBytes(projectFile("host/include/brennet/IBrennet.h"));
+  const std::regex declaration("virtual [^;]*? BRENNET_CALL (\\w+)\\(");
+  std::vector<std::string> names;
+  for (std::sregex_iterator found(header.begin(), header.end(), declaration), end; found != end;
+       ++found) {
+    names.push_back((*found)[1]);
+  }
+  return names;
+}
+
 // The slots are counted here by hand: a header whose operations changed places cannot hide.
 TEST_F(LoadedLibrary, HasItsOperationsInTheFixedSlots) {
   const auto path = folder_ / "KeyInfo.xml";
@@ -86,8 +102,10 @@ TEST_F(LoadedLibrary, HasItsOperationsInTheFixedSlots) {
              "</KeyInfo_0></KeyInfo>");
   IBrennet* const brennet = get();
   void** const slots = *reinterpret_cast<void***>(brennet);
+  std::set<std::size_t> called = {1};
   const auto call = [&]<class Result, class... Arguments>(std::size_t slot, Result,
                                                           Arguments... arguments) {
+    called.insert(slot);
     return (brennet->*memberAt<Result, Arguments...>(slots[slot]))(arguments...);
   };
   const std::wstring name = path.wstring();
@@ -111,6 +129,12 @@ TEST_F(LoadedLibrary, HasItsOperationsInTheFixedSlots) {
   EXPECT_EQ(call(10, std::int32_t(), &block, std::uint32_t{79}), 0);
   EXPECT_EQ(call(10, std::int32_t(), &block, std::uint32_t{79}), -1);
   EXPECT_EQ(call(11, std::uint8_t()), 0);
+  const std::vector<std::string> declared = declaredOperations();
+  for (std::size_t slot = 0; slot < declared.size(); ++slot) {
+    EXPECT_TRUE(called.contains(slot))
+        << "call slot " << slot << ", " << declared[slot] << ", in this test";
+  }
+  EXPECT_EQ(called.size(), declared.size());
 }
 
 }  // namespace
