@@ -116,7 +116,7 @@ TEST(EditControl, HasTheSlotThatTheNameSelects) {
   EXPECT_FALSE(slotOfField(u"chatLineEdit_1", BasicPage::Current));
 }
 
-TEST(FeatureKey, HasTheSlotThatTheNameOfItsElementSelects) {
+TEST(FeatureKeys, HasTheSlotThatTheNameOfItsElementSelects) {
   struct SlotRow {
     std::u16string_view name;
     std::optional<KeySlot> slot;
