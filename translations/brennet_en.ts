@@ -1044,6 +1044,14 @@ Do you want to go on?</translation>
         <source>在游戏聊天中用于粘贴；聊天轮盘的热键已移除</source>
         <translation>pastes text in the game&apos;s chat; the chat wheel has no key any more</translation>
     </message>
+    <message>
+        <source>%1：没有按键</source>
+        <translation>%1: no key</translation>
+    </message>
+    <message>
+        <source>也用于：%1</source>
+        <translation>also: %1</translation>
+    </message>
 </context>
 <context>
     <name>QDialogButtonBox</name>

@@ -1043,6 +1043,14 @@ Are you sure to continue?</source>
         <source>在游戏聊天中用于粘贴；聊天轮盘的热键已移除</source>
         <translation>在游戏聊天中用于粘贴；聊天轮盘的热键已移除</translation>
     </message>
+    <message>
+        <source>%1：没有按键</source>
+        <translation>%1：没有按键</translation>
+    </message>
+    <message>
+        <source>也用于：%1</source>
+        <translation>也用于：%1</translation>
+    </message>
 </context>
 <context>
     <name>QDialogButtonBox</name>

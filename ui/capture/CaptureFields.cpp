@@ -1,12 +1,14 @@
 #include "ui/capture/CaptureFields.h"
 
-#include <QEvent>
+#include <QHelpEvent>
 #include <QLineEdit>
+#include <QToolTip>
 #include <algorithm>
 #include <utility>
 
 #include "ui/capture/RefusalText.h"
 #include "ui/capture/SlotCapture.h"
+#include "ui/window/EventGuard.h"
 #include "ui/window/Text.h"
 
 namespace brennet {
@@ -39,7 +41,21 @@ std::optional<KeySlot> CaptureFields::slotOf(const QLineEdit& field) const {
 
 bool CaptureFields::filter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) outline_.clear();
+  if (event->type() == QEvent::ToolTip && showToolTip(watched, static_cast<QHelpEvent&>(*event))) {
+    return true;
+  }
   return filter_.filter(watched, event);
+}
+
+// Made when it is asked for, since it tells of all other keys, too.
+bool CaptureFields::showToolTip(QObject* watched, const QHelpEvent& event) const {
+  auto* const field = qobject_cast<QLineEdit*>(watched);
+  const std::optional<KeySlot> slot = field != nullptr ? slotOf(*field) : std::nullopt;
+  if (!slot) return false;
+  return guarded([&] {
+    QToolTip::showText(event.globalPos(), fieldText(config_->scheme(), *slot), field);
+    return true;
+  });
 }
 
 void CaptureFields::outline(const std::vector<KeySlot>& holders) {

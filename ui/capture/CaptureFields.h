@@ -12,6 +12,8 @@
 #include "ui/capture/HolderOutline.h"
 #include "ui/capture/KeyFieldFilter.h"
 
+class QHelpEvent;
+
 namespace brennet {
 
 struct Refusal;
@@ -58,6 +60,7 @@ class CaptureFields {
   };
 
   [[nodiscard]] std::optional<KeySlot> slotOf(const QLineEdit& field) const;
+  [[nodiscard]] bool showToolTip(QObject* watched, const QHelpEvent& event) const;
   void take(QLineEdit& field, const Capture& capture);
   void tell(const std::optional<KeySlot>& slot, const Refusal& refusal);
 

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "model/CardPositions.h"
+#include "model/KeyUses.h"
 #include "ui/capture/SlotText.h"
 #include "ui/window/Text.h"
 
@@ -35,8 +36,9 @@ QString placeText(KeySlot slot) {
       .arg(name, words(kRows[place.row]), words(kColumns[place.column]));
 }
 
-// How to get from one window to a field of another.
-QString withTheWay(const QString& place, KeyWindow to) {
+// A place in the window `to`, and how to get there if that is not the one that the player sees.
+QString fromWindow(const QString& place, KeyWindow to, KeyWindow from) {
+  if (to == from) return place;
   switch (to) {
     case KeyWindow::Main:
       return words(QT_TRANSLATE_NOOP("KeyHolder", "%1（在主窗口中）")).arg(place);
@@ -95,9 +97,21 @@ QString holderText(const KeyConflict& conflict, KeyWindow from) {
   }
   const bool isChoice =
       conflict.reason == Reason::ItemPresetKey || conflict.reason == Reason::QuickChatSetKey;
-  const QString place = isChoice ? choiceText(conflict) : placeText(conflict.holder);
-  const KeyWindow to = windowOf(conflict.holder);
-  return to == from ? place : withTheWay(place, to);
+  return fromWindow(isChoice ? choiceText(conflict) : placeText(conflict.holder),
+                    windowOf(conflict.holder), from);
+}
+
+QString fieldText(const HotkeyScheme& scheme, KeySlot slot) {
+  const QString place = placeText(slot);
+  const KeyWord key = keyAt(scheme, slot);
+  if (!key.isSet()) return words(QT_TRANSLATE_NOOP("KeyHolder", "%1：没有按键")).arg(place);
+  QStringList lines(lineOf(key, place));
+  for (const KeySlot other : usesOf(scheme, key)) {
+    if (other == slot) continue;
+    const QString where = fromWindow(placeText(other), windowOf(other), windowOf(slot));
+    lines += words(QT_TRANSLATE_NOOP("KeyHolder", "也用于：%1")).arg(where);
+  }
+  return lines.join(QLatin1Char('\n'));
 }
 
 QString refusalText(const Refusal& refusal, KeyWindow from) {

@@ -26,6 +26,10 @@ enum class KeyWindow : std::uint8_t {
 // What has a key. Says how to get there if that is not in the window `from`.
 [[nodiscard]] QString holderText(const KeyConflict& conflict, KeyWindow from);
 
+// What the field of a key says about it, a line each: the key and what it does, and what else
+// reacts to it ("also Wheel up"). Or that there is no key.
+[[nodiscard]] QString fieldText(const HotkeyScheme& scheme, KeySlot slot);
+
 // Why a key that was pressed in a field of `from` was refused.
 [[nodiscard]] QString refusalText(const Refusal& refusal, KeyWindow from);
 

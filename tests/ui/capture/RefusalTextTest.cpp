@@ -71,6 +71,29 @@ TEST_F(RefusalTextTest, SaysHowToGetToAnotherWindowOnly) {
   }
 }
 
+TEST_F(RefusalTextTest, OfAFieldSaysWhatTheKeyDoesAndWhatElseReactsToIt) {
+  const KeySlot skill{SettingId::HeroSkillKey, 0};
+  HotkeyScheme scheme;
+  EXPECT_EQ(fieldText(scheme, skill), QStringLiteral("Hero skill 1 (bottom row, first): no key"));
+  storeKey(scheme, skill, kAltQ);
+  EXPECT_EQ(fieldText(scheme, skill), QStringLiteral("Alt + Q: Hero skill 1 (bottom row, first)"));
+  scheme.MouseKey[2] = kAltQ;
+  scheme.HotKey[0].Src = kAltQ;
+  scheme.ChatWheelkey = kAltQ;
+  EXPECT_EQ(fieldText(scheme, skill),
+            QStringLiteral("Alt + Q: Hero skill 1 (bottom row, first)\n"
+                           "also: Wheel down\n"
+                           "also: Remap 1: key to press\n"
+                           "also: Chat wheel key (no window shows it; \"Clear settings\" removes "
+                           "it)"));
+  EXPECT_EQ(fieldText(scheme, {SettingId::MouseKey, 2}),
+            QStringLiteral("Alt + Q: Wheel down\n"
+                           "also: Hero skill 1 (bottom row, first)\n"
+                           "also: Remap 1: key to press\n"
+                           "also: Chat wheel key (no window shows it; \"Clear settings\" removes "
+                           "it)"));
+}
+
 TEST_F(RefusalTextTest, HasALineForEachHolder) {
   const Refusal refusal{kAltQ, {held({SettingId::HeroSkillKey, 8}), held({SettingId::ItemKey, 0})}};
   EXPECT_EQ(refusalText(refusal, KeyWindow::Main),
