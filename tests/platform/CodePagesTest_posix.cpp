@@ -86,6 +86,38 @@ TEST(CodePages, AreThoseOfTheirNumbers) {
   }
 }
 
+TEST(CodePages, HaveNoLeadBytesBeyondTheirRanges) {
+  for (const CodePage page : {932U, 936U, 949U, 950U}) {
+    EXPECT_FALSE(isLeadByte(page, 0x80)) << page;
+    EXPECT_TRUE(isLeadByte(page, 0x81)) << page;
+    EXPECT_FALSE(isLeadByte(page, 0xFF)) << page;
+  }
+}
+
+// The bytes after the end may be those of the pair.
+TEST(CodePages, EndWhereTheTextEnds) {
+  std::u16string text;
+  decode(949, std::string_view("\xC7\xD1").substr(0, 1), text);
+  EXPECT_EQ(text, u"?");
+  text.clear();
+  decode(51949, std::string_view("a\xC7\xD1").substr(0, 2), text);
+  EXPECT_EQ(text, u"a?");
+}
+
+TEST(CodePages, HaveTheirOwnCharacterForWhatTheyCannotConvert) {
+  for (const CodePage page : {932U, 949U, 950U}) {
+    for (unsigned pair = 0x8140; pair <= 0xFEFF; ++pair) {
+      const auto lead = static_cast<unsigned char>(pair >> 8U);
+      const auto trail = static_cast<unsigned char>(pair & 0xFFU);
+      if (!isLeadByte(page, lead)) continue;
+      ASSERT_NE(pairToUtf16(page, lead, trail), 0xFFFD) << page << std::hex << ' ' << pair;
+    }
+  }
+  std::u16string text;
+  decode(51949, "a\xFF z", text);
+  EXPECT_EQ(text, u"a? z");
+}
+
 constexpr CodePage kGb18030 = 54936;
 
 TEST(CodePagesGb18030, HasSequencesOfItsOwn) {

@@ -124,6 +124,19 @@ TEST(FileRightsReplaceFile, TakesNoAccessListOverFromTheFolder) {
   EXPECT_EQ(statusOf(folder / "f").st_mode & 07777U, 0660U);
 }
 
+TEST(FileRightsReplaceFile, PutsTheListOfTheFileInThePlaceOfThatOfTheFolder) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "old");
+  const std::string own = listWith(4242, 4, 6);
+  const std::string folders = listWith(4343, 6, 6);
+  static_cast<void>(setxattr((folder / "f").c_str(), kAccessList, own.data(), own.size(), 0));
+  static_cast<void>(
+      setxattr(folder.path().c_str(), kDefaultList, folders.data(), folders.size(), 0));
+  const std::string before = attribute(folder / "f", kAccessList);
+  EXPECT_FALSE(replaceFile(folder / "f", "new"));
+  EXPECT_EQ(attribute(folder / "f", kAccessList), before);
+}
+
 TEST(FileRightsCopied, TakesThoseOfFilesOnly) {
   const TempFolder folder;
   writeBytes(folder / "f", "");
@@ -181,6 +194,7 @@ TEST(FileRightsReplaceFile, LeavesAFileItsGroupWhereAMemberReplacesIt) {
   if (geteuid() != 0) return;
   constexpr SharedRow kRows[] = {
       {0660, true, 0660, kGroup},
+      {0460, true, 0440, kGroup},  // the old owner is one of the group now
       {0666, false, 0606, kOtherGroup},
       {0646, false, 0604, kOtherGroup},
   };

@@ -64,6 +64,22 @@ TEST(OpenFile, IsReadToItsEnd) {
   }
 }
 
+TEST(OpenFile, IsReadFromItsStart) {
+  const test::TempFolder folder;
+  const std::string content = someBytes();
+  writeBytes(folder / "f", content);
+  for (const std::size_t part : {1U, 7U, 499U, 5000U}) {
+    InParts system(content.size(), part);
+    OpenFile file(system);
+    ASSERT_FALSE(file.open(folder / "f", OpenFor::Reading));
+    for (const std::size_t size : {0U, 1U, 500U, 1000U, 1001U}) {
+      std::string bytes = "before";
+      EXPECT_FALSE(file.readStart(bytes, size));
+      EXPECT_EQ(bytes, content.substr(0, size)) << size << ' ' << part;
+    }
+  }
+}
+
 TEST(OpenFile, IsWrittenToItsEnd) {
   const test::TempFolder folder;
   const std::string content = someBytes();

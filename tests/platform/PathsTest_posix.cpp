@@ -8,6 +8,7 @@ namespace {
 TEST(PathsFromUtf16, WritesUtf8) {
   EXPECT_EQ(pathFromUtf16(u"/a/\u00E9\u8C22\U0001F600.xml").native(),
             "/a/\xC3\xA9\xE8\xB0\xA2\xF0\x9F\x98\x80.xml");
+  EXPECT_EQ(pathFromUtf16(u"\U0010FFFF").native(), "\xF4\x8F\xBF\xBF");
 }
 
 TEST(PathsFromUtf16, ReplacesUnpairedSurrogates) {

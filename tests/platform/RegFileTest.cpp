@@ -150,6 +150,12 @@ TEST(RegFileText, IsReadInTheAnsiCodePage) {
   const RegistryValue* const value = file.find(kKey, u"\u8C22\u4E57");
   ASSERT_NE(value, nullptr);
   EXPECT_EQ(value->data, textData(u"\u8C22"));
+  // So are texts with variables, and lists of texts; other bytes are no texts.
+  ASSERT_TRUE(file.merge(kAnsiHead + "\"E\"=hex(2):d0,bb\r\n\"L\"=hex(7):d0,bb\r\n"
+                                     "\"B\"=hex(8):d0,bb\r\n"s));
+  EXPECT_EQ(valueIn(file, kKey, u"E"), (RegistryValue{2, textData(u"\u8C22").substr(0, 2)}));
+  EXPECT_EQ(valueIn(file, kKey, u"L"), (RegistryValue{7, textData(u"\u8C22").substr(0, 2)}));
+  EXPECT_EQ(valueIn(file, kKey, u"B"), (RegistryValue{8, "\xD0\xBB"}));
   // Texts in files of the later version are UTF-16 even where the file is not.
   ASSERT_TRUE(file.merge(kUnicodeHead + "\"U\"=hex(1):22,8c,00,00\r\n"s));
   EXPECT_EQ(valueIn(file, kKey, u"U"), (RegistryValue{kRegistryText, textData(u"\u8C22")}));
