@@ -21,9 +21,7 @@ FileError readOnce(FileSystem& system, Patience& patience, const Path& path, std
   if (!error) error = file.readAll(bytes, limit);
   if (error) return error;
   // Nobody writes it in place as long as it is locked, but somebody may have ended while he did.
-  bool isTorn = false;
-  error = findTornWrite(system, path, isTorn);
-  return !error && isTorn ? busy() : error;
+  return busyIfTorn(system, path);
 }
 
 }  // namespace

@@ -239,12 +239,12 @@ FileError forgetTornWrite(FileSystem& system, Patience& patience, const Path& pa
   return {};
 }
 
-FileError findTornWrite(FileSystem& system, const Path& path, bool& isThere) {
+FileError busyIfTorn(FileSystem& system, const Path& path) {
   std::vector<KeptWrite::Identity> names;
   const FileError error = KeptWrite::find(system, path, names);
-  isThere = std::any_of(names.begin(), names.end(),
-                        [](const KeptWrite::Identity& name) { return name.isWritten; });
-  return error;
+  const bool isTorn =
+      std::any_of(names.begin(), names.end(), [](const auto& name) { return name.isWritten; });
+  return !error && isTorn ? busy() : error;
 }
 
 }  // namespace brennet::platform

@@ -11,7 +11,9 @@
 // is gone again is what makes the new content the file's; until then, whoever opens the file next
 // puts the old one back, by whatever name. So a file that was torn by a process or a machine that
 // ended is whole again before anyone of ours reads it. The file is locked (FileSystem::lock) while
-// it is written, and by those of ours who read it.
+// it is written, and by those of ours who read it or give another its place. Where the latter may
+// not read it, or the file system has no locks, a write may begin in the moment before; if that one
+// is not finished, its old content may be put back into the other file.
 namespace brennet::platform {
 
 // The error (isTooLarge) with which a file of `size` bytes is not written in place with `bytes`:
@@ -36,9 +38,9 @@ namespace brennet::platform {
 // Has nothing put back into a file that is about to be made at `path`, where none is.
 [[nodiscard]] FileError forgetTornWrite(FileSystem& system, Patience& patience, const Path& path);
 
-// Whether a write in place is kept, so that the file may hold anything: one that is under way, or
-// one that was not finished. For who has the file locked there is none of the first kind. Throws
+// Held where a write in place is kept, so that the file may hold anything: one that is under way,
+// or one that was not finished. For who has the file locked there is none of the first kind. Throws
 // std::bad_alloc.
-[[nodiscard]] FileError findTornWrite(FileSystem& system, const Path& path, bool& isThere);
+[[nodiscard]] FileError busyIfTorn(FileSystem& system, const Path& path);
 
 }  // namespace brennet::platform

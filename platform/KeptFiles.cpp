@@ -51,13 +51,6 @@ bool isStamp(TextView text) {
                     });
 }
 
-// Somebody of ours may write the file at this moment, or may have ended while he did.
-FileError busyIfTorn(FileSystem& system, const Path& path) {
-  bool isTorn = false;
-  const FileError error = findTornWrite(system, path, isTorn);
-  return !error && isTorn ? busy() : error;
-}
-
 // Copies what the file at `path` holds, which nobody of ours writes meanwhile. Held where that is
 // torn.
 FileError copyContent(FileSystem& system, Patience& patience, const Path& path,
@@ -76,6 +69,7 @@ FileError copyContent(FileSystem& system, Patience& patience, const Path& path,
       return system.read(file.handle(), offset, piece.data(), kPiece, count);
     });
     if (unread) return unread;
+    // Somebody of ours may have ended while he wrote it.
     if (count == 0) return busyIfTorn(system, path);
     const std::string_view bytes = std::string_view(piece).substr(0, count);
     if (const FileError unwritten = copy.writeAt(offset, bytes)) return unwritten;

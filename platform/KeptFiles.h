@@ -38,7 +38,7 @@ class KeptFiles {
   [[nodiscard]] std::size_t links() const { return links_.size(); }
 
   // Puts the file aside by a second name, or as a copy where there are none. Passes over failures:
-  // the file can be replaced all the same. But Held where it is torn (findTornWrite), so that it
+  // the file can be replaced all the same. But Held where it is torn (busyIfTorn), so that it
   // has to be put right first.
   FileError keep();
   // Puts the file aside as a copy, where that is not done yet, and takes its second names away, all

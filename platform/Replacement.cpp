@@ -102,6 +102,8 @@ class Replacement {
       static_cast<void>(system_.flushFolder(folder_));
       return {};
     }
+    // That comes first.
+    if (torn_) return {Way::Gone, torn_};
     // Where the old content has no other place than the backup, nothing is written in place, so
     // that nobody takes that for the file and removes the backup.
     if (isMovedAway()) return {Way::Gone, error};
@@ -137,9 +139,21 @@ class Replacement {
     return error ? error : moveTo(path_);
   }
 
+  // Locks the old file meanwhile, where it can be read, so that nobody of ours begins to write it
+  // in place. What is kept of such a write would be put back over the new content some day.
+  FileError exchangeWhole() {
+    OpenFile old(system_);
+    FileError error = old.open(path_, OpenFor::Reading);
+    if (!error) error = old.lock(Sharing::Together);
+    if (isHeld(error)) return error;
+    torn_ = busyIfTorn(system_, path_);
+    return torn_ ? torn_ : system_.exchange(temporary_, path_, backup_);
+  }
+
   FileError exchange() {
-    FileError error =
-        retried(system_, patience_, [&] { return system_.exchange(temporary_, path_, backup_); });
+    FileError error = retried(
+        system_, patience_, [&] { return exchangeWhole(); },
+        [&](const FileError& failed) { return isHeld(failed) && !torn_; });
     if (error.obstacle == Obstacle::Halfway) {
       error = moveTo(path_);
       if (error) {
@@ -170,6 +184,7 @@ class Replacement {
   Path temporary_;
   Target target_;
   std::string_view bytes_;
+  FileError torn_;  // that the old file has to be put right, or may have to be
 };
 
 FileError awaitReplacement(FileSystem& system, Patience& patience, const Path& path) {

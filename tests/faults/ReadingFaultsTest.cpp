@@ -6,42 +6,18 @@
 #include <string>
 
 #include "platform/Files.h"
-#include "platform/KeptWrite.h"
 #include "platform/PrivateFile.h"
 #include "platform/Replacement.h"
-#include "tests/faults/StandIn.h"
+#include "tests/faults/TornFileFixture.h"
 
 namespace brennet::test {
 namespace {
 
-using platform::kAnySize;
-using platform::KeptWrite;
-using platform::Patience;
-using platform::readFile;
 using platform::replaceFile;
 
-constexpr char kFile[] = "/folder/f";
-constexpr char kSecond[] = "/folder/second";
-constexpr char kAway[] = "/folder/away";
-constexpr char kOld[] = "the old content";
-constexpr char kNew[] = "THE NEW CONTENT";
-constexpr char kTorn[] = "THE NEW content";
-
-class ReadingFaultsTest : public testing::Test {
+class ReadingFaultsTest : public TornFileFixture {
  protected:
-  ReadingFaultsTest() {
-    in_.model.makeFolder("/folder");
-    in_.model.makeFile(kFile, kOld);
-    in_.model.makeSecondName(kFile, kSecond);
-    in_.faulty.plan(-1, Fault::None);
-  }
-
-  std::string read(const Path& path) {
-    std::string bytes;
-    error_ = readFile(path, bytes, kAnySize);
-    EXPECT_TRUE(!error_ || bytes.empty());
-    return bytes;
-  }
+  ReadingFaultsTest() { in_.model.makeSecondName(kFile, kSecond); }
 
   // Does something before the file is opened for reading, the first `times` times.
   void beforeOpening(int times, const std::function<void()>& action) {
@@ -54,28 +30,11 @@ class ReadingFaultsTest : public testing::Test {
     };
   }
 
-  // What a process leaves that ends while it writes the file in place.
-  void tear(const Path& path) {
-    Patience patience;
-    KeptWrite kept(in_.model, patience, path);
-    EXPECT_FALSE(kept.open());
-    EXPECT_FALSE(kept.write(kOld, kNew));
-    write(path, "THE NEW");
-  }
-
-  void write(const Path& path, std::string_view bytes) {
-    platform::OpenFile file(in_.model);
-    EXPECT_FALSE(file.open(path, OpenFor::Writing));
-    EXPECT_FALSE(file.writeAll(bytes));
-  }
-
   void moveAway() {
     if (in_.model.contentOf(kFile) == "(none)") return;
     EXPECT_FALSE(in_.model.move(kFile, platform::backupName(kFile)));
   }
 
-  StandIn in_;
-  std::error_code error_;
   bool isBusy_ = false;
 };
 

@@ -1,0 +1,82 @@
+// What is kept of a write in place goes neither too early nor too late: it puts right what was
+// torn, and never goes over what was saved since.
+
+#include "platform/InPlaceWrite.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/Files.h"
+#include "tests/faults/TornFileFixture.h"
+
+namespace brennet::test {
+namespace {
+
+using platform::replaceFile;
+
+class InPlaceWriteFaultsTest : public TornFileFixture {
+ protected:
+  // Of the same content as the write that was not finished, so that nothing tells the two apart.
+  std::error_code save() { return replaceFile(kFile, kNew); }
+
+  // What was told as saved stays, and after an error there is what was.
+  void checkNextSession(const std::error_code& error, const std::string& what) {
+    beginSession();
+    EXPECT_EQ(read(kFile), error ? kOld : kNew) << what << ": " << error.message();
+    EXPECT_EQ(in_.model.listing("/private/kept"), "") << what;
+  }
+
+  // A torn file, as at the start of each round.
+  void beginTorn() {
+    in_.model.makeFile(kFile, kOld);
+    tear(kFile);
+  }
+};
+
+constexpr int kMoreThanAnySave = 160;
+constexpr Obstacle kErrors[] = {Obstacle::Other, Obstacle::Denied, Obstacle::Held,
+                                Obstacle::Missing, Obstacle::Exists};
+
+TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveOfAFileThatWasRenamedForOneOpening) {
+  tear(kFile);
+  in_.model.others.beforeOpen = [&, isDone = false](const Path& path, OpenFor purpose) mutable {
+    if (path != kFile) return;
+    if (purpose == OpenFor::Reading && !isDone) {
+      isDone = true;
+      EXPECT_FALSE(in_.model.move(kFile, kAway));
+    } else if (purpose == OpenFor::Writing && in_.model.contentOf(kAway) != "(none)") {
+      EXPECT_FALSE(in_.model.move(kAway, kFile));
+    }
+  };
+  const std::error_code error = save();
+  EXPECT_FALSE(error);
+  checkNextSession(error, "");
+}
+
+TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveWithOneFailingCall) {
+  for (const Obstacle obstacle : kErrors) {
+    for (int call = 0; call < kMoreThanAnySave; ++call) {
+      beginTorn();
+      in_.faulty.plan(call, Fault::Fails, obstacle);
+      const std::error_code error = save();
+      checkNextSession(error, described(in_, call) + std::to_string(static_cast<int>(obstacle)));
+    }
+  }
+}
+
+// Another process begins to write the file in place when it has been looked at already.
+TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveThatBeganBeforeIt) {
+  constexpr int kMoreThanAllOpenings = 40;
+  for (int opening = 0; opening < kMoreThanAllOpenings; ++opening) {
+    in_.model.makeFile(kFile, kOld);
+    in_.model.others.beforeOpen = [&, left = opening](const Path&, OpenFor) mutable {
+      if (left-- == 0) tear(kFile, in_.model.contentOf(kFile));
+    };
+    const std::error_code error = save();
+    checkNextSession(error, "opening " + std::to_string(opening));
+  }
+}
+
+}  // namespace
+}  // namespace brennet::test
