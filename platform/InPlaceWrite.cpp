@@ -1,6 +1,7 @@
 #include "platform/InPlaceWrite.h"
 
 #include <algorithm>
+#include <list>
 
 #include "platform/FileErrors.h"
 #include "platform/KeptWrite.h"
@@ -74,6 +75,13 @@ FileError undo(FileSystem& system, Patience& patience, const Path& path, const T
   return putBack(system, path, file, write.old);
 }
 
+// Brings the name of a new file to the disk.
+FileError flushName(FileSystem& system, const Path& folder) {
+  const FileError error = system.flushFolder(folder);
+  // Where the folder may not be looked into, that cannot be had.
+  return error.obstacle == Obstacle::Denied ? FileError() : error;
+}
+
 // A write in place, its kept file being open. Once something is written, no memory is taken.
 class InPlaceWrite {
  public:
@@ -103,7 +111,7 @@ class InPlaceWrite {
     }
     error = overwrite(file_, bytes, old_ ? old_->size() : 0);
     // A new name has to be on the disk before nothing tells any more that it may be missing.
-    if (!error && !old_) error = flushName();
+    if (!error && !old_) error = flushName(system_, folder_);
     if (!error) error = kept_.discard();
     if (!error) return {};  // what was flushed is there, whatever closing says
     if (!putBack(system_, path_, file_, old_)) static_cast<void>(kept_.discard());
@@ -133,12 +141,6 @@ class InPlaceWrite {
       return {Obstacle::Exists, std::make_error_code(std::errc::file_exists)};
     }
     return orRemove(retried(system_, patience_, [&] { return file_.lock(Sharing::Alone); }));
-  }
-
-  FileError flushName() {
-    const FileError error = system_.flushFolder(folder_);
-    // Where the folder may not be looked into, that cannot be had.
-    return error.obstacle == Obstacle::Denied ? FileError() : error;
   }
 
   FileError reserve(std::uint64_t size) { return orRemove(file_.reserve(size)); }
@@ -182,16 +184,6 @@ FileError undoMoved(FileSystem& system, Patience& patience, const Path& now,
   return kept.found() ? undo(system, patience, now, *kept.found(), isDone) : FileError();
 }
 
-// Forgets what was written into the file that had the name `identity`.
-FileError forgetByName(FileSystem& system, Patience& patience,
-                       const KeptWrite::Identity& identity) {
-  KeptWrite kept(system, patience, identity);
-  if (const FileError error = kept.open()) {
-    return error.obstacle == Obstacle::Exists ? FileError() : error;
-  }
-  return kept.discard();
-}
-
 }  // namespace
 
 FileError mayWriteInPlace(std::uint64_t size, std::string_view bytes) {
@@ -230,13 +222,21 @@ FileError undoTornWriteOf(FileSystem& system, Patience& patience, const Path& pa
   return error;
 }
 
-FileError forgetTornWrite(FileSystem& system, Patience& patience, const Path& path) {
+FileError makeInsteadOfTorn(FileSystem& system, Patience& patience, const Path& path,
+                            const std::function<FileError()>& make) {
+  const Path folder = path.parent_path();
   std::vector<KeptWrite::Identity> names;
-  if (const FileError error = KeptWrite::find(system, path, names)) return error;
+  FileError error = KeptWrite::find(system, path, names);
+  std::list<KeptWrite> kept;
   for (const KeptWrite::Identity& name : names) {
-    if (const FileError error = forgetByName(system, patience, name)) return error;
+    if (!error) error = kept.emplace_back(system, patience, name).open();
   }
-  return {};
+  if (!error) error = make();
+  if (!error && !kept.empty()) error = flushName(system, folder);
+  for (KeptWrite& write : kept) {
+    if (!error) error = write.discard();
+  }
+  return error;
 }
 
 FileError busyIfTorn(FileSystem& system, const Path& path) {

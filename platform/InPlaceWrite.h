@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 #include "platform/FileSystem.h"
@@ -35,8 +36,12 @@ namespace brennet::platform {
 [[nodiscard]] FileError undoTornWriteOf(FileSystem& system, Patience& patience, const Path& path,
                                         const Path& now);
 
-// Has nothing put back into a file that is about to be made at `path`, where none is.
-[[nodiscard]] FileError forgetTornWrite(FileSystem& system, Patience& patience, const Path& path);
+// Calls `make`, which makes a file at `path`, where none is, and then has nothing put back into
+// that one: once its name is on the disk, what is kept goes. Nobody puts anything back meanwhile.
+// After an error of `make` all stays kept; after another one the file is there, and what is kept
+// may be. Throws std::bad_alloc, and then has not called `make`.
+[[nodiscard]] FileError makeInsteadOfTorn(FileSystem& system, Patience& patience, const Path& path,
+                                          const std::function<FileError()>& make);
 
 // Held where a write in place is kept, so that the file may hold anything: one that is under way,
 // or one that was not finished. For who has the file locked there is none of the first kind. Throws

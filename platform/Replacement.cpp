@@ -134,9 +134,8 @@ class Replacement {
         target_.isThere = false;
       }
     }
-    // The folder is there, so the disk is not away.
-    const FileError error = forgetTornWrite(system_, patience_, path_);
-    return error ? error : moveTo(path_);
+    // The folder takes a file, so the disk is not away.
+    return makeInsteadOfTorn(system_, patience_, path_, [&] { return moveTo(path_); });
   }
 
   // Locks the old file meanwhile, where it can be read, so that nobody of ours begins to write it

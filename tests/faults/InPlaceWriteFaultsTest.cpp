@@ -32,6 +32,12 @@ class InPlaceWriteFaultsTest : public TornFileFixture {
     in_.model.makeFile(kFile, kOld);
     tear(kFile);
   }
+
+  // The same, and its disk is away.
+  void beginTornAndAway() {
+    beginTorn();
+    EXPECT_FALSE(in_.model.move(kFile, kAway));
+  }
 };
 
 constexpr int kMoreThanAnySave = 160;
@@ -75,6 +81,61 @@ TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveThatBeganBeforeIt) {
     };
     const std::error_code error = save();
     checkNextSession(error, "opening " + std::to_string(opening));
+  }
+}
+
+// Its disk is away while it is saved.
+TEST_F(InPlaceWriteFaultsTest, StayUntilThereIsANewFileOnTheDisk) {
+  for (const Fault fault : {Fault::Fails, Fault::FailsForGood, Fault::EndsBefore, Fault::EndsInside,
+                            Fault::EndsAfter}) {
+    for (const unsigned way : {0U, 1U, 2U}) {
+      for (int call = 0; call < kMoreThanAnySave; ++call) {
+        beginTornAndAway();
+        in_.faulty.plan(call, fault);
+        const std::error_code error = replaceFile(kFile, "entirely different");
+        const std::string what = described(in_, call) + std::to_string(static_cast<int>(fault));
+        if (way != 1) in_.model.losePower(way);
+        beginSession();
+        EXPECT_TRUE(error || in_.model.contentOf(kFile) == "entirely different") << what;
+        if (in_.model.contentOf(kFile) == "(none)") {
+          in_.model.makeFile(kFile, kTorn);
+          EXPECT_EQ(read(kFile), kOld) << what;
+        }
+        in_.model.removeFile(kFile);
+        in_.model.removeFile(kAway);
+        EXPECT_FALSE(save()) << what;
+        EXPECT_EQ(in_.model.listing("/private/kept"), "") << what;
+        in_.model.removeFile(kFile);
+        if (HasFailure()) return;
+      }
+    }
+  }
+}
+
+// It is back before the new file has its place.
+TEST_F(InPlaceWriteFaultsTest, PutRightWhatComesBackWhileItIsSaved) {
+  for (const Fault fault :
+       {Fault::None, Fault::Fails, Fault::FailsForGood, Fault::EndsBefore, Fault::EndsAfter}) {
+    for (int call = 0; call < kMoreThanAnySave; ++call) {
+      beginTornAndAway();
+      bool isBack = false;
+      in_.model.others.beforeOpen = [&](const Path&, OpenFor purpose) {
+        if (isBack || purpose != OpenFor::New) return;
+        isBack = true;
+        EXPECT_FALSE(in_.model.move(kAway, kFile));
+      };
+      in_.faulty.plan(call, fault);
+      const std::error_code error = replaceFile(kFile, "entirely different");
+      const std::string what = described(in_, call) + std::to_string(static_cast<int>(fault));
+      beginSession();
+      if (in_.model.contentOf(kFile) == "(none)") in_.model.makeFile(kFile, kTorn);
+      const std::string found = read(kFile);
+      EXPECT_TRUE(found == "entirely different" || (error && found == kOld)) << what << found;
+      EXPECT_FALSE(save()) << what;
+      EXPECT_EQ(in_.model.listing("/private/kept"), "") << what;
+      in_.model.removeFile(kAway);
+      if (HasFailure()) return;
+    }
   }
 }
 
