@@ -50,7 +50,8 @@ class Patience;
 //
 // Returns the first error of any step, a failing flush of what was written included, or an empty
 // one. It is not told that the name of a file which has its place already could not be brought to
-// the disk: after a power loss the old content may stand there, or nothing where there was none.
+// the disk, or, tried twice, that nothing is kept any more of what was written in place: after a
+// power loss the old content may stand there, or nothing where there was none.
 // After an error the old content stands, or is put back by the next call, and no temporary file is
 // left. Throws std::bad_alloc, and then has changed nothing.
 [[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes,

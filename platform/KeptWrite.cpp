@@ -62,6 +62,12 @@ FileError readFileName(FileSystem& system, const Path& kept, std::optional<std::
   return {};
 }
 
+template <class Call>
+FileError askedTwice(Call call) {
+  const FileError error = call();
+  return error ? call() : error;
+}
+
 FileError nowhere() {
   return {Obstacle::Denied, std::make_error_code(std::errc::no_such_file_or_directory)};
 }
@@ -158,14 +164,14 @@ FileError KeptWrite::write(const std::optional<std::string>& old, std::string_vi
 
 FileError KeptWrite::discard() {
   if (opened_.handle() == kNoFile) return {};
-  // That one call is what counts: after it nothing can go wrong but that a failing machine brings
-  // the content back. A removal would not do: not every system can bring one to the disk.
-  const FileError emptied = opened_.resize(0);
-  if (!emptied) static_cast<void>(opened_.flush());
+  // An empty file says nothing to anybody; flushed, not even after a power loss. Not every system
+  // can bring a removal to the disk, so one failure is not to make that count instead.
+  const FileError emptied = askedTwice([&] { return opened_.resize(0); });
+  const FileError flushed = emptied ? emptied : askedTwice([&] { return opened_.flush(); });
   // While it is open, so that it is not one of somebody else who came in between.
   const FileError removed = system_.removeKept(opened_.handle(), name_);
   if (emptied && removed) return removed;
-  if (emptied) static_cast<void>(system_.flushFolder(folder_));
+  if (flushed) static_cast<void>(system_.flushFolder(folder_));
   saysSomething_ = false;
   static_cast<void>(opened_.close());
   system_.removeFolder(folder_);

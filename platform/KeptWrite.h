@@ -47,8 +47,9 @@ class KeptWrite {
   [[nodiscard]] const std::optional<TornWrite>& found() const { return found_; }
   // Brings `old` and `bytes` to the disk. Throws std::bad_alloc.
   FileError write(const std::optional<std::string>& old, std::string_view bytes);
-  // Makes the open file say nothing any more, on the disk too, and removes it. After an error it
-  // may still say what it said.
+  // Makes the open file say nothing any more, and removes it. After an error it may still say what
+  // it said. That it says nothing is brought to the disk too; where nothing helps, so that it may
+  // say it again after a power loss, that is not told, for there is no way back.
   FileError discard();
 
  private:

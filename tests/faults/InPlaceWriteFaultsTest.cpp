@@ -41,6 +41,7 @@ class InPlaceWriteFaultsTest : public TornFileFixture {
 };
 
 constexpr int kMoreThanAnySave = 160;
+constexpr unsigned kPowerLosses = 7 * 16;
 constexpr Obstacle kErrors[] = {Obstacle::Other, Obstacle::Denied, Obstacle::Held,
                                 Obstacle::Missing, Obstacle::Exists};
 
@@ -81,6 +82,27 @@ TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveThatBeganBeforeIt) {
     };
     const std::error_code error = save();
     checkNextSession(error, "opening " + std::to_string(opening));
+  }
+}
+
+// The new content counts once nothing is kept any more, on the disk too. Some systems bring no
+// removal there.
+TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveInPlaceAfterAPowerLoss) {
+  in_.model.makeSecondName(kFile, kSecond);
+  for (const bool flushesNoFolders : {false, true}) {
+    in_.model.nature.flushesNoFolders = flushesNoFolders;
+    for (int call = 0; call < kMoreThanAnySave; ++call) {
+      for (unsigned way = 0; way < kPowerLosses; ++way) {
+        in_.faulty.plan(call, Fault::Fails);
+        const std::error_code error = save();
+        const std::string what = described(in_, call) + ", way " + std::to_string(way);
+        in_.model.losePower(way);
+        beginSession();
+        EXPECT_EQ(read(kFile), error ? kOld : kNew) << what;
+        EXPECT_FALSE(replaceFile(kFile, kOld)) << what;
+        if (HasFailure()) return;
+      }
+    }
   }
 }
 
