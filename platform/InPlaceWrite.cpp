@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <list>
+#include <utility>
 
 #include "platform/FileErrors.h"
 #include "platform/KeptWrite.h"
@@ -93,14 +94,13 @@ class InPlaceWrite {
         kept_(kept),
         file_(system) {}
 
-  // `isAway`: what is kept is still to be put back, into a file that was not found.
-  FileError run(std::string_view bytes, bool isAway) {
+  // `lost`: the content that is still to be put back, into a file that was not found.
+  FileError run(std::string_view bytes, std::optional<std::string> lost) {
     FileError error = readOld();
-    if (isAway) {
-      // That goes only once a file can be made there, so the disk is not away.
-      if (!error) error = old_ ? busy() : create();
-      if (!error) error = putBack(system_, path_, file_, old_);
+    if (lost) {
+      if (!error) error = old_ ? busy() : makeAnew(*lost);
       if (error) return error;
+      old_ = std::move(lost);
     }
     if (!error) error = kept_.write(old_, bytes);
     if (!error && !old_) error = create();
@@ -141,6 +141,14 @@ class InPlaceWrite {
       return {Obstacle::Exists, std::make_error_code(std::errc::file_exists)};
     }
     return orRemove(retried(system_, patience_, [&] { return file_.lock(Sharing::Alone); }));
+  }
+
+  // Makes a file of that content, which stays kept until it is there and on the disk. Only where a
+  // file can be made, its disk is not away.
+  FileError makeAnew(std::string_view content) {
+    FileError error = create();
+    if (!error) error = orRemove(overwrite(file_, content, 0));
+    return error ? error : orRemove(flushName(system_, folder_));
   }
 
   FileError reserve(std::uint64_t size) { return orRemove(file_.reserve(size)); }
@@ -200,7 +208,9 @@ FileError writeInPlace(FileSystem& system, Patience& patience, const Path& path,
   if (kept.found()) {
     if (const FileError error = undo(system, patience, path, *kept.found(), isDone)) return error;
   }
-  return InPlaceWrite(system, patience, path, kept).run(bytes, !isDone);
+  std::optional<std::string> lost;
+  if (!isDone) lost = kept.found()->old;
+  return InPlaceWrite(system, patience, path, kept).run(bytes, std::move(lost));
 }
 
 FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path) {

@@ -23,7 +23,8 @@ namespace brennet::platform {
 
 // Makes `bytes` the content of the file at `path`, which is created where it is missing. An error
 // means that the old content stands, or is put back by undoTornWrite; a file that cannot be read is
-// not written, nor one whose content cannot be kept, nor one that mayWriteInPlace refuses.
+// not written, nor one whose content cannot be kept, nor one that mayWriteInPlace refuses. Where a
+// file was torn and is not found, it is made anew with the content that is kept, as the old one.
 [[nodiscard]] FileError writeInPlace(FileSystem& system, Patience& patience, const Path& path,
                                      std::string_view bytes);
 
