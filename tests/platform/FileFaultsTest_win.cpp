@@ -195,13 +195,13 @@ class FileFaultsInterruption : public test::FileFaultsFixture {
 TEST_F(FileFaultsInterruption, ThatTakesTheOldFileAwayLeavesTheNewOne) {
   writeBytes(path(), kOld);
   const int before = replacedFiles;
-  interruptions.beforeReplacing = [&] { std::filesystem::remove(path()); };
+  interruptions.beforeReplacing = [&] { std::filesystem::rename(path(), folder_ / "away"); };
   moveFlags = ~0U;
   EXPECT_FALSE(replaceFile(path(), kNew));
   EXPECT_EQ(readBytes(path()), kNew);
   EXPECT_EQ(replacedFiles, before);
   EXPECT_EQ(moveFlags, DWORD{MOVEFILE_WRITE_THROUGH}) << "not moved, or in another way";
-  EXPECT_EQ(folder_.listing(), "f\n");
+  EXPECT_EQ(folder_.listing(), "away\nf\n");
 }
 
 // Another process has moved the file away for a moment.
