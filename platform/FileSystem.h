@@ -122,10 +122,11 @@ class FileSystem {
 
   virtual FileError createFolder(const Path& path) = 0;
   // The same, for the owner alone. No error where such a folder is there and belongs to this user
-  // alone; where another thing has the name, Denied.
+  // alone; where another thing has the name, Denied; where one is about to go, Missing.
   virtual FileError createPrivateFolder(const Path& path) = 0;
   // No error where such a folder is there and belongs to this user alone, Missing where nothing is
-  // or can be, and Denied where another thing has the name. Creates nothing.
+  // or can be, or what is there is about to go, and Denied where another thing has the name; else
+  // the error of what failed. Creates nothing.
   virtual FileError checkPrivateFolder(const Path& path) = 0;
   // Removes a folder if it is empty.
   virtual void removeFolder(const Path& path) = 0;

@@ -4,6 +4,8 @@
 // aclapi.h needs windows.h first.
 #include <aclapi.h>
 
+#include "platform/win/OpenForFacts.h"
+
 namespace brennet::platform {
 namespace {
 
@@ -32,38 +34,18 @@ struct User {
   alignas(TOKEN_USER) BYTE data[sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE] = {};
 };
 
-// A folder, or what has its name, that is open to be asked about; the name leads nowhere else
-// meanwhile.
-class OpenFolder {
- public:
-  explicit OpenFolder(const Path& path)
-      : handle_(CreateFileW(path.c_str(), READ_CONTROL | FILE_READ_ATTRIBUTES,
-                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                            OPEN_EXISTING,
-                            FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr)) {}
-  ~OpenFolder() {
-    if (handle_ != INVALID_HANDLE_VALUE) CloseHandle(handle_);
-  }
-  OpenFolder(const OpenFolder&) = delete;
-  OpenFolder& operator=(const OpenFolder&) = delete;
-
-  [[nodiscard]] HANDLE handle() const { return handle_; }
-
-  // Whether it is a folder by itself: no link, no junction, nothing that a driver puts there.
-  [[nodiscard]] bool isPlain() const {
-    BY_HANDLE_FILE_INFORMATION info{};
-    constexpr DWORD kAsked = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
-    return handle_ != INVALID_HANDLE_VALUE && GetFileInformationByHandle(handle_, &info) != FALSE &&
-           (info.dwFileAttributes & kAsked) == FILE_ATTRIBUTE_DIRECTORY;
-  }
-
- private:
-  HANDLE handle_;
-};
+// Whether it is a folder by itself: no link, no junction, nothing that a driver puts there.
+bool isPlainFolder(const BY_HANDLE_FILE_INFORMATION& info) {
+  constexpr DWORD kAsked = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+  return (info.dwFileAttributes & kAsked) == FILE_ATTRIBUTE_DIRECTORY;
+}
 
 }  // namespace
 
 struct OwnRights::Body {
+  // Whether the user is known; asked anew until he is.
+  bool isKnown() { return isMade || (isMade = make()); }
+
   // Whether all of it could be made.
   bool make() {
     auto* const entries = reinterpret_cast<ACL*>(list);
@@ -106,6 +88,7 @@ struct OwnRights::Body {
     return true;
   }
 
+  bool isMade = false;
   User user;
   User owner;
   alignas(ACL) BYTE list[sizeof(ACL) + sizeof(ACCESS_ALLOWED_ACE) + SECURITY_MAX_SID_SIZE] = {};
@@ -113,27 +96,30 @@ struct OwnRights::Body {
   SECURITY_ATTRIBUTES attributes{};
 };
 
-OwnRights::OwnRights() : body_(std::make_unique<Body>()) {
-  if (!body_->make()) body_.reset();
-}
+OwnRights::OwnRights() : body_(std::make_unique<Body>()) {}
 
 OwnRights::~OwnRights() = default;
 
 void* OwnRights::attributes() const {
-  return body_ != nullptr ? &body_->attributes : nullptr;
+  return body_->isKnown() ? &body_->attributes : nullptr;
 }
 
-bool OwnRights::areThoseOf(const Path& path) const {
-  if (body_ == nullptr) return false;
-  const OpenFolder folder(path);
-  if (!folder.isPlain()) return false;
+unsigned long OwnRights::check(const Path& path) const {
+  const OpenForFacts folder(path, READ_CONTROL);
+  if (folder.error != ERROR_SUCCESS) return folder.error;
+  if (!isPlainFolder(folder.info)) return ERROR_ACCESS_DENIED;
+  if (!body_->isKnown()) return ERROR_NO_TOKEN;
   Descriptor descriptor;
   PSID owner = nullptr;
   ACL* list = nullptr;
-  return GetSecurityInfo(folder.handle(), SE_FILE_OBJECT,
-                         OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION, &owner, nullptr,
-                         &list, nullptr, &descriptor.data) == ERROR_SUCCESS &&
-         body_->mayOwn(owner) && body_->opensToNobodyElse(list);
+  const DWORD error = GetSecurityInfo(folder.handle, SE_FILE_OBJECT,
+                                      OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION,
+                                      &owner, nullptr, &list, nullptr, &descriptor.data);
+  // A file system without access lists keeps nobody out.
+  if (error == ERROR_NOT_SUPPORTED || error == ERROR_INVALID_FUNCTION) return ERROR_ACCESS_DENIED;
+  if (error != ERROR_SUCCESS) return error;
+  const bool isOwn = owner != nullptr && body_->mayOwn(owner) && body_->opensToNobodyElse(list);
+  return isOwn ? ERROR_SUCCESS : ERROR_ACCESS_DENIED;
 }
 
 void copyFileRights(const Path& path, void* file) {

@@ -16,14 +16,16 @@ class OwnRights {
   OwnRights& operator=(const OwnRights&) = delete;
 
   // For whatever is created (SECURITY_ATTRIBUTES): the user owns it, also where this process is
-  // elevated, and nobody else may do anything. Null where the user cannot be found out, which gives
-  // it the rights of its folder.
+  // elevated, and nobody else may do anything. Null where the user cannot be found out now, which
+  // gives it the rights of its folder.
   [[nodiscard]] void* attributes() const;
 
   // Whether what stands at `path` is a folder, and no way to another, that belongs to the user of
   // this process, or to the administrators, and that its access list opens to nobody else, those
-  // apart who may do anything anyway: the system and the administrators.
-  [[nodiscard]] bool areThoseOf(const Path& path) const;
+  // apart who may do anything anyway: the system and the administrators. 0 if so,
+  // ERROR_ACCESS_DENIED if not, or if it does not even let itself be asked; else the error of the
+  // call that could not tell.
+  [[nodiscard]] unsigned long check(const Path& path) const;
 
  private:
   struct Body;

@@ -10,6 +10,7 @@
 
 #include "platform/FileErrors.h"
 #include "platform/win/FileRights.h"
+#include "platform/win/OpenForFacts.h"
 
 namespace brennet::platform {
 namespace {
@@ -36,6 +37,12 @@ Obstacle obstacleOf(DWORD error) {
     default:
       return Obstacle::Other;
   }
+}
+
+// Whether a path was refused that no file or folder can have.
+bool canBeNone(DWORD error) {
+  return error == ERROR_INVALID_NAME || error == ERROR_BAD_PATHNAME ||
+         error == ERROR_FILENAME_EXCED_RANGE || error == ERROR_DIRECTORY;
 }
 
 FileError failure(DWORD error) {
@@ -158,25 +165,6 @@ FileError openingError(const Path& path, OpenFor purpose) {
   error.obstacle = isNew ? Obstacle::Exists : Obstacle::Held;
   return error;
 }
-
-// A file that is open for a look at what it is, which nobody who has it can refuse.
-struct OpenForFacts {
-  explicit OpenForFacts(const Path& path)
-      : file(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES,
-                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                         OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr)) {
-    isOpen = file != INVALID_HANDLE_VALUE && GetFileInformationByHandle(file, &info) != FALSE;
-  }
-  ~OpenForFacts() {
-    if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
-  }
-  OpenForFacts(const OpenForFacts&) = delete;
-  OpenForFacts& operator=(const OpenForFacts&) = delete;
-
-  HANDLE file;
-  BY_HANDLE_FILE_INFORMATION info{};
-  bool isOpen = false;
-};
 
 class WindowsFileSystem final : public FileSystem {
  public:
@@ -331,7 +319,7 @@ class WindowsFileSystem final : public FileSystem {
   bool isSameFile(const Path& a, const Path& b) override {
     const OpenForFacts first(a);
     const OpenForFacts second(b);
-    return first.isOpen && second.isOpen &&
+    return first.error == ERROR_SUCCESS && second.error == ERROR_SUCCESS &&
            (first.info.nFileIndexHigh != 0 || first.info.nFileIndexLow != 0) &&
            first.info.dwVolumeSerialNumber == second.info.dwVolumeSerialNumber &&
            first.info.nFileIndexHigh == second.info.nFileIndexHigh &&
@@ -361,16 +349,30 @@ class WindowsFileSystem final : public FileSystem {
   }
 
   FileError createPrivateFolder(const Path& path) override {
-    const FileError error = ended(CreateDirectoryW(path.c_str(), ownAttributes()));
-    return error.obstacle == Obstacle::Exists ? checkPrivateFolder(path) : error;
+    const auto create = [&] { return CreateDirectoryW(path.c_str(), ownAttributes()); };
+    BOOL isDone = create();
+    // What was about to go may have gone by now.
+    if (isDone == FALSE && isDeniedToNothing(path)) isDone = create();
+    FileError error = ended(isDone);
+    if (error.obstacle == Obstacle::Exists) return checkPrivateFolder(path);
+    if (error.obstacle == Obstacle::Denied && isAboutToGo(path)) error.obstacle = Obstacle::Missing;
+    return error;
   }
 
   FileError checkPrivateFolder(const Path& path) override {
-    if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) {
-      const FileError error = failure(GetLastError());
-      if (error.obstacle == Obstacle::Missing) return error;
-    }
-    return own_.areThoseOf(path) ? FileError() : failure(ERROR_ACCESS_DENIED);
+    const auto isThere = [&] {
+      return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+    };
+    // As a rule it is not, which is found out faster so.
+    const FileError unseen = isThere() ? FileError() : failure(GetLastError());
+    if (unseen.obstacle == Obstacle::Missing) return unseen;
+    const DWORD error = own_.check(path);
+    if (error == ERROR_SUCCESS) return {};
+    FileError failed = failure(error);
+    // Access is denied, too, to what is about to go, or has gone by now.
+    const bool isGoing = failed.obstacle == Obstacle::Denied && !isThere();
+    if (isGoing || canBeNone(error)) failed.obstacle = Obstacle::Missing;
+    return failed;
   }
 
   void removeFolder(const Path& path) override { RemoveDirectoryW(path.c_str()); }

@@ -11,6 +11,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Files.h"
 #include "platform/OpenFile.h"
+#include "platform/win/FileRights.h"
 #include "tests/platform/FileFaultsFixture.h"
 
 namespace brennet::platform {
@@ -269,6 +270,59 @@ TEST_F(FileFaultsSecondName, IsKnownOnlyWhereFilesHaveNumbers) {
   test::hasFileNumbers = false;
   EXPECT_FALSE(system.isSameFile(path(), folder_ / "second"));
   test::hasFileNumbers = true;
+}
+
+class FileFaultsPrivateFolder : public test::FileFaultsFixture {
+ protected:
+  FileFaultsPrivateFolder() { EXPECT_FALSE(system_.createPrivateFolder(own_)); }
+  ~FileFaultsPrivateFolder() override {
+    passingFaults = test::PassingFaults();
+    interruptions = test::Interruptions();
+  }
+
+  FileSystem& system_ = operatingSystem();
+  const Path own_ = folder_ / "own";
+};
+
+// What is kept there must not be passed over because of a failure.
+TEST_F(FileFaultsPrivateFolder, ThatCannotBeAskedAboutIsNotTakenForSomebodyElses) {
+  for (const DWORD error : {ERROR_IO_DEVICE, ERROR_NOT_ENOUGH_MEMORY, ERROR_NETNAME_DELETED}) {
+    passingFaults = {.error = error, .opening = 1};
+    EXPECT_EQ(system_.checkPrivateFolder(own_).code.value(), static_cast<int>(error));
+  }
+  test::faults.callsUntilFailure = 1;  // after the opening
+  EXPECT_EQ(system_.checkPrivateFolder(own_).code.value(), test::kDeviceError);
+  EXPECT_FALSE(system_.checkPrivateFolder(own_));
+  passingFaults = {.error = ERROR_ACCESS_DENIED, .opening = 1};
+  EXPECT_EQ(system_.checkPrivateFolder(own_).obstacle, Obstacle::Denied);
+}
+
+TEST_F(FileFaultsPrivateFolder, ThatCannotBeIsMissing) {
+  for (const char* const name : {"no|name", "missing/own"}) {
+    EXPECT_EQ(system_.checkPrivateFolder(folder_ / name).obstacle, Obstacle::Missing) << name;
+  }
+}
+
+// Whoever had it removes it in the end; then it can be made again.
+TEST_F(FileFaultsPrivateFolder, ThatGoesIsMissing) {
+  interruptions.beforeOpening = [&] { std::filesystem::remove(own_); };
+  EXPECT_EQ(system_.checkPrivateFolder(own_).obstacle, Obstacle::Missing);
+  EXPECT_FALSE(system_.createPrivateFolder(own_));
+  interruptions.beforeOpening = [&] { std::filesystem::remove(own_); };
+  EXPECT_EQ(system_.createPrivateFolder(own_).obstacle, Obstacle::Missing);
+  passingFaults = {.error = ERROR_ACCESS_DENIED, .making = 1, .isAboutToGo = true};
+  EXPECT_EQ(system_.createPrivateFolder(own_).obstacle, Obstacle::Missing);
+  // What was about to go has gone by now.
+  passingFaults = {.error = ERROR_ACCESS_DENIED, .making = 1};
+  EXPECT_FALSE(system_.createPrivateFolder(own_));
+}
+
+TEST_F(FileFaultsPrivateFolder, IsKnownAsSoonAsTheUserIs) {
+  passingFaults = {.error = ERROR_NOT_ENOUGH_MEMORY, .asking = 1};
+  const OwnRights rights;
+  EXPECT_EQ(rights.attributes(), nullptr);
+  EXPECT_NE(rights.attributes(), nullptr);
+  EXPECT_EQ(rights.check(own_), DWORD{ERROR_SUCCESS});
 }
 
 class FileFaultsReparsePoint : public test::FileFaultsFixture {

@@ -55,6 +55,7 @@ HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD sharing, SECURITY_ATT
                          DWORD creation, DWORD flags, HANDLE like) {
   static auto* const real = systems<decltype(CreateFileW)>("CreateFileW");
   const bool isNew = creation == CREATE_NEW;
+  if (!isNew) interrupt(interruptions.beforeOpening);
   if (!isNew && failsInPassing(passingFaults.opening)) return INVALID_HANDLE_VALUE;
   if (!isNew) passingFaults.isAboutToGo = false;
   if ((!isNew || !faults.newFiles) && !faults.failsNow()) {
@@ -152,6 +153,16 @@ BOOL WINAPI deleteFile(LPCWSTR name) {
   return failsInPassing(passingFaults.deleting) ? FALSE : real(name);
 }
 
+BOOL WINAPI makeFolder(LPCWSTR name, SECURITY_ATTRIBUTES* security) {
+  static auto* const real = systems<decltype(CreateDirectoryW)>("CreateDirectoryW");
+  return failsInPassing(passingFaults.making) ? FALSE : real(name, security);
+}
+
+BOOL WINAPI openToken(HANDLE process, DWORD access, PHANDLE token) {
+  static auto* const real = systems<decltype(OpenProcessToken)>("OpenProcessToken", L"advapi32");
+  return failsInPassing(passingFaults.asking) ? FALSE : real(process, access, token);
+}
+
 DWORD WINAPI attributesOf(LPCWSTR name) {
   static auto* const real = systems<decltype(GetFileAttributesW)>("GetFileAttributesW");
   if (passingFaults.isAboutToGo) {
@@ -184,6 +195,8 @@ STAND_BEFORE(SetEndOfFile, "SetEndOfFile@4", setEnd);
 STAND_BEFORE(GetFileInformationByHandle, "GetFileInformationByHandle@8", factsOfFile);
 STAND_BEFORE(ReadFile, "ReadFile@20", readBytes);
 STAND_BEFORE(DeleteFileW, "DeleteFileW@4", deleteFile);
+STAND_BEFORE(CreateDirectoryW, "CreateDirectoryW@8", makeFolder);
+STAND_BEFORE(OpenProcessToken, "OpenProcessToken@12", openToken);
 STAND_BEFORE(GetFileAttributesW, "GetFileAttributesW@4", attributesOf);
 STAND_BEFORE(PathFileExistsW, "PathFileExistsW@4", pathExists);
 STAND_BEFORE(FindFirstFileW, "FindFirstFileW@8", findFirst);

@@ -23,8 +23,10 @@ struct PassingFaults {
   int opening = 0;           // how many calls still fail: CreateFileW of a file that is there...
   int moving = 0;            // ...MoveFileExW...
   int replacing = 0;         // ...ReplaceFileW...
-  int deleting = 0;          // ...DeleteFileW
-  int reading = 0;           // ...ReadFile
+  int deleting = 0;          // ...DeleteFileW...
+  int reading = 0;           // ...ReadFile...
+  int making = 0;            // ...CreateDirectoryW...
+  int asking = 0;            // ...OpenProcessToken
   bool isAboutToGo = false;  // until opening works, nobody is told the attributes of a file
 };
 
@@ -32,6 +34,7 @@ extern PassingFaults passingFaults;
 
 // What another program does just before or after a call, once.
 struct Interruptions {
+  std::function<void()> beforeOpening;    // CreateFileW of a file that is there
   std::function<void()> beforeMoving;     // MoveFileExW
   std::function<void()> beforeReplacing;  // ReplaceFileW
   std::function<void()> afterSizing;      // GetFileInformationByHandle

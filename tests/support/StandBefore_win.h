@@ -13,11 +13,11 @@
 
 namespace brennet::test {
 
-// The function of kernel32 that a test stands before: systems<decltype(ReadFile)>("ReadFile").
+// The function of the system that a test stands before: systems<decltype(ReadFile)>("ReadFile").
 template <class Function>
-Function* systems(const char* name) {
+Function* systems(const char* name, const wchar_t* library = L"kernel32") {
   return reinterpret_cast<Function*>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), name)));
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(library), name)));
 }
 
 }  // namespace brennet::test
