@@ -134,7 +134,9 @@ class FileSystem {
   virtual FileError flushFolder(const Path& path) = 0;
 
   // Calls `visit` for the name, without its folder, of whatever stands in `folder`, in any order.
-  virtual void list(const Path& folder, const std::function<void(const Path& name)>& visit) = 0;
+  // After an error there may be more.
+  virtual FileError list(const Path& folder,
+                         const std::function<void(const Path& name)>& visit) = 0;
 
   // Whether two names in a folder are those of one file.
   virtual bool isSameName(std::basic_string_view<Path::value_type> a,

@@ -104,7 +104,7 @@ KeptFiles::~KeptFiles() {
 void KeptFiles::find(std::uint64_t names) {
   const Text start = startFor(path_.filename());
   const Path folder = path_.parent_path();
-  system_.list(folder, [&](const Path& name) {
+  const FileError unseen = system_.list(folder, [&](const Path& name) {
     const TextView text = name.native();
     if (text.size() < start.size()) return;
     const bool isKept = system_.isSameName(text.substr(0, start.size()), start) &&
@@ -115,6 +115,7 @@ void KeptFiles::find(std::uint64_t names) {
     const bool isLink = names > 1 && system_.isSameFile(kept, path_);
     (isLink ? links_ : others_).push_back(kept);
   });
+  static_cast<void>(unseen);  // the oldest go another time
   std::sort(others_.begin(), others_.end());
 }
 

@@ -102,7 +102,7 @@ FileError KeptWrite::find(FileSystem& system, const Path& path, std::vector<Iden
   // One that has not been written yet will tell of the file that its name says.
   const bool isOwn = file ? *file == identity : system.look(own).kind == FileFacts::Kind::File;
   if (isOwn) names.push_back({ownIdentity, file.has_value()});
-  system.list(folder, [&](const Path& entry) {
+  const FileError unlisted = system.list(folder, [&](const Path& entry) {
     if (error || entry.extension() != kEnding || folder / entry == own) return;
     file.reset();
     error = readFileName(system, folder / entry, file);
@@ -110,7 +110,8 @@ FileError KeptWrite::find(FileSystem& system, const Path& path, std::vector<Iden
     const Path name = pathOf(*file);
     if (system.isSameFile(name, path)) names.push_back({name, true});
   });
-  return error;
+  // Whoever had the folder may have removed it.
+  return error || unlisted.obstacle == Obstacle::Missing ? error : unlisted;
 }
 
 bool KeptWrite::isThere() const {

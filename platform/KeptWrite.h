@@ -34,7 +34,8 @@ class KeptWrite {
   KeptWrite& operator=(const KeptWrite&) = delete;
 
   // Finds all kept files that tell of the file at `path`, whatever name it had when it was written:
-  // `names` are those names, and empty as a rule. An error where that cannot be found out. Throws
+  // `names` are those names, and empty as a rule. An error where that cannot be found out; but a
+  // name that cannot be compared with `path` (FileSystem::isSameFile) is passed over. Throws
   // std::bad_alloc.
   [[nodiscard]] static FileError find(FileSystem& system, const Path& path,
                                       std::vector<Identity>& names);

@@ -16,7 +16,7 @@ void removeLeftovers(FileSystem& system, const Path& path) {
   const Path folder = path.parent_path();
   const Path own = path.filename();
   const Name file = own.native();
-  system.list(folder, [&](const Path& name) {
+  const FileError unseen = system.list(folder, [&](const Path& name) {
     const Name text = name.native();
     if (text.size() < file.size() || !system.isSameName(text.substr(0, file.size()), file)) return;
     const std::optional<unsigned long> process = temporaryProcess(text.substr(file.size()));
@@ -26,6 +26,7 @@ void removeLeftovers(FileSystem& system, const Path& path) {
     const bool isLeft = facts.age >= kOld || !system.isRunning(*process);
     if (facts.kind == FileFacts::Kind::File && isLeft) static_cast<void>(system.remove(leftover));
   });
+  static_cast<void>(unseen);  // what is left goes another time
 }
 
 }  // namespace brennet::platform

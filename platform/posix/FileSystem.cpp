@@ -319,13 +319,18 @@ class PosixFileSystem final : public FileSystem {
 
   // Not by std::filesystem: its functions that report errors without exceptions end the process
   // when memory runs out.
-  void list(const Path& folder, const std::function<void(const Path& name)>& visit) override {
+  FileError list(const Path& folder, const std::function<void(const Path& name)>& visit) override {
     struct Close {
       void operator()(DIR* stream) const { closedir(stream); }
     };
     const std::unique_ptr<DIR, Close> entries(opendir(folder.empty() ? "." : folder.c_str()));
-    if (entries == nullptr) return;
-    while (const dirent* const entry = readdir(entries.get())) visit(entry->d_name);
+    if (entries == nullptr) return failure(errno);
+    while (true) {
+      errno = 0;
+      const dirent* const entry = readdir(entries.get());
+      if (entry == nullptr) return errno == 0 ? FileError() : failure(errno);
+      visit(entry->d_name);
+    }
   }
 
   bool isSameName(std::string_view a, std::string_view b) override { return a == b; }

@@ -380,7 +380,7 @@ class WindowsFileSystem final : public FileSystem {
   // Moves write through, and so do links.
   FileError flushFolder(const Path& /*path*/) override { return {}; }
 
-  void list(const Path& folder, const std::function<void(const Path& name)>& visit) override {
+  FileError list(const Path& folder, const std::function<void(const Path& name)>& visit) override {
     struct Search {
       ~Search() {
         if (handle != INVALID_HANDLE_VALUE) FindClose(handle);
@@ -389,10 +389,12 @@ class WindowsFileSystem final : public FileSystem {
     };
     WIN32_FIND_DATAW data{};
     const Search search{FindFirstFileW((folder / L"*").c_str(), &data)};
-    if (search.handle == INVALID_HANDLE_VALUE) return;
+    if (search.handle == INVALID_HANDLE_VALUE) return failure(GetLastError());
     do {
       visit(data.cFileName);
     } while (FindNextFileW(search.handle, &data) != FALSE);
+    const DWORD error = GetLastError();
+    return error == ERROR_NO_MORE_FILES ? FileError() : failure(error);
   }
 
   // Names have no case here.

@@ -175,12 +175,9 @@ FileError FaultyFileSystem::flushFolder(const Path& path) {
   return passed("flushFolder", [&] { return system_.flushFolder(path); });
 }
 
-void FaultyFileSystem::list(const Path& folder,
-                            const std::function<void(const Path& name)>& visit) {
-  static_cast<void>(passed("list", [&] {
-    system_.list(folder, visit);
-    return FileError();
-  }));
+FileError FaultyFileSystem::list(const Path& folder,
+                                 const std::function<void(const Path& name)>& visit) {
+  return passed("list", [&] { return system_.list(folder, visit); });
 }
 
 }  // namespace brennet::test

@@ -57,7 +57,7 @@ class FaultyFileSystem final : public PassingFileSystem {
   FileError checkPrivateFolder(const Path& path) override;
   void removeFolder(const Path& path) override;
   FileError flushFolder(const Path& path) override;
-  void list(const Path& folder, const std::function<void(const Path& name)>& visit) override;
+  FileError list(const Path& folder, const std::function<void(const Path& name)>& visit) override;
 
  private:
   // The fault of the next call.

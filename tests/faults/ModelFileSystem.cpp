@@ -349,11 +349,15 @@ void ModelFileSystem::flushChanges(const std::function<bool(const Change&)>& isM
   });
 }
 
-void ModelFileSystem::list(const Path& folder, const std::function<void(const Path& name)>& visit) {
+FileError ModelFileSystem::list(const Path& folder,
+                                const std::function<void(const Path& name)>& visit) {
+  if (nature.unlistedFolders.contains(folder)) return failureOf(Obstacle::Other);
+  if (nodeAt(folder) == nullptr) return failureOf(Obstacle::Missing);
   const Names before = names_;
   for (const auto& [name, node] : before) {
     if (folderOf(name) == folder) visit(name.filename());
   }
+  return {};
 }
 
 bool ModelFileSystem::isSameName(std::basic_string_view<Path::value_type> a,

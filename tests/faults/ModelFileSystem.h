@@ -30,13 +30,14 @@ class ModelFileSystem final : public FileSystem {
  public:
   // What is different about a place.
   struct Nature {
-    std::set<Path> closedFolders;   // take no new names
-    std::set<Path> shortNames;      // folders that take names of one letter only...
-    bool findsNoLongNames = false;  // ...and tell that there is no place for the others
-    std::set<Path> mounts;          // files that nothing can take the place of
-    std::map<Path, int> busy;       // for so many pauses another program has the file
-    bool twoSteps = false;          // exchange() moves the old file away first
-    bool hasLinks = true;           // files can have several names
+    std::set<Path> closedFolders;    // take no new names
+    std::set<Path> shortNames;       // folders that take names of one letter only...
+    bool findsNoLongNames = false;   // ...and tell that there is no place for the others
+    std::set<Path> unlistedFolders;  // cannot be looked through
+    std::set<Path> mounts;           // files that nothing can take the place of
+    std::map<Path, int> busy;        // for so many pauses another program has the file
+    bool twoSteps = false;           // exchange() moves the old file away first
+    bool hasLinks = true;            // files can have several names
     bool hasPrivateFolder = true;
     // flushFolder() does nothing. Files, as soon as they are flushed, moves and links are on the
     // disk all the same, but nobody knows when a removal is.
@@ -102,7 +103,7 @@ class ModelFileSystem final : public FileSystem {
   FileError checkPrivateFolder(const Path& path) override;
   void removeFolder(const Path& path) override;
   FileError flushFolder(const Path& path) override;
-  void list(const Path& folder, const std::function<void(const Path& name)>& visit) override;
+  FileError list(const Path& folder, const std::function<void(const Path& name)>& visit) override;
   bool isSameName(std::basic_string_view<Path::value_type> a,
                   std::basic_string_view<Path::value_type> b) override;
   Path resolved(const Path& path) override;

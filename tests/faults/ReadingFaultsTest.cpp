@@ -68,6 +68,16 @@ TEST_F(ReadingFaultsTest, PutsRightByAnyNameWhatWasTornByAnother) {
   }
 }
 
+TEST_F(ReadingFaultsTest, IsNotDoneWhereWhatIsKeptCannotBeLookedThrough) {
+  tear(kFile);
+  in_.model.nature.unlistedFolders.insert(in_.model.privateFolder());
+  EXPECT_EQ(read(kSecond), "");
+  EXPECT_TRUE(error_);
+  EXPECT_TRUE(replaceFile(kSecond, "newer"));
+  in_.model.nature.unlistedFolders.clear();
+  EXPECT_EQ(read(kSecond), kOld) << error_.message();
+}
+
 TEST_F(ReadingFaultsTest, PutsRightByAnyNameBeforeItIsWritten) {
   tear(kFile);
   EXPECT_FALSE(replaceFile(kSecond, "newer"));

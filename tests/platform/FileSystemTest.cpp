@@ -150,11 +150,13 @@ TEST(FileSystem, ListsWhatStandsInAFolder) {
   writeBytes(folder / "f", "");
   writeBytes(folder / "g", "");
   std::set<std::string> names;
-  operatingSystem().list(folder.path(), [&](const Path& name) {
+  EXPECT_FALSE(operatingSystem().list(folder.path(), [&](const Path& name) {
     if (name != "." && name != "..") names.insert(name.string());
-  });
+  }));
   EXPECT_EQ(names, (std::set<std::string>{"f", "g"}));
-  operatingSystem().list(folder / "missing", [&](const Path& name) { ADD_FAILURE() << name; });
+  const auto visit = [](const Path& name) { ADD_FAILURE() << name; };
+  EXPECT_EQ(operatingSystem().list(folder / "missing", visit).obstacle, Obstacle::Missing);
+  EXPECT_TRUE(operatingSystem().list(folder / "f", visit)) << "no folder";
 }
 
 TEST(FileSystem, KnowsOneNameForAllSpellingsOfAPath) {

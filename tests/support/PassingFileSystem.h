@@ -67,8 +67,8 @@ class PassingFileSystem : public platform::FileSystem {
   }
   void removeFolder(const Path& path) override { system_.removeFolder(path); }
   FileError flushFolder(const Path& path) override { return system_.flushFolder(path); }
-  void list(const Path& folder, const std::function<void(const Path& name)>& visit) override {
-    system_.list(folder, visit);
+  FileError list(const Path& folder, const std::function<void(const Path& name)>& visit) override {
+    return system_.list(folder, visit);
   }
   bool isSameName(std::basic_string_view<Path::value_type> a,
                   std::basic_string_view<Path::value_type> b) override {
