@@ -183,15 +183,6 @@ FileError undoByName(FileSystem& system, Patience& patience, const Path& path,
   return isDone ? kept.discard() : FileError();
 }
 
-// Undoes that in the file that has the name `now`.
-FileError undoMoved(FileSystem& system, Patience& patience, const Path& now,
-                    const KeptWrite::Identity& identity) {
-  KeptWrite kept(system, patience, identity);
-  if (const FileError error = kept.open()) return error;
-  bool isDone = false;
-  return kept.found() ? undo(system, patience, now, *kept.found(), isDone) : FileError();
-}
-
 }  // namespace
 
 FileError mayWriteInPlace(std::uint64_t size, std::string_view bytes) {
@@ -220,16 +211,6 @@ FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path
     if (const FileError error = undoByName(system, patience, path, name)) return error;
   }
   return {};
-}
-
-FileError undoTornWriteOf(FileSystem& system, Patience& patience, const Path& path,
-                          const Path& now) {
-  std::vector<KeptWrite::Identity> names;
-  FileError error = KeptWrite::find(system, path, names);
-  for (const KeptWrite::Identity& name : names) {
-    if (!error && name.isWritten) error = undoMoved(system, patience, now, name);
-  }
-  return error;
 }
 
 FileError makeInsteadOfTorn(FileSystem& system, Patience& patience, const Path& path,

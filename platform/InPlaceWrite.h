@@ -32,11 +32,6 @@ namespace brennet::platform {
 // Where the file is not found it stays kept until one is: the disk may be away.
 [[nodiscard]] FileError undoTornWrite(FileSystem& system, Patience& patience, const Path& path);
 
-// The same for the file that was at `path`, where another is by this time, and is at `now`. What is
-// kept stays, for it may be of the other.
-[[nodiscard]] FileError undoTornWriteOf(FileSystem& system, Patience& patience, const Path& path,
-                                        const Path& now);
-
 // Calls `make`, which makes a file at `path`, where none is, and then has nothing put back into
 // that one: once its name is on the disk, what is kept goes. Nobody puts anything back meanwhile.
 // After an error of `make` all stays kept; after another one the file is there, and what is kept

@@ -133,7 +133,7 @@ FileError KeptFiles::underFreeName(Path& name, Name give) {
   return error;
 }
 
-FileError KeptFiles::keep() {
+void KeptFiles::keep() {
   // Also where it has one: that may be another process's, which takes it away when its save fails.
   const FileError error =
       underFreeName(link_, [&](const Path& name) { return system_.link(path_, name); });
@@ -141,11 +141,8 @@ FileError KeptFiles::keep() {
     TemporaryFile copy(system_, patience_);
     if (!copy.create(path_, OpenFor::NewAndPrivate)) static_cast<void>(fill(copy));
   }
-  // What is torn has no whole content to put aside.
-  if (const FileError torn = busyIfTorn(system_, path_)) return torn;
   // Before the old content loses its place.
   static_cast<void>(system_.flushFolder(path_.parent_path()));
-  return {};
 }
 
 // The copy is whole before it has the kept name.
@@ -204,19 +201,7 @@ FileError KeptFiles::dropLinks() {
   return error;
 }
 
-// Somebody may have written the file in place, and ended while he did, after it got its second name
-// and before another file took its place.
-void KeptFiles::putRight() noexcept {
-  if (link_.empty()) return;
-  try {
-    static_cast<void>(undoTornWriteOf(system_, patience_, path_, link_));
-  } catch (const std::bad_alloc&) {
-    // It cannot be put right then.
-  }
-}
-
 void KeptFiles::stay() noexcept {
-  putRight();
   const bool isKept = !link_.empty() || !copy_.empty();
   // The same content, a second time; unless another process has replaced the file meanwhile.
   for (const Path& name : links_) {

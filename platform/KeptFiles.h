@@ -38,9 +38,9 @@ class KeptFiles {
   [[nodiscard]] std::size_t links() const { return links_.size(); }
 
   // Puts the file aside by a second name, or as a copy where there are none. Passes over failures:
-  // the file can be replaced all the same. But Held where it is torn (busyIfTorn), so that it
-  // has to be put right first.
-  FileError keep();
+  // the file can be replaced all the same. A file that is torn by then (busyIfTorn) nothing may
+  // take the place of, so its second name goes again.
+  void keep();
   // Puts the file aside as a copy, where that is not done yet, and takes its second names away, all
   // of that on the disk too. Not an error where the folder takes no new file, unless there are such
   // names. Held where it is torn.
@@ -54,7 +54,6 @@ class KeptFiles {
   FileError underFreeName(Path& name, Name give);
   bool isGone(const FileError& error);
   FileError dropLinks();
-  void putRight() noexcept;
 
   FileSystem& system_;
   Patience& patience_;

@@ -207,9 +207,7 @@ FileError replaceAt(FileSystem& system, Patience& patience, const Path& path,
                     std::string_view bytes, const Target& target, OldContent old, KeptFiles& kept) {
   const bool isShared = target.names > 1 + kept.links();
   if (!target.isLink && !isShared) {
-    if (old == OldContent::Keep && target.isThere) {
-      if (const FileError error = kept.keep()) return error;
-    }
+    if (old == OldContent::Keep && target.isThere) kept.keep();
     const Outcome outcome = Replacement(system, patience, path, target, bytes).run();
     if (outcome.way == Way::Gone) return outcome.error;
   }

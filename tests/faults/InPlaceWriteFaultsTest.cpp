@@ -75,13 +75,16 @@ TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveWithOneFailingCall) {
 // Another process begins to write the file in place when it has been looked at already.
 TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveThatBeganBeforeIt) {
   constexpr int kMoreThanAllOpenings = 40;
-  for (int opening = 0; opening < kMoreThanAllOpenings; ++opening) {
-    in_.model.makeFile(kFile, kOld);
-    in_.model.others.beforeOpen = [&, left = opening](const Path&, OpenFor) mutable {
-      if (left-- == 0) tear(kFile, in_.model.contentOf(kFile));
-    };
-    const std::error_code error = save();
-    checkNextSession(error, "opening " + std::to_string(opening));
+  for (const char* const name : {kFile, kSecond}) {
+    for (int opening = 0; opening < kMoreThanAllOpenings; ++opening) {
+      in_.model.makeFile(kFile, kOld);
+      if (name == kSecond) in_.model.makeSecondName(kFile, kSecond);
+      in_.model.others.beforeOpen = [&, left = opening](const Path&, OpenFor) mutable {
+        if (left-- == 0) tear(kFile, in_.model.contentOf(kFile));
+      };
+      const std::error_code error = replaceFile(name, kNew);
+      checkNextSession(error, name + (": opening " + std::to_string(opening)));
+    }
   }
 }
 
