@@ -48,6 +48,7 @@ const Setting kSettings[] = {
      true},
     {"WithTwoNames", [](ModelFileSystem& s) { s.makeSecondName(kFile, kSecond); }},
     {"WhereNothingTakesItsPlace", [](ModelFileSystem& s) { s.nature.mounts.insert(kFile); }},
+    {"OfAnotherOwner", [](ModelFileSystem& s) { s.nature.foreignFiles.insert(kFile); }},
     {"WithoutSecondNames", [](ModelFileSystem& s) { s.nature.hasLinks = false; }, true},
     {"WithoutSecondNamesInPlace",
      [](ModelFileSystem& s) {

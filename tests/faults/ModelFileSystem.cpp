@@ -259,6 +259,7 @@ FileError ModelFileSystem::move(const Path& from, const Path& to) {
   const NodePointer node = nodeAt(from);
   if (node == nullptr) return failureOf(Obstacle::Missing);
   if (nodeAt(to) != nullptr) return failureOf(Obstacle::Exists);
+  if (nature.foreignFiles.contains(from)) return failureOf(Obstacle::Denied);
   if (const FileError error = mayName(to)) return error;
   change({to, node, from});
   if (nature.flushesNoFolders) flushChanges([&](const Change& c) { return c.name == to; });
@@ -270,6 +271,7 @@ FileError ModelFileSystem::exchange(const Path& replacement, const Path& path, c
   if (node == nullptr || nodeAt(path) == nullptr) return failureOf(Obstacle::Missing);
   const bool stopsHalfway = std::exchange(stopsHalfway_, false);
   if (nature.mounts.contains(path)) return failureOf(Obstacle::Other);
+  if (nature.foreignFiles.contains(path)) return failureOf(Obstacle::Denied);
   if (isBusy(path)) return failureOf(Obstacle::Held);
   if (nature.twoSteps) {
     change({backup, nodeAt(path), path});
@@ -282,6 +284,7 @@ FileError ModelFileSystem::exchange(const Path& replacement, const Path& path, c
 
 FileError ModelFileSystem::link(const Path& path, const Path& second) {
   if (!nature.hasLinks) return failureOf(Obstacle::Other);
+  if (nature.foreignFiles.contains(path)) return failureOf(Obstacle::Denied);
   if (nodeAt(path) == nullptr) return failureOf(Obstacle::Missing);
   if (nodeAt(second) != nullptr) return failureOf(Obstacle::Exists);
   if (const FileError error = mayName(second)) return error;
@@ -296,6 +299,7 @@ bool ModelFileSystem::isSameFile(const Path& a, const Path& b) {
 
 FileError ModelFileSystem::remove(const Path& path) {
   if (nodeAt(path) == nullptr) return failureOf(Obstacle::Missing);
+  if (nature.foreignFiles.contains(path)) return failureOf(Obstacle::Denied);
   change({{}, nullptr, path});
   return {};
 }

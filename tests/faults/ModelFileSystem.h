@@ -35,6 +35,7 @@ class ModelFileSystem final : public FileSystem {
     bool findsNoLongNames = false;   // ...and tell that there is no place for the others
     std::set<Path> unlistedFolders;  // cannot be looked through
     std::set<Path> mounts;           // files that nothing can take the place of
+    std::set<Path> foreignFiles;     // only their owner may link, rename, remove or replace them
     std::map<Path, int> busy;        // for so many pauses another program has the file
     bool twoSteps = false;           // exchange() moves the old file away first
     bool hasLinks = true;            // files can have several names

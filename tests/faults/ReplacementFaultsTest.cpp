@@ -69,6 +69,12 @@ const Setting kSettings[] = {
        s.nature.mounts.insert(kFile);
      },
      kOld},
+    {"OfAnotherOwner",
+     [](ModelFileSystem& s) {
+       s.makeFile(kFile, kOld);
+       s.nature.foreignFiles.insert(kFile);
+     },
+     kOld},
     {"WithTwoNames",
      [](ModelFileSystem& s) {
        s.makeFile(kFile, kOld);

@@ -43,6 +43,10 @@ const Setting kPlaces[] = {
      [](ModelFileSystem& s, const Path& preferences) {
        s.nature.mounts = {kSettings, preferences};
      }},
+    {"OfAnotherOwner",
+     [](ModelFileSystem& s, const Path& preferences) {
+       s.nature.foreignFiles = {kSettings, preferences};
+     }},
     {"TwoNames",
      [](ModelFileSystem& s, const Path& preferences) {
        s.makeFolder("/elsewhere");
@@ -232,6 +236,7 @@ TEST_P(SettingsFaults, LosePreferencesOfTheGameToNobodyWhoMovesThemAway) {
     if (isMoved || path != preferences_ || purpose != OpenFor::Reading) return;
     isMoved = true;
     in_->model.nature.closedFolders.clear();
+    in_->model.nature.foreignFiles.clear();
     EXPECT_FALSE(in_->model.move(preferences_, backup));
   };
   EXPECT_TRUE(config_.Save(kSettingsName, kNewTime));
@@ -272,6 +277,48 @@ TEST_P(SettingsFaults, LoseNothingThatWasNotRead) {
       EXPECT_TRUE(content == kDamaged || isKept(kDamaged)) << described(*in_, call);
       if (HasFailure()) return;
     }
+  }
+}
+
+// It is made for the save.
+TEST(SettingsFaultsMissingFolder, IsThereWithTheFileOrNotAtAll) {
+  const TempFolder home;
+  const ScopedProfile profile(home.path());
+  constexpr int kMoreThanAnySave = 60;
+  int made = 0;
+  for (const Fault fault :
+       {Fault::Fails, Fault::FailsForGood, Fault::EndsBefore, Fault::EndsAfter}) {
+    for (int call = 0; call < kMoreThanAnySave; ++call) {
+      StandIn in;
+      in.model.makeFolder("/");
+      in.faulty.plan(call, fault);
+      const bool isSaved = HotkeyConfig().Save(kSettingsName, kNewTime) && !in.faulty.hasEnded();
+      const std::string what = described(in, call);
+      if (in.faulty.faulty() == "createFolder") ++made;
+      const bool hasEnded = in.faulty.hasEnded();
+      in.model.endPrograms();
+      in.faulty.plan(-1, Fault::None);
+      HotkeyConfig next;
+      EXPECT_TRUE(next.Load(kSettingsName) == isSaved || hasEnded) << what;
+      EXPECT_TRUE(next.Save(kSettingsName, kNewTime)) << what;
+      EXPECT_EQ(in.model.listing("/folder"), std::string(kSettings) + "\n") << what;
+      EXPECT_TRUE(next.Load(kSettingsName)) << what;
+    }
+  }
+  EXPECT_EQ(made, 4) << "each fault once";
+}
+
+TEST(SettingsFaultsMissingFolder, IsOnTheDiskWithTheFile) {
+  const TempFolder home;
+  const ScopedProfile profile(home.path());
+  for (unsigned way = 0; way < kPowerLosses; ++way) {
+    StandIn in;
+    in.model.makeFolder("/");
+    in.faulty.plan(-1, Fault::None);
+    ASSERT_TRUE(HotkeyConfig().Save(kSettingsName, kNewTime));
+    in.model.losePower(way);
+    EXPECT_TRUE(platform::folderExists("/folder")) << way;
+    EXPECT_TRUE(HotkeyConfig().Load(kSettingsName)) << way;
   }
 }
 
