@@ -539,6 +539,14 @@
         <source>英雄技能 %1（快捷施法）</source>
         <translation>Hero ability %1 (quick cast)</translation>
     </message>
+    <message>
+        <source>回程</source>
+        <translation>Way home</translation>
+    </message>
+    <message>
+        <source>物品栏 %1</source>
+        <translation>Item slot %1</translation>
+    </message>
 </context>
 <context>
     <name>CHotkeySettingDlg</name>
@@ -935,12 +943,12 @@ Do you want to go on?</translation>
         <translation>Quick chat %1</translation>
     </message>
     <message>
-        <source>快捷喊话 %1 的按键</source>
-        <translation>Key of quick chat %1</translation>
-    </message>
-    <message>
         <source>开局喊话 %1</source>
         <translation>Message %1 at the start</translation>
+    </message>
+    <message>
+        <source>快捷喊话 %1 的按键</source>
+        <translation>Key of quick chat %1</translation>
     </message>
 </context>
 <context>
@@ -1051,6 +1059,10 @@ Do you want to go on?</translation>
     <message>
         <source>也用于：%1</source>
         <translation>also: %1</translation>
+    </message>
+    <message>
+        <source>%1（在“快捷喊话设置”中）</source>
+        <translation>%1 (under &quot;Chat settings&quot;)</translation>
     </message>
 </context>
 <context>

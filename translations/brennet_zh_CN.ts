@@ -539,6 +539,14 @@
         <source>英雄技能 %1（快捷施法）</source>
         <translation>英雄技能 %1（快捷施法）</translation>
     </message>
+    <message>
+        <source>回程</source>
+        <translation>回程</translation>
+    </message>
+    <message>
+        <source>物品栏 %1</source>
+        <translation>物品栏 %1</translation>
+    </message>
 </context>
 <context>
     <name>CHotkeySettingDlg</name>
@@ -934,12 +942,12 @@ Are you sure to continue?</source>
         <translation>快捷喊话 %1</translation>
     </message>
     <message>
-        <source>快捷喊话 %1 的按键</source>
-        <translation>快捷喊话 %1 的按键</translation>
-    </message>
-    <message>
         <source>开局喊话 %1</source>
         <translation>开局喊话 %1</translation>
+    </message>
+    <message>
+        <source>快捷喊话 %1 的按键</source>
+        <translation>快捷喊话 %1 的按键</translation>
     </message>
 </context>
 <context>
@@ -1050,6 +1058,10 @@ Are you sure to continue?</source>
     <message>
         <source>也用于：%1</source>
         <translation>也用于：%1</translation>
+    </message>
+    <message>
+        <source>%1（在“快捷喊话设置”中）</source>
+        <translation>%1（在“快捷喊话设置”中）</translation>
     </message>
 </context>
 <context>

@@ -76,6 +76,15 @@ Dota7Change changeOf(std::u16string_view keyPath, std::u16string_view textName,
   return change;
 }
 
+// A key as the registry can have it.
+Dota7Key stored(Dota7Key key) {
+  if (key.code == 0) return {};
+  const bool isItself = key.code == Dota7Key::kCtrl || key.code == Dota7Key::kAlt;
+  const bool isHeld = key.modifier == Dota7Key::kCtrl || key.modifier == Dota7Key::kAlt;
+  if (isItself || !isHeld) key.modifier = Dota7Key::kNoModifier;
+  return key;
+}
+
 }  // namespace
 
 void Dota7Settings::load() {
@@ -136,23 +145,18 @@ std::u16string Dota7Settings::keyText(const Dota7KeyField& field) const {
   return shown.code == 0 ? std::u16string() : names_->keyText(shown.code, shown.modifier);
 }
 
-bool Dota7Settings::isUsed(const Dota7KeyField& field, const Dota7Key& wanted) const {
+const Dota7KeyField* Dota7Settings::holderOf(const Dota7KeyField& field, Dota7Key wanted) const {
+  wanted = stored(wanted);
+  if (wanted.code == 0) return nullptr;
   for (const Dota7KeyField& other : dota7KeyFields()) {
-    if (&other != &field && key(other) == wanted) return true;
+    if (&other != &field && key(other) == wanted) return &other;
   }
-  return false;
+  return nullptr;
 }
 
 bool Dota7Settings::storeKey(const Dota7KeyField& field, Dota7Key key) {
-  const bool isItself = key.code == Dota7Key::kCtrl || key.code == Dota7Key::kAlt;
-  const bool isHeld = key.modifier == Dota7Key::kCtrl || key.modifier == Dota7Key::kAlt;
-  if (isItself || !isHeld) key.modifier = Dota7Key::kNoModifier;
-  if (key.code == 0) {
-    key = {};
-  } else if (isUsed(field, key)) {
-    return false;
-  }
-  apply(keyChange(field, cast_, key));
+  if (holderOf(field, key) != nullptr) return false;
+  apply(keyChange(field, cast_, stored(key)));
   return true;
 }
 

@@ -51,10 +51,13 @@ class Dota7Settings {
   [[nodiscard]] Dota7Key key(const Dota7KeyField& field) const;
   [[nodiscard]] std::u16string keyText(const Dota7KeyField& field) const;
 
+  // The field other than `field` that has the same key with the same modifier; null if none has.
+  // Of a field that follows the cast mode only the key of that mode counts.
+  [[nodiscard]] const Dota7KeyField* holderOf(const Dota7KeyField& field, Dota7Key key) const;
+
   // Stores the key of a field in the cast mode. Ctrl or Alt by itself is a key without a modifier;
-  // there are no other modifiers.
-  // Returns false, and changes nothing, if another field has the same key with the same modifier;
-  // for a field that follows the cast mode only the key of that mode counts.
+  // there are no other modifiers. Returns false, and changes nothing, if another field has the key
+  // (holderOf).
   [[nodiscard]] bool storeKey(const Dota7KeyField& field, Dota7Key key);
   void clearKey(const Dota7KeyField& field);
 
@@ -77,7 +80,6 @@ class Dota7Settings {
   void loadKeys(std::u16string_view keyPath);
   [[nodiscard]] Dota7Key readKey(const platform::RegistryKey& source,
                                  const Dota7ValuePair& values) const;
-  [[nodiscard]] bool isUsed(const Dota7KeyField& field, const Dota7Key& key) const;
   [[nodiscard]] Dota7Key& keyPlace(const Dota7KeyField& field, Dota7Cast cast);
   // Take a value and return what has to be written for it.
   [[nodiscard]] Dota7FieldChange keyChange(const Dota7KeyField& field, Dota7Cast cast,

@@ -1,9 +1,13 @@
 #include "ui/capture/Dota7KeyFields.h"
 
+#include <QEvent>
 #include <QLineEdit>
+#include <QStringList>
 #include <utility>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
+#include "ui/capture/Dota7FieldText.h"
+#include "ui/capture/RefusalText.h"
 #include "ui/capture/SlotCapture.h"
 #include "ui/window/Text.h"
 
@@ -45,7 +49,13 @@ void Dota7KeyFields::install(const QWidget& window, QObject& page) {
   }
 }
 
+bool Dota7KeyFields::filter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) outline_.clear();
+  return filter_.filter(watched, event);
+}
+
 void Dota7KeyFields::refresh() {
+  outline_.clear();
   // A lone modifier that is still down has been stored, and is removed when it is released.
   for (const Field& field : fields_) {
     field.field->setText(toQString(manager_->settings().keyText(*field.row)));
@@ -56,7 +66,9 @@ void Dota7KeyFields::take(QLineEdit& field, const Capture& capture) {
   Dota7Settings& settings = manager_->settings();
   const Dota7KeyField& row = *rowOf(field);
   const bool isCaptured = capture.outcome == Capture::Outcome::Captured;
-  const bool isStored = isCaptured && settings.storeKey(row, toDota7Key(capture.key));
+  const Dota7Key key = toDota7Key(capture.key);
+  const Dota7KeyField* const holder = isCaptured ? settings.holderOf(row, key) : nullptr;
+  const bool isStored = isCaptured && settings.storeKey(row, key);
   if (!isStored) settings.clearKey(row);
   const bool isPasted = isCaptured && isPaste(capture.key);
   if (isStored && !isPasted) {
@@ -67,7 +79,21 @@ void Dota7KeyFields::take(QLineEdit& field, const Capture& capture) {
   // that.
   if (isPasted && config_ != nullptr) makeRoomForPaste(*config_);
   field.clear();
-  if (isCaptured) tellUsed_({});
+  if (isCaptured) tell(row, capture.key, holder);
+}
+
+void Dota7KeyFields::tell(const Dota7KeyField& refusing, KeyWord key, const Dota7KeyField* holder) {
+  QStringList lines;
+  if (holder != nullptr) {
+    const bool isHere = isDota7ChatKey(refusing) == isDota7ChatKey(*holder);
+    lines +=
+        keyLine(textOf(key), isHere ? dota7FieldText(*holder) : dota7FieldTextElsewhere(*holder));
+    for (const Field& field : fields_) {
+      if (field.row == holder) outline_.show({field.field});
+    }
+  }
+  if (isPaste(key)) lines += pasteLine(textOf(key));
+  tellUsed_(lines.join(QLatin1Char('\n')));
 }
 
 QString Dota7KeyFields::textOf(KeyWord key) const {

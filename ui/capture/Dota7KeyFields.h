@@ -5,6 +5,7 @@
 
 #include "gameside/dota7/Dota7Values.h"
 #include "keys/KeyWord.h"
+#include "ui/capture/HolderOutline.h"
 #include "ui/capture/KeyFieldFilter.h"
 
 class QString;
@@ -17,9 +18,9 @@ class HotkeyConfig;
 // The key fields of a DotA 7 page. Each key is in the registry at once.
 class Dota7KeyFields {
  public:
-  // `tellUsed` tells the player that a key is already used; it may run an event loop. `config` has
-  // the key of the chat wheel, which a paste takes away; it may be null. Both `manager` and
-  // `config` outlive this object.
+  // `tellUsed` tells the player that a key is already used, and by what; it may run an event loop.
+  // `config` has the key of the chat wheel, which a paste takes away; it may be null. Both
+  // `manager` and `config` outlive this object.
   Dota7KeyFields(Dota7KeyInfoManager& manager, HotkeyConfig* config,
                  std::function<void(const QString& why)> tellUsed);
   Dota7KeyFields(const Dota7KeyFields&) = delete;
@@ -34,7 +35,7 @@ class Dota7KeyFields {
   void refresh();
 
   // For the event filter of the page: whether the event was consumed.
-  bool filter(QObject* watched, QEvent* event) { return filter_.filter(watched, event); }
+  bool filter(QObject* watched, QEvent* event);
 
  private:
   struct Field {
@@ -43,6 +44,8 @@ class Dota7KeyFields {
   };
 
   void take(QLineEdit& field, const Capture& capture);
+  // Outlines the field that has a refused key until the next press, and tells the player of it.
+  void tell(const Dota7KeyField& refusing, KeyWord key, const Dota7KeyField* holder);
   [[nodiscard]] QString textOf(KeyWord key) const;
 
   Dota7KeyInfoManager* manager_;
@@ -50,6 +53,7 @@ class Dota7KeyFields {
   std::function<void(const QString& why)> tellUsed_;
   KeyFieldFilter filter_;
   std::vector<Field> fields_;
+  HolderOutline outline_;
 };
 
 }  // namespace brennet

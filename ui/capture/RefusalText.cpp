@@ -67,13 +67,21 @@ QString choiceText(const KeyConflict& conflict) {
 }
 
 // Not every key has a text.
-QString lineOf(KeyWord key, const QString& what) {
+QString nameOf(KeyWord key) {
   const QString text = keyText(key);
-  return words(QT_TRANSLATE_NOOP("KeyHolder", "%1：%2"))
-      .arg(text.isEmpty() ? QString::number(key.raw()) : text, what);
+  return text.isEmpty() ? QString::number(key.raw()) : text;
 }
 
 }  // namespace
+
+QString keyLine(const QString& key, const QString& what) {
+  return words(QT_TRANSLATE_NOOP("KeyHolder", "%1：%2")).arg(key, what);
+}
+
+QString pasteLine(const QString& key) {
+  return keyLine(
+      key, words(QT_TRANSLATE_NOOP("KeyHolder", "在游戏聊天中用于粘贴；聊天轮盘的热键已移除")));
+}
 
 KeyWindow windowOf(KeySlot slot) {
   switch (slot.setting) {
@@ -105,7 +113,7 @@ QString fieldText(const HotkeyScheme& scheme, KeySlot slot) {
   const QString place = placeText(slot);
   const KeyWord key = keyAt(scheme, slot);
   if (!key.isSet()) return words(QT_TRANSLATE_NOOP("KeyHolder", "%1：没有按键")).arg(place);
-  QStringList lines(lineOf(key, place));
+  QStringList lines(keyLine(nameOf(key), place));
   for (const KeySlot other : usesOf(scheme, key)) {
     if (other == slot) continue;
     const QString where = fromWindow(placeText(other), windowOf(other), windowOf(slot));
@@ -117,19 +125,16 @@ QString fieldText(const HotkeyScheme& scheme, KeySlot slot) {
 QString refusalText(const Refusal& refusal, KeyWindow from) {
   QStringList lines;
   for (const KeyConflict& reason : refusal.reasons) {
-    lines += lineOf(refusal.key, holderText(reason, from));
+    lines += keyLine(nameOf(refusal.key), holderText(reason, from));
   }
-  if (isPaste(refusal.key)) {
-    lines +=
-        lineOf(refusal.key,
-               words(QT_TRANSLATE_NOOP("KeyHolder", "在游戏聊天中用于粘贴；聊天轮盘的热键已移除")));
-  }
+  if (isPaste(refusal.key)) lines += pasteLine(nameOf(refusal.key));
   return lines.join(QLatin1Char('\n'));
 }
 
 QString refusalText(const std::vector<TakenKey>& taken, KeyWindow from) {
   QStringList lines;
-  for (const TakenKey& key : taken) lines += lineOf(key.key, holderText(key.conflict, from));
+  for (const TakenKey& key : taken)
+    lines += keyLine(nameOf(key.key), holderText(key.conflict, from));
   return lines.join(QLatin1Char('\n'));
 }
 

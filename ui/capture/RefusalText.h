@@ -23,6 +23,12 @@ enum class KeyWindow : std::uint8_t {
 // The window with the field of a key.
 [[nodiscard]] KeyWindow windowOf(KeySlot slot);
 
+// A line of a refusal: the text of a key, and what has it.
+[[nodiscard]] QString keyLine(const QString& key, const QString& what);
+
+// What the player is told of Ctrl+V, besides what has it.
+[[nodiscard]] QString pasteLine(const QString& key);
+
 // What has a key. Says how to get there if that is not in the window `from`.
 [[nodiscard]] QString holderText(const KeyConflict& conflict, KeyWindow from);
 

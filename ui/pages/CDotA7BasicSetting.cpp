@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
+#include "ui/capture/Dota7FieldText.h"
 #include "ui/capture/KeyMessages.h"
 #include "ui/capture/TabOrder.h"
 #include "ui/pages/Form.h"
@@ -18,31 +19,9 @@ using brennet::Dota7Cast;
 
 namespace {
 
-// The labels of the keys for units, in columns, top to bottom.
-constexpr const char* kUnitLabels[] = {
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "移动"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "保持原地"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "停止"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "巡逻"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "攻击"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "技能学习"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "天赋学习"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择主英雄"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄2"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄3"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄4"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择英雄5"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择信使"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择所有单位"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择其他单位"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "选择能量圈"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "计分板"),
-    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "激活防御符文"),
-};
-static_assert(std::size(kUnitLabels) == brennet::kDota7UnitKeys);
 constexpr int kUnitColumns = 3;
 
-// Those of the keys for items: two in a row, as in the inventory.
+// The labels of the keys for items: two in a row, as in the inventory.
 constexpr const char* kItemLabels[] = {
     QT_TRANSLATE_NOOP("CDotA7BasicSetting", "1-"),    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "2-"),
     QT_TRANSLATE_NOOP("CDotA7BasicSetting", "3-"),    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "4-"),
@@ -56,26 +35,25 @@ QString text(const char* source) {
   return QCoreApplication::translate("CDotA7BasicSetting", source);
 }
 
-QLineEdit* newField(const brennet::Dota7KeyField& row, const QString& accessibleName) {
-  return brennet::newKeyField(brennet::toQString(row.objectName), accessibleName);
+QLineEdit* newField(const brennet::Dota7KeyField& row) {
+  return brennet::newKeyField(brennet::toQString(row.objectName), brennet::dota7FieldText(row));
 }
 
 // A field with the label before it.
-void addRow(QGridLayout& grid, int row, int column, const char* labelText,
+void addRow(QGridLayout& grid, int row, int column, const QString& labelText,
             const brennet::Dota7KeyField& key) {
-  const QString what = text(labelText);
-  QLineEdit* const field = newField(key, what);
-  auto* const label = new QLabel(what);
+  QLineEdit* const field = newField(key);
+  auto* const label = new QLabel(labelText);
   label->setBuddy(field);
   grid.addWidget(label, row, 2 * column);
   grid.addWidget(field, row, 2 * column + 1);
 }
 
 // Six abilities after the button of their cast mode.
-void addSkills(QGridLayout& grid, int row, Dota7Cast cast, const QString& what) {
+void addSkills(QGridLayout& grid, int row, Dota7Cast cast) {
   int column = 1;
   for (const brennet::Dota7KeyField& key : brennet::dota7SkillKeys(cast)) {
-    grid.addWidget(newField(key, what.arg(column)), row, column);
+    grid.addWidget(newField(key), row, column);
     ++column;
   }
 }
@@ -101,19 +79,18 @@ void CDotA7BasicSetting::buildRows() {
   constexpr int kUnitLines = (brennet::kDota7UnitKeys + kUnitColumns - 1) / kUnitColumns;
   int number = 0;
   for (const brennet::Dota7KeyField& key : brennet::dota7UnitKeys()) {
-    addRow(*form_->layUnits, number % kUnitLines, number / kUnitLines, kUnitLabels[number], key);
+    addRow(*form_->layUnits, number % kUnitLines, number / kUnitLines, brennet::dota7FieldText(key),
+           key);
     ++number;
   }
   number = 0;
   for (const brennet::Dota7KeyField& key : brennet::dota7ItemKeys()) {
-    addRow(*form_->layItems, number / kItemColumns, number % kItemColumns, kItemLabels[number],
-           key);
+    addRow(*form_->layItems, number / kItemColumns, number % kItemColumns,
+           text(kItemLabels[number]), key);
     ++number;
   }
-  addSkills(*form_->laySkills, 0, Dota7Cast::Normal,
-            text(QT_TRANSLATE_NOOP("CDotA7BasicSetting", "英雄技能 %1（一般）")));
-  addSkills(*form_->laySkills, 1, Dota7Cast::Quick,
-            text(QT_TRANSLATE_NOOP("CDotA7BasicSetting", "英雄技能 %1（快捷施法）")));
+  addSkills(*form_->laySkills, 0, Dota7Cast::Normal);
+  addSkills(*form_->laySkills, 1, Dota7Cast::Quick);
   brennet::setTabOrderOfLayouts(*this);
 }
 

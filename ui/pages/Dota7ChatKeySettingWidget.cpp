@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
+#include "ui/capture/Dota7FieldText.h"
 #include "ui/capture/KeyMessages.h"
 #include "ui/capture/TabOrder.h"
 #include "ui/chat/PhraseMenu.h"
@@ -63,9 +64,9 @@ void Dota7ChatKeySettingWidget::buildRows() {
     const auto& startRow = brennet::dota7StartPhrases()[i];
     auto* const phrase =
         newPhraseField(brennet::toQString(quickRow.objectName), tr("快捷喊话 %1").arg(number));
-    auto* const key =
-        brennet::newKeyField(brennet::toQString(brennet::dota7ChatKeys()[i].objectName),
-                             tr("快捷喊话 %1 的按键").arg(number));
+    const brennet::Dota7KeyField& keyRow = brennet::dota7ChatKeys()[i];
+    auto* const key = brennet::newKeyField(brennet::toQString(keyRow.objectName),
+                                           brennet::dota7FieldText(keyRow));
     auto& quick = *form_->layQuickChat;
     quick.addWidget(newLabel(QStringLiteral("label_QuickChat%1").arg(row), number, phrase), row, 0);
     quick.addWidget(phrase, row, 1);

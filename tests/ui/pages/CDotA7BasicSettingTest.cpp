@@ -14,6 +14,8 @@
 #include "tests/gameside/dota7/Dota7Test.h"
 #include "tests/ui/UiTest.h"
 #include "tests/ui/pages/PageChecks.h"
+#include "ui/capture/Dota7FieldText.h"
+#include "ui/capture/RefusalText.h"
 
 namespace brennet::test {
 namespace {
@@ -193,6 +195,9 @@ TEST_F(CDotA7BasicSettingTest, RefusesAKeyThatAnotherFieldHas) {
   QString told;
   const auto guard = whenBoxIsShown([&](QMessageBox& box) {
     told = box.text();
+    const Dota7KeyField& holder = *findDota7KeyField(u"edt_HStopKey");
+    EXPECT_EQ(box.informativeText(), keyLine(QStringLiteral(" S"), dota7FieldText(holder)));
+    EXPECT_TRUE(fieldOf(u"edt_HStopKey").property("holdsKey").toBool());
     EXPECT_EQ(box.icon(), QMessageBox::Warning);
     EXPECT_EQ(box.windowTitle(), QStringLiteral("IDS_TITLE"));
     EXPECT_EQ(box.parentWidget(), page.get());
@@ -203,6 +208,8 @@ TEST_F(CDotA7BasicSettingTest, RefusesAKeyThatAnotherFieldHas) {
   EXPECT_EQ(fieldOf(u"edt_HHoldKey").text(), QString());
   EXPECT_EQ(number(u"HHoldKeyCode"), 0U);
   EXPECT_EQ(number(u"HStopKeyCode"), 0x53U);
+  pressKey(fieldOf(u"edt_HHoldKey"), Qt::Key_J);
+  EXPECT_FALSE(fieldOf(u"edt_HStopKey").property("holdsKey").toBool());
 }
 
 TEST_F(CDotA7BasicSettingTest, StoresItsOptions) {

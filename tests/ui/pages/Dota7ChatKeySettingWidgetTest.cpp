@@ -15,6 +15,8 @@
 #include "tests/gameside/dota7/Dota7Test.h"
 #include "tests/ui/UiTest.h"
 #include "tests/ui/pages/PageChecks.h"
+#include "ui/capture/Dota7FieldText.h"
+#include "ui/capture/RefusalText.h"
 
 namespace brennet::test {
 namespace {
@@ -92,6 +94,19 @@ TEST_F(Dota7ChatKeySettingWidgetTest, LeavesAPhraseThatItCannotReadUntilThePlaye
   QTest::keyClick(&atStart(0), Qt::Key_Backspace);
   dialog->savePhrases();
   EXPECT_EQ(phrases(u"SOnStartString0"), bytesValue("gg\xEF\xBF\xBD")) << "as it is shown";
+}
+
+TEST_F(Dota7ChatKeySettingWidgetTest, SaysHowToGetToAFieldOfThePage) {
+  const Dota7KeyField& holder = *findDota7KeyField(u"edt_HStopKey");
+  ASSERT_TRUE(manager.settings().storeKey(holder, {.code = 'S'}));
+  const auto box = whenBoxIsShown([&](QMessageBox& shown) {
+    EXPECT_EQ(shown.informativeText(),
+              keyLine(QStringLiteral(" S"), dota7FieldTextElsewhere(holder)));
+    EXPECT_TRUE(shown.informativeText().contains(dota7FieldText(holder)));
+    shown.accept();
+  });
+  pressKey(keyField(4), Qt::Key_S);
+  EXPECT_EQ(keyField(4).text(), QString());
 }
 
 // Ctrl+V is a paste in the chat of the game.
