@@ -8,7 +8,7 @@ enum class OldContent {
   // It stays beside the new one, as NAME.kept-YYYYMMDD-HHMMSS by the local time. Three such files
   // stay, the oldest goes once the new content is in its place. Where the old content cannot be
   // kept, the file is replaced all the same; it is written in place only where the folder takes no
-  // new file at all.
+  // new file at all, or none of so long a name.
   Keep,
 };
 

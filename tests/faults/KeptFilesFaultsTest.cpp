@@ -239,6 +239,19 @@ TEST_P(KeptFilesFaultsTest, PutNothingAsideThatAnotherProcessHasTornMeanwhile) {
   }
 }
 
+TEST(KeptFilesFaultsLongNames, AreNone) {
+  for (const bool findsNoLongNames : {false, true}) {
+    StandIn in;
+    in.model.makeFolder(kFolder);
+    in.model.makeFile(kFile, kDamaged);
+    in.model.nature.shortNames.insert(kFolder);
+    in.model.nature.findsNoLongNames = findsNoLongNames;
+    EXPECT_FALSE(replaceFile(kFile, kNew, OldContent::Keep));
+    EXPECT_EQ(in.model.contentOf(kFile), kNew);
+    EXPECT_EQ(in.model.listing(kFolder), std::string(kFile) + "\n");
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(, KeptFilesFaultsTest, testing::ValuesIn(kSettings),
                          [](const auto& setting) { return std::string(setting.param.name); });
 
