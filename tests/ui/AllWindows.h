@@ -17,11 +17,11 @@ namespace brennet::test {
 struct WindowRow {
   const char* form;  // the name of its form, ui/.../NAME.ui
   std::unique_ptr<QWidget> (*make)(HotkeyConfig&, Dota7KeyInfoManager&, QWidget* parent);
-  bool isPage = true;  // what the dialog shows in itself or beside it; not the dialog
+  bool isPage = true;  // false for the dialog itself
 };
 
-// All there are. What holds for every window is tested for each row: its look with all fonts and
-// sizes, its texts in all languages.
+// All of them. What has to hold for every window is tested for each row: its look with all fonts
+// and sizes, its texts in all languages.
 [[nodiscard]] std::span<const WindowRow> allWindows();
 
 }  // namespace brennet::test

@@ -69,7 +69,7 @@ TEST(AllWindows, AreMadeByTheDialog) {
   }
 }
 
-// Pages that nothing leads to yet are not in the guide; those of DotA 7 it sums up.
+// The guide leaves out pages that players cannot reach yet, and only sums up those of DotA 7.
 TEST(AllWindows, HaveTheirSwitchesInTheGuideForPlayers) {
   QTranslator english;
   ASSERT_TRUE(english.load(QStringLiteral("brennet_en.qm"), QStringLiteral(BRENNET_TRANSLATIONS)));
@@ -91,7 +91,7 @@ std::string nameOf(const Setting& row) {
   return {row.element.begin(), row.element.end()};
 }
 
-// All windows but the dialog, which is made of them.
+// All windows except the dialog, which is made of them.
 class AllWindowsPages : public testing::Test {
  protected:
   AllWindowsPages() {
@@ -107,7 +107,7 @@ class AllWindowsPages : public testing::Test {
     return found;
   }
 
-  // The Orrery window is the basic page's, which listens to the one that it has made itself.
+  // The basic page makes its own Orrery window, and listens to no other.
   [[nodiscard]] static QList<QCheckBox*> boxesOfTheOrrery() {
     QList<QCheckBox*> boxes;
     for (QWidget* const window : QApplication::topLevelWidgets()) {

@@ -1,4 +1,4 @@
-// What becomes of the registry when the settings dialog ends, in one way or another.
+// What becomes of the registry, however the settings dialog ends.
 
 #include <QPushButton>
 #include <QTimer>
@@ -19,7 +19,7 @@ class CHotkeySettingDlgAnswersTest : public SettingsDialog {
     before = registry.content();
   }
 
-  // The player is in the DotA 7 mode and has another key there.
+  // The player goes to the DotA 7 mode and chooses another key there.
   void changeAKey() {
     dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
     ASSERT_NO_FATAL_FAILURE(show());
@@ -28,7 +28,7 @@ class CHotkeySettingDlgAnswersTest : public SettingsDialog {
     pressKey(stopKey(), Qt::Key_X);
     ASSERT_EQ(control(u"HStopKeyCode"), platform::dwordValue('X'));
   }
-  // A modifier is a key, too, unless another one follows.
+  // A modifier alone is a key as well, unless another key follows.
   void holdControlDown() {
     ASSERT_NO_FATAL_FAILURE(show());
     dialog->onSwitchDota7KeySettingDlg();
@@ -92,7 +92,7 @@ TEST_F(CHotkeySettingDlgAnswersTest, LetEditsOutliveASwitchOfModes) {
   EXPECT_EQ(registry.content(), before);
 }
 
-// The chat wheel of the settings is edited in the other mode, by the same dialog.
+// The same dialog edits the chat wheel of the settings, in its other mode.
 TEST_F(CHotkeySettingDlgAnswersTest, TakeTheChatWheelsKeyAwayForAPasteInTheOtherMode) {
   config.editableScheme()->ChatWheelkey = KeyWord('W', 0);
   ASSERT_NO_FATAL_FAILURE(changeAKey());
@@ -117,11 +117,11 @@ TEST_F(CHotkeySettingDlgAnswersTest, KeepNoModifierThatIsStillDown) {
   EXPECT_EQ(control(u"HStopKeyCode"), platform::dwordValue(0));
 }
 
-// The windows of phrases, which the dialog runs.
+// The windows for phrases, which the dialog runs.
 class CHotkeySettingDlgAnswersOfChat : public SettingsDialog {
  protected:
   QLineEdit& greeting() { return on<Dota7ChatKeySettingWidget>("edt_SOnStartString0"); }
-  // Runs the window, and does this in it.
+  // Runs the window and calls `act` with it.
   void run(const std::function<void(QDialog&)>& act) {
     bool isOpen = false;
     QTimer::singleShot(0, [&] {

@@ -75,7 +75,7 @@ TEST_F(CHotkeySettingDlgBoxesTest, AskBeforeTheyAct) {
   }
 }
 
-// A catalogue with a text of its own for the question in the DotA 7 mode.
+// A catalogue that has a different text for the question in the DotA 7 mode.
 class Dota7Question : public QTranslator {
  public:
   [[nodiscard]] bool isEmpty() const override { return false; }
@@ -175,7 +175,7 @@ TEST_F(CHotkeySettingDlgBoxesTest, RecommendNothingInTheDota7Mode) {
   EXPECT_EQ(on<ChatKeySettingWidget>("chatLineEdit_2").text(), QStringLiteral("glhf"));
 }
 
-// Links, and the signals that they send; nobody asks the player then.
+// Links and the signals that they send, disconnected from what would ask the player.
 class CHotkeySettingDlgBoxesOfLinks : public SettingsDialog {
  protected:
   CHotkeySettingDlgBoxesOfLinks() {
@@ -239,7 +239,7 @@ TEST_F(CHotkeySettingDlgBoxesOfLinks, AreClickedByNoKeyThatWentDownElsewhere) {
   EXPECT_EQ(resets.count(), 0) << "another key went up between";
 }
 
-// Keys as a system sends them: to what has the focus when they go down, and when they go up.
+// Keys as a system sends them: each press and each release goes to whatever has the focus then.
 class CHotkeySettingDlgBoxesThatAsk : public SettingsDialog {
  protected:
   void open() {
@@ -247,8 +247,8 @@ class CHotkeySettingDlgBoxesThatAsk : public SettingsDialog {
     resetLink().setFocus();
     ASSERT_TRUE(resetLink().hasFocus());
   }
-  // Presses the key that opens a box, and in the box the one that answers it. That goes up when
-  // the box is gone.
+  // Presses the key that opens a box, then the key that answers it, which is still down when the
+  // box is gone.
   void askAndAnswer(QMessageBox::StandardButton button) {
     const auto box = whenBoxIsShown([button](QMessageBox& shown) {
       auto* const focused = shown.button(button);
@@ -278,7 +278,7 @@ TEST_F(CHotkeySettingDlgBoxesThatAsk, AsksAgainWhenAKeyGoesDownOnIt) {
   askAndAnswer(QMessageBox::Cancel);
   QTest::keyRelease(&resetLink(), Qt::Key_Enter);
   askAndAnswer(QMessageBox::Cancel);
-  // The key that answered may also have gone up unseen.
+  // The release of the key that answered may also go unseen.
   askAndAnswer(QMessageBox::Cancel);
   QTest::keyRelease(&resetLink(), Qt::Key_Enter);
   const auto box = answer(QMessageBox::Cancel);

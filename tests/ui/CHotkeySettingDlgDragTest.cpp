@@ -1,4 +1,4 @@
-// Where the settings dialog can be dragged: as it answers Windows, and by a press of its own.
+// Where the settings dialog can be dragged: what it answers Windows, and which presses it takes.
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -22,7 +22,7 @@ class CHotkeySettingDlgDragTest : public SettingsDialog {
   static QPoint middleOf(const QWidget& widget) {
     return widget.mapTo(widget.window(), widget.rect().center());
   }
-  // What Windows is told, and 77 where it is told nothing.
+  // What the dialog answers Windows; 77 if it gives no answer.
   long answer(QPoint place, unsigned messageNumber = 132) {
     struct Opened : CHotkeySettingDlg {
       using CHotkeySettingDlg::nativeEvent;
@@ -43,7 +43,7 @@ class CHotkeySettingDlgDragTest : public SettingsDialog {
     QCoreApplication::sendEvent(dialog.get(), &press);
     return press.isAccepted();
   }
-  // Between two groups of the page that is shown.
+  // A point between two groups of the page that is shown.
   QPoint emptyPlace() {
     const auto& one = on<CBasicSetting7Widget, QGroupBox>("grpHeroSkill");
     const auto& other = on<CBasicSetting7Widget, QGroupBox>("grpKeyModify");

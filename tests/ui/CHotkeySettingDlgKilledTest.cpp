@@ -1,4 +1,4 @@
-// The dialog behind one whose process ended while it was open.
+// The dialog that follows one whose process ended while it was open.
 
 #include "tests/ui/SettingsDialogTest.h"
 

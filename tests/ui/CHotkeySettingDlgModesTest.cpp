@@ -17,7 +17,8 @@ class CHotkeySettingDlgModesTest : public SettingsDialog {
  protected:
   QComboBox& selector() { return find<QComboBox>("cmbHotkeySetting"); }
   int pageShown() { return dialog->findChild<QStackedLayout*>()->currentIndex(); }
-  // What edits the scheme can be used, or cannot; the ways out of there always can.
+  // Controls that edit the scheme are enabled or not, as expected; those that lead elsewhere or end
+  // the dialog always are.
   void expectEdits(bool areEnabled) {
     for (const char* const name :
          {"edtSkill_1", "edtGoodsKey_7", "edt_skillex_L_1", "edtMouseWheelUpKey", "edtWinLockMouse",

@@ -1,4 +1,4 @@
-// What the settings dialog tells of keys that a load could not use.
+// What the settings dialog says about keys that a load could not use.
 
 #include <QPushButton>
 #include <QTextDocument>
@@ -77,7 +77,7 @@ TEST_F(CHotkeySettingDlgNoticeTest, HasRoomForTheFirstFewAndAllInItsToolTip) {
   EXPECT_EQ(notice().accessibleDescription().split(QLatin1Char('\n')), toolTipText());
 }
 
-// Whoever wrote the file wrote that text: it is no markup, which could name files to be read.
+// The text comes from whoever wrote the file. As markup it could have other files read.
 TEST_F(CHotkeySettingDlgNoticeTest, ShowsMarkupOfTheFileAsText) {
   LoadReport report;
   report.droppedKeys.emplace_back().slot = {SettingId::MouseKey, 0};

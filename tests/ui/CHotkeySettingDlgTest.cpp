@@ -41,13 +41,13 @@ TEST_F(CHotkeySettingDlgTest, HasItsMethodsInTheOrderThatClientsKnow) {
   EXPECT_EQ(methodNames(CHotkeySettingDlg::staticMetaObject), expected);
 }
 
-// Which objects get which parents, in that order.
+// Records which object becomes a child of which, in order.
 class Births : public QObject {
  public:
   Births() { qApp->installEventFilter(this); }
 
-  // The classes of this parent's children, among them those that it gave away since. A child that
-  // came back, as windows do with new flags, counts once.
+  // The classes of all children that this parent has had, even if they have left it since. A child
+  // that came back, as windows do when they get new flags, counts once.
   [[nodiscard]] QStringList of(const QObject& parent) const {
     QList<const QObject*> children;
     QStringList classes;

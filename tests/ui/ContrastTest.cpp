@@ -1,4 +1,4 @@
-// Whether the texts of the skin can be read: measured in pictures of real controls.
+// Whether the texts of the skin are readable, measured in pictures of real controls.
 
 #include <gtest/gtest.h>
 
@@ -27,13 +27,14 @@
 namespace brennet::test {
 namespace {
 
-// What the guidelines for accessible pages ask for texts of that size. Nothing asks it of buttons
-// that are pressed, for as long as the mouse button is down, or disabled.
+// The contrast that accessibility guidelines ask for texts of this size. They do not ask it of
+// disabled buttons, nor of buttons while the mouse holds them down.
 constexpr double kReadable = 4.5;
 
 using SetText = std::function<void(const QString&)>;
 
-// Of the text's own colour, which only the inside of letters has, with all that is below letters.
+// The lowest contrast between the text's own colour, which only the inside of letters has, and
+// anything that the letters cover.
 double contrastOfText(const QImage& with, const QImage& without) {
   EXPECT_EQ(with.size(), without.size());
   double best = 1;
@@ -69,7 +70,7 @@ double contrastOf(QWidget& control) {
 class Contrast : public testing::Test {
  protected:
   Contrast() {
-    // Nothing but the background is to be below letters.
+    // Letters are to cover nothing but the background.
     delete window_.layout();
     for (QWidget* const part : window_.findChildren<QWidget*>()) part->hide();
     window_.setFixedSize(300, 200);
@@ -79,7 +80,7 @@ class Contrast : public testing::Test {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
   }
 
-  // A control over those of the window, with letters that are thick enough to have an inside.
+  // A control in front of all others, with letters thick enough to have an inside.
   template <class Control>
   Control& make(const char* name) {
     auto* const control = new Control(&window_);
@@ -197,7 +198,7 @@ class ContrastOfTheBox : public testing::Test {
                        QStringLiteral("QLabel, QPushButton { font: bold 16px; }"));
     box_.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&box_));
-    box_.layout()->setEnabled(false);  // what has another text stays where it is
+    box_.layout()->setEnabled(false);  // parts stay in place when their texts change
   }
 
   CMsgBox box_{QMessageBox::Warning, QStringLiteral("title"), QStringLiteral("a text"),

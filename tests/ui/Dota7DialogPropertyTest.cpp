@@ -1,5 +1,5 @@
-// A player who does anything in the DotA 7 windows, in any order: after Cancel the registry is as
-// it was, and after OK it holds what the windows showed.
+// Whatever a player does in the DotA 7 windows, in any order: after Cancel the registry is as it
+// was, and after OK it holds what the windows showed.
 
 #include <gtest/gtest.h>
 
@@ -30,7 +30,7 @@ class Dota7DialogPropertyTest : public Dota7Test {
   static constexpr int kSteps = 40;
 
   Dota7DialogPropertyTest() {
-    // Used keys are told of all the time.
+    // Warnings that a key is in use come up all the time.
     QObject::connect(&closer_, &QTimer::timeout, [] {
       auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (box != nullptr) box->accept();
@@ -135,7 +135,7 @@ TEST_F(Dota7DialogPropertyTest, KeepsWhatWasShownByOk) {
     CHotkeySettingDlg dialog(config, manager);
     dialog.show();
     for (int step = 0; step < kSteps; ++step) doSomething(dialog);
-    // A modifier that is still down goes with the focus.
+    // A modifier that is still down is dropped when its field loses the focus.
     if (QWidget* const field = dialog.focusWidget()) field->clearFocus();
     const std::vector<std::u16string> texts = shown();
     dialog.onClickedOkBtn();

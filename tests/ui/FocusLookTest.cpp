@@ -1,4 +1,4 @@
-// Whether it is plain to see which control has the focus: measured in pictures of real controls.
+// Whether it is plain to see which control has the focus, measured in pictures of real controls.
 
 #include <gtest/gtest.h>
 
@@ -21,10 +21,10 @@
 namespace brennet::test {
 namespace {
 
-// What the guidelines for accessible pages ask of what shows the focus: so much contrast with the
+// Accessibility guidelines ask two things of whatever shows the focus: this contrast with the
 // colour that was there before,
 constexpr double kPlain = 3;
-// and a place that is not too small. Half of its outline is the least here.
+// and a certain area. Here the least is half as many pixels as the control's outline has.
 int leastPixels(const QWidget& control) {
   return control.width() + control.height();
 }
@@ -40,7 +40,7 @@ int plainPixels(const QImage& with, const QImage& without) {
   return count;
 }
 
-// Controls keep it until their style changes.
+// Controls cache their size hint until their style changes.
 QSize freshSizeHint(QWidget& control) {
   QEvent change(QEvent::StyleChange);
   QApplication::sendEvent(&control, &change);
@@ -112,7 +112,7 @@ class FocusLookTest : public testing::Test {
   QWidget other_{&window_};
 };
 
-// The small ones have no room for a text.
+// The small buttons have no room for a text.
 const char* const kWithText[] = {"btnOther",
                                  "btnSwichBasicSetting",
                                  "btnSwichAdvancedSetting",

@@ -1,4 +1,4 @@
-// The settings dialog without a mouse: where Tab leads, and how one sees where one is.
+// The settings dialog without a mouse: where Tab leads, and whether the focus can be seen.
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ bool isKeyField(const QWidget& control) {
 }
 
 QImage pictureOf(QWidget& control) {
-  // A little of what is around it too, for a frame outside.
+  // With two pixels around the control, where the frame of the focus may be.
   const QRect place = QRect(control.mapTo(control.window(), QPoint()), control.size());
   return control.window()->grab(place.adjusted(-2, -2, 2, 2)).toImage();
 }
@@ -37,7 +37,7 @@ class Keyboard : public Dota7Test {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
   }
 
-  // What can have the focus by the keyboard, from the dialog's first control on.
+  // The controls of the dialog that the keyboard can reach, in the order of the focus chain.
   std::vector<QWidget*> chain() {
     std::vector<QWidget*> controls;
     for (QWidget* at = dialog.nextInFocusChain(); at != &dialog; at = at->nextInFocusChain()) {
@@ -47,15 +47,15 @@ class Keyboard : public Dota7Test {
     return controls;
   }
 
-  // What Tab can leave again, on what is shown now.
+  // Those that Tab can leave again.
   std::vector<QWidget*> othersThanKeyFields() {
     std::vector<QWidget*> controls = chain();
     std::erase_if(controls, [](const QWidget* control) { return isKeyField(*control); });
     return controls;
   }
 
-  // Presses Tab from where the dialog starts, as far as the first key field: that takes Tab as a
-  // key.
+  // Presses Tab from the title up to the first key field, which takes Tab as a key. Returns the
+  // controls met on the way.
   std::vector<QWidget*> walk() {
     find("titleWidget").setFocus();
     std::vector<QWidget*> met;
@@ -83,7 +83,7 @@ class Keyboard : public Dota7Test {
   }
 
   void expectFocusToShow() {
-    // From the first Tab on controls show it.
+    // Controls show the focus only once Tab has been pressed.
     chain().front()->setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     for (QWidget* const control : chain()) {

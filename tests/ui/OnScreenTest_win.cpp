@@ -1,4 +1,4 @@
-// Windows as the system has them: what it is told of points, and which window belongs to which.
+// Windows as the system sees them: what it is told about points, and which window owns which.
 
 #include <windows.h>
 
@@ -28,7 +28,7 @@ HWND handleOf(const QWidget& window) {
   return reinterpret_cast<HWND>(window.winId());
 }
 
-// What the window answers when the system asks for a point of its own.
+// What the window answers when the system asks about one of its points.
 LRESULT hitAt(const QWidget& window, QPoint point) {
   const QPoint global = window.mapToGlobal(point);
   const auto ratio = window.devicePixelRatioF();

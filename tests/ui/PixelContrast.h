@@ -12,7 +12,7 @@
 
 namespace brennet::test {
 
-// As eyes see it, from 0 for black to 1 for white.
+// Brightness as eyes see it, from 0 for black to 1 for white.
 [[nodiscard]] inline double luminance(QRgb color) {
   const auto linear = [](int part) {
     const double value = part / 255.0;
@@ -29,7 +29,7 @@ namespace brennet::test {
   return std::max(first, second) / std::min(first, second);
 }
 
-// With what is below it in its window.
+// The control together with whatever its window shows behind it.
 [[nodiscard]] inline QImage pictureOf(QWidget& control) {
   const QRect place(control.mapTo(control.window(), QPoint()), control.size());
   return control.window()->grab(place).toImage().convertToFormat(QImage::Format_RGB32);

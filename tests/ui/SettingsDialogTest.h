@@ -40,7 +40,7 @@ class SettingsDialog : public Dota7Test {
   Page& page() {
     return *dialog->findChild<Page*>();
   }
-  // A control of a page: some names are on more than one.
+  // A control on one page; some names occur on several.
   template <class Page, class Widget = QLineEdit>
   Widget& on(const char* name) {
     return *page<Page>().template findChild<Widget*>(QLatin1String(name));

@@ -55,7 +55,7 @@ class SettingsSheetTest : public testing::Test {
     const QPixmap all = window_.grab(control.geometry());
     return all.toImage().convertToFormat(QImage::Format_RGB32);
   }
-  // What is in the middle of a small picture: there is more of it for the mouse than is seen.
+  // The middle of a small button, where its picture is: the mouse can hit more than is seen.
   QImage middleOf(const QWidget& control, QSize size) {
     const QRect all = control.rect();
     const QPoint corner((all.width() - size.width()) / 2, (all.height() - size.height()) / 2);
@@ -89,7 +89,7 @@ const PictureButton kButtons[] = {
     {"btn_goods_cast_7", "auto", 13, nullptr, 0, "auto", 13},
 };
 
-// One state of a picture as it stands in the window.
+// One state of a picture, as the window shows it.
 QImage state(const char* picture, int at, int height) {
   const QImage all(QStringLiteral(":/skin/image/%1.png").arg(QLatin1String(picture)));
   QImage expected(all.width(), height, QImage::Format_RGB32);
@@ -136,7 +136,7 @@ TEST_F(SettingsSheetTest, ShowsWhichPictureHasTheFocus) {
       ASSERT_TRUE(button->hasFocus());
       const QImage with = pictureOf(*button);
       EXPECT_EQ(with.size(), without.size());
-      // The second state of a large one is that of the focus too.
+      // A large picture shows the focus by the same state as being checked.
       const bool isLitAlready = isChecked && button->width() == 55 && button->height() == 55;
       EXPECT_TRUE(isLitAlready || with != without) << name << (isChecked ? " checked" : "");
     }
@@ -144,7 +144,7 @@ TEST_F(SettingsSheetTest, ShowsWhichPictureHasTheFocus) {
   }
 }
 
-// The frame of the focus goes round the picture, which stays what it was.
+// The frame of the focus goes round the picture, which does not change.
 TEST_F(SettingsSheetTest, KeepsTheStateOfASmallPictureWithTheFocus) {
   QApplication::setActiveWindow(&window_);
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
@@ -185,7 +185,7 @@ TEST_F(SettingsSheetTest, KeepsTheStateOfASmallPictureWithTheFocus) {
   }
 }
 
-// What is around a small picture is room to be hit, and stays empty.
+// The room around a small picture is there to be hit, and stays empty.
 TEST_F(SettingsSheetTest, DrawsNothingAroundSmallPicturesWithTheFocus) {
   QApplication::setActiveWindow(&window_);
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
@@ -208,7 +208,7 @@ TEST_F(SettingsSheetTest, DrawsNothingAroundSmallPicturesWithTheFocus) {
   }
 }
 
-// Nobody has to aim: what can be clicked is 24 pixels high at the least.
+// Nobody has to aim: whatever can be clicked is at least 24 pixels high.
 TEST_F(SettingsSheetTest, MakesEverythingLargeEnoughToBeHit) {
   constexpr int kLeast = 24;
   for (const char* const name : {"btnClose", "btn_skillcast_1", "btn_goods_cast_1", "btnOther"}) {
@@ -226,7 +226,7 @@ TEST_F(SettingsSheetTest, MakesEverythingLargeEnoughToBeHit) {
   EXPECT_GE(make<QLabel>("lblResetToDefaultSetting")->height(), kLeast);
 }
 
-// A border that is to be seen differs from what is around it by a factor of three.
+// A border can be seen if its contrast with both sides is at least three.
 TEST_F(SettingsSheetTest, DrawsBordersOfFieldsThatCanBeSeen) {
   auto* const field = make<QLineEdit>("edtSkill_1");
   field->resize(100, field->sizeHint().height());

@@ -14,7 +14,7 @@ namespace {
 
 QStringList* caught = nullptr;
 
-// Longer than any test that is at work keeps a box waiting.
+// Longer than any test that still makes progress keeps a box waiting.
 constexpr int kPatienceMs = 20'000;
 
 // Closes each box that is still there after a while.
@@ -25,7 +25,7 @@ class UnansweredBoxes : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     auto* const box = qobject_cast<QMessageBox*>(watched);
     if (box != nullptr && event->type() == QEvent::Show) {
-      // It goes with the box, and is not left behind until its time is over.
+      // A timer that is the box's child goes with it, instead of running to its end.
       auto* const patience = new QTimer(box);
       patience->setSingleShot(true);
       QObject::connect(patience, &QTimer::timeout, box, [box] {
@@ -39,11 +39,11 @@ class UnansweredBoxes : public QObject {
   }
 };
 
-// What says something about the machine or the platform, not about a window.
+// Warnings about the machine or the platform, not about a window.
 bool isExpected(const QString& warning) {
   const char* const kBeginnings[] = {
       "This plugin does not support ", "QStandardPaths: XDG_RUNTIME_DIR not set",
-      "QPixmap::fromWinHICON(), failed to GetIconInfo()",  // not every Windows has all icons
+      "QPixmap::fromWinHICON(), failed to GetIconInfo()",  // some Windows lack some icons
   };
   return std::any_of(std::begin(kBeginnings), std::end(kBeginnings), [&](const char* beginning) {
     return warning.startsWith(QLatin1String(beginning));
@@ -74,7 +74,7 @@ QStringList CaughtMessages::texts() const {
   return *caught;
 }
 
-// Windows show their boxes when other events are handled: so it looks again and again.
+// A box may come up during any event, so the timer looks for one again and again.
 ExpectedBox::ExpectedBox(std::function<void(QMessageBox&)> act) : act_(std::move(act)) {
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { look(); });
   timer_.start(0);

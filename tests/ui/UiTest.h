@@ -8,11 +8,11 @@
 #include <utility>
 
 // What the tests of windows share. Their programs have main from UiTestMain.cpp: a QApplication
-// without a screen, in which each warning of Qt fails the test that it comes up in.
+// without a screen, in which any warning from Qt fails the test that causes it.
 
 namespace brennet::test {
 
-// Takes the messages of Qt, warnings too, as long as it lives.
+// Collects Qt's messages, warnings included, as long as it lives.
 class CaughtMessages {
  public:
   CaughtMessages();
@@ -23,9 +23,9 @@ class CaughtMessages {
   [[nodiscard]] QStringList texts() const;
 };
 
-// Does `act` with the next message box that is shown modally while it lives, once events are
-// handled. The test fails when none is; and when the box is still open afterwards: it is closed
-// then, so that the test ends.
+// Calls `act` with the next modal message box that is shown while it lives and events are handled.
+// The test fails if there is none, or if the box is still open after `act`; the box is closed then,
+// so that the test ends.
 class [[nodiscard]] ExpectedBox {
  public:
   explicit ExpectedBox(std::function<void(QMessageBox&)> act);
@@ -41,12 +41,12 @@ class [[nodiscard]] ExpectedBox {
   bool isShown_ = false;
 };
 
-// To be kept as long as the box may come: const auto box = whenBoxIsShown(...);
+// Keep the result as long as the box may come up: const auto box = whenBoxIsShown(...);
 [[nodiscard]] inline ExpectedBox whenBoxIsShown(std::function<void(QMessageBox&)> act) {
   return ExpectedBox(std::move(act));
 }
 
-// Fails where a box comes up in its life, instead of waiting for somebody to close it.
+// Fails the test if a box comes up while it lives, and closes the box.
 class [[nodiscard]] NoBoxes {
  public:
   NoBoxes();
@@ -55,7 +55,7 @@ class [[nodiscard]] NoBoxes {
   QTimer timer_;
 };
 
-// From now on warnings are failures; what the offscreen platform says about itself is not.
+// From now on warnings are failures, except those about the machine or the platform.
 void failOnWarnings();
 
 // From now on a message box that nobody answers fails the test instead of stopping it.

@@ -1,4 +1,4 @@
-// Main of the tests of windows. They run without a screen, and look the same on all machines.
+// Main of the tests of windows, which run without a screen and look the same on all machines.
 
 #include <gtest/gtest.h>
 
@@ -10,14 +10,14 @@
 #include "tests/ui/UiTest.h"
 #include "tests/ui/fonts/TestFonts.h"
 
-// The leak sanitizer asks for this by name: the library of fonts keeps what it read.
+// The leak sanitizer looks this function up by name. Fontconfig keeps what it has read.
 extern "C" BRENNET_EXPORT const char* __lsan_default_suppressions() {
   return "leak:libfontconfig";
 }
 
 namespace {
 
-// Without its fonts no test would say anything; the tests can be listed all the same.
+// No test means anything without its fonts. As an environment, this lets tests be listed without.
 class Fonts : public testing::Environment {
   void SetUp() override { ASSERT_TRUE(brennet::test::hasFontsOfTheSet()); }
 };
@@ -31,8 +31,8 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", platform.isEmpty() ? "offscreen" : platform);
   brennet::test::useFontSetOfTheEnvironment();
   brennet::test::failOnWarnings();
-  // It is never deleted: the offscreen platform loses its screen with it, and the leak sanitizer
-  // would tell of that.
+  // It is never deleted: the offscreen platform would leak its screen then, and the leak sanitizer
+  // would report that.
   static const QApplication* const application = new QApplication(argc, argv);
   Q_UNUSED(application)
   testing::AddGlobalTestEnvironment(new Fonts);

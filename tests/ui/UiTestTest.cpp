@@ -1,4 +1,4 @@
-// The checks that the tests of windows rely on are checked themselves.
+// Checks of the checks that the tests of windows rely on.
 
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>

@@ -56,7 +56,7 @@ TEST(UnskinnedBoxWithoutItsSheet, TellsOfItInAPlainBoxAndStaysUsable) {
 }
 
 TEST(UnskinnedDialogWithoutItsSheet, TellsOfItInABoxAndStaysUsable) {
-  const CaughtMessages messages;  // of pictures that are missing, too
+  const CaughtMessages messages;  // about missing pictures as well
   const ScopedRegistry registry;
   Dota7KeyInfoManager manager;
   HotkeyConfig config;
@@ -93,7 +93,7 @@ enum class Missing { Sheet, Pictures };
 
 class UnskinnedWindowWithoutItsSkin : public testing::TestWithParam<Missing> {
  protected:
-  // Qt tells of each picture that it misses, and the pages of their fields.
+  // Qt reports each missing picture, and the pages trace their fields.
   ~UnskinnedWindowWithoutItsSkin() override {
     for (const QString& message : messages_.texts()) {
       const QString text = QDir::fromNativeSeparators(message);

@@ -70,7 +70,7 @@ TEST_F(CKeyLineEditTest, DrawsWhatItShows) {
   field.setText(QString());
   const QImage empty = picture();
   EXPECT_NE(empty, cut);
-  // Its frame is the one of a line edit.
+  // It has the frame of a line edit.
   for (const QPoint place : {QPoint(20, 0), QPoint(0, 10), QPoint(field.width() - 1, 10)}) {
     EXPECT_EQ(cut.pixel(place), empty.pixel(place));
   }

@@ -63,7 +63,7 @@ class Page : public QWidget {
       config};
 };
 
-// A key with the code that Windows would send, which is that of the letter.
+// A letter key, with the code that Windows would send: the letter's own.
 void press(QLineEdit& field, Qt::Key key, Qt::KeyboardModifiers modifiers = {},
            bool repeat = false) {
   const auto code = static_cast<quint32>(key == Qt::Key_Control ? 0x11 : key);
@@ -94,7 +94,7 @@ TEST(CaptureFields, TellOfAUsedKeyOnce) {
   EXPECT_EQ(page.told, 1);
 }
 
-// An outline that the style sheet draws.
+// Whether the style sheet outlines the field.
 bool isOutlined(const QLineEdit& field) {
   return field.property("holdsKey").toBool();
 }

@@ -1,4 +1,4 @@
-// What players read of a key that is refused.
+// What players read about a key that is refused.
 
 #include "ui/capture/RefusalText.h"
 
@@ -118,7 +118,7 @@ TEST_F(RefusalTextTest, OfASetNamesEachKeyThatIsTaken) {
                            "Alt + 8: Skill reminder key (DotA) (under \"Orrery settings\")"));
 }
 
-// What the text promises.
+// Where it names no way, the text promises that a reset removes the key.
 TEST_F(RefusalTextTest, NamesNoWayToAKeyThatAResetDoesNotRemove) {
   for (std::size_t id = 0; id < kSettingCount; ++id) {
     const KeySlot slot{static_cast<SettingId>(id)};

@@ -1,4 +1,4 @@
-// What players read of keys that could not be used.
+// What players read about keys that could not be used.
 
 #include "ui/capture/SlotText.h"
 
@@ -45,12 +45,12 @@ TEST_F(SlotTextTest, AreThoseOfTheWindows) {
   for (const auto& row : kRows) EXPECT_EQ(slotText(row.slot), QLatin1String(row.text));
 }
 
-// A setting that is added gets a name here too.
+// Fails until a setting that is added has names as well.
 TEST_F(SlotTextTest, NameEachKeyOfAScheme) {
   QSet<QString> names;
   for (std::size_t id = 0; id < kSettingCount; ++id) {
     const auto setting = static_cast<SettingId>(id);
-    if (setting == SettingId::ComboKey3to1) continue;  // the keys of ComboKey once more
+    if (setting == SettingId::ComboKey3to1) continue;  // the same keys as ComboKey
     for (std::size_t i = 0; i < keyCount(setting); ++i) {
       const auto index = static_cast<std::uint8_t>(i);
       const QString name = slotText({setting, index});

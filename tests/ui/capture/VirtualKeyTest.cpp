@@ -52,7 +52,7 @@ TEST(VirtualKey, FollowsFromTheKeyOfAUnitedStatesKeyboard) {
   }
 }
 
-// A key that a keyboard has, the capture fields can name.
+// The capture fields can name every key that a keyboard has.
 TEST(VirtualKey, HasANameWhereItHasACode) {
   for (int key = Qt::Key_Escape; key <= Qt::Key_F12; ++key) {
     const unsigned code = virtualKeyOfQtKey(key, false);

@@ -7,7 +7,7 @@
 namespace brennet {
 namespace {
 
-// Indexes of rows and columns that the table does not have, too.
+// Also makes indexes of rows and columns that the table does not have.
 class AnyIndexModel : public CCustomMsgTableModel {
  public:
   using CCustomMsgTableModel::CCustomMsgTableModel;

@@ -83,7 +83,7 @@ class OpenTree : public CCustomTreeWidget {
  public:
   using CCustomTreeWidget::startDrag;
 
-  // Whether a drag would start; it asks the model for the data then.
+  // Whether a drag would start: only then the tree asks for the data.
   bool drags() {
     asked_ = false;
     startDrag(Qt::MoveAction);

@@ -26,7 +26,7 @@
 namespace brennet::test {
 namespace {
 
-// The menu that comes up when a field is asked for one; null where none does.
+// The menu that comes up when a field is asked for one; null if none does.
 QPointer<QMenu> menuOf(QLineEdit& field) {
   QContextMenuEvent request(QContextMenuEvent::Mouse, field.rect().center(),
                             field.mapToGlobal(field.rect().center()));
@@ -54,7 +54,7 @@ class PhraseMenuTest : public Dota7Test {
   }
   ~PhraseMenuTest() override { QApplication::clipboard()->clear(); }
 
-  // Chooses an entry of a menu of its own.
+  // Opens a new menu and chooses this entry.
   void choose(const char* text) {
     const QPointer<QMenu> menu = menuOf(field);
     ASSERT_FALSE(menu.isNull());

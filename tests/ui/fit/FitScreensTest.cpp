@@ -1,5 +1,5 @@
-// All windows on the screens that players have: inside, with their buttons, and nothing is out of
-// reach.
+// All windows on the screens that players have: the whole window and its buttons are inside, and
+// everything can be reached.
 
 #include <QApplication>
 #include <QCheckBox>
@@ -22,7 +22,7 @@
 namespace brennet::test {
 namespace {
 
-// What the settings take at the most at 100 %: a laptop leaves that beside its task bar.
+// The most that the settings may take at 100 %: what a laptop's task bar leaves.
 constexpr QSize kMost(1240, 660);
 
 const std::vector<const char*> kEnds = {"btnOK", "btnCancel"};
@@ -61,7 +61,7 @@ TEST_P(FitScreensTest, ComesUpWholeOnEachScreen) {
   }
 }
 
-// A host that lets Qt scale nothing has larger letters in more pixels.
+// Where a host does not let Qt scale, only the letters grow, and take more pixels.
 TEST_P(FitScreensTest, ComesUpWholeWithLargeLetters) {
   const TestScreens screens({{{1366, 768}}});
   for (const int percent : {150, 250}) {
@@ -77,7 +77,7 @@ TEST_P(FitScreensTest, ComesUpWholeWithLargeLetters) {
   }
 }
 
-// What is told below the title takes more lines where the window is narrow.
+// The notice below the title takes more lines where the window is narrow.
 TEST_P(FitScreensTest, ComesUpWholeWithANotice) {
   LoadReport report;
   for (int i = 0; i < 4; ++i) {
@@ -116,7 +116,7 @@ TEST_P(FitScreensTest, ComesUpWholeInEachOtherWindow) {
       expectNothingIsCut(window);
       window.hide();
     };
-    // In the corner, where its windows have no room around its middle.
+    // In the corner, where there is no room for other windows around the dialog's middle.
     const auto dialog = showDialog(false);
     dialog->move(available.bottomRight() - QPoint(20, 20));
     check(*dialog->findChild<ChatKeySettingWidget*>(), kEnds);
@@ -149,8 +149,8 @@ TEST_P(FitScreensTest, ScrollsTheChatWindowsWhereTheirLettersAreLarge) {
   }
 }
 
-// The rows of a picture, from the first to the last, in which something is much lighter than its
-// background; counted from the middle of the picture.
+// The middle between the first and the last row of a picture that have anything light in them,
+// as a distance down from the middle of the picture.
 double middleOfLight(const QImage& picture) {
   int first = picture.height();
   int last = -1;

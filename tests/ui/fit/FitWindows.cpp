@@ -13,7 +13,7 @@ bool isWhollySeen(const QWidget& widget) {
   return (QRegion(widget.rect()) - widget.visibleRegion()).isEmpty();
 }
 
-// A field may be wider than what its page can show of it, with a little of what is around.
+// A page that scrolls may be too small for the whole field; it also keeps some room around it.
 bool isSeenAsFarAsItCanBe(const QWidget& widget, const QWidget& window) {
   const auto* const scroller = window.findChild<CPageScroller*>();
   if (scroller == nullptr || !scroller->isAncestorOf(&widget)) return isWhollySeen(widget);

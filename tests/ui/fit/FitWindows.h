@@ -17,7 +17,7 @@ class QWidget;
 
 namespace brennet::test {
 
-// Windows in each of the two languages, with letters of the size that a host has: 9 points.
+// Windows in each of the two languages, with letters as large as in a host: 9 points.
 class FitWindows : public Dota7Test, public testing::WithParamInterface<const char*> {
  protected:
   FitWindows();
@@ -34,12 +34,12 @@ class FitWindows : public Dota7Test, public testing::WithParamInterface<const ch
   QTranslator catalogue_;
 };
 
-// Fails where a part of the window is outside the part of its screen that is free, or where one of
-// the buttons of those names is not wholly in sight.
+// Fails if any part of the window is outside `available`, or if one of the buttons of those names
+// is not wholly in sight.
 void expectInside(const QWidget& window, const QRect& available,
                   const std::vector<const char*>& buttons);
 
-// Gives each control the focus by the keyboard, and fails where it is not wholly in sight then.
+// Gives each control the focus as Tab does, and fails if that does not bring it wholly into sight.
 void expectFocusIsShown(QWidget& window);
 
 }  // namespace brennet::test

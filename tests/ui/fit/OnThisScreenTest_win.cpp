@@ -1,4 +1,4 @@
-// Windows of the system on the screen that there is, whatever its size: all of each is inside, in
+// Windows of the system on the screen of this machine, whatever its size: each is wholly inside, in
 // both languages.
 
 #include <windows.h>
@@ -34,7 +34,7 @@ class OnThisScreen : public testing::TestWithParam<const char*> {
     QCoreApplication::installTranslator(&catalogue_);
   }
 
-  // By what the system says of the window and of the screen.
+  // Asks the system, not Qt, about the window and the screen.
   static void expectInside(QWidget& window) {
     SCOPED_TRACE(window.metaObject()->className());
     window.show();
@@ -85,7 +85,7 @@ TEST_P(OnThisScreen, TheOtherWindowsAreWhole) {
   expectInside(box);
 }
 
-// A host need not have windows of Qt.
+// The host's window need not be one of Qt's.
 TEST_P(OnThisScreen, TheSettingsComeUpOverAHostOfAnotherKind) {
   HWND const host = CreateWindowExW(0, L"STATIC", L"host", WS_POPUP | WS_VISIBLE, 200, 150, 640,
                                     400, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);

@@ -49,7 +49,7 @@ class ScreenFitOnADesk : public SettingsDialog {
     dialog.reset();
   }
 
-  // The window of a host, whose middle is on that screen.
+  // Shows the host's window with its middle on that screen.
   void showHost(Place place) {
     host.resize(600, 400);
     host.move(screens.at(place).geometry().center() - host.rect().center());
@@ -113,7 +113,7 @@ TEST_F(ScreenFitOnADesk, StaysWhereThePlayerHasPutIt) {
   EXPECT_EQ(dialog->pos(), available(kRight).topLeft() + QPoint(7, 0));
 }
 
-// The system drags it, and Qt does not count that as a move.
+// A drag is done by the system, and Qt does not count it as a move.
 TEST_F(ScreenFitOnADesk, StaysWhereItWasDraggedToWhenItIsMinimizedMeanwhile) {
   showHost(kMiddle);
   dialog->show();
@@ -157,7 +157,7 @@ TEST_F(ScreenFitOnADesk, GivesWayToALargerTaskBar) {
 TEST_F(ScreenFitOnADesk, ComesUpOverTheHostEachTime) {
   showHost(kRight);
   dialog->show();
-  // What makes room for a task bar is no move by the player.
+  // Making room for a task bar is no move by the player.
   screens.setAvailable(kRight, {0, 0, 1366, 500});
   QCoreApplication::processEvents();
   dialog->hide();
@@ -225,7 +225,7 @@ TEST_F(ScreenFitOnADesk, KeepsAClickWhereItIs) {
   QTest::mouseRelease(&box, Qt::LeftButton);
 }
 
-// Whichever window is active: what belongs to the dialog comes up over it.
+// Whichever window is active, those of the dialog come up over it.
 TEST_F(ScreenFitOnADesk, OpensItsWindowsOverIt) {
   showHost(kMiddle);
   dialog->move(available(kRight).topLeft());

@@ -1,26 +1,24 @@
 #pragma once
 
-// The fonts that a program draws with, which are not those of the machine. There are sets of them:
+// The fonts that a program draws with, instead of those of the machine. They come in sets:
 //
 //   dejavu  DejaVu alone, which has no Chinese letters
 //   wqy     DejaVu and WenQuanYi Micro Hei
-//   noto    DejaVu and Noto Sans CJK, whose lines are as tall as those of Chinese fonts of Windows
+//   noto    DejaVu and Noto Sans CJK, whose lines are as tall as those of Chinese Windows fonts
 //
-// Under Windows all are one: the fonts of the system, or under Wine those that its root file system
-// brings along.
+// Under Windows all sets are the same: the fonts of the system, or of Wine's root file system.
 
 namespace brennet::test {
 
-// Has the application that is made next use one of the sets. To be called before it is made, and
-// before another thread starts.
+// Chooses the set for the application. Call it before that is made and before any other thread
+// starts.
 void useFontSet(const char* name);
 
-// The same with the set that the environment names in BRENNET_TEST_FONTS; with "dejavu" where it
-// names none.
+// Chooses the set that BRENNET_TEST_FONTS names, or "dejavu" if that is not set.
 void useFontSetOfTheEnvironment();
 
-// Whether the application has the fonts of the set that was chosen and no others; says on the
-// standard error output what it misses.
+// Whether the application has the fonts of the chosen set and no others. Says on standard error
+// what is wrong.
 [[nodiscard]] bool hasFontsOfTheSet();
 
 }  // namespace brennet::test

@@ -14,7 +14,7 @@ namespace {
 
 struct FontSet {
   const char* name;
-  const char* chineseFamily;    // none where it is empty
+  const char* chineseFamily;    // empty for none
   const char* chineseFamilies;  // what the names of all begin with
   const char* packages;         // of Debian
 };
@@ -28,7 +28,7 @@ constexpr FontSet kSets[] = {
 
 const FontSet* chosen = nullptr;
 
-// Files of Chinese fonts have families for other countries too; and Qt adds names of its own.
+// Files of Chinese fonts also have families for other countries, and Qt adds names of its own.
 bool isExpected(const QString& family) {
   if (family == QLatin1String("Sans Serif") || family == QLatin1String("Serif") ||
       family == QLatin1String("Monospace")) {

@@ -5,8 +5,8 @@
 
 namespace brennet::test {
 
-// The offscreen platform knows the fonts of other systems, but not where Windows has them. Wine
-// uses those of the system below it.
+// The offscreen platform does not know where Windows has its fonts. Wine uses those of the system
+// below it.
 void useFontSet(const char* /*name*/) {
   const QString windows = qEnvironmentVariable("windir");
   for (const QString& folder :

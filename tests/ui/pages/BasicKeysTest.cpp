@@ -1,4 +1,4 @@
-// Keys that both basic pages, and the Orrery window with them, refuse or take.
+// Keys that both basic pages and their Orrery window refuse or take.
 
 #include <gtest/gtest.h>
 
@@ -34,7 +34,8 @@ class BasicKeysOfBothPages : public testing::Test {
 using Pages = testing::Types<CBasicSetting7Widget, CBasicSettingWidget>;
 TYPED_TEST_SUITE(BasicKeysOfBothPages, Pages);
 
-// It is stored where it is pressed, though the field shows nothing.
+// The key is stored where it was pressed, although the field stays empty until the page is opened
+// again.
 TYPED_TEST(BasicKeysOfBothPages, TakeThePasteKeyFromTheChatWheel) {
   for (const char* const name : {"edtSkill_1", "edtGoodsKey_1", "edtMouseWheelUpKey"}) {
     SCOPED_TRACE(name);
@@ -77,7 +78,7 @@ TYPED_TEST(BasicKeysOfBothPages, LeaveSchemesThatTheyCannotEditAlone) {
   }
 }
 
-// The box belongs to the page, which is there even when the Orrery window is not shown.
+// The box belongs to the page, which exists even when the Orrery window is not shown.
 using BasicKeysTest = BasicPage;
 
 TEST_F(BasicKeysTest, RefusesAUsedKeyInTheOrreryWindow) {

@@ -1,4 +1,4 @@
-// The phrases in the table of the advanced page, and the page where there is no scheme.
+// The phrases in the table of the advanced page, and the page without a scheme.
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ class CAdvancedSettingWidgetTableTest : public testing::Test {
   CAdvancedSettingWidget& page() { return page_; }
   QTableView& table() { return find<QTableView>(page_, QStringLiteral("tableStatement")); }
   QModelIndex at(int row, int column = 1) { return table().model()->index(row, column); }
-  // The debug message that comes with it.
+  // Returns the debug message that comes with it.
   QString type(const QModelIndex& index, const QString& text) {
     const CaughtMessages messages;
     EXPECT_TRUE(table().model()->setData(index, text, Qt::EditRole));

@@ -223,7 +223,7 @@ TEST(CBasicSetting7WidgetEditsInADialog, GivesTheOrreryWindowAnOwner) {
     EXPECT_EQ(orrery->windowType(), Qt::Tool);
     EXPECT_TRUE(orrery->windowFlags().testFlag(Qt::FramelessWindowHint));
     EXPECT_EQ(orrery->windowHandle()->transientParent(), dialog.windowHandle());
-    // A modal owner lets it be used.
+    // It can be used although its owner is modal.
     auto* const mana = orrery->findChild<QCheckBox*>(QStringLiteral("chkShowFriendsMana"));
     const bool wasOn = mana->isChecked();
     QTest::mouseClick(orrery->windowHandle(), Qt::LeftButton, Qt::NoModifier,
@@ -251,7 +251,7 @@ TEST_F(CBasicSetting7WidgetEditsTest, CapturesTheKeysOfTheOrreryWindow) {
 
 TEST_F(CBasicSetting7WidgetEditsTest, StoresNothingWhileItShowsAScheme) {
   recommend(scheme);
-  scheme.NumComboKeyIndex = 2;  // its keys are taken: choosing it would be refused
+  scheme.NumComboKeyIndex = 2;  // choosing it would be refused: its keys are taken
   scheme.ShowFManaFlag = 1;     // without health
   scheme.HeroSkillAutocast[3] = true;
   config.editableScheme(1)->HeroSkillKey[0] = KeyWord('X', 0);

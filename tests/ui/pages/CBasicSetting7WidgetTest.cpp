@@ -172,7 +172,7 @@ TEST_F(CBasicSetting7WidgetTest, IsReadInOrder) {
   page.show();
   const QStringList order = tabOrder(page);
   const auto at = [&order](const char* name) { return order.indexOf(QLatin1String(name)); };
-  // Key fields keep Tab as a key: what can be left by it comes before them.
+  // Key fields keep Tab as a key, so whatever it can leave comes before them.
   const char* const kInOrder[] = {
       "btn_skillcast_9",
       "chkSkillHero",

@@ -32,7 +32,7 @@ class CDotA7BasicSettingTest : public Dota7Test {
     return *page->findChild<QAbstractButton*>(QLatin1String(name));
   }
 
-  // What the registry has; nothing: no such value.
+  // What the registry has; nothing if it has no such value.
   std::optional<std::uint32_t> number(std::u16string_view name) {
     const auto value = control(name);
     return value ? platform::numberIn(*value) : std::nullopt;
@@ -120,8 +120,8 @@ TEST_F(CDotA7BasicSettingTest, NamesEachField) {
   }
 }
 
-// Every field of the control key, in both cast modes: the pair of values that it edits, and no
-// other.
+// For each field of the control key, in both cast modes: the pair of values that it edits, and no
+// others.
 TEST_F(CDotA7BasicSettingTest, WritesTheValuesOfEachFieldInBothModes) {
   for (const Dota7Cast cast : {Dota7Cast::Normal, Dota7Cast::Quick}) {
     button(cast == Dota7Cast::Normal ? "chk_Normal" : "chk_QuickUse").setChecked(false);
@@ -243,14 +243,14 @@ TEST_F(CDotA7BasicSettingTest, BeginsWithNormalCast) {
   EXPECT_EQ(number(u"HMoveKeyCodeQC"), std::nullopt);
 }
 
-// Ctrl+V is a paste in the chat of the game.
+// In the game's chat, Ctrl+V pastes.
 TEST_F(CDotA7BasicSettingTest, TakesTheKeyOfTheChatWheelAwayForAPaste) {
   HotkeyConfig config;
   page = std::make_unique<CDotA7BasicSetting>(manager, nullptr, &config);
   const Qt::KeyboardModifiers both = Qt::ControlModifier | Qt::AltModifier;
   for (const Qt::KeyboardModifiers modifiers : {Qt::KeyboardModifiers(Qt::ControlModifier), both}) {
     config.editableScheme()->ChatWheelkey = KeyWord('W', 0);
-    // The second time another field has the key, and the edited one gives its own up.
+    // The second time another field has the key, so the edited one is left without.
     for (const char16_t* const name : {u"edt_HStopKey", u"edt_HHoldKey"}) {
       const auto box = whenBoxIsShown([&](QMessageBox& shown) {
         EXPECT_EQ(shown.text(), QStringLiteral("IDS_KEY_USED"));

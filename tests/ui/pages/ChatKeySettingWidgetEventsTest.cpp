@@ -48,7 +48,7 @@ TEST_F(ChatKeySettingWidgetEventsTest, IsMovedWithTheLeftButton) {
   EXPECT_EQ(dialog().pos(), QPoint(95, 93));
 }
 
-// What hides it may keep the release.
+// Whatever hides the dialog may also get the release.
 TEST_F(ChatKeySettingWidgetEventsTest, IsNotMovedAnyMoreWhenItWasHiddenMeanwhile) {
   dialog().show();
   const QPoint corner = dialog().pos();

@@ -32,8 +32,8 @@ inline QString buddyOf(const QWidget& window, const QString& label) {
   return buddy == nullptr ? QString() : buddy->objectName();
 }
 
-// Does `act`, which has to bring one warning up: about `text`, modal to `parent`, with OK alone.
-// Returns what the warning says below that.
+// Calls `act`, which has to bring up exactly one warning: with this text, a child of `parent`, with
+// an OK button alone. Returns what the warning says below the text.
 template <class Act>
 QString expectWarning(const QWidget& parent, const char* text, Act act) {
   std::optional<NoBoxes> noMore;

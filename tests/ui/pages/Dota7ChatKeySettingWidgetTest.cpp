@@ -109,7 +109,7 @@ TEST_F(Dota7ChatKeySettingWidgetTest, SaysHowToGetToAFieldOfThePage) {
   EXPECT_EQ(keyField(4).text(), QString());
 }
 
-// Ctrl+V is a paste in the chat of the game.
+// In the game's chat, Ctrl+V pastes.
 TEST_F(Dota7ChatKeySettingWidgetTest, TakesTheKeyOfTheChatWheelAwayForAPaste) {
   HotkeyConfig config;
   config.editableScheme()->ChatWheelkey = KeyWord('W', 0);

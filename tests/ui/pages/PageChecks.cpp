@@ -40,13 +40,13 @@ QString spokenName(const QWidget& widget) {
   return button == nullptr ? QString() : button->text();
 }
 
-// Pictures have no room for their texts: labels below them show those.
+// A picture has no room for its text; a label below shows it.
 bool isPicture(const QWidget& widget) {
   return qobject_cast<const QAbstractButton*>(&widget) != nullptr &&
          widget.minimumSize() == widget.maximumSize();
 }
 
-// The width that a widget needs for its text; 0 for what has none, or wraps it.
+// The width that a widget needs for its text; 0 if it has none or wraps it.
 int neededWidth(const QWidget& widget) {
   const auto* const label = qobject_cast<const QLabel*>(&widget);
   const bool hasText = (label != nullptr && !label->wordWrap()) ||
@@ -54,13 +54,13 @@ int neededWidth(const QWidget& widget) {
   return hasText ? widget.sizeHint().width() : 0;
 }
 
-// The height without which it would be cut; of what wraps its text at the width that it has.
+// The least height that cuts nothing; for a widget that wraps its text, at its current width.
 int neededHeight(const QWidget& widget) {
   return widget.hasHeightForWidth() ? widget.heightForWidth(widget.width())
                                     : widget.minimumSizeHint().height();
 }
 
-// For a fault to say where it is.
+// What messages call the widget.
 QString nameOf(const QWidget& widget) {
   const QString name = widget.objectName();
   return name.isEmpty() ? QLatin1String(widget.metaObject()->className()) + spokenName(widget)
@@ -71,8 +71,8 @@ QRect placeIn(const QWidget& window, const QWidget& widget) {
   return {widget.mapTo(&window, QPoint()), widget.size()};
 }
 
-// Widgets that are shown within the same one, which gives each a place of its own. A view with
-// scroll bars lays its parts out by itself, and a window stands where it likes.
+// The children of a widget that have to share its room. The parts of a view with scroll bars may
+// overlap, and windows are anywhere.
 QWidgetList placedIn(const QWidget& parent, const QWidget& window) {
   QWidgetList placed;
   if (qobject_cast<const QAbstractScrollArea*>(&parent) != nullptr) return placed;
@@ -83,14 +83,14 @@ QWidgetList placedIn(const QWidget& parent, const QWidget& window) {
   return placed;
 }
 
-// Where a widget shows something: one that only holds others does so where they are.
+// Where a widget shows something; a plain one shows only its children, inside its margins.
 QRect filledBy(const QWidget& widget) {
   const bool isPlain = widget.metaObject() == &QWidget::staticMetaObject;
   if (!isPlain || widget.layout() == nullptr) return widget.geometry();
   return widget.layout()->contentsRect().translated(widget.pos());
 }
 
-// Of a page that scrolls only a part is seen, and the other parts can be.
+// Whether a page scrolls: it may be larger than its viewport.
 bool isScrolled(const QWidget& widget) {
   const QWidget* const viewport = widget.parentWidget();
   return viewport != nullptr &&

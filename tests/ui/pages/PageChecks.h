@@ -8,7 +8,7 @@
 class QWidget;
 struct QMetaObject;
 
-// What the tests of pages share: real events, and what holds for every page.
+// What the tests of pages share: real events, and what has to hold for every page.
 
 namespace brennet::test {
 
@@ -22,12 +22,12 @@ void releaseKey(QWidget& field, Qt::Key key);
 // The object names of all widgets that Tab reaches in a window that is shown, from the first on.
 [[nodiscard]] QStringList tabOrder(QWidget& window);
 
-// Fails where something else comes after a key field in an order of names: a key field keeps Tab as
-// a key, and nothing behind it would be reached.
+// Fails if anything else follows a key field in an order of names: a key field keeps Tab as a key,
+// so nothing behind it could be reached.
 void expectKeyFieldsLast(const QStringList& order);
 
-// Fails for each control without a name for assistive technology, and for each label with a
-// mnemonic partner missing: a label that stands left of a line edit in its row is its buddy.
+// Fails for each control without a name for assistive technology, and for each label just left of a
+// line edit that is not its buddy.
 void expectAccessible(const QWidget& page);
 
 // Makes all texts longer while it lives: to 150 or 200 percent of their length.
@@ -48,8 +48,8 @@ class LongerTexts : public QTranslator {
   int percent_;
 };
 
-// Fails where the text of a label, check box or button does not fit in, where a widget stands out
-// of its parent, and where two in the same parent overlap.
+// Fails if the text of a label, check box or button does not fit, if a widget sticks out of its
+// parent, or if two in the same parent overlap.
 void expectNothingIsCut(QWidget& window);
 
 }  // namespace brennet::test

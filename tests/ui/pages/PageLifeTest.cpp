@@ -1,4 +1,4 @@
-// Pages that come and go while something of theirs is open.
+// Pages that come and go while a window of theirs is open.
 
 #include <gtest/gtest.h>
 
@@ -70,7 +70,7 @@ TEST(PageLifeBasicPage, HidesTheOrreryWindowWithItself) {
   EXPECT_FALSE(orreryWindow()->isVisible());
 }
 
-// The dialog connects the advanced page's buttons to the quick-chat window, which follows.
+// The dialog connects the advanced page's buttons to the quick-chat window, so both show the same.
 TEST(PageLifeKeySetsOfTwoWindows, StayTogether) {
   HotkeyConfig config;
   CAdvancedSettingWidget page(config, nullptr);

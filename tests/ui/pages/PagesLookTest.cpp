@@ -1,5 +1,5 @@
 // What holds for the look of every page: nothing is cut, whatever the size of letters and the
-// length of texts, and showing other settings costs no new look.
+// length of texts, and no widget is styled again to show other settings.
 
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
@@ -26,7 +26,7 @@ class PagesLook : public testing::Test {
  protected:
   ~PagesLook() override { QApplication::setFont(font_); }
 
-  // In a window in the skin, as large as it asks for and as small as it lets itself be made.
+  // Checks a page in a window with the skin, at the window's preferred size and at its smallest.
   void checkPage(const WindowRow& row) {
     QWidget window;
     auto* const layout = new QVBoxLayout(&window);
@@ -38,13 +38,13 @@ class PagesLook : public testing::Test {
       SCOPED_TRACE(isSmallest ? "as small as it can be" : "as it comes");
       window.resize(isSmallest ? window.minimumSizeHint() : window.sizeHint());
       window.show();
-      // Inside a scroller sizes go from one layout to the next by events.
+      // Inside a scroller, one layout tells the next of its size by an event.
       for (int layouts = 0; layouts < 4; ++layouts) QCoreApplication::processEvents();
       expectNothingIsCut(*page);
     }
   }
 
-  // It has one size only, and wraps its text.
+  // The message box has only one size, and wraps its text.
   static void checkBox() {
     SCOPED_TRACE("box");
     const auto text = [](const char* id) { return QCoreApplication::translate("QObject", id); };
@@ -93,7 +93,7 @@ TEST_F(PagesLook, HasRoomForTextsTwiceAsLong) {
 TEST_F(PagesLook, HasRoomForBothLanguages) {
   for (const char* const language : {"en", "zh_CN"}) {
     SCOPED_TRACE(language);
-    QTranslator catalogue;  // it leaves the application with its life
+    QTranslator catalogue;  // its destructor removes it from the application
     ASSERT_TRUE(catalogue.load(QStringLiteral("brennet_%1.qm").arg(QLatin1String(language)),
                                QStringLiteral(BRENNET_TRANSLATIONS)));
     QCoreApplication::installTranslator(&catalogue);
@@ -118,7 +118,7 @@ TEST(PagesLookCheckForCutTexts, FindsThem) {
   EXPECT_NONFATAL_FAILURE(expectNothingIsCut(window), "QLabel");
 }
 
-// Counts what makes the style look at a widget anew.
+// Counts the events that have a widget styled again.
 class Restyled : public QObject {
  public:
   int count = 0;

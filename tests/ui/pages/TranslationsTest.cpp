@@ -1,4 +1,4 @@
-// The catalogues: whole, fit for their windows, and with all that the windows ask for.
+// The catalogues are complete, fit their windows, and have every text that the windows ask for.
 
 #include <gtest/gtest.h>
 
@@ -67,7 +67,7 @@ class TranslationsTest : public testing::TestWithParam<const char*> {
     return catalogue.translate(context.toUtf8().constData(), source.toUtf8().constData(),
                                comment.toUtf8().constData());
   }
-  // For a fault to say where it is.
+  // What messages call the entry.
   static std::string where(const Entry& entry) {
     return (entry.context + QLatin1String(": ") + entry.source).toStdString();
   }
@@ -126,7 +126,7 @@ TEST_P(TranslationsTest, HasPhrasesThatAreStoredWhole) {
   }
 }
 
-// Asked before the catalogue, it notes what for, and leaves the answer to that.
+// Is asked before the catalogue: records each text and leaves the answer to the catalogue.
 class Asked : public QTranslator {
  public:
   Asked() { QCoreApplication::installTranslator(this); }
@@ -141,7 +141,7 @@ class Asked : public QTranslator {
   mutable QSet<QPair<QString, QString>> entries;
 };
 
-// What Qt asks for on its own account.
+// Whether Qt itself asks for the texts of that context.
 bool isOfQt(const QString& context) {
   return context.startsWith(QLatin1Char('Q')) && context != QLatin1String("QObject") &&
          context != QLatin1String("QDialogButtonBox");

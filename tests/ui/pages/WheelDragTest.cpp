@@ -1,4 +1,4 @@
-// Phrases that are dragged over the chat wheel page, with the events that a window gets.
+// Phrases dragged over the chat wheel page, by the events that a window gets.
 
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -12,7 +12,7 @@ namespace {
 
 class WheelDrag : public WheelPage {
  protected:
-  // What the tree gives for these items when they are dragged.
+  // The data that the tree provides when these items are dragged.
   std::unique_ptr<QMimeData> dragged(const QList<QTreeWidgetItem*>& items) {
     QModelIndexList indexes;
     for (QTreeWidgetItem* const item : items) {
@@ -22,7 +22,7 @@ class WheelDrag : public WheelPage {
     return std::unique_ptr<QMimeData>(tree().model()->mimeData(indexes));
   }
 
-  // Whether the mouse shows that `what` may be dropped there.
+  // Whether `what` is accepted when it is dragged into the window there.
   bool enters(QWidget& target, const QMimeData& what) {
     const QPoint place = target.mapTo(&page(), target.rect().center());
     QDragEnterEvent enter(place, Qt::MoveAction, &what, Qt::LeftButton, Qt::NoModifier);
@@ -35,7 +35,7 @@ class WheelDrag : public WheelPage {
     const bool isWelcome = enters(page(), what);
     const QPoint place = target.mapTo(&page(), target.rect().center());
     QDragMoveEvent move(place, Qt::MoveAction, &what, Qt::LeftButton, Qt::NoModifier);
-    move.setAccepted(isWelcome);  // as the platform has it: what was welcome stays so
+    move.setAccepted(isWelcome);  // as platforms do: each event starts with the last answer
     QApplication::sendEvent(page().windowHandle(), &move);
     return move.isAccepted();
   }
@@ -44,7 +44,7 @@ class WheelDrag : public WheelPage {
     const QPoint place = target.mapTo(&page(), target.rect().center());
     QDropEvent event(place, Qt::MoveAction, &what, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(page().windowHandle(), &event);
-    // The tree moves by default: it would lose a phrase that somebody accepts.
+    // The tree moves by default: it would lose a phrase if a drop of it were accepted.
     EXPECT_FALSE(event.isAccepted());
   }
 };

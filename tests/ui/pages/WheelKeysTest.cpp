@@ -1,4 +1,4 @@
-// Clicks on phrases, and keys for the chat wheel, as they come from a player.
+// Clicks on phrases and keys for the chat wheel, as a player makes them.
 
 #include "tests/ui/pages/WheelPage.h"
 

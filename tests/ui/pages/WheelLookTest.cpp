@@ -1,4 +1,4 @@
-// Where things stand on the chat wheel page, whatever its texts are.
+// Where things are on the chat wheel page, whatever its texts.
 
 #include <QFile>
 #include <QFontInfo>
@@ -12,7 +12,7 @@
 namespace brennet::test {
 namespace {
 
-// Doubles each text and breaks it in the middle, in the way of catalogues.
+// Doubles each text, with a line break in the middle written as catalogues write it.
 class TwoLines : public QTranslator {
  public:
   TwoLines() { QCoreApplication::installTranslator(this); }
@@ -28,7 +28,7 @@ class TwoLines : public QTranslator {
 
 class WheelLook : public WheelPage {
  protected:
-  // The page in the skin, as large as it wants to be.
+  // Shows the page with the skin, at its preferred size.
   void showInSkin() {
     ASSERT_TRUE(loadStyleSheet(page(), QStringLiteral(":/skin/war3key.qss")));
     page().resize(page().sizeHint());

@@ -15,7 +15,7 @@
 
 namespace brennet::test {
 
-// The chat wheel page on settings of its own. It is made when it is first asked for.
+// The chat wheel page on settings of its own, made when it is first asked for.
 class WheelPage : public testing::Test {
  protected:
   CChatRouletteSettingWidget& open() {
@@ -39,7 +39,7 @@ class WheelPage : public testing::Test {
 
   QTreeWidgetItem& category(int n) { return *tree().topLevelItem(n); }
   QTreeWidgetItem& phrase(int branch, int n) { return *category(branch).child(n); }
-  // A click of the mouse, as a player does it.
+  // Clicks as a player does, with the mouse.
   void click(QTreeWidgetItem& item) {
     tree().scrollToItem(&item);
     QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, tree().visualItemRect(&item).center());

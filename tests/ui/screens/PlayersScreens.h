@@ -9,18 +9,18 @@ class QWidget;
 namespace brennet::test {
 
 struct ScreenRow {
-  const char* name;  // fit for the name of a file
+  const char* name;  // may be part of a file name
   ScreenShape shape;
 };
 
 // The screens that players have.
 [[nodiscard]] const std::vector<ScreenRow>& playersScreens();
 
-// Whether the page of a window that is shown has a scroll bar.
+// Whether the page of a window has a scroll bar; the window has to be shown.
 [[nodiscard]] bool isScrolled(const QWidget& window);
 
-// Scroll bars come when layouts inside each other have told each other of their sizes: handles what
-// they have to say.
+// Handles the events by which nested layouts tell each other their sizes: only then scroll bars
+// come.
 void settleLayouts();
 
 }  // namespace brennet::test

@@ -9,22 +9,21 @@ class QWidget;
 
 namespace brennet::test {
 
-// A screen as its settings describe it.
+// A screen, as the system's settings describe it.
 struct ScreenShape {
   QSize pixels;
-  int percent = 100;       // how much larger than its pixels everything on it is
-  QPoint corner = {0, 0};  // of the pixels of all screens together
+  int percent = 100;       // how many pixels a hundred units take
+  QPoint corner = {0, 0};  // in the pixels of all screens together
 
-  // What windows have on it, in the units that they count in: a task bar of 48 is below.
+  // The room for windows, in units: all but a task bar of 48 at the bottom.
   [[nodiscard]] QSize available() const;
 };
 
-// Puts screens in the place of the one that the platform without a screen has, as long as it lives;
-// the first one is the primary screen. What `percent` says is done by Qt as for a host that lets it
-// scale.
+// Replaces the one screen of the offscreen platform as long as it lives; the first one is the
+// primary screen. Qt scales by `percent`, as in a host that lets it scale.
 //
-// That platform does not tell Qt which screen a window has come to. So Qt counts on in the units of
-// the first one; where a window is in truth, say its pixels.
+// That platform does not tell Qt which screen a window has moved to. So Qt goes on counting in the
+// units of the previous one; `pixelsOf` says where a window really is.
 class TestScreens {
  public:
   explicit TestScreens(const QVector<ScreenShape>& shapes);
@@ -35,16 +34,15 @@ class TestScreens {
   [[nodiscard]] QScreen& at(int number) const;
   // The place of a window in the pixels of all screens together.
   [[nodiscard]] static QRect pixelsOf(const QWidget& window);
-  // The part of the screen that is free for windows, likewise.
+  // The part of that screen that is free for windows, in the same pixels.
   [[nodiscard]] QRect availablePixels(int number) const;
-  // Somebody plugs another one in.
+  // Somebody plugs in another screen.
   void plug(const ScreenShape& shape);
-  // The system moves the window there, as when the player drags it, and tells Qt the screen.
+  // The system moves the window there, as when the player drags it, and tells Qt the new screen.
   void drag(QWidget& window, int number, QPoint corner) const;
-  // Somebody pulls the plug: what was on it goes where Qt puts it.
+  // Somebody unplugs that screen: its windows go where Qt puts them.
   void unplug(int number);
-  // Another task bar or another resolution leaves this part of the screen, in units, from its
-  // corner.
+  // Another task bar or resolution leaves this part of the screen, in units from its corner.
   void setAvailable(int number, const QRect& units);
 
  private:

@@ -37,7 +37,7 @@ std::unique_ptr<QWidget> makePage() {
   return inDialog([](QWidget* parent) { return new Page(settings(), parent); });
 }
 
-// After a preset was refused: two of its keys are held by fields.
+// The page after it refused a preset, because fields hold two of its keys.
 std::unique_ptr<QWidget> makeRefusal() {
   auto window = makePage<CBasicSetting7Widget>();
   HotkeyScheme& scheme = *settings().editableScheme();

@@ -22,8 +22,8 @@ constexpr Icon kIcons[] = {{"warning", QMessageBox::Warning},
                            {"question", QMessageBox::Question},
                            {"plain", QMessageBox::NoIcon}};
 
-// Boxes wrap texts at half of the screen, which is small here, and smaller still where it counts as
-// one of high density. So the text asks for the room that it has on a large one.
+// Boxes wrap their texts at half of the screen's width, which is little here, and less at a high
+// density. So the text asks for the room that it has on a large screen.
 void keepWidth(const CMsgBox& box) {
   constexpr int kTextRoom = 400;
   auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
@@ -43,7 +43,7 @@ std::unique_ptr<QWidget> makeBox(QMessageBox::Icon icon, QMessageBox::StandardBu
   return box;
 }
 
-// With what has the keys of a set, below the text.
+// A box that says below its text what has the keys of a set.
 std::unique_ptr<QWidget> makeRefusal() {
   const std::vector<TakenKey> taken = {
       {KeyWord('1', KeyWord::kAlt), {KeyConflict::Reason::Held, {SettingId::HeroSkillKey, 8}}},

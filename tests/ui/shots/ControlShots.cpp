@@ -1,4 +1,4 @@
-// The controls of the settings dialogs in the skin, without the dialogs.
+// The controls of the settings dialogs with the skin, without the dialogs.
 
 #include <QCheckBox>
 #include <QComboBox>

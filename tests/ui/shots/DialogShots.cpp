@@ -52,7 +52,7 @@ std::unique_ptr<QWidget> makeDialogWithNotice() {
   return dialog;
 }
 
-// Where the settings file names a setting group that there is not.
+// The dialog on a settings file that names a setting group that does not exist.
 std::unique_ptr<QWidget> makeDialogWithoutGroup() {
   static HotkeyConfig config;
   static Dota7KeyInfoManager manager;

@@ -13,7 +13,7 @@ std::unique_ptr<QWidget> inDialog(const std::function<QWidget*(QWidget*)>& makeP
   auto* const layout = new QVBoxLayout(window.get());
   layout->addWidget(makePage(window.get()));
   loadStyleSheet(*window, QStringLiteral(":/skin/war3key.qss"));
-  // Windows are not made as large by themselves on the small screen that they are drawn for.
+  // By themselves, windows would not become that large on so small a screen.
   window->resize(window->sizeHint());
   return window;
 }

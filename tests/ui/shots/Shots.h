@@ -15,7 +15,7 @@ struct Shot {
   std::function<std::unique_ptr<QWidget>()> make;
 };
 
-// A page on the background of the settings dialog, in the skin.
+// A page with the skin, on the background of the settings dialog.
 [[nodiscard]] std::unique_ptr<QWidget> inDialog(const std::function<QWidget*(QWidget*)>& makePage);
 
 // The settings dialog, for screens on which its page scrolls.

@@ -1,4 +1,4 @@
-// The chat wheel page: as it comes, in a wide window, and with letters of double size.
+// The chat wheel page: as it comes up, in a wide window, and with letters of double size.
 
 #include <QApplication>
 #include <QVBoxLayout>
@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kLetters = 12;  // pixels, as Windows has them
 
-// The page looks at the settings as long as it is shown.
+// The page refers to the settings as long as it is shown.
 class Window : public QWidget {
  public:
   Window(const HotkeyConfig& settings, int letters)
@@ -36,7 +36,7 @@ class Window : public QWidget {
 
  private:
   HotkeyConfig settings_;
-  QFont font_;  // of the application, before
+  QFont font_;  // the application's, before
 };
 
 HotkeyConfig someSettings() {

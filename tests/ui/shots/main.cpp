@@ -1,8 +1,8 @@
 // Takes pictures of the windows, without a screen: brennet-shots FOLDER
-// Each is taken in each language as screens of three densities show it: NAME.zh_CN.png,
+// There is one for each window, language and density of screen: NAME.zh_CN.png,
 // NAME.zh_CN@1.5x.png, NAME.zh_CN@2x.png, NAME.en.png and so on. The fonts are those of the set
-// "wqy", unless BRENNET_TEST_FONTS names another. Where the page of the settings scrolls on a
-// screen that players have, there is a picture of that too: dialog-1024x768.en.png.
+// "wqy", unless BRENNET_TEST_FONTS names another. For each screen of players on which the settings
+// scroll, there is a picture of that as well: dialog-1024x768.en.png.
 
 #include <QApplication>
 #include <QDir>
@@ -37,8 +37,8 @@ bool save(QWidget& window, const QString& file) {
   return false;
 }
 
-// The windows on each screen on which they scroll. Units count, so
-// the screens are of as many pixels as they have units.
+// Takes the windows on each screen on which they scroll. Only units matter, so each screen gets as
+// many pixels as it has units.
 bool takeWhatScrolls(const QDir& folder, const QString& language) {
   for (const brennet::test::ScreenRow& row : brennet::test::playersScreens()) {
     const brennet::test::TestScreens screens({{row.shape.pixels * 100 / row.shape.percent}});
@@ -68,14 +68,14 @@ bool takeAll(const QList<Shot>& shots, const QDir& folder, const QString& langua
   return !suffix.isEmpty() || takeWhatScrolls(folder, language);
 }
 
-// Qt looks at the density when an application starts, so each has one of its own.
+// Qt reads the density when an application starts, so each density needs an application.
 bool takeAtScale(const char* scale, int argc, char** argv) {
   qputenv("QT_SCALE_FACTOR", scale);
   const QApplication application(argc, argv);
   if (!brennet::test::hasFontsOfTheSet()) return false;
   QApplication::setStyle(QStringLiteral("fusion"));
   const brennet::test::TestScreens screens({{QSize(1920, 1080) * QByteArray(scale).toDouble()}});
-  // As large as a host on Windows has it: 9 points.
+  // The size in a host on Windows.
   QFont font = QApplication::font();
   font.setPointSizeF(9);
   QApplication::setFont(font);
@@ -109,7 +109,7 @@ int main(int argc, char** argv) {
   const QString registry = folder.filePath(QStringLiteral("registry.reg"));
   QFile::copy(QStringLiteral(BRENNET_SAMPLE_DATA "/Tollamere.reg"), registry);
   qputenv("BRENNET_REGISTRY", QFile::encodeName(registry));
-  // As the sample host has it.
+  // As in the sample host.
   QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
   for (const char* const scale : {"1", "1.5", "2"}) {
     if (!takeAtScale(scale, argc, argv)) return 1;

@@ -1,4 +1,4 @@
-// The pictures are what their sources draw, on every machine.
+// The pictures are what their sources draw, on any machine.
 
 #include <gtest/gtest.h>
 
@@ -34,7 +34,7 @@ TEST(Pictures, AreAllThereAre) {
   EXPECT_EQ(found, expected);
 }
 
-// Another decoder agrees with the encoder about each pixel.
+// Another library's decoder agrees with our encoder about each pixel.
 TEST(Pictures, ReadBackAsTheyWereDrawn) {
   for (const Picture& picture : kPictures) {
     const Canvas canvas = picture.draw();

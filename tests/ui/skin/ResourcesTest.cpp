@@ -1,4 +1,4 @@
-// What is below ":/skin", and that the style sheets name nothing else.
+// What is below ":/skin"; the style sheets name nothing else.
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ struct Picture {
   QSize size;
 };
 
-// States are stacked: their number times the height of one.
+// The states of a picture are stacked: its height is their number times the height of one.
 const Picture kPictures[] = {
     {"auto", {13, 2 * 13}},
     {"bg", {85, 3 * 26}},

@@ -1,4 +1,5 @@
-// What the message box looks like: colours at places, not whole pictures, which fonts change.
+// What the message box looks like. The tests look at colours at certain places, because whole
+// pictures change with the fonts.
 
 #include <gtest/gtest.h>
 
@@ -78,7 +79,7 @@ TEST(CMsgBoxLook, IsATitleStripOf30PixelsOverItsWholeWidth) {
   EXPECT_EQ(picture.pixel(right, 30), kPage);
 }
 
-// The mouse takes the box in its upper 30 pixels, however tall the strip is (HitTestTest.cpp).
+// The box can be dragged by its upper 30 pixels, however tall the strip is.
 TEST(CMsgBoxLook, HasATallerStripWhereTheLettersOfTheTitleAreTaller) {
   const QFont font = QApplication::font();
   QFont large = font;
@@ -169,7 +170,7 @@ TEST(CMsgBoxLook, IsTheSameInADialogWithTheOtherSheet) {
   EXPECT_TRUE(below.picture() == expected);
 }
 
-// The four states of the picture, without being stretched.
+// The picture has four states, and none is stretched.
 TEST(CMsgBoxLookCloseButton, ShowsItsStates) {
   ShownBox shown;
   const QImage states(QStringLiteral(":/skin/image/closebtn_4s.png"));
@@ -189,7 +190,7 @@ TEST(CMsgBoxLookCloseButton, ShowsItsStates) {
   expectState(20, QColor(0x41, 0x4E, 0x6C), "pressed");
   QTest::mouseMove(&shown.box(), QPoint(20, 50));
   button->setDown(false);
-  // Elsewhere, so that nothing is clicked, and the next test finds no button down.
+  // Outside the button, so that nothing is clicked and the next test finds no mouse button down.
   QTest::mouseRelease(&shown.box(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 50));
   button->setEnabled(false);
   expectState(30, QColor(kStrip), "disabled");

@@ -1,4 +1,4 @@
-// What the message box is and answers; clicks and keys come as from a player.
+// What the message box is and answers; clicks and keys are those of a player.
 
 #include "ui/window/CMsgBox.h"
 
@@ -21,7 +21,7 @@ constexpr auto kOk = QMessageBox::Ok;
 constexpr auto kCancel = QMessageBox::Cancel;
 constexpr QMessageBox::StandardButtons kBoth = kOk | kCancel;
 
-// The answer when `act` is done with the box.
+// Asks with a box, calls `act` with it, and returns the answer.
 QMessageBox::StandardButton ask(QMessageBox::StandardButtons buttons,
                                 QMessageBox::StandardButton defaultButton,
                                 std::function<void(QMessageBox&)> act) {
@@ -205,14 +205,14 @@ TEST(CMsgBoxButtons, AreWiderByTheirOwnMargins) {
 
 TEST(CMsgBoxButtons, HaveNoIcons) {
   CMsgBox box(QMessageBox::Warning, {}, {}, kOk);
-  // As on a desktop whose boxes have some.
+  // On some desktops the buttons of boxes have icons.
   auto* const button = qobject_cast<QPushButton*>(box.button(kOk));
   button->setIcon(QPixmap(16, 16));
   box.setButtonTexts();
   EXPECT_TRUE(button->icon().isNull());
 }
 
-// Answers with the context and the text, so that both show.
+// Translates each text into its context and the text, so that tests see both.
 class Catalogue : public QTranslator {
  public:
   [[nodiscard]] bool isEmpty() const override { return false; }

@@ -1,4 +1,4 @@
-// How large a page that may scroll asks to be.
+// Which size a page asks for that may scroll.
 
 #include "ui/window/CPageScroller.h"
 
@@ -42,7 +42,7 @@ TEST_F(CPageScrollerTest, IsAsLargeAsItsPageWithinTheLimit) {
       {{1000, 59}, {100 + kBar, 59}},
       {{99, 1000}, {99, 60 + kBar}},
       {{100 + kBar, 30}, {100 + kBar, 30}},
-      // The one bar makes the other one necessary.
+      // One bar makes the other one necessary.
       {{100 + kBar - 1, 59}, {100 + kBar - 1, 59}},
       {{99, 60 + kBar - 1}, {99, 60 + kBar - 1}},
       {{99, 60 + kBar}, {99, 60 + kBar}},
@@ -56,7 +56,7 @@ TEST_F(CPageScrollerTest, IsAsLargeAsItsPageWithinTheLimit) {
   }
 }
 
-// What is asked for is enough: in it the page has no bar that its limit does not force.
+// At the size it asks for, a page has only the bars that its limit makes necessary.
 TEST_F(CPageScrollerTest, HasTheBarsThatItsLimitAsksFor) {
   struct {
     QSize limit;

@@ -1,4 +1,4 @@
-// What events throw does not get into Qt, and everything else is as without a guard.
+// Nothing that events throw gets into Qt; everything else is as without a guard.
 
 #include "ui/window/EventGuard.h"
 
@@ -62,7 +62,7 @@ void whenItRuns(QDialog& dialog, const std::function<void()>& act) {
   QTimer::singleShot(0, &dialog, act);
 }
 
-// A run that nothing ends would stop all tests.
+// Ends a modal run that nothing else ends; it would stop all tests.
 void whenItHangs(QDialog& dialog) {
   constexpr int kPatienceMs = 20'000;
   QTimer::singleShot(kPatienceMs, &dialog, [&dialog] { dialog.done(-1); });
@@ -159,7 +159,7 @@ class TakesAllKeys : public QObject {
   }
 };
 
-// Also where an object is put somewhere else when it has them.
+// Also when an object gets another parent after its filters.
 TEST(EventGuard, ComesBehindAllOtherEventFilters) {
   TakesAllKeys filter;
   GuardedDialog dialog;

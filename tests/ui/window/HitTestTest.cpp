@@ -109,7 +109,7 @@ TEST(HitTestOfABox, IsDraggedByItsTopStripAlone) {
       {{"in the strip", {300, 206}, Hit::Client}, {"below the strip", {300, 237}, Hit::Client}});
 }
 
-// What Windows expects is a number.
+// Windows expects a number.
 TEST(HitTest, AnswersWithTheNumbersOfWindows) {
   EXPECT_EQ(static_cast<int>(Hit::NotHandled), -2);
   EXPECT_EQ(static_cast<int>(Hit::Client), 1);

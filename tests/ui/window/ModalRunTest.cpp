@@ -1,4 +1,4 @@
-// A modal run ends in each way in which its window can go.
+// A modal run ends, in whichever way its window goes.
 
 #include "ui/window/ModalRun.h"
 
@@ -30,7 +30,7 @@ TEST(ModalRun, EndsWhenItsWindowGoes) {
   };
   for (const auto& row : kRows) {
     QDialog dialog;
-    dialog.setResult(QDialog::Accepted);  // of a run before
+    dialog.setResult(QDialog::Accepted);  // as if from an earlier run
     QTimer::singleShot(0, &dialog, [&] {
       EXPECT_EQ(QApplication::activeModalWidget(), &dialog) << row.name;
       row.end(dialog);

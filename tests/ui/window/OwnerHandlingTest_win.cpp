@@ -1,4 +1,4 @@
-// What happens to the windows of a host while a dialog of ours runs before them.
+// What happens to the windows of a host while a dialog of ours runs in front of them.
 
 #include <windows.h>
 
@@ -57,7 +57,7 @@ Look popupOf(const HostWindow& owner) {
   return {.style = WS_POPUP | WS_CAPTION, .owner = owner.handle()};
 }
 
-// Makes a kind of window known, whose windows use `answer` for their messages.
+// Registers a class of windows that answer their messages by `answer`.
 void registerClass(const wchar_t* name, WNDPROC answer) {
   WNDCLASSW type{};
   type.lpfnWndProc = answer;
@@ -66,7 +66,7 @@ void registerClass(const wchar_t* name, WNDPROC answer) {
   ASSERT_NE(RegisterClassW(&type), 0);
 }
 
-// Runs a dialog, asks `look` meanwhile and ends the dialog with `result`.
+// Runs a dialog, calls `look` meanwhile and ends the dialog with `result`.
 int run(int result, const std::function<void()>& look) {
   QDialog dialog;
   QTimer::singleShot(0, [&] {
@@ -140,7 +140,7 @@ TEST_F(OwnerHandling, LeavesDisabledWhatWasDisabled) {
   EXPECT_EQ(GetActiveWindow(), popup.handle());
 }
 
-// Others give the mouse back by themselves when they are disabled.
+// Keeps the mouse when the window is disabled; other windows let go of it then.
 LRESULT CALLBACK keepTheMouse(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   return message == WM_CANCELMODE ? 0 : DefWindowProcW(window, message, wParam, lParam);
 }
@@ -178,7 +178,7 @@ TEST_F(OwnerHandling, PassesOverToolWindowsAndToolTips) {
   EXPECT_EQ(GetActiveWindow(), host.handle());
 }
 
-// A host may put a window that is active into another one.
+// A host may make the active window the child of another one.
 TEST_F(OwnerHandling, TakesTheParentInPlaceOfAChild) {
   const HostWindow host;
   const HostWindow inner;
@@ -195,10 +195,10 @@ TEST_F(OwnerHandling, TakesTheParentInPlaceOfAChild) {
   EXPECT_EQ(GetActiveWindow(), host.handle());
 }
 
-// The dialog on settings of its own, run before a host's window.
+// The dialog on settings of its own, run in front of a host's window.
 class OwnerHandlingBeforeAHost : public OwnerHandling {
  protected:
-  // Does `look` when the dialog has come up, and cancels it then.
+  // Runs the dialog, calls `look` when it has come up, and cancels it.
   int runSettings(const std::function<void()>& look) {
     QTimer::singleShot(0, [&] {
       look();

@@ -16,7 +16,6 @@ class StyleSheetTest : public testing::Test {
  protected:
   StyleSheetTest() { widget_.setStyleSheet(QLatin1String(kBefore)); }
 
-  // A file with that content.
   QString fileWith(const char* content) {
     const auto path = folder_ / "sheet.qss";
     test::writeBytes(path, content);
@@ -42,7 +41,7 @@ TEST_F(StyleSheetTest, ThatIsNotThereIsToldAndChangesNothing) {
   EXPECT_EQ(widget_.styleSheet(), QLatin1String(kBefore));
 }
 
-// Qt says on its output where a sheet cannot be parsed, which fails the test.
+// Qt prints a warning if a sheet cannot be parsed, and that fails the test.
 TEST_F(StyleSheetTest, OfTheSkinIsUnderstoodByQt) {
   for (const char* const name : {":/skin/war3key.qss", ":/skin/msgbox.qss"}) {
     ASSERT_TRUE(loadStyleSheet(widget_, QLatin1String(name)));

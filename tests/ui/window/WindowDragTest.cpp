@@ -1,4 +1,4 @@
-// Windows that are dragged: what is at a point, what Windows is answered, what a press does.
+// Windows that are dragged: what is at a point, what Windows is told, what a press does.
 
 #include "ui/window/WindowDrag.h"
 
@@ -20,7 +20,7 @@
 namespace brennet {
 namespace {
 
-// A window with one thing of each kind, side by side on a form.
+// A window with one widget of each kind, side by side on a form.
 class WindowDragTest : public testing::Test {
  protected:
   WindowDragTest() {
@@ -185,14 +185,14 @@ TEST_F(WindowDragOfABox, TakesALeftPressInItsTopStripAlone) {
   EXPECT_FALSE(isTaken(box_, {20, 10}, Qt::RightButton));
 }
 
-// What is sent to a window while the left button is held, or not.
+// Sends a mouse event to the window; `held` are the buttons that are down.
 void sendMouse(QWidget& window, QEvent::Type type, QPoint place, Qt::MouseButtons held) {
   const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
   QMouseEvent event(type, place, window.mapToGlobal(place), button, held, Qt::NoModifier);
   QCoreApplication::sendEvent(&window, &event);
 }
 
-// Waits for the mouse: a drag that has begun waits for nothing any more.
+// Whether the window waits for the mouse to move; once a drag has begun, it does not.
 bool waits(const QWidget& window) {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   return !window.windowHandle()

@@ -1,4 +1,4 @@
-// The message of Windows as its own header has it.
+// The message of Windows, as its own header declares it.
 
 #include <windows.h>
 
