@@ -1,4 +1,4 @@
-// What 32 bits mean: the sizes that the interface counts on, and files that do not fit.
+// What 32 bits mean: the sizes that the interface relies on, and files that do not fit.
 
 #include <windows.h>
 // gtest.h comes after windows.h, which would undo its macros.
@@ -62,7 +62,7 @@ TEST_F(AddressSpace, RefusesFilesThatDoNotFitAndGoesOn) {
   }
 }
 
-// A size of 32 bits takes the file for the whole one that it starts with.
+// Counted in 32 bits, the file has just the size of the valid one at its start.
 TEST_F(AddressSpace, RefusesMoreBytesThanASizeCounts) {
   constexpr std::uint64_t kSizes = std::uint64_t{1} << 32U;
   writeBytes(settings_, kDefaults);

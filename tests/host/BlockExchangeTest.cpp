@@ -15,8 +15,8 @@ using BlockExchange = HostFixture;
 
 constexpr std::size_t kRecord = sizeof(HotkeyBlock);
 
-// A caller's memory that announces `announced` bytes and ends in front of a forbidden page, so that
-// one byte too many is a crash.
+// A caller's memory of `provided` bytes, which announces `announced` bytes. It ends at a forbidden
+// page, so that touching one byte too many crashes.
 class CallerMemory {
  public:
   CallerMemory(std::size_t provided, std::uint32_t announced)

@@ -7,7 +7,7 @@
 namespace brennet::test {
 namespace {
 
-// Does `act` once with the modal window that comes up after it was made.
+// Calls `act` once, with the first modal window that comes up after this was made.
 class NextWindow {
  public:
   explicit NextWindow(std::function<void(QDialog&)> act)
@@ -34,7 +34,7 @@ class NextWindow {
   bool isShown_ = false;
 };
 
-// A test that asks for what is not there is wrong from there on.
+// Ends the program if there is no such widget: the rest of the test would mean nothing.
 template <class Widget>
 Widget& find(QWidget& window, const char* name) {
   auto* const found = window.findChild<Widget*>(QLatin1String(name));

@@ -1,6 +1,6 @@
-// The settings dialog while memory runs out: each allocation of the component fails, once and from
-// there on, from the first window to the last. The host gets false and its old settings, and the
-// dialog opens again.
+// The settings dialog while memory runs out: from the first window to the last, each allocation of
+// the component fails, alone or with all that follow. The host gets false and its old settings, and
+// the dialog opens again.
 
 #include <gtest/gtest.h>
 
@@ -49,11 +49,11 @@ void answer(QMessageBox::StandardButton button) {
   static_cast<QMessageBox&>(topWindow()).button(button)->click();
 }
 
-// All that a player does, from one window to the next; the last step ends the dialog.
+// Everything that the player does, from window to window; the last step ends the dialog.
 using Step = void (*)();
 constexpr Step kSteps[] = {
     [] { press("edtSkill_3", Qt::Key_E); },
-    [] { press("edtSkill_4", Qt::Key_E); },  // is taken: a box comes up
+    [] { press("edtSkill_4", Qt::Key_E); },  // the key is taken: a box comes up
     [] { answer(QMessageBox::Ok); },
     [] { click(topWindow(), "btn_skillcast_3"); },
     [] { click(topWindow(), "chkGroupKey1"); },
@@ -85,8 +85,8 @@ constexpr Step kSteps[] = {
     [] { click(topWindow(), "btnOK"); },
 };
 
-// One step after the other, each from the event loop of the window that is open then. The timers
-// are the dialog's, so that what fails in a step fails as in one of its own handlers.
+// Does one step after the other, each from the event loop of the window that is open then. The
+// timers are the dialog's, so that a step fails as the dialog's own handlers would.
 void play(QDialog& dialog, std::size_t step) {
   if (step == std::size(kSteps)) return;
   auto* const timer = new QTimer(&dialog);
@@ -121,7 +121,7 @@ class DialogOutOfMemory : public DialogFixture, public testing::WithParamInterfa
  protected:
   DialogOutOfMemory() {
     renewRegistry();
-    play();  // what is made once in a process is there from now on
+    play();  // from now on, everything that a process makes only once exists
     reset();
     before_ = filled();
   }
@@ -148,7 +148,7 @@ class DialogOutOfMemory : public DialogFixture, public testing::WithParamInterfa
     return brennet_.ShowSettingsDialog(&saved_, 4711);
   }
 
-  // Where the settings were saved, all is new; else all is as it was.
+  // If the settings were saved, everything is new; otherwise everything is as it was.
   void expectOneState(bool isConfirmed, long point) {
     EXPECT_EQ(folder_.listing(), files_) << point;
     const HotkeyBlock now = filled();
@@ -159,7 +159,7 @@ class DialogOutOfMemory : public DialogFixture, public testing::WithParamInterfa
     if (saved_) {
       EXPECT_NE(readBytes(settings_).find("glhf"), std::string::npos) << point;
     }
-    // Giving back what stood in the registry takes memory, too.
+    // Restoring the registry takes memory as well.
     if (GetParam() == Lasts::Once) {
       EXPECT_EQ(registry_->content() == registryBefore_, !isConfirmed) << point;
     }

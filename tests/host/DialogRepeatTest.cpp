@@ -1,4 +1,4 @@
-// The settings dialog again and again in one host: what it takes it gives back.
+// The settings dialog again and again in one host: it gives back whatever it takes.
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -13,7 +13,7 @@ namespace brennet::test {
 namespace {
 
 constexpr int kRounds = 200;
-// So often the player looks at everything that the dialog has, and confirms; else he cancels.
+// In one of so many rounds the player looks at everything and confirms; in the others he cancels.
 constexpr int kLookEach = 10;
 
 class DialogRepeat : public DialogFixture {

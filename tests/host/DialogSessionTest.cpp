@@ -24,7 +24,7 @@ class DialogSession : public DialogFixture {
     registry_.createKey(kDota7PhrasesPath);
   }
 
-  // Something on each side: a key of the command card, a preset, phrases and a key of DotA 7.
+  // A bit of everything: a key of the command card, a preset, phrases and a key of DotA 7.
   static void changeMuch(QDialog& dialog) {
     QWidget& page = basicPage(dialog);
     pressKey(field(page, "edtSkill_3"), Qt::Key_E, Qt::ControlModifier);
@@ -35,7 +35,7 @@ class DialogSession : public DialogFixture {
     pressKey(field(dialog, "edt_HStopKey"), Qt::Key_X);
   }
 
-  // As a host does it, from within its event loop.
+  // Calls `act` as a host would, from within its event loop.
   static void inAnApplication(const std::function<void()>& act) {
     QTimer::singleShot(0, [&] {
       act();
@@ -78,7 +78,7 @@ TEST_F(DialogSession, KeepsTheOldSettingsWithoutAFileToSaveThemIn) {
   EXPECT_EQ(std::memcmp(&block, &after, sizeof(block)), 0);
 }
 
-// The windows may be those of the library that is loaded, so its class is known by name alone.
+// The windows may be those of a loaded library, so only the name of the notice's class is known.
 bool tellsOfTheLoad(const QDialog& dialog) {
   const auto widgets = dialog.findChildren<QWidget*>();
   return std::any_of(widgets.begin(), widgets.end(), [](const QWidget* widget) {
@@ -121,7 +121,7 @@ TEST_F(DialogSession, EditsTheSchemeThatThePlayerChooses) {
   EXPECT_NE(readBytes(settings_).find("index=\"1\""), std::string::npos);
 }
 
-// The host has other ways to end the dialog than the player has.
+// A host can end the dialog in ways that a player cannot.
 TEST_F(DialogSession, ChangesNothingWhenTheHostEndsIt) {
   struct Row {
     const char* name;
@@ -165,7 +165,7 @@ TEST_F(DialogSession, ChangesNothingWhenTheHostEndsIt) {
   }
 }
 
-// What a timer of the host does meanwhile must not cost the player his changes.
+// Whatever a timer of the host does meanwhile, the player's changes are not lost.
 TEST_F(DialogSession, IsNotDisturbedByItsHost) {
   EXPECT_TRUE(open("btnOK", [this](QDialog& dialog) {
     changeMuch(dialog);

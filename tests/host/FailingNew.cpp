@@ -39,7 +39,7 @@ WithoutFailures::~WithoutFailures() {
 
 namespace {
 
-// Null where there is none.
+// Null if there is no memory.
 void* allocate(std::size_t size, const void* caller) {
   if (brennet::test::FailingAllocation::failsNow(caller)) return nullptr;
   return std::malloc(size == 0 ? 1 : size);
@@ -53,7 +53,7 @@ void* allocateOrThrow(std::size_t size, const void* caller) {
 
 }  // namespace
 
-// All forms, because the sanitizers want what one of them gave back by its own counterpart.
+// All forms: the sanitizers want memory to be freed by the counterpart of what allocated it.
 void* operator new(std::size_t size) {
   return allocateOrThrow(size, __builtin_return_address(0));
 }

@@ -4,15 +4,15 @@
 
 namespace brennet::test {
 
-// Whose allocations fail: those of the component and of its tests, or also those of other
-// libraries. On Windows these have an operator new of their own in any case.
+// Whose allocations fail: all, or only those of the component and its tests, not those of other
+// libraries. On Windows those have an operator new of their own in any case.
 enum class Whose { All, Ours };
 
-// Whether one allocation fails, or each from it on.
+// Whether only one allocation fails, or all that follow as well.
 enum class Lasts { Once, ForEver };
 
-// Counts the calls of operator new as long as it lives, and has the one throw std::bad_alloc that
-// `number` others precede. There is one of these at a time.
+// Counts the calls of operator new as long as it lives. After `number` calls that succeed, the next
+// one throws std::bad_alloc. Only one object at a time may exist.
 class FailingAllocation {
  public:
   FailingAllocation(long number, Lasts lasts, Whose whose = Whose::All);
@@ -20,7 +20,7 @@ class FailingAllocation {
   FailingAllocation(const FailingAllocation&) = delete;
   FailingAllocation& operator=(const FailingAllocation&) = delete;
 
-  // The number of calls up to now; those that failed are among them.
+  // The number of calls so far, including those that failed.
   [[nodiscard]] long calls() const { return calls_; }
   [[nodiscard]] bool hasFailed() const { return calls_ > number_; }
 
@@ -37,7 +37,7 @@ class FailingAllocation {
   bool isSuspended_ = false;
 };
 
-// Nothing is counted and nothing fails as long as this lives.
+// As long as this lives, nothing is counted and nothing fails.
 class WithoutFailures {
  public:
   WithoutFailures();
@@ -49,7 +49,7 @@ class WithoutFailures {
   bool wasSuspended_ = false;
 };
 
-// The number of allocations of `act`, of which none fails.
+// The number of allocations that `act` makes when none fails.
 template <class Act>
 long allocationsOf(Act act, Whose whose = Whose::All) {
   constexpr long kNever = 2'000'000'000;
@@ -58,7 +58,8 @@ long allocationsOf(Act act, Whose whose = Whose::All) {
   return counter.calls();
 }
 
-// Whether code of this program, or of the C++ library on its behalf, called from `caller`.
+// Whether the return address `caller` is in this program's code, or in the C++ library's on behalf
+// of that.
 [[nodiscard]] bool isOurs(const void* caller);
 
 }  // namespace brennet::test

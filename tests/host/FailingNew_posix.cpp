@@ -42,7 +42,7 @@ struct Code {
 
 }  // namespace
 
-// The C++ library grows strings: for whoever called it.
+// The C++ library allocates for its callers, for example when strings grow.
 bool isOurs(const void* caller) {
   static const Code code;
   if (!code.library.holds(caller)) return code.program.holds(caller);

@@ -1,4 +1,4 @@
-// The first call of all, which builds the object.
+// The very first call, which builds the object.
 
 #include <gtest/gtest.h>
 

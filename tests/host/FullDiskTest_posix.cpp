@@ -8,8 +8,8 @@ using namespace test;
 
 using FullDiskTest = HostFixture;
 
-// A limit on the size of files stands for a full disk: the write stops half-way. The host does
-// nothing about the signal with which the system would end it.
+// A limit on the size of files stands in for a full disk: the write stops halfway. Nothing here
+// catches the signal with which the system would end the host.
 using FullDisk = ScopedFileLimit;
 
 TEST_F(FullDiskTest, KeepsTheOldFileWhole) {

@@ -12,7 +12,7 @@
 
 namespace brennet::test {
 
-// The interface on files of the test's own, with a settings file of defaults loaded.
+// The interface on the test's own files, with a settings file of defaults loaded.
 class HostFixture : public testing::Test {
  protected:
   HostFixture() : profile_(folder_.path()) {

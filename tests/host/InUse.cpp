@@ -14,11 +14,11 @@ using Choose = const std::size_t& (*)(const std::size_t&, const std::size_t&);
 
 InUse count() {
   QPixmapCache::clear();
-  QThreadPool::globalInstance()->waitForDone();  // its threads have ended then
+  QThreadPool::globalInstance()->waitForDone();  // ends the threads of the pool
   return inUse();
 }
 
-// Of each thing the most, or the least, that is held after one of the rounds [from, to).
+// For each thing, the most or the least that is held after any of the rounds [from, to).
 InUse countRounds(int from, int to, const std::function<void(int)>& round, Choose choose) {
   InUse chosen;
   for (int i = from; i < to; ++i) {

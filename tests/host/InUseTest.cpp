@@ -1,4 +1,4 @@
-// Whether the count of what is in use finds what is left behind.
+// The count of what is in use finds whatever is left behind.
 
 #include "tests/host/InUse.h"
 

@@ -8,15 +8,15 @@
 #include "tests/support/OpenHandles.h"
 
 #ifdef __SANITIZE_ADDRESS__
-// Of the sanitizer's runtime; not every compiler brings its header.
+// From the sanitizer's runtime; not every compiler has its header.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace brennet::test {
 namespace {
 
-// The allocator keeps some freed blocks of each small size for the thread, and counts them as in
-// use. Here it gets as many as it keeps, so that they are the same for each measurement.
+// For each small size, the allocator keeps some freed blocks for the thread, and counts them as in
+// use. This frees as many as it keeps, so that each measurement counts the same number.
 void fillFreeLists() {
   constexpr std::size_t kLargest = 1032;  // bytes
   constexpr std::size_t kStep = 16;
@@ -31,7 +31,7 @@ void fillFreeLists() {
 InUse inUse() {
   fillFreeLists();
 #ifdef __SANITIZE_ADDRESS__
-  // The sanitizer has an allocator of its own, of which the library knows nothing.
+  // The sanitizer has an allocator of its own, which mallinfo2 does not know.
   return {.memory = __sanitizer_get_current_allocated_bytes(), .handles = openHandles()};
 #else
   const struct mallinfo2 all = mallinfo2();

@@ -20,7 +20,7 @@ std::size_t bytesOf(HANDLE heap) {
   return bytes;
 }
 
-// Each runtime of C may have one of its own.
+// Each C runtime may have a heap of its own.
 std::size_t bytesOfAllHeaps() {
   constexpr DWORD kMostHeaps = 64;
   HANDLE heaps[kMostHeaps] = {};
@@ -45,7 +45,7 @@ BOOL CALLBACK countWindow(HWND /*window*/, LPARAM count) {
   return TRUE;
 }
 
-// Of this thread, and what else of that kind the system counts.
+// The top-level windows of this thread, and all objects of that kind that the system counts.
 std::size_t windowObjects() {
   std::size_t count = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
   EnumThreadWindows(GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&count));

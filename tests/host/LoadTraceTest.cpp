@@ -90,7 +90,7 @@ TEST_F(LoadTraceOf, ALoadGoesToTheDebugOutput) {
                                                  "and off: \"%s%n\" is no key")));
 }
 
-// What the game hands back goes through a copy of the settings; the list stays with the load.
+// A record from the game goes through a copy of the settings, but the report is about the load.
 TEST_F(LoadTraceOf, ALoadIsThereUntilTheNextOne) {
   std::string text = kDefaults;
   text.replace(text.find("22272"), 5, "20736");

@@ -5,7 +5,7 @@
 
 namespace brennet::test {
 
-// The object is the library's, and has what an earlier test of this process left in it.
+// The object is the library's, and still has whatever an earlier test of this process left in it.
 std::shared_ptr<IBrennet> testedBrennet() {
   static const auto get =
       reinterpret_cast<GetBrennetPtrFunction>(functionOf(BRENNET_LIBRARY, "GetBrennetPtr"));

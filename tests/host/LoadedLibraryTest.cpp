@@ -69,8 +69,8 @@ TEST_F(LoadedLibrary, FailsToSaveWithoutALoad) {
   EXPECT_EQ(get()->ApplyHotkeyBlock(&block, 5), -1);
 }
 
-// A pointer to a member function, made by hand from the address of one. So it is with the compilers
-// that tests are built with.
+// A pointer to a member function, made by hand from its address in the layout that the compilers of
+// the tests use.
 template <class Result, class... Arguments>
 auto memberAt(void* address) {
   struct Pointer {
@@ -81,7 +81,7 @@ auto memberAt(void* address) {
   return std::bit_cast<Member>(Pointer{address, 0});
 }
 
-// The operations that the public header declares, in their order.
+// The operations that the public header declares, in order.
 std::vector<std::string> declaredOperations() {
   const std::string header = readBytes(projectFile("host/include/brennet/IBrennet.h"));
   const std::regex declaration("virtual [^;]*? BRENNET_CALL (\\w+)\\(");
@@ -93,7 +93,7 @@ std::vector<std::string> declaredOperations() {
   return names;
 }
 
-// The slots are counted here by hand: a header whose operations changed places cannot hide.
+// The slots are counted by hand here, so that operations cannot change places unseen.
 TEST_F(LoadedLibrary, HasItsOperationsInTheFixedSlots) {
   const auto path = folder_ / "KeyInfo.xml";
   writeBytes(path,

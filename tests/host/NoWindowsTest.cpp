@@ -30,7 +30,7 @@ TEST_F(NoWindowsTest, NoDialogIsShown) {
   expectNoDialog("with one for programs without windows");
   application.reset();
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  // It is never deleted: the offscreen platform loses its screen with it.
+  // It is never deleted: the offscreen platform would leak its screen then.
   static const QGuiApplication* const gui = new QGuiApplication(count, arguments);
   Q_UNUSED(gui)
   expectNoDialog("with one for windows without widgets");

@@ -1,5 +1,5 @@
-// Each allocation on the way fails, alone and with all that follow: the host gets a result that is
-// true, never an exception, and files and settings are the old ones or the new ones.
+// Each allocation of an operation fails, alone or with all that follow: the host gets a result that
+// is true, never an exception, and files and settings are either the old ones or the new ones.
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ class OutOfMemory : public HostFixture, public testing::WithParamInterface<Lasts
  protected:
   OutOfMemory() {
     std::string text = kDefaults;
-    // The phrase takes memory of its own, beside that of the fields.
+    // The phrase takes memory besides that of the fields.
     text.replace(text.find("<Chat id=\"0\"/>"), 14, kPhrase);
     text_ = text;
     reset();
@@ -35,8 +35,8 @@ class OutOfMemory : public HostFixture, public testing::WithParamInterface<Lasts
     before_ = filled();
   }
 
-  // Runs `operation` from that state, with one failing allocation after the other. `check` is told
-  // which one, and finds the state afterwards.
+  // Runs `operation` from that state for one failing allocation after the other, and after each run
+  // calls `check` with the number of that allocation.
   template <class Operation, class Check>
   void failEachAllocation(Operation operation, Check check) {
     const long count = allocationsOf(operation);
@@ -67,7 +67,7 @@ class OutOfMemory : public HostFixture, public testing::WithParamInterface<Lasts
   HotkeyBlock before_;
 };
 
-// Another settings file than the one that is loaded already.
+// The file is not the one that is loaded already.
 TEST_P(OutOfMemory, WhileLoadingGivesTheDefaultsOrTheFile) {
   std::string other = text_;
   other.replace(other.find("77<"), 2, "78");
@@ -99,7 +99,7 @@ TEST_P(OutOfMemory, WhileLoadingGivesTheDefaultsOrTheFile) {
         EXPECT_EQ(filled().heroSkillKeys0to5[0], 0) << point;
         EXPECT_EQ(brennet_.GetLastSaveTime(), 0U) << point;
         if (point != 0) return;
-        // The first allocation is that of the path: then there is none to save to.
+        // The first allocation is for the path: without it there is none to save to.
         EXPECT_FALSE(brennet_.SetEnabled(true, 5));
         EXPECT_EQ(readBytes(settings_), other);
       });

@@ -4,8 +4,8 @@
 
 namespace brennet::test {
 
-// A settings file that takes away the quick-cast marks of an object that is used again: a load
-// leaves those alone that the file does not name.
+// A settings file that removes the quick-cast marks from an object that is used again: a load
+// changes only those that the file names.
 inline std::string settingsWithoutMarks() {
   std::string text = "<KeyInfo><LastSaveTime>1</LastSaveTime>";
   for (int scheme = 0; scheme < 3; ++scheme) {

@@ -6,9 +6,9 @@
 
 namespace brennet::test {
 
-// The interface that a program of tests is about, as after its first load of nothing: an object of
-// the test's own where the code is linked into the program, else the one of the built library,
-// which the program loads.
+// The interface that a test program is about, without the settings of earlier tests: a new object
+// where the code is linked into the program, else that of the built library, which the program
+// loads.
 std::shared_ptr<IBrennet> testedBrennet();
 
 }  // namespace brennet::test

@@ -1,5 +1,5 @@
-// A host that has windows of its own, and loads the library only when it needs it: whatever was
-// done with the library, nothing of it is left once it is unloaded.
+// A host that has windows of its own and loads the library only when needed: whatever was done with
+// the library, nothing of it is left once it is unloaded.
 
 #include <gtest/gtest.h>
 
@@ -53,8 +53,8 @@ class HostWindow : public QWidget {
     layout->addWidget(new QPushButton(QStringLiteral("Start")));
   }
 
-  // Does what asks Qt for what a library could have left with it: fonts, pictures, translated
-  // texts and events.
+  // Has Qt use everything that a library could have left with it: fonts, pictures, translated texts
+  // and events.
   void use() {
     show();
     auto& servers = *findChild<QComboBox*>();
@@ -67,7 +67,7 @@ class HostWindow : public QWidget {
   }
 };
 
-// Answers the dialog once it is there, with the button of that name.
+// Answers the dialog, once it is open, with the button of that name.
 class Player {
  public:
   explicit Player(QString answer) : answer_(std::move(answer)) {
@@ -126,7 +126,7 @@ class UnloadAfterTheDialog : public testing::Test {
   HostWindow window_;
 };
 
-// The style sheets of the host and those of the library are in the same memory of Qt's.
+// Qt keeps the style sheets of the host and of the library in one cache.
 TEST_F(UnloadAfterTheDialog, LeavesTheStyleSheetsOfTheHostAlone) {
   constexpr int kRounds = 5;
   for (int i = 0; i < kRounds; ++i) {
@@ -138,7 +138,7 @@ TEST_F(UnloadAfterTheDialog, LeavesTheStyleSheetsOfTheHostAlone) {
 }
 
 #ifdef __SANITIZE_ADDRESS__
-// The sanitizers keep some hundred bytes of their own for each load.
+// The sanitizers keep some hundred bytes for each load.
 constexpr std::size_t kSlack = 1024;
 #else
 constexpr std::size_t kSlack = 0;

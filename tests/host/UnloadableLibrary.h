@@ -4,9 +4,9 @@
 
 namespace brennet::test {
 
-// The built library, loaded as long as an object lives. The test fails where it is still in the
-// process afterwards. Where it was, nothing is from then on to the next load, which comes to lie
-// elsewhere: whoever still points there crashes.
+// The built library, loaded as long as an object lives. The test fails if the library is still in
+// the process afterwards. Its place stays reserved until after the next load, which gets another
+// one: whoever still points there crashes.
 class UnloadableLibrary {
  public:
   UnloadableLibrary();

@@ -24,7 +24,7 @@ UnloadableLibrary::UnloadableLibrary() : module_(dlopen(BRENNET_LIBRARY, RTLD_NO
 
 UnloadableLibrary::~UnloadableLibrary() {
   Dl_info info = {};
-  // The table of the object's functions lies in the library.
+  // The object's table of functions is in the library.
   dladdr(*reinterpret_cast<void**>(brennet_), &info);
   dlclose(module_);
   EXPECT_EQ(dlopen(BRENNET_LIBRARY, RTLD_NOW | RTLD_NOLOAD), nullptr) << "it is still loaded";

@@ -1,4 +1,4 @@
-// Files that cannot be read at this moment, and memory of which that cannot be found out.
+// Files that cannot be read for now, and memory for which that cannot be found out.
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -42,7 +42,7 @@ TEST_F(UnreadableFiles, OfSettingsArePutAsideWhereTheyCannotBeCopied) {
   EXPECT_EQ(readBytes(kept), before);
 }
 
-// Whether memory can be written is asked by way of a pipe.
+// Finding out whether memory is writable takes a pipe.
 TEST_F(UnreadableFiles, LeaveARecordUnknownAsLongAsThereAreNoDescriptors) {
   HotkeyBlock block = filled();
   block.flags ^= 1U;

@@ -1,4 +1,4 @@
-// Settings files that a load could not use: nothing of them is overwritten unseen.
+// Settings files that a load could not use are not overwritten unseen.
 
 #include <gtest/gtest.h>
 
@@ -79,7 +79,7 @@ TEST_F(UnseenFiles, WaitForASaveThatSucceeds) {
   EXPECT_EQ(keptContent(), "damaged");
 }
 
-// 64 MiB are far more than any settings; reading on would cost the host its memory.
+// 64 MiB is far more than any settings; a load that read on would use up the host's memory.
 TEST_F(UnseenFiles, AreFilesOfAnySize) {
   std::filesystem::resize_file(settings_, (64U << 20U) + 1);
   EXPECT_FALSE(brennet_.LoadSettings(settings_.wstring().c_str()));

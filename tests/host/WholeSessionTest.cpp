@@ -1,5 +1,5 @@
-// An evening with the settings dialog, from the files of a player as a host finds them to those
-// that it leaves behind: everything that a player does there, in one go.
+// An evening with the settings dialog: everything that a player does there, in one go, from the
+// files that the host finds to those that it leaves behind.
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -31,7 +31,7 @@ platform::RegistryValue bytes(std::string data) {
 
 class WholeSession : public DialogFixture {
  protected:
-  // The host knows the sample files, and the registry has got its first keys.
+  // Starts with the sample files and with the first keys imported into the registry.
   WholeSession() {
     writeBytes(preferences_, sample("War3Preferences.txt"));
     EXPECT_TRUE(loadText(sample("KeyInfo.xml")));
@@ -51,7 +51,7 @@ class WholeSession : public DialogFixture {
     dialog.findChild<QComboBox*>(QStringLiteral("cmbHotkeySetting"))->setCurrentIndex(index);
   }
 
-  // A window that stands beside the dialog.
+  // A window beside the dialog.
   static QWidget& window(const char* name) {
     for (QWidget* const candidate : QApplication::topLevelWidgets()) {
       if (candidate->objectName() == QLatin1String(name)) return *candidate;
@@ -59,7 +59,7 @@ class WholeSession : public DialogFixture {
     qFatal("there is no %s", name);
   }
 
-  // Keys of the second scheme, which is the one in use.
+  // Changes keys of the second scheme, which is the current one.
   static void changeKeys(QWidget& page) {
     pressKey(field(page, "edtSkill_3"), Qt::Key_E, Qt::ControlModifier);
     button(page, "btn_skillcast_3").click();
@@ -130,8 +130,7 @@ class WholeSession : public DialogFixture {
 constexpr std::uint32_t kShowFManaFlag = 1U << 7U;
 constexpr std::uint16_t kQuickCast = 8;
 
-// The eight phrases as they lie in a block, one behind the other, after the first and the last have
-// become others.
+// Replaces the first and the last of the eight phrases, which a block stores one after the other.
 void changePhrases(HotkeyBlock& block) {
   std::string packed;
   const char* phrase = block.quickChat;
@@ -144,7 +143,7 @@ void changePhrases(HotkeyBlock& block) {
   std::copy(packed.begin(), packed.end(), block.quickChat);
 }
 
-// What the game gets after the session: what it got before, but for what was changed.
+// What the game gets after the session: the block from before, with the player's changes.
 HotkeyBlock changedBlock(HotkeyBlock block) {
   block.flags |= kShowFManaFlag;
   block.heroSkillKeys0to5[2] = 'E' << 8 | KeyWord::kCtrl | kQuickCast;
@@ -162,7 +161,7 @@ HotkeyBlock changedBlock(HotkeyBlock block) {
   return block;
 }
 
-// The same for the registry.
+// Makes the player's changes in a registry.
 void change(platform::RegFile& registry) {
   const std::u16string control = below(kDota7ControlPath);
   const auto setKey = [&](const std::u16string& path, const char16_t* text, const char16_t* code,

@@ -1,4 +1,4 @@
-// Where wchar_t holds more than UTF-16.
+// Systems where wchar_t has 32 bits.
 
 #include <gtest/gtest.h>
 
