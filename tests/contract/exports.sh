@@ -3,7 +3,7 @@
 # exports.sh LIBRARY
 set -euo pipefail
 
-# What linkers define in every library, on some systems.
+# What the linkers of some systems define in every library.
 linkers_own='_init|_fini|_edata|_end|__bss_start'
 
 exported=$(nm -D --defined-only --format=posix "$1" | awk '{print $1}' | sed 's/@.*//' |

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Compiles a public header by itself: header.sh COMPILER STANDARD HEADER
-# Exit status 77 where the compiler is not installed.
+# The exit status is 77 if the compiler is not installed.
 set -euo pipefail
 
 compiler=$1

@@ -1,9 +1,9 @@
 #!/usr/bin/env -S python3 -B
-"""Holds the house together: layers.py ROOT
+"""Checks the rules for includes and for code of one system: layers.py ROOT
 
 A folder includes only what is below it, no file includes itself by way of others, code for one
-system stands in platform/ alone, and the sample hosts see what other hosts see. Prints each line
-that breaks a rule below the name of the rule.
+system is in platform/ alone, and the sample hosts see only what other hosts see. Prints the name of
+each rule that is broken and, below it, each line that breaks it.
 """
 
 import os
@@ -30,7 +30,7 @@ BELOW["ui"] = (*BELOW["ui/pages"], "ui/pages")
 BELOW["host"] = (*BELOW["ui"], "ui")
 BELOW["tools/skin"] = ()
 
-# What hosts include, by the name that they know it by.
+# What hosts include, by the names that they use.
 PUBLIC = {
     "brennet/HotkeyBlock.h": "model/include/brennet/HotkeyBlock.h",
     "brennet/IBrennet.h": "host/include/brennet/IBrennet.h",
@@ -41,7 +41,7 @@ BODIES = re.compile(r"^platform/(posix|win)/")
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
 WINDOWS_HEADER = re.compile(r"^\s*#\s*include\s*<[Ww]indows\.h>")
 SYSTEM_SWITCH = re.compile(r"\b_?WIN(32|64)\b")
-# The calling convention of the interface is the one difference that a header has to state.
+# The calling convention of the interface is the only difference that a header has to state.
 CALLING_CONVENTION = "#if defined(_WIN32) && (defined(_M_IX86)"
 
 
@@ -75,7 +75,7 @@ class House:
         self.broken.setdefault(rule, []).append(where)
 
     def includes(self):
-        """Each include of ours: the file, the number of the line, how it is quoted, its name."""
+        """Each include in our sources: the file, the line's number, the quote, the name."""
         for name, lines in self.sources.items():
             for number, line in enumerate(lines, 1):
                 if found := INCLUDE.match(line):
@@ -84,7 +84,7 @@ class House:
     def check_folders(self):
         for name, number, quote, included in self.includes():
             folder = folder_of(name)
-            # Headers that are made from forms have no folder.
+            # Headers made from forms have no folder.
             if folder is None or quote == "<" or re.fullmatch(r"ui_\w+\.h", included):
                 continue
             where = f"{name}:{number}: {included}"
@@ -125,7 +125,7 @@ class House:
                     self.report("system-switch", where)
 
     def check_samples(self):
-        """A host's own headers stand beside it; ours go by the names that the package gives them."""
+        """A host's own headers are beside it; ours have the names that the package gives them."""
         for name, number, quote, included in self.includes():
             isPrivate = "/" in included and not (quote == "<" and included in PUBLIC)
             if name.startswith("samples/") and isPrivate:

@@ -1,8 +1,8 @@
 #!/usr/bin/env -S python3 -B
-"""Looks whether tests can be found by their names: suites.py ROOT
+"""Checks that tests can be found by their names: suites.py ROOT
 
-A suite is named after the file of tests that it stands in, or after a source file of what it tests.
-Words may follow. Prints each suite that is not, and what to do about it.
+A suite is named after its file of tests or after a source file of what it tests; more words may
+follow. Prints each suite that is not, and what to do about it.
 """
 
 import pathlib
@@ -21,12 +21,12 @@ def names_of_sources(root):
 
 
 def is_named_after(suite, name):
-    """Whether the suite has the name, and after it nothing or a new word."""
+    """Whether the suite has the name, followed by nothing or by a new word."""
     return re.match(rf"{name}(?![a-z])", suite) is not None
 
 
 def misnamed_suites(root):
-    """Each file of tests with the suites in it that are named after nothing."""
+    """Each suite that is named after nothing, with its file and the name of what that tests."""
     sources = names_of_sources(root)
     tests = root / "tests"
     for path in sorted(set(tests.rglob("*.cpp")) - set((tests / "data").rglob("*"))):

@@ -2,7 +2,7 @@
 # Checks that sources compile for 32-bit Windows in Microsoft's dialect, with its layout of records and
 # without extensions: dialect.sh HEADERS STANDARD FILE...
 # HEADERS are "freestanding" for sources that need next to nothing of the library, or "mingw".
-# Exit status 77 where clang++ is not installed.
+# The exit status is 77 if clang++ is not installed.
 set -euo pipefail
 
 headers=$1
@@ -21,8 +21,8 @@ options=(
   -Wall -Wextra -Wpedantic -Wgnu -Wmicrosoft -Werror
 )
 
-# No Microsoft headers are at hand, so those of mingw-w64 and libstdc++ are read in their place. They
-# ask for a compiler that is GCC, for 32-bit x86 and without a Microsoft version.
+# There are no Microsoft headers here, so those of mingw-w64 and libstdc++ are used instead. They
+# expect GCC for 32-bit x86, without a Microsoft version.
 mingw_options() {
   local cxx
   cxx=$(i686-w64-mingw32-g++-posix -print-file-name=include/c++)

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Fails when C++ sources use extensions of GNU compilers: extensions.py FILE_OR_FOLDER...
 
-The dialect test refuses some of them, too; the others are accepted by clang whatever it is told.
+The dialect test refuses some of them as well; clang accepts the others, whatever its options.
 """
 
 import pathlib
@@ -23,9 +23,9 @@ RULES = {
     "directive": r"(?m)^[ \t]*#[ \t]*(include_next|warning|ident|pragma[ \t]+GCC)\b",
 }
 
-# Texts and comments are no code. What stands for a text keeps the lines and the quotes. Numbers come
-# first, because their digits may be parted by single quotes; so do texts that end with a word of
-# their own.
+# Texts and comments are not code. A text is replaced by one with the same lines and quotes. Numbers
+# come first, because single quotes may separate their digits; so do raw strings, which end with a
+# word of their own.
 LITERAL_OR_COMMENT = re.compile(
     r"""(?P<number>\b\d(?:'?[\w.])*)|(?P<text>R"(?P<end>[^(\s]*)\(.*?\)(?P=end)"|"(?:\\.|[^"\\\n])*"
     |'(?:\\.|[^'\\\n])*')|//[^\n]*|/\*.*?\*/""", re.DOTALL | re.VERBOSE)

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks that every line of a file but its comments is told of: hidden.sh PYTHON EXTENSIONS FILE
+# Checks that every line of a file except comments is reported: hidden.sh PYTHON EXTENSIONS FILE
 set -euo pipefail
 
 told=$("$@" | sed -n 's/.*:\([0-9]*\): broken rule: .*/\1/p' | sort -nu | tr '\n' ' ' || true)

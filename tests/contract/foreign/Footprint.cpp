@@ -5,8 +5,8 @@
 
 namespace {
 
-// Values of handles are multiples of 4, and one that is free is given again before a larger one. A
-// process like this has a few dozen.
+// Handles are multiples of 4, and a free one is reused before a larger one is given. A process like
+// this has a few dozen.
 constexpr unsigned kLastHandle = 16384;
 
 unsigned openHandles() {
@@ -18,7 +18,7 @@ unsigned openHandles() {
   return count;
 }
 
-// The smallest index that is free is given first, so it tells how many are taken.
+// The smallest free index is given first, so it says how many are taken.
 unsigned tlsIndexes() {
   const unsigned index = TlsAlloc();
   require(index != ~0U, kTlsGrows);

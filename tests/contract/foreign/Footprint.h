@@ -1,4 +1,4 @@
-// What the process holds of the system: it grows when a library leaves something behind.
+// What the process holds; it grows if a library leaves something behind.
 #pragma once
 
 struct Footprint {

@@ -1,5 +1,5 @@
-// The few functions of kernel32 that the foreign programs call, declared by hand: they read no
-// header of the system or of the project, as a host that was compiled long ago reads none.
+// The few functions of kernel32 that the foreign programs call, declared by hand: like hosts that
+// were compiled long ago, they see none of today's headers.
 #pragma once
 
 extern "C" {

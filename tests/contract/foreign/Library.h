@@ -5,7 +5,7 @@
 #include "Kernel32.h"
 #include "Slots.h"
 
-// A bool on its way in is a byte, too: compilers leave what they like above it.
+// A bool argument is a byte as well: compilers leave anything in the bits above it.
 constexpr unsigned kFalse = 0xCCCCCC00;
 constexpr unsigned kTrue = 0xCCCCCC01;
 
@@ -27,13 +27,13 @@ class Library {
   // The address at which the library was loaded.
   [[nodiscard]] Module module() const { return module_; }
 
-  // The whole of eax.
+  // Calls a function and returns the whole of eax.
   template <class... Arguments>
   unsigned call(Slot slot, Arguments... arguments) const {
     const unsigned words[] = {pass(arguments)..., 0};
     return callSlot(slot, words, sizeof...(arguments));
   }
-  // The byte in al, which has to be 0 or 1.
+  // Calls a function and returns the byte in al, which has to be 0 or 1.
   template <class... Arguments>
   bool callForBool(Slot slot, Arguments... arguments) const {
     return checkedBool(call(slot, arguments...));

@@ -2,10 +2,10 @@
 
 static_assert(sizeof(MemberCall) == 72, "the assembler below counts in these offsets");
 
-// Not in a register or on the stack, because nothing there can be relied on after the call.
+// In memory, because neither registers nor the stack can be relied on after the call.
 extern "C" MemberCall* callUnderWay = nullptr;
 
-// The assembler takes them from memory.
+// The assembler code loads them from memory.
 extern "C" constexpr unsigned short givenX87Control = kX87Control;
 extern "C" constexpr unsigned givenSseControl = kSseControl;
 

@@ -1,5 +1,5 @@
-// A member call as MSVC makes one: the object in ecx, the arguments on the stack, taken off by the
-// one that is called.
+// A member call as MSVC makes it: the object in ecx, the arguments on the stack, removed by the
+// function that is called.
 #pragma once
 
 // What goes into a call and what was found after it. MemberCall.cpp knows the offsets.
@@ -19,7 +19,7 @@ struct MemberCall {
   unsigned hostStack;
   unsigned flags;
   unsigned x87Control;
-  unsigned sseControl;  // with the exceptions that were met, in the lowest six bits
+  unsigned sseControl;  // the lowest six bits are the exceptions that occurred
   unsigned hostX87Control;
   unsigned hostSseControl;
 };
@@ -30,16 +30,16 @@ constexpr unsigned kEsi = 0x51525354;
 constexpr unsigned kEdi = 0xD0D1D2D3;
 constexpr unsigned kEbp = 0xE0E1E2E3;
 
-// What the units for floating-point numbers are told when the call is made: doubles, as MSVC has
-// it, and tiny results as zeros. Whoever puts back what GNU has is seen.
+// The floating-point control words when the call is made: double precision, as with MSVC, and tiny
+// results become zeros. Code that sets the GNU defaults instead is caught.
 constexpr unsigned kX87Control = 0x027F;
 constexpr unsigned kSseControl = 0x9F80;
 constexpr unsigned kSseControlBits = 0xFFC0;
 
-// Strings are copied upwards where it is not set.
+// If it is not set, strings are copied upwards.
 constexpr unsigned kDirectionFlag = 0x400;
 
-// Makes the call and notes the result, the stack pointer before the arguments and after the call,
-// and the saved registers, the flags and the two control words after the call. Our own are put back
-// whatever the function did to them.
+// Makes the call and records the result, the stack pointer before the arguments and after the call,
+// and the saved registers, the flags and the two control words after the call. Then it restores our
+// own, whatever the function did to them.
 extern "C" void __cdecl makeMemberCall(MemberCall* call);

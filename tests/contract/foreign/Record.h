@@ -1,13 +1,13 @@
-// The record that goes to the game and back, at its largest: 1807 bytes without gaps, in
+// The record that goes to the game and back, at its full size: 1807 bytes without gaps, in
 // little-endian order.
 #pragma once
 
 constexpr unsigned kRecordSize = 1807;
 
-// What memory for a record holds where nothing was stored yet.
+// The bytes of a record's memory before anything is stored there.
 constexpr unsigned char kRecordFiller = 0xEE;
 
-// Offsets into it, with the widths of what is there.
+// Offsets of some fields, with their widths.
 enum Offset : unsigned {
   kSize = 0,              // 4 bytes
   kFlags = 4,             // 4
@@ -23,8 +23,8 @@ enum Offset : unsigned {
 
 class Record {
  public:
-  // Memory for `size` bytes that announces `announced` bytes; the others are kRecordFiller. Behind
-  // it lies a page without any access.
+  // Memory of `size` bytes that announces `announced` bytes; its other bytes are kRecordFiller. The
+  // page behind it allows no access.
   Record(unsigned size, unsigned announced);
   ~Record();
 

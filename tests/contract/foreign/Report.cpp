@@ -71,6 +71,6 @@ void reportCrashes() {
 void keepAwayFromThePlayersFiles() {
   const Module ntdll = GetModuleHandleW(L"ntdll.dll");
   require(GetProcAddress(ntdll, "wine_get_version") != nullptr, kNotWine);
-  // Wine takes the profile folder to be the one of this name below C:\users.
+  // For Wine, the profile folder is the one of this name below C:\users.
   SetEnvironmentVariableW(L"WINEUSERNAME", L"no-such-player");
 }

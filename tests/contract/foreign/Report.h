@@ -1,11 +1,11 @@
-// Tells on the standard output what is wrong, and ends the process.
+// Prints on standard output what is wrong, and ends the process.
 #pragma once
 
 #include "Failures.h"
 
 constexpr unsigned kNoSlot = ~0U;
 
-// Where the program is: told with each failure, and with a crash.
+// Where the program is; printed with each failure, crashes included.
 struct Place {
   unsigned slot;       // of the call that was made last
   unsigned alignment;  // of its stack, modulo 16
@@ -25,6 +25,6 @@ inline void require(bool holds, Failure failure) {
 // From here on a crash is a failure like others.
 void reportCrashes();
 
-// Ends the process with `kNotWine` unless it runs under Wine, and has the library take a folder
-// that is not there for the player's profile.
+// Ends the process with `kNotWine` unless it runs under Wine. Has the library take a folder that
+// does not exist for the player's profile.
 void keepAwayFromThePlayersFiles();

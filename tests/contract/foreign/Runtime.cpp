@@ -1,4 +1,4 @@
-// What compilers call without being asked to; a host brings it with its own C runtime.
+// Functions that compilers call of their own accord; a host has them in its C runtime.
 
 extern "C" {
 

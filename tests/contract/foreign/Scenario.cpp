@@ -17,8 +17,8 @@ constexpr Field kDefaultFields[] = {
     {kHideUI, 1, 0},         {kLeftAltShowHP, 1, 0},
 };
 
-// The flags are those of the left Windows key, the unstretched picture and delay optimisation, and
-// the global switch.
+// The flags are the left Windows key, the unstretched picture, delay optimisation and the global
+// switch.
 constexpr Field kLoadedFields[] = {
     {kSize, 4, kRecordSize},    {kFlags, 4, 0x80000031},    {kFirstHeroSkill, 2, 0x5108},
     {kZoomValue, 1, 90},        {kHotkeyContrl, 2, 0x1400}, {kLedgerKey0, 2, 0x1000},
@@ -39,7 +39,7 @@ struct Getter {
   const char* element;  // what makes it 1
 };
 
-// As keys of their own, Caps Lock switches the feature, and Shift is one of the ledger's.
+// As keys, Caps Lock switches the feature, and Shift is one of the Orrery panel's.
 constexpr Getter kGetters[] = {
     {kGetDisableLWinFlag, "<DisableLWinFlag>1</DisableLWinFlag>"},
     {kGetViewNoDragFlag, "<ViewNoDragFlag>1</ViewNoDragFlag>"},
@@ -75,8 +75,8 @@ unsigned flagsOf(const Library& library) {
 
 }  // namespace
 
-// All that the getters tell, Q with quick cast on the first hero skill, and W on another.
-// The library looks for them in this order.
+// All that the getters return, Q with quick cast on the first hero skill, and W on another, in the
+// order in which the library looks for them.
 const char kSettings[] =
     "<ZoomValue>90</ZoomValue>"
     "<HeroSkillKey><Key id=\"0\" autocast=\"1\">20736</Key><Key id=\"7\">22272</Key></HeroSkillKey>"
@@ -129,7 +129,7 @@ void checkAnnouncedSizes(const Library& library) {
       {100, 69, 69},
       {kRecordSize, kRecordSize - 1, kRecordSize - 1},
       {2000, 2000, kRecordSize},
-      {kRecordSize, 0xFFFFFFFF, kRecordSize},  // a record is all that is touched
+      {kRecordSize, 0xFFFFFFFF, kRecordSize},  // nothing behind a full record is touched
   };
   for (const Case& one : kCases) {
     const Record record(one.size, one.announced);

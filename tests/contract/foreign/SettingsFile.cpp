@@ -11,7 +11,7 @@ constexpr char kBefore[] =
     "<KeyInfo enable=\"1\" index=\"1\"><LastSaveTime>77</LastSaveTime><KeyInfo_1>";
 constexpr char kBehind[] = "</KeyInfo_1></KeyInfo>\r\n";
 
-// A file that is closed in time.
+// A file that closes itself.
 class OpenFile {
  public:
   OpenFile(const wchar_t* path, unsigned access, unsigned disposition)

@@ -1,9 +1,10 @@
-// A player's settings in a file of their own below the folder for temporary files.
+// A player's settings in a new file below the folder for temporary files.
 #pragma once
 
 class SettingsFile {
  public:
-  // Writes settings that are on, have the save time 77 and, of the current scheme, these elements.
+  // Writes settings that are switched on, with the save time 77 and these elements in the current
+  // scheme.
   explicit SettingsFile(const char* elements);
   ~SettingsFile();
 

@@ -1,8 +1,8 @@
-// The table of functions of the library, as a host of another compiler writes it down.
+// The library's table of functions, as a host built by another compiler would write it down.
 #pragma once
 
-// The places in the table, with the arguments and the result of each function. A bool and a byte
-// come back in al; the rest of eax means nothing.
+// The places in the table, with the arguments and the result of each function. A bool or a byte is
+// returned in al; the rest of eax means nothing.
 enum Slot : unsigned {
   kLoadSettings = 0,        // bool (const wchar_t* path)
   kSetDataFolder = 1,       // void (const wchar_t* folder)

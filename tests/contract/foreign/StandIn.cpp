@@ -1,5 +1,5 @@
 // Takes the place of the library, to see the foreign host refuse it. It passes each call on to the
-// library in the folder above, but for those of one fault: the environment names a row of kFaults.
+// library in the folder above, except for one fault: the environment names a row of kFaults.
 
 #include "Kernel32.h"
 #include "Record.h"
@@ -26,8 +26,8 @@ Word pass(Slot slot, Words... words) {
   return reinterpret_cast<Body>(real->slots[slot])(real, words...);
 }
 
-// A function of the table. The object comes in ecx, where __fastcall has its first argument; its
-// second, in edx, is nothing here.
+// A function of the table. The object comes in ecx, which is the first argument of __fastcall; the
+// second one, edx, means nothing here.
 template <Slot slot, class... Words>
 Word __fastcall forward(void*, void*, Words... words) {
   return pass(slot, words...);
@@ -38,7 +38,7 @@ Function entry(Body* body) {
   return reinterpret_cast<Function>(body);
 }
 
-// What a call leaves behind that it should not. Each gives the default besides.
+// Calls that leave behind what they should not. Each returns the default.
 // clang-format off
 __declspec(naked) void takesOneArgument() { __asm {
   xor eax, eax
@@ -219,14 +219,14 @@ bool isBroken(const wchar_t* fault) {
   return isSame(name, fault);
 }
 
-// Cuts a path behind the last separator before `end`. Returns where that is.
+// Cuts a path behind the last separator before `end`, and returns the new length.
 unsigned cutName(wchar_t* path, unsigned end) {
   while (end != 0 && path[end - 1] != L'\\') --end;
   path[end] = L'\0';
   return end;
 }
 
-// The library in the folder above that of the program.
+// Loads the library in the folder above that of the program.
 Module loadLibrary() {
   Path path = {};
   unsigned end = GetModuleFileNameW(nullptr, path, sizeof(path) / sizeof(*path));

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fails unless a foreign program ends with the given code and says so: expect.sh CODE COMMAND...
+# Fails unless a foreign program ends with the given code and prints it: expect.sh CODE COMMAND...
 set -euo pipefail
 
 code=$1

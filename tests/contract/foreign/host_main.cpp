@@ -1,5 +1,5 @@
-// A host of another make: it uses the library as a client that was compiled with MSVC does, and
-// ends with 0 or with one of the codes of Failures.h.
+// A foreign host: it uses the library as a client compiled with MSVC would, and ends with 0 or with
+// one of the codes of Failures.h.
 
 #include "Kernel32.h"
 #include "Report.h"
@@ -7,7 +7,8 @@
 
 namespace {
 
-// The library is loaded anew while something else lies where it was, and starts from its defaults.
+// A library that is loaded again, at another place because its old one is taken, starts from its
+// defaults.
 void checkAnotherLoad(Module before) {
   const Address taken = VirtualAlloc(before, kPageSize, kMemReserve, kPageNoAccess);
   require(taken == before, kSamePlace);
@@ -18,10 +19,10 @@ void checkAnotherLoad(Module before) {
   VirtualFree(taken, 0, kMemRelease);
 }
 
-// Compilers for Windows align the stack to 4 bytes only.
+// Compilers for Windows align the stack only to 4 bytes.
 constexpr unsigned kAlignments[] = {0, 4, 8, 12};
 
-// Whether calls can be made at all comes first.
+// Whether calls work at all is checked first.
 void checkConvention() {
   Library library;
   for (const unsigned alignment : kAlignments) {

@@ -1,8 +1,8 @@
-// Loads, uses and unloads the library a hundred times in one process, and looks what that leaves
-// behind: foreign-reload.exe. It ends with 0 or with one of the codes of Failures.h.
+// foreign-reload.exe loads, uses and unloads the library a hundred times in one process, and looks
+// at what that leaves behind. It ends with 0 or with one of the codes of Failures.h.
 //
-// To check the check: with "leaks handles", "leaks indexes", "leaks blocks" or "leaks pages" behind
-// it, the program does not load the library, but leaves one of those behind in each round.
+// To check the check: with the arguments "leaks handles", "leaks indexes", "leaks blocks" or "leaks
+// pages", the program does not load the library but leaves one of those behind in each round.
 
 #include "Footprint.h"
 #include "Kernel32.h"
@@ -11,15 +11,15 @@
 
 namespace {
 
-// What is made once, on a first load, is there after these.
+// After these, everything exists that is made only once, on a first load.
 constexpr unsigned kWarmUp = 10;
 constexpr unsigned kRounds = 90;
 
-// What grows less often than in each tenth round is none of a load's: a load that leaves a single
-// handle, index, block or page behind adds kRounds.
+// What grows in fewer than one of ten rounds is not caused by loads: a load that leaves a single
+// handle, index, block or page behind adds kRounds of them.
 constexpr unsigned kBound = kRounds / 10;
 
-// A heap grows by this many pages, whatever the reason.
+// Whenever a heap grows, it grows by this many pages.
 constexpr unsigned kHeapGrowth = 16;
 
 void useLibrary() {

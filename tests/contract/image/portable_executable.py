@@ -1,7 +1,7 @@
 """Reads what the checks of a Windows image need: headers, imports, exports, relocations, resources.
 
-Numbers and names are those of Microsoft's description of the format. Whatever is out of place in
-the file ends in a ValueError or a struct.error.
+Numbers and names are those of Microsoft's description of the format. A malformed file raises a
+ValueError or a struct.error.
 """
 
 import struct
@@ -44,11 +44,11 @@ class Image:
         return struct.unpack_from(layout, self.data, offset)
 
     def directory(self, index):
-        """Address and size; (0, 0) where the image has none of that kind."""
+        """Address and size; (0, 0) if the image has none of that kind."""
         return self.directories[index] if index < len(self.directories) else (0, 0)
 
     def at(self, address):
-        """The offset in the file of what is at an address relative to the image."""
+        """The offset in the file that belongs to an address relative to the image."""
         for start, stored, offset in self.sections:
             if start <= address < start + stored:
                 return offset + address - start
@@ -76,7 +76,7 @@ class Image:
         return result
 
     def imported_libraries(self):
-        """The names of all libraries, also of those that are loaded on their first use."""
+        """The names of all imported libraries, including those loaded on their first use."""
         result = []
         for directory, size, name_at in ((IMPORTS, 20, 12), (DELAYED_IMPORTS, 32, 4)):
             address, _ = self.directory(directory)
@@ -89,7 +89,7 @@ class Image:
         return result
 
     def relocations(self):
-        """The addresses of the 32-bit words that change with the place of the image."""
+        """The addresses of the 32-bit words that depend on where the image is loaded."""
         address, size = self.directory(RELOCATIONS)
         result = []
         end = address + size
@@ -120,7 +120,7 @@ class Image:
         return self.data[self.at(start):self.at(start) + size]
 
     def _resource_entry(self, table, wanted):
-        """The target of the entry with the wanted number; of the first one when that is None."""
+        """The target of the entry with the wanted number, or of the first one if that is None."""
         names, numbers = self.unpack("<HH", table + 12)
         for i in range(names + numbers):
             number, target = self.unpack("<II", table + 16 + 8 * i)

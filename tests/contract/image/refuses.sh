@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds a library that is wrong in one way, and fails unless check.py tells just the given facts to
-# be broken: refuses.sh CASE RESOURCE_SCRIPT VERSION [FACT...]
+# Builds a library that is wrong in one way, and fails unless check.py reports exactly the given
+# facts as broken: refuses.sh CASE RESOURCE_SCRIPT VERSION [FACT...]
 # Facts are named in the order of check.py; there are none for "sound".
 set -euo pipefail
 

@@ -1,5 +1,5 @@
-// What an attacker puts where it may be taken for something else, as a DLL and as a program: it
-// appends its own path to planted.log in the current folder.
+// What an attacker puts where it may be taken for something else, built as a DLL and as a program.
+// It appends its own path to planted.log in the current folder.
 
 #include <windows.h>
 

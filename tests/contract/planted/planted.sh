@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Runs the sample host in a folder in which everything lies that it, the library and Qt might load or
-# start by a bare name: planted.sh WORK BIN SAMPLE_DATA PLANTED_DLL PLANTED_EXE OBJDUMP EMULATOR
+# Runs the sample host in a folder with a decoy for everything that it, the library and Qt might
+# load or start by a bare name:
+# planted.sh WORK BIN SAMPLE_DATA PLANTED_DLL PLANTED_EXE OBJDUMP EMULATOR
 #
-# Nothing of that may run. That it would tell of itself is seen where it does run: beside the program,
-# whose folder is trusted.
+# None of the decoys may run. That they would report it is seen where one does run: beside the
+# program, whose folder is trusted.
 set -euo pipefail
 
 work=$1 bin=$2 data=$3 dll=$4 exe=$5 objdump=$6 emulator=$7
@@ -13,7 +14,7 @@ fail() {
   exit 1
 }
 
-# What a program loads when it starts; and what Qt's plugins and the system load later, by name.
+# What a program loads when it starts, and what Qt's plugins and the system load later, by name.
 imports() {
   find "$bin" \( -name '*.dll' -o -name '*.exe' \) -exec "$objdump" -p {} + 2>/dev/null |
     sed -n 's/.*DLL Name: //p'
@@ -40,7 +41,7 @@ for folder in . plugins; do
 done
 for name in regedit.exe brennet-host.exe; do cp "$exe" "$name"; done
 
-# The registry has no keys of DotA 7, so that they are imported, by regedit.exe.
+# The registry has no keys of DotA 7, so regedit.exe imports them.
 run() {
   rm -rf planted.log pictures
   mkdir pictures

@@ -1,4 +1,4 @@
-// True for GNU compilers alone: Microsoft packs bit fields of one type only.
+// True only for GNU compilers: Microsoft's pack only bit fields of the same type.
 struct BitFields {
   unsigned char low : 4;
   unsigned int high : 4;
