@@ -45,7 +45,7 @@ TEST(BlockMerger, FindsNothingInAnUnchangedBlock) {
   EXPECT_EQ(config.scheme(), before);
 }
 
-// The bits of the flag word that neither a switch of the table has nor the global one.
+// The bits of the flag word that belong neither to a switch of the table nor to the global one.
 std::uint32_t unusedFlags() {
   std::uint32_t used = kEnableFlag;
   for (const Setting& row : kSettings) {
@@ -160,7 +160,7 @@ TEST(BlockMerger, MovesAKeyFromALaterFieldToAnEarlierOne) {
 TEST(BlockMerger, GivesARefusedKeyToNobody) {
   HotkeyConfig config = configWithKeys();
   EXPECT_TRUE(mergeEdited(config, [](HotkeyBlock& b) {
-    b.heroSkillKeys0to5[1] = kE.raw();  // an item has it
+    b.heroSkillKeys0to5[1] = kE.raw();  // an item has the key
     b.mouseKeys[0] = kAltF1.raw();      // sends a phrase
     b.showFBlood = 0x0D00;              // Enter
     b.keyRemaps[0] = remap(kR, kE);

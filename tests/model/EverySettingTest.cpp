@@ -1,6 +1,5 @@
-// That a row of the table is a whole setting: each one gets a value that nothing else has, and has
-// to give it back from the file, the block, a copy, a reset, a comparison and the questions of
-// keys.
+// A row of the table is all that a setting takes. Each one gets a value that no other has, which
+// then counts in files, blocks, copies, resets, comparisons and questions about keys.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -37,7 +36,7 @@ std::vector<KeySlot> slotsOf(SettingId id) {
   return slots;
 }
 
-// A key that no other slot gets, without a modifier, as those of fixed choices have one.
+// A key that no other slot gets. It has no modifier, unlike the keys of fixed choices.
 KeyWord keyFor(KeySlot slot) {
   std::size_t number = slot.index;
   for (const Setting& row : kSettings) {
@@ -46,7 +45,7 @@ KeyWord keyFor(KeySlot slot) {
   return KeyWord(static_cast<std::uint8_t>('0' + number), 0);
 }
 
-// Puts into a setting a value that no other one has.
+// Gives a setting a value that no other one has.
 struct PutValue {
   HotkeyScheme& scheme;
   SettingId id;
@@ -83,7 +82,7 @@ void put(HotkeyScheme& scheme, SettingId id) {
   std::visit(PutValue{scheme, id}, setting(id).kind);
 }
 
-// What was never set reads as what it is without it: a file and a block do not tell them apart.
+// Sets whatever was never set to its default: files and blocks do not tell the two apart.
 HotkeyScheme whole(HotkeyScheme scheme) {
   for (auto& mark : scheme.HeroSkillAutocast) mark = mark.value_or(false);
   for (auto& mark : scheme.ItemAutocast) mark = mark.value_or(false);
@@ -155,7 +154,7 @@ TEST_P(EverySetting, IsResetAsItsRowSays) {
   EXPECT_EQ(scheme, expected);
 }
 
-// Of a remap and a combination only the keys that are sent are guarded.
+// In a remap or combination, only the keys that are sent are guarded.
 TEST_P(EverySetting, HasItsKeysForItselfAsItsRowSays) {
   if (row().role == KeyRole::None) return;
   std::size_t guarded = 0;
@@ -173,7 +172,7 @@ TEST_P(EverySetting, HasItsKeysForItselfAsItsRowSays) {
       << " in model/SettingTable.h, or what else its keys are";
 }
 
-// Of a remap the keys that are pressed are used, of a combination the one that is sent.
+// A remap uses the keys that are pressed, a combination the one that is sent.
 TEST_P(EverySetting, UsesItsKeysAsItsRowSays) {
   std::size_t used = 0;
   for (const KeySlot slot : slotsOf(GetParam())) {
@@ -189,7 +188,7 @@ TEST_P(EverySetting, UsesItsKeysAsItsRowSays) {
 INSTANTIATE_TEST_SUITE_P(, EverySetting, testing::ValuesIn(kLoadOrder),
                          [](const auto& suite) { return nameOf(suite.param); });
 
-// All of them but the preset, in whose place the item keys stand in the block.
+// All of them except the preset, which a block replaces with the item keys.
 TEST(EverySettingTable, StayApart) {
   HotkeyScheme scheme;
   for (const Setting& row : kSettings) {
@@ -204,10 +203,10 @@ TEST(EverySettingTable, StayApart) {
   EXPECT_EQ(copy, scheme);
 }
 
-// Stands for any member.
+// Converts to any member.
 struct AnyMember {
   template <class Member>
-  operator Member() const;  // NOLINT(google-explicit-constructor): it is to be found by itself
+  operator Member() const;  // NOLINT(google-explicit-constructor): used in aggregates
 };
 
 template <class Type, class... Members>

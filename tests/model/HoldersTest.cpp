@@ -43,7 +43,7 @@ TEST(Holders, AreNoneWhereAKeyMayBeTwice) {
   }
 }
 
-// A file that was written by hand, or a block, may give one key to several settings.
+// A block, or a file written by hand, may give one key to several settings.
 TEST(Holders, AreAllOfSeveral) {
   HotkeyScheme scheme;
   scheme.ItemKey[4] = kAlt1;
@@ -116,7 +116,7 @@ TEST(Holders, AreNoneOfASetThatDoesNotExist) {
   EXPECT_THAT(takenQuickChatKeys(scheme, 2), IsEmpty());
 }
 
-// Each key of each of some hundred schemes with keys at random, a few of which are the same.
+// A sample of all keys, in a hundred schemes with random keys, some of which are the same.
 TEST(Holders, AgreeWithTheQuestionsThatAreAnsweredByYesAndNo) {
   std::minstd_rand random(15);
   const auto below = [&](unsigned end) { return static_cast<unsigned>(random() % end); };

@@ -1,4 +1,4 @@
-// Configurations reset, assigned and exchanged.
+// Resetting, assigning and exchanging configurations.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// What comes back of the keys that were refused while a scheme was only half read.
+// Which keys come back that were refused while a scheme was only half read.
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ struct Row {
   std::function<void(HotkeyScheme&)> expect;
 };
 
-// Keys of the default set, Alt+F1 to Alt+F8, are free where the file chooses the other one.
+// Keys of the default set, Alt+F1 to Alt+F8, are free if the file chooses the other set.
 const Row kRows[] = {
     {"a key of the set that is not chosen",
      "<HeroSkillKey>" + key(4, 0x7004) + "</HeroSkillKey><QuickChatIndex>0</QuickChatIndex>",

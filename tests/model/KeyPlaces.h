@@ -14,7 +14,7 @@ struct KeyPlace {
   KeySlot slot{};
 };
 
-// Where a key is the only one of its kind.
+// Places whose key nothing else may have.
 inline const KeyPlace kGuardedPlaces[] = {
     {"first hero skill",
      [](HotkeyScheme& s, KeyWord k) { s.HeroSkillKey.front() = k; },
@@ -56,7 +56,7 @@ inline const KeyPlace kGuardedPlaces[] = {
      {SettingId::ChatWheelkey}},
 };
 
-// Where a key may stand that something else has.
+// Places that may have a key of something else.
 inline const KeyPlace kSharedPlaces[] = {
     {"mouse key", [](HotkeyScheme& s, KeyWord k) { s.MouseKey.front() = k; }},
     {"remap source", [](HotkeyScheme& s, KeyWord k) { s.HotKey.front().Src = k; }},

@@ -24,7 +24,7 @@ std::string narrow(std::u16string_view element) {
 std::vector<KeySlot> allSlots() {
   std::vector<KeySlot> slots;
   for (const SettingId id : kLoadOrder) {
-    if (id == SettingId::ComboKey3to1) continue;  // the keys of ComboKey once more
+    if (id == SettingId::ComboKey3to1) continue;  // the same keys as ComboKey
     for (std::size_t i = 0; i < keyCount(id); ++i) {
       slots.push_back({id, static_cast<std::uint8_t>(i)});
     }
@@ -104,7 +104,7 @@ TEST(KeySlot, ThatIsNoneHasNoKeyAndTakesNone) {
   }
 }
 
-// The question and the change agree, and a refusal changes nothing.
+// conflictOf and assignKey agree, and a refusal changes nothing.
 TEST(KeySlot, TakesWhatHasNoConflict) {
   constexpr std::uint8_t kKeys[] = {'Q', 'W', 'E', '1', '2', 0x70, 0x71, 0x0D, 0xFF};
   std::mt19937 random(20261122);

@@ -27,7 +27,7 @@ inline constexpr KeyWord kCtrlQ('Q', KeyWord::kCtrl);
 constexpr std::uint32_t remap(KeyWord src, KeyWord dest) {
   return static_cast<std::uint32_t>(src.raw()) << 16U | dest.raw();
 }
-// Two keys of SetComboKeys: the first in the low half.
+// Two keys as SetComboKeys takes them, the first in the low half.
 constexpr std::uint32_t keyPair(KeyWord first, KeyWord second) {
   return remap(second, first);
 }

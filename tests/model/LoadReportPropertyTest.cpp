@@ -1,5 +1,5 @@
-// Whatever a settings file holds: what the load reports is true of the scheme that it leaves, and
-// what it does not report is there. The seeds are fixed, so a failure shows again.
+// Whatever a settings file holds: everything that the load reports is true of the resulting scheme,
+// and what it does not report is in there. The seeds are fixed, so failures can be repeated.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ using enum SettingId;
 
 constexpr int kFiles = 5000;
 
-// The text of a scheme with keys that meet, some entries twice, and some texts that are no numbers.
+// The text of a scheme with keys that clash, repeated entries, and texts that are not numbers.
 class RandomScheme {
  public:
   explicit RandomScheme(unsigned seed) : random_(seed) {}
@@ -103,7 +103,7 @@ void expectTrue(const DroppedKey& dropped, const HotkeyScheme& scheme,
   } else {
     ASSERT_TRUE(!left.isSet() || left.virtualKey() == 0);
   }
-  // The place in the file, found by going there line by line.
+  // Goes to the place in the file line by line.
   std::size_t at = 0;
   for (std::size_t line = 1; line < dropped.position.line; ++line) {
     at = document.find(u'\n', at) + 1;

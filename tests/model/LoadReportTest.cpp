@@ -1,4 +1,4 @@
-// What a load tells of the keys that it could not use.
+// What a load reports about the keys that it could not use.
 
 #include "model/LoadReport.h"
 
@@ -31,7 +31,7 @@ using namespace test;
 using Reason = KeyConflict::Reason;
 using enum SettingId;
 
-// Inside the second scheme; the text of each row starts in line 2, column 1.
+// Loads the text as the second scheme. It starts in line 2, column 1.
 HotkeyConfig loaded(const std::u16string& scheme) {
   MarkupDocument document;
   EXPECT_TRUE(document.setDoc(u"<KeyInfo><LastSaveTime>5</LastSaveTime><KeyInfo_1>\r\n" + scheme +

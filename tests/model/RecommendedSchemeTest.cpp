@@ -11,7 +11,7 @@
 namespace brennet {
 namespace {
 
-// A scheme in which everything that the recommended keys could meet is taken.
+// A scheme that has everything in use that the recommended keys could clash with.
 HotkeyScheme scheme() {
   HotkeyScheme scheme;
   scheme.HeroSkillKey[5] = KeyWord('Q', 0);

@@ -159,7 +159,7 @@ std::string key(int id, int value) {
   return "<Key id=\"" + std::to_string(id) + "\">" + std::to_string(value) + "</Key>";
 }
 
-// What is inside a scheme, and what a load makes of the defaults.
+// What a scheme in the file holds, and how loading it changes the defaults.
 const SchemeRow kSchemeRows[] = {
     {"nothing", "", [](HotkeyScheme&) {}},
     {"zoom", "<ZoomValue>130</ZoomValue>", [](HotkeyScheme& s) { s.ZoomValue = 130; }},
@@ -429,8 +429,8 @@ TEST_F(SettingsFile, IsSavedIntoAMissingFolderOneLevelDeep) {
 TEST_F(SettingsFile, LooksForItsFolderAtTheLastBackslashFirst) {
   HotkeyConfig config;
   const std::u16string folder = folder_.path().u16string();
-  // Elsewhere than on Windows a backslash is a part of a name, so the file cannot be written
-  // before or after; what shows is the folder that was created.
+  // Except on Windows, a backslash is part of a name, so the file cannot be written before or after
+  // the folder is created; the test sees only the folder.
   EXPECT_FALSE(config.Save(folder + u"/first\\second/KeyInfo.xml", 1));
   EXPECT_TRUE(std::filesystem::exists(folder_ / "first"));
 }

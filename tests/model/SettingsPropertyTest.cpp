@@ -1,5 +1,5 @@
 // Random settings and random blocks keep their promises through saving, loading, filling a block
-// and taking one back. The seeds are fixed, so a failure shows again.
+// and taking one back. The seeds are fixed, so failures can be repeated.
 
 #include <gtest/gtest.h>
 
@@ -43,7 +43,7 @@ class RandomSettings {
     return text;
   }
 
-  // Whatever a player and a host can do to a configuration through the checked setters.
+  // Does anything that players and hosts can do to a configuration through the checked setters.
   void change(HotkeyConfig& config) {
     const int scheme = static_cast<int>(below(3));
     const int n = static_cast<int>(below(14)) - 1;
@@ -158,9 +158,10 @@ bool isIn(const QuickChatKeySet& set, KeyWord key) {
   return std::any_of(set.begin(), set.end(), [key](KeyWord k) { return k.sameKey(key); });
 }
 
-// A mouse key that was bound first may be bound again, as a hero skill key or with a quick-chat
-// set. In a file it comes behind the hero skill keys and finds the default set in force; a key of
-// that set is refused at the end too unless another set was chosen.
+// The key of a mouse button may also go to a hero skill or to a quick-chat set later on. But a file
+// lists mouse keys after hero skill keys, and while it is read the default set is in force. So a
+// load refuses a mouse key that a hero skill has, and one of the default set unless the file
+// chooses another set.
 void dropRepeatedMouseKeys(HotkeyScheme& scheme) {
   for (KeyWord& mouse : scheme.MouseKey) {
     if (scheme.QuickChatIndex == 1 && isIn(kQuickChatKeySets[1], mouse)) mouse = kNoKey;
@@ -170,7 +171,7 @@ void dropRepeatedMouseKeys(HotkeyScheme& scheme) {
   }
 }
 
-// A combination that sends one of its own keys is refused while that key is free.
+// A load refuses a combination that sends one of its own keys, because nothing has that key yet.
 void dropCombinationOfItself(HotkeyScheme& scheme) {
   ComboKeys& combo = scheme.ComboKey;
   const bool repeats =
@@ -240,7 +241,7 @@ TEST(SettingsPropertyOfBlocks, LeaveTheSettingsSoundWhenTheyAreTakenBack) {
     mergeBlock(current, returned, sizeof(returned), config);
     ASSERT_NO_FATAL_FAILURE(expectSound(config)) << "round " << round;
 
-    // What was delivered once is stable: handing it back changes nothing.
+    // A delivered block is stable: handing it back changes nothing.
     HotkeyBlock again;
     fillBlock(config, again);
     ASSERT_EQ(again.size, sizeof(again));
