@@ -1,4 +1,4 @@
-// Documents and the files they are kept in.
+// Documents and their files.
 #include <gtest/gtest.h>
 
 #include "markup/DeclaredEncoding.h"
@@ -100,7 +100,7 @@ TEST_F(DocumentFiles, LoseCharactersThatTheEncodingLacksAndSaySo) {
             u"<converted_from encoding=\"UTF-16\" length=\"33\"/><conversion_loss/>");
 }
 
-// D0 BB D0 BB, which is also a valid text of two Cyrillic letters in UTF-8.
+// The bytes D0 BB D0 BB are valid UTF-8 as well: two Cyrillic letters.
 TEST_F(DocumentFiles, ReadBackTheirOwnPhrasesInGb2312) {
   ASSERT_TRUE(
       document_.setDoc(u"<?xml version=\"1.0\" encoding=\"gb2312\"?>\r\n<a>\u8C22\u8C22</a>"));
@@ -134,7 +134,7 @@ TEST_F(DocumentFiles, ThatAreNotEditedAreWrittenBackByteForByte) {
   }
 }
 
-// An encoding that the system has no conversion for is read as the ANSI code page.
+// An encoding that the system cannot convert is read as the ANSI code page.
 TEST_F(DocumentFiles, InGb18030AreWrittenBackWhereTheSystemKnowsIt) {
   const bool known = platform::codePageShape(54936) != platform::CodePageShape::Unsupported;
   const std::string bytes = "<?xml encoding='gb18030'?><a>\x81\x30\x81\x30\xB9\xFE</a>";
@@ -155,7 +155,7 @@ TEST_F(DocumentFiles, InWideEncodingsAreWrittenBackByteForByte) {
         text.append(name).append(u"'?><a>\u8C22\U0001F600</a>");
         ResultLog log;
         const std::string bytes = encodeText(text, name, log, {codePage, hasMark});
-        // Without a mark UTF-32 is told from UTF-16 by its declaration, which has one order.
+        // Without a mark, only the declaration tells UTF-32 from UTF-16, and it has just one order.
         if (codePage == 12001 && !hasMark) continue;
         write(bytes);
         EXPECT_TRUE(document_.load(path()));

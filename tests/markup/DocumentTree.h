@@ -6,7 +6,7 @@
 
 namespace brennet::test {
 
-// The tree of a document as its own navigation tells it, one element a line: depth, name, the
+// The tree of a document as its own navigation finds it, one element a line: depth, name, the
 // attributes called "a", "b", "id" and "x", and the data. Leaves the position at the top.
 std::u16string treeOf(MarkupDocument& document);
 

@@ -1,4 +1,4 @@
-// Whatever is edited, the document's own idea of its tree stays that of its text.
+// Whatever is edited, the document's idea of its tree stays the one that its text gives.
 #include <gtest/gtest.h>
 
 #include <random>

@@ -49,7 +49,7 @@ struct EditCase {
   std::u16string_view after;
 };
 
-// Each edit starts at the root, or, where that says so, at a child of it.
+// Each edit starts at the root; some go on to a child of it.
 void expectEdits(const EditCase& test) {
   SCOPED_TRACE(test.what);
   MarkupDocument document;
@@ -176,7 +176,7 @@ TEST(EditsAddElem, PlacesElementsBetweenOthers) {
   for (const EditCase& test : kCases) expectEdits(test);
 }
 
-// No padding where there is text, and there may not have been any.
+// An element with text gets no padding, and setting the content may add or remove text.
 TEST(EditsAddElem, LooksForTextAgainOnceTheContentIsSet) {
   MarkupDocument document;
   ASSERT_TRUE(document.addElem(u"a"));

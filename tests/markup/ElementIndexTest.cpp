@@ -59,8 +59,8 @@ TEST(ElementIndex, WalksInTheOrderOfTheText) {
   EXPECT_EQ(index.nextBehind(a), b);
 }
 
-// Records keep their place and content over every way of growing: doubling of the first segment,
-// its end, and further segments.
+// Records keep their place and content in every way of growing: doubling the first segment,
+// reaching its end, adding segments.
 TEST(ElementIndex, KeepsRecordsWhenItGrowsOverSegments) {
   constexpr ElementNumber kCount = 200'000;
   for (const std::size_t expected : {std::size_t{0}, std::size_t{70'000}}) {

@@ -1,4 +1,4 @@
-// Texts behind whose end nothing may be read.
+// Nothing behind the end of a text is read.
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 namespace brennet {
 namespace {
 
-// A copy of a text that ends where the memory of the process does.
+// A copy of a text whose end is the end of accessible memory.
 class GuardedText {
  public:
   explicit GuardedText(std::u16string_view text)

@@ -1,5 +1,5 @@
-// Documents of extreme shapes: each is read in linear time and without recursion. Were one of them
-// quadratic, its test would not end.
+// Documents of extreme shapes: each is read in linear time and without recursion. In quadratic time
+// its test would not end.
 #include <gtest/gtest.h>
 
 #include "markup/MarkupDocument.h"
@@ -93,7 +93,7 @@ TEST(Limits, ADocumentOf64Megabytes) {
   EXPECT_EQ(document.getChildData(), u"1");
 }
 
-// What a document says of entities is passed over: nothing grows, and nothing is fetched.
+// A document's own entities are ignored: nothing grows, and nothing is fetched.
 TEST(Limits, EntitiesOfADocumentsOwn) {
   MarkupDocument document;
   ASSERT_TRUE(

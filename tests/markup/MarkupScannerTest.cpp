@@ -15,7 +15,7 @@ std::size_t naive(std::u16string_view text, std::u16string_view wanted, std::siz
   return found == std::u16string_view::npos ? text.size() : found;
 }
 
-// Units whose low or high byte looks like one of the characters that are looked for.
+// Units whose low or high byte looks like one of the characters that the scanner looks for.
 constexpr char16_t kUnits[] = {u'<',   u'>',   u'"',   u'\'',  u'a',   u' ',   0,
                                0x3C3C, 0x3C00, 0x3E00, 0x22FF, 0x8022, 0xFF3C, 0xFF3E,
                                0xFFFF, 0x8000, 0x7FFF, 0x0100, 0x00FF, 0x013C, 0x4E2D};
@@ -38,7 +38,8 @@ TEST(MarkupScanner, FindsWhatASimpleSearchFinds) {
   }
 }
 
-// The end of the tag at `start` where it is plain to see, found step by step.
+// The end of the tag at `start`, found unit by unit. Nothing unless it is a plain one: within 64
+// units, behind pairs of double quotes and no single ones.
 std::optional<std::size_t> naiveTagEnd(std::u16string_view text, std::size_t start) {
   const std::size_t end = naive(text, u">", start);
   if (end == text.size() || end - start >= 64) return std::nullopt;

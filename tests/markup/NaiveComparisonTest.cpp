@@ -1,5 +1,5 @@
-// The document and a second, naive parser find the same in texts of all kinds. A fuzz target goes
-// on where this ends.
+// The document and a second, naive parser find the same in texts of all kinds. A fuzz target tries
+// many more.
 
 #include <gtest/gtest.h>
 

@@ -34,7 +34,7 @@ std::u16string decimal(std::size_t number) {
   return {digits.begin(), digits.end()};
 }
 
-// The character that a reference stands for, `inside` being what is between "&" and ";". 0: none.
+// The character that a reference stands for; 0 if none. `inside` is the text between "&" and ";".
 char32_t referenced(std::u16string_view inside) {
   if (!inside.starts_with(u"#")) return entityCode(inside);
   const bool isHex = inside.starts_with(u"#x");
@@ -70,7 +70,7 @@ std::u16string resolved(std::u16string_view text) {
   return result;
 }
 
-// The attributes in what stands between the name and the end of a start tag.
+// The attributes in the text between the name and the end of a start tag.
 std::vector<std::pair<std::u16string, std::u16string>> attributesIn(std::u16string_view text) {
   std::vector<std::pair<std::u16string, std::u16string>> attributes;
   std::size_t at = 0;
@@ -152,7 +152,7 @@ class NaiveParser {
     document_.log.append(u"/>");
   }
 
-  // Text that goes on without a token in between is read as one.
+  // Text without a token in between is read as one piece.
   void endRun() {
     if (!open_.empty()) document_.elements[open_.back()].data += resolved(run_);
     run_.clear();
@@ -164,7 +164,7 @@ class NaiveParser {
     at_ = end;
   }
 
-  // A token that was begun as it should, and has no end: it takes all that is left.
+  // A token that begins as it should but has no end takes all that is left.
   void endless(std::u16string_view event, std::u16string_view kind) {
     std::vector<Attribute> attributes = {{u"offset", decimal(at_)}};
     if (!kind.empty()) attributes.insert(attributes.begin(), {u"type", std::u16string(kind)});
@@ -312,7 +312,7 @@ class NaiveParser {
   std::size_t at_ = 0;
   std::u16string run_;              // text since the last token
   std::vector<std::size_t> open_;   // indices of the open elements, the root first
-  std::optional<std::size_t> end_;  // where a token begins that takes all that is left
+  std::optional<std::size_t> end_;  // start of the token that takes all that is left
   bool hasSibling_ = false;
   bool isRootUnclosed_ = false;
   NaiveDocument document_;

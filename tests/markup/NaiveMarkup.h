@@ -8,9 +8,9 @@
 
 namespace brennet::test {
 
-// A second parser of markup texts, which shares nothing with the document's own but the table of
-// entity names. It is as plain as can be, looks at one character after the other and minds no time,
-// so that it can be checked by reading; the two are compared on texts of all kinds.
+// A second parser of markup texts, which shares only the table of entity names with the document's
+// own. It is as plain as can be, goes from one character to the next and does not care about speed,
+// so that it can be checked by reading. The two are compared on texts of all kinds.
 
 struct NaiveElement {
   std::size_t depth;  // 0 for the root
@@ -23,7 +23,7 @@ struct NaiveElement {
 struct NaiveDocument {
   bool isWellFormed = false;
   std::vector<NaiveElement> elements;  // in the order of their start tags
-  std::u16string log;                  // as MarkupDocument::result, but without an end
+  std::u16string log;                  // as MarkupDocument::result, but of any length
 };
 
 [[nodiscard]] NaiveDocument parseNaively(std::u16string_view text);

@@ -1,4 +1,4 @@
-// Moving about in a document and reading from it.
+// Moving around in a document and reading from it.
 #include <gtest/gtest.h>
 
 #include "markup/MarkupDocument.h"

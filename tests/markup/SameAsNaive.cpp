@@ -6,8 +6,8 @@
 namespace brennet::test {
 namespace {
 
-// Goes to the element that follows in the order of the text. `depth` is that of the main element,
-// and becomes that of the next one.
+// Goes to the element that follows in the order of the text. `depth` is the depth of the main
+// element, before and after.
 bool goOn(MarkupDocument& document, std::size_t& depth) {
   if (document.intoElem()) {
     ++depth;
@@ -44,7 +44,7 @@ std::u16string differenceOf(const MarkupDocument& document, std::size_t depth,
   if (document.getData() != naive.data) return shown(u"data", document.getData(), naive.data);
   std::u16string seen = u" ";
   for (const auto& [name, value] : naive.attributes) {
-    // Of two attributes with the same name the first counts.
+    // Of two attributes with the same name, the first counts.
     if (seen.find(u" " + name + u" ") != std::u16string::npos) continue;
     seen.append(name).append(u" ");
     const std::u16string read = document.getAttrib(name);
@@ -67,7 +67,7 @@ std::u16string differenceToNaive(const std::u16string& text) {
     return shown(u"well-formed", isWellFormed ? u"yes" : u"no",
                  naive.isWellFormed ? u"yes" : u"no");
   }
-  // The document's log ends with the event that fills it.
+  // A document's log stops after the event that fills it.
   if (naive.log.substr(0, document.result().size()) != document.result() ||
       (document.result().size() < ResultLog::kFull && document.result() != naive.log)) {
     return shown(u"log", document.result(), naive.log);

@@ -1,4 +1,4 @@
-// Parsing: what is well-formed, what is reported, and the tree that comes out all the same.
+// Parsing: what is well-formed, what is reported, and which tree results all the same.
 #include <gtest/gtest.h>
 
 #include "markup/MarkupDocument.h"

@@ -7,7 +7,7 @@
 namespace brennet {
 namespace {
 
-// Name and attributes of a tag as "name(a=1)(b=2)".
+// The name and attributes of a tag, as "name(a=1)(b=2)".
 std::u16string read(std::u16string_view text) {
   StartTag tag(text);
   std::u16string result(tag.name());
@@ -34,7 +34,7 @@ TEST(StartTag, ReadsNameAndAttributes) {
       {u"<a b=\"1\"c=\"2\">", u"a(b=1)(c=2)"},
       {u"<?xml version=\"1.0\" encoding=\"gb2312\"?>", u"xml(version=1.0)(encoding=gb2312)"},
       {u"<\u4e2d \u6587=\"\u5b57\">", u"\u4e2d(\u6587=\u5b57)"},
-      // Generously:
+      // Not well-formed, but read:
       {u"<a b>", u"a(b=)"},
       {u"<a b=>", u"a(b=)"},
       {u"<a b= c=\"1\">", u"a(b=)(c=1)"},

@@ -83,7 +83,7 @@ TEST(DoubleByteCodec, SaysWhenAUnitIsLost) {
   EXPECT_EQ(bytes, "??") << "surrogates are encoded one by one";
 }
 
-// Texts are converted in chunks and runs: what stands at their seams does not matter.
+// Texts are converted in chunks and runs; where these meet makes no difference.
 TEST(DoubleByteCodec, ConvertsLongTextsLikeShortOnes) {
   const std::string_view kPieces[] = {"a", "plain text, longer than a register ", "\xD0\xBB",
                                       "\xB9\xFE\xC4\xE3", "\x80"};

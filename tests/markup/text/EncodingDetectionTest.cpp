@@ -61,7 +61,7 @@ struct DetectionCase {
   std::u16string_view name;
 };
 
-// A document must be read in the encoding that it will be written in.
+// A document has to be read in the encoding in which it will be written.
 TEST(DeclaredEncoding, IsTheSameForBytesAndForText) {
   const std::string kRows[] = {
       "<?xml version='1.0' n='a>b' encoding='big5'?><a/>",
@@ -137,7 +137,7 @@ TEST(EncodingDetection, WeighsMarksSignaturesBytesAndDeclarations) {
   expectDetected(kCases);
 }
 
-// Phrases that read as UTF-8 by accident, of two and of three bytes a sequence.
+// Phrases that happen to be valid UTF-8, in sequences of two or three bytes.
 TEST(EncodingDetection, KeepsWhatReadsAsUtf8ByAccident) {
   const platform::CodePage ansi = platform::ansiCodePage();
   const platform::CodePage gb18030 = convertibleCodePage(54936);  // some systems lack it
@@ -155,7 +155,7 @@ TEST(EncodingDetection, KeepsWhatReadsAsUtf8ByAccident) {
       {"UTF-8 that the code page cannot read",
        "<?xml encoding='gb2312'?><a>\xC3\xA9\xE8\xB0\xA2</a>", Source::Utf8Detection, 65001,
        u"UTF-8"},
-      // Of GB18030 each system knows the form at least, and what has an unknown name was written in
+      // Every system knows at least the form of GB18030. What has an unknown name was written in
       // the system's code page.
       {"accidental two-byte sequences in GB18030",
        "<?xml encoding='gb18030'?><a>\xD0\xBB\xD0\xBB</a>", Source::Declaration, gb18030,

@@ -15,7 +15,7 @@ std::uint8_t byteAt(std::string_view bytes, std::size_t at) {
   return static_cast<std::uint8_t>(bytes[at]);
 }
 
-// Zero units are no text.
+// Zero units are left out.
 void append(char32_t character, std::u16string& text) {
   if (character >= 0x10000) {
     text += static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10U));
@@ -26,7 +26,7 @@ void append(char32_t character, std::u16string& text) {
 }
 
 // The well-formed sequences of UTF-8, as the Unicode standard lists them (table 3-7): the ranges of
-// the first and the second byte, and how many there are. All others are 80 to BF.
+// the first and the second byte, and the number of bytes. All further bytes are 80 to BF.
 struct Sequence {
   std::uint8_t first, firstLast, second, secondLast;
   std::size_t length;
@@ -66,7 +66,7 @@ char32_t valueOf(std::string_view sequence) {
   return value;
 }
 
-// Nothing where `mustBeWhole` and a sequence is not, other than one that the end cuts off.
+// Nothing if `mustBeWhole` and a sequence is not whole, unless the end cuts it off.
 std::optional<std::u16string> fromUtf8(std::string_view bytes, bool mustBeWhole) {
   std::u16string text;
   while (!bytes.empty()) {
@@ -88,7 +88,7 @@ char32_t unitOf(std::string_view bytes, bool isBigEndian) {
   return unit;
 }
 
-// Units of two bytes are taken as they are, also surrogates without the other half.
+// Units of two bytes are taken as they are, even surrogates without their other half.
 std::u16string fromUnits(std::string_view bytes, std::size_t size, bool isBigEndian) {
   std::u16string text;
   for (; bytes.size() >= size; bytes.remove_prefix(size)) {
@@ -108,7 +108,7 @@ bool isAscii(std::string_view bytes) {
 
 std::optional<std::u16string> decodedNaively(std::string_view bytes) {
   if (bytes.starts_with("\xEF\xBB\xBF"sv)) {
-    // What zeros stand between may belong together.
+    // Bytes that zeros separate may belong together.
     if (bytes.find('\0') != std::string_view::npos && !isAscii(bytes.substr(3)))
       return std::nullopt;
     return fromUtf8(bytes.substr(3), false);
@@ -117,7 +117,7 @@ std::optional<std::u16string> decodedNaively(std::string_view bytes) {
   if (bytes.starts_with("\0\0\xFE\xFF"sv)) return fromUnits(bytes.substr(4), 4, true);
   if (bytes.starts_with("\xFF\xFE"sv)) return fromUnits(bytes.substr(2), 2, false);
   if (bytes.starts_with("\xFE\xFF"sv)) return fromUnits(bytes.substr(2), 2, true);
-  // Zeros may mean UTF-16 without a mark, and a declaration may speak against UTF-8.
+  // Zeros may mean UTF-16 without a mark, and a declaration may name another encoding.
   if (bytes.find('\0') != std::string_view::npos) return std::nullopt;
   const bool mayDeclare = bytes.find('<') != std::string_view::npos;
   if (mayDeclare && !isAscii(bytes)) return std::nullopt;

@@ -87,8 +87,8 @@ TEST(TextDecoding, GivesACharacterThatABlockCutsOffToTheNextOne) {
             u"<converted_to encoding=\"UTF-16\" length=\"1\"/>");
 }
 
-// Where the system has no conversion for GB18030, the ANSI code page takes its place, whose block
-// ends can be examined.
+// If the system cannot convert GB18030, the ANSI code page takes its place, and the ends of that
+// one's blocks can be examined.
 TEST(TextDecoding, TakesTheRestWhereABlockEndCannotBeExamined) {
   const bool known = platform::codePageShape(54936) != platform::CodePageShape::Unsupported;
   const std::string_view bytes = "<?xml encoding='gb18030'?>\x81\x30\x81\x30\xB9\xFE";
@@ -125,7 +125,7 @@ TEST(TextDecoding, GivesTheSameTextForEveryBlockSize) {
   }
 }
 
-// Zero units may stand inside characters and around the ends of blocks.
+// Zero units may be inside characters and around the ends of blocks.
 TEST(TextDecoding, RemovesZerosAlikeForEveryBlockSize) {
   std::mt19937 random(5);
   for (int round = 0; round < 300; ++round) {
@@ -144,7 +144,7 @@ TEST(TextDecoding, RemovesZerosAlikeForEveryBlockSize) {
   }
 }
 
-// All that a log says about removed zeros.
+// The number of removed zeros in all entries of a log, which has one digit in each.
 std::size_t zerosIn(std::u16string_view log) {
   constexpr std::u16string_view kCount = u"<nulls_removed count=\"";
   std::size_t zeros = 0;

@@ -132,7 +132,7 @@ TEST(Utf8, ReadsEachBadPartAsOneReplacementCharacter) {
   }
 }
 
-// Long texts are converted in chunks: what stands at the seam does not matter.
+// Long texts are converted in chunks; where these meet makes no difference.
 TEST(Utf8, ReadsLongTextsLikeShortOnes) {
   const std::string_view kPieces[] = {"a",
                                       "plain ascii text, longer than a register",
@@ -147,7 +147,7 @@ TEST(Utf8, ReadsLongTextsLikeShortOnes) {
   while (bytes.size() < 30'000) {
     const std::string_view piece = kPieces[random() % std::size(kPieces)];
     bytes += piece;
-    bytes += '.';  // so that each piece stands alone
+    bytes += '.';  // so that no piece joins the next
     expected += decoded(piece) + u".";
   }
   EXPECT_EQ(decoded(bytes), expected);
