@@ -1,4 +1,5 @@
-// A registry that is not as it should be: what cannot be read is a default, and nothing is touched.
+// A registry that is not as it should be: whatever cannot be read gets its default, and nothing is
+// touched.
 
 #include "gameside/dota7/Dota7Settings.h"
 #include "tests/gameside/dota7/Dota7Test.h"
@@ -87,7 +88,7 @@ struct PhraseCase {
 class Dota7BadInputPhrases : public Dota7BadInput,
                              public testing::WithParamInterface<PhraseCase> {};
 
-// The chat page hands all phrases back when it is left with OK, changed or not.
+// When the chat page ends with OK, it hands back all phrases, changed or not.
 TEST_P(Dota7BadInputPhrases, AreLeftAloneUntilThePlayerChangesThem) {
   const PhraseCase& row = GetParam();
   const Dota7Phrase& phrase = *findDota7Phrase(u"edt_SQuickChatString0");
@@ -128,7 +129,7 @@ TEST_F(Dota7BadInput, APhraseOfExactlyTheLimitIsRead) {
   EXPECT_EQ(settings.phrase(*findDota7Phrase(u"edt_SOnStartString0")), std::u16string(260, u'a'));
 }
 
-// Every operation on a registry that does not take it.
+// Does everything that writes.
 void changeEverything(Dota7KeyInfoManager& manager) {
   Dota7Settings& settings = manager.settings();
   settings.load();

@@ -1,5 +1,5 @@
 // Runs of the dialog that do not end, and what the next one does about them. A manager that goes
-// out of scope leaves behind what a process does that is killed.
+// out of scope leaves behind what a killed process would.
 
 #include <memory>
 #include <string>
@@ -26,7 +26,7 @@ class Dota7JournalTest : public Dota7Test {
     before = registry.content();
   }
   ~Dota7JournalTest() override {
-    // What a failed test leaves would meet the next one, where a user has one registry only.
+    // Where a user has only one registry, journals of a failed test would disturb the next one.
     for (const char number : {'0', '1', '2', '3', '4', '5', '6', '7'}) {
       platform::PrivateFile file;
       const std::string name = nameOf(number);
@@ -55,7 +55,7 @@ class Dota7JournalTest : public Dota7Test {
     begun->settings().load();
     return begun;
   }
-  // Values that are there and that are not.
+  // Changes values that exist and values that do not.
   static void edit(Manager& in, int code = 'T') {
     EXPECT_TRUE(in.settings().storeKey(field(u"edt_HStopKey"), key(code)));
     in.settings().setOn(*findDota7Switch(u"chk_SLegacyKeys"), true);
@@ -163,14 +163,14 @@ TEST_F(Dota7JournalTest, ThatCouldNotBeGivenBackAreWhenTheNextBegins) {
   EXPECT_FALSE(isAnyThere());
 }
 
-// The registry refuses for a while: that is told apart from values that nobody has to undo.
+// A registry that refuses for a while differs from values that need no undoing.
 class Dota7JournalBehindADeniedRun : public Dota7JournalTest {
  protected:
   Dota7JournalBehindADeniedRun() {
     auto killed = newRun();
     edit(*killed);
     killed.reset();
-    // Away, and back again, as somebody may do it who restores a part of the registry.
+    // The key goes away and comes back, as when somebody restores a part of the registry.
     registry.removeKey(kDota7ControlPath);
     run = newRun();
     EXPECT_EQ(phrases(u"SOnStartString0"), bytesValue("go")) << "that much was possible";
@@ -296,7 +296,7 @@ TEST_F(Dota7JournalTest, HaveNoJournalBeforeThereIsAnythingToUndo) {
   Dota7Change change;
   change.keyPath = kDota7ControlPath;
   change.valueName = u"HStopKeyCode";
-  change.value = 'S';  // as it is
+  change.value = 'S';  // the current one
   manager.writeValue(change);
   EXPECT_FALSE(isAnyThere());
   change.value = 'T';

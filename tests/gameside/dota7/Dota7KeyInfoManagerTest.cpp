@@ -1,4 +1,4 @@
-// The way of a change into the registry and out of it again.
+// How a change gets into the registry and out of it again.
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
 
@@ -140,7 +140,7 @@ TEST_F(Dota7KeyInfoManagerTest, GivesBackWhatStoodThereUnderANameInAnyCase) {
   manager.cancelChanges();
   EXPECT_EQ(control(u"Code"), dwordValue(9));
   EXPECT_EQ(registry.content(), before);
-  // The absence of a value as well.
+  // The absence of a value is restored as well.
   manager.writeValue(numberChange(u"new", 1));
   manager.writeValue(numberChange(u"NEW", 2));
   manager.cancelChanges();

@@ -12,8 +12,8 @@ namespace {
 constexpr int kCtrlKey = 0x11;
 constexpr int kAltKey = 0x12;
 
-// Written by rule where keys come in runs, so that the rows do not repeat the table's own way of
-// listing them.
+// Keys in runs are given by rules, so that the rows do not repeat the way in which the table lists
+// them.
 struct NameOfKey {
   int code;
   const char16_t* name;

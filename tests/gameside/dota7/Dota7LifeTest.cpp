@@ -1,4 +1,4 @@
-// Changes that meet a registry which is not as they left it.
+// Changes in a registry that others have changed meanwhile.
 
 #include "tests/gameside/dota7/Dota7Test.h"
 
@@ -9,7 +9,7 @@ TEST(Dota7LifeOfChanges, AreWrittenOnceTheKeyIsThere) {
   ScopedRegistry registry;
   Dota7KeyInfoManager manager;
   EXPECT_TRUE(manager.settings().storeKey(*findDota7KeyField(u"edt_HStopKey"), key('S')));
-  registry.createKey(kDota7ControlPath);  // as the import of the first keys does, a little later
+  registry.createKey(kDota7ControlPath);  // as the import of the first keys does with some delay
   manager.acceptChanges();
   const platform::RegFile content = registry.content();
   const auto* const code = content.find(below(kDota7ControlPath), u"HStopKeyCode");

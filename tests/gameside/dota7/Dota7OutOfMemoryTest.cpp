@@ -1,5 +1,5 @@
-// Each allocation of a run fails, alone and with all that follow: what was not confirmed is given
-// back, by the next run where there was no memory for that either.
+// Each allocation of a run fails, alone or with all that follow: changes that were not confirmed
+// are undone, by the next run if there was no memory for that either.
 
 #include "tests/gameside/dota7/Dota7Test.h"
 #include "tests/host/FailingNew.h"
@@ -32,7 +32,7 @@ class Dota7OutOfMemory : public Dota7Test, public testing::WithParamInterface<La
     run.settings().setPhrase(*findDota7Phrase(u"edt_SOnStartString0"), u"another, as long as that");
     run.settings().setOn(*findDota7Switch(u"chk_SLegacyKeys"), true);
   }
-  // As the dialog does it: what fails there ends it as cancelled.
+  // As in the dialog: a failure there ends it as if it were cancelled.
   static Told play(Dota7KeyInfoManager& run, bool isConfirmed) {
     try {
       edit(run);

@@ -1,5 +1,5 @@
-// A player whose client is killed in the middle of the DotA 7 dialog: does the first so many things
-// that the argument says, and is gone.
+// A player whose client is killed in the middle of the DotA 7 dialog. The argument says after how
+// many steps.
 
 #include <windows.h>
 
@@ -12,7 +12,7 @@ namespace {
 
 using namespace brennet;
 
-// The last is to confirm all.
+// The last step confirms everything.
 void play(Dota7KeyInfoManager& manager, int steps) {
   Dota7Settings& settings = manager.settings();
   manager.beginRun();

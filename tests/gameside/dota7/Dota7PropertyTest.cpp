@@ -1,5 +1,5 @@
 // Whatever the player does, in the end the registry is as it was (Cancel) or as the pages showed it
-// (OK). The seeds are fixed, so a failure shows again.
+// (OK). The seeds are fixed, so failures can be repeated.
 
 #include <map>
 #include <random>
@@ -30,7 +30,7 @@ class Player {
     return rows[below(static_cast<unsigned>(rows.size()))];
   }
 
-  // Something that may stand in a value, good or bad.
+  // Something that a value may hold, good or bad.
   RegistryValue value() {
     switch (below(5)) {
       case 0:
@@ -46,7 +46,7 @@ class Player {
     }
   }
 
-  // A few keys, so that they meet.
+  // One of a few keys, so that conflicts are common.
   Dota7Key key() {
     constexpr int kModifiers[] = {Dota7Key::kNoModifier, Dota7Key::kCtrl, Dota7Key::kAlt};
     return {static_cast<int>(below(12)) * 5, kModifiers[below(3)]};
@@ -91,7 +91,7 @@ class Player {
   }
 
  private:
-  // As the pages do it: a key that is used clears the field.
+  // As on the pages: a key that is in use clears the field.
   void captureKey(Dota7Settings& settings) {
     const Dota7KeyField& field = oneOf(dota7KeyFields());
     if (!settings.storeKey(field, key())) settings.clearKey(field);
@@ -123,7 +123,7 @@ Shown shownBy(Dota7Settings& settings) {
 
 class Dota7Property : public test::Dota7Test {
  protected:
-  // Some values of any kind, and some that are none of ours.
+  // Sets some values of any kind, and some that are not ours.
   void fill(Player& player) {
     for (unsigned i = player.below(40); i > 0; --i) {
       const Dota7KeyField& field = player.oneOf(dota7KeyFields());

@@ -1,4 +1,4 @@
-// What the pages show and edit, and what comes of it in the registry.
+// What the pages show and edit, and what the registry gets of it.
 
 #include "gameside/dota7/Dota7Settings.h"
 
@@ -18,11 +18,11 @@ constexpr Dota7Cast kCasts[] = {Dota7Cast::Normal, Dota7Cast::Quick};
 
 class Dota7SettingsTest : public test::Dota7Test {
  protected:
-  // Stores the key, which no other field has.
+  // Stores a key that no other field has.
   void store(std::u16string_view objectName, const Dota7Key& wanted) {
     EXPECT_TRUE(settings.storeKey(field(objectName), wanted));
   }
-  // What another manager reads, as after a restart.
+  // The key that a new manager reads, as after a restart.
   [[nodiscard]] static Dota7Key keyAfterRestart(const Dota7KeyField& row, Dota7Cast cast) {
     Dota7KeyInfoManager other;
     other.settings().load();
@@ -144,7 +144,7 @@ TEST_F(Dota7SettingsTest, LookAtTheCastModeInForceAlone) {
   store(u"edt_ItemKeyC0", key(kQ));
   EXPECT_FALSE(settings.storeKey(field(u"edt_HAttackKeyC"), key(kQ)));
   EXPECT_FALSE(settings.storeKey(field(u"edtHACSkill_3"), key(kQ)));
-  // A field of one pair is in force in both modes.
+  // A field with only one pair of values is in force in both modes.
   store(u"edtOrderSkill_2", key(kW));
   settings.setCast(Dota7Cast::Normal);
   EXPECT_FALSE(settings.storeKey(field(u"edt_HAttackKeyC"), key(kW)));

@@ -14,7 +14,7 @@ inline platform::RegistryValue bytesValue(std::string bytes) {
   return {platform::kRegistryBinary, std::move(bytes)};
 }
 
-// The UTF-8 of a text that is a literal.
+// The bytes of a UTF-8 literal.
 inline std::string utf8(const char8_t* text) {
   return reinterpret_cast<const char*>(text);
 }
@@ -43,7 +43,7 @@ class Dota7Test : public testing::Test {
   [[nodiscard]] std::optional<platform::RegistryValue> phrases(std::u16string_view name) const {
     return valueOf(kDota7PhrasesPath, name);
   }
-  // That the values hold a key and its text.
+  // Expects the values to hold a key and its text.
   void expectKey(std::u16string_view path, const Dota7ValuePair& values, std::uint32_t code,
                  const std::string& text) const {
     EXPECT_EQ(valueOf(path, values.code), platform::dwordValue(code));

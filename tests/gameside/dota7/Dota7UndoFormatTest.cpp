@@ -39,7 +39,7 @@ void expectSame(const std::optional<Dota7Undos>& undos, const Dota7Undos& expect
   }
 }
 
-// The bytes with a sum that fits them.
+// The bytes with the right checksum.
 std::string sealed(std::string bytes) {
   bytes.resize(bytes.size() - kSumBytes);
   std::string sum;
@@ -51,7 +51,7 @@ TEST(Dota7UndoFormat, ReadsBackWhatWasWritten) {
   expectSame(parseDota7Undos(serialize(sample(), kRegistry), kRegistry), sample());
   expectSame(parseDota7Undos(serialize({}, kRegistry), kRegistry), {});
   Dota7Undos changed = sample();
-  changed[kCode].isChanged = true;  // that is known of the run alone that did it
+  changed[kCode].isChanged = true;  // only the run that made the change knows that
   expectSame(parseDota7Undos(serialize(changed, ""), ""), sample());
 }
 
@@ -65,8 +65,8 @@ TEST(Dota7UndoFormat, StaysAsItIs) {
     expected += "\0\0\0"s;
     for (const char16_t unit : text) (expected += static_cast<char>(unit)) += '\0';
   }
-  expected += "\1\0\0\0\3\0\0\0\1\0\0\0x"s;           // bytes stood there
-  expected += "\1\0\0\0\4\0\0\0\4\0\0\0\x51\0\0\0"s;  // and one number was put there
+  expected += "\1\0\0\0\3\0\0\0\1\0\0\0x"s;           // the old value, bytes
+  expected += "\1\0\0\0\4\0\0\0\4\0\0\0\x51\0\0\0"s;  // one value was written, a number
   EXPECT_EQ(serialize(undos, "ab"), sealed(expected + std::string(kSumBytes, ' ')));
 }
 
@@ -84,7 +84,7 @@ TEST(Dota7UndoFormat, TellsOfNoValueThatThePagesDoNotEdit) {
     undos[place] = {dwordValue(1), {dwordValue(2)}, false};
     expectSame(parseDota7Undos(serialize(undos, kRegistry), kRegistry), sample());
   }
-  // A forged one, with names of the same length.
+  // A forged name of the same length.
   Dota7Undos undos;
   undos[kCode] = {dwordValue(1), {}, false};
   std::string bytes = serialize(undos, kRegistry);
@@ -108,7 +108,7 @@ TEST(Dota7UndoFormat, RefusesWhatIsDamaged) {
   EXPECT_FALSE(parseDota7Undos(std::string(1000, '\0'), kRegistry).has_value());
 }
 
-// A sum that fits is no promise that the rest does: numbers may say anything.
+// The right checksum is no promise that the rest is right: numbers may say anything.
 TEST(Dota7UndoFormat, IsReadToItsEndAtMost) {
   const std::string bytes = serialize(sample(), kRegistry);
   std::mt19937 random(1);

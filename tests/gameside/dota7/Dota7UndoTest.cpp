@@ -1,4 +1,4 @@
-// What is noted before a value is changed, and what is given back then.
+// What is noted before a value is changed, and what is put back later.
 
 #include "gameside/dota7/Dota7Undo.h"
 
@@ -37,7 +37,7 @@ TEST(Dota7UndoNote, BeginsAnewWhereSomebodyElseWasThereFirst) {
   EXPECT_TRUE(note(undos, kCode, number(9), dwordValue(2)).second);
   EXPECT_EQ(undos[kCode].old, number(9));
   EXPECT_EQ(undos[kCode].written, std::vector{dwordValue(2)});
-  // But not behind a change of one's own.
+  // But not after a change by the same run.
   undos[kCode].isChanged = true;
   EXPECT_TRUE(note(undos, kCode, number(8), dwordValue(3)).second);
   EXPECT_EQ(undos[kCode].old, number(9));

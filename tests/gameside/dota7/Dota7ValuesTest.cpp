@@ -1,4 +1,4 @@
-// The table of the DotA 7 values, held against lists that are made by rule from their names.
+// The table of the DotA 7 values, compared with lists that rules make from their names.
 
 #include "gameside/dota7/Dota7Values.h"
 
@@ -48,7 +48,7 @@ Names phrasesTexts() {
   return names;
 }
 
-// The name of a code value is that of its text value with "Code" behind "Key".
+// The name of a code value is that of its text value, with "Code" after "Key".
 std::u16string codeOf(std::u16string_view text) {
   std::u16string code(text);
   return code.insert(code.find(u"Key") + 3, u"Code");
@@ -101,7 +101,7 @@ TEST(Dota7Values, ComeInGroups) {
   }
 }
 
-// Fields are named after their values, but for those below.
+// Fields are named after their values, except those below.
 std::u16string objectNameOf(const std::u16string& text) {
   static const std::map<std::u16string, std::u16string> others = {
       {u"HTeleportKeyC", u"edt_ItemKeyHTeleportKeyC"},

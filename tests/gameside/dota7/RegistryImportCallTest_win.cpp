@@ -1,4 +1,4 @@
-// How the import is asked for: the shell stands behind this test and starts nothing.
+// How the import is asked for: this test takes the shell's place and starts nothing.
 
 #include <windows.h>
 // shellapi.h needs windows.h first.
@@ -71,7 +71,7 @@ TEST_F(RegistryImportCall, StartsTheEditorThereAlsoWhereTheFolderEndsInNoSeparat
   EXPECT_EQ(calls.front().directory, (folder_ / "").wstring());
 }
 
-// The shell answers with a number above 32 where it has started the program.
+// If the shell has started the program, it answers with a number above 32.
 TEST_F(RegistryImportCall, TellsWhetherTheEditorWasStarted) {
   for (const std::intptr_t number : {0, 2, 32, 33, 42}) {
     answer = number;

@@ -1,4 +1,4 @@
-// The sample of a registry file, and its import where there is none.
+// The sample registry file, and the import without one.
 
 #include "gameside/dota7/RegistryImport.h"
 
@@ -48,7 +48,7 @@ TEST(RegistryImport, LeavesAKeyAloneThatIsThere) {
   EXPECT_EQ(registry.content(), before);
 }
 
-// 16 MiB; the sample has some 20 KiB.
+// The limit is 16 MiB; the sample has some 20 KiB.
 TEST(RegistryImport, LeavesAFileAloneThatIsTooLarge) {
   const ScopedRegistry registry;
   const RegFile before = registry.content();

@@ -51,7 +51,7 @@ TEST(RegistryImportFromAFile, FindsTheFileWithASeparatorAtTheEndOfTheFolderOrWit
       {(folder / "").u16string(), true},
       {(folder / ".." / "data").u16string(), true},
       {folder.u16string() + u"//", true},
-      {(parent / "").u16string() + u"other ", true},  // it is the text that the name follows
+      {(parent / "").u16string() + u"other ", true},  // the name just follows the text
       {(parent / "").u16string(), false},
       {(parent / "").u16string() + u"dat", false},
       {(parent / "").u16string() + u"data ", false},

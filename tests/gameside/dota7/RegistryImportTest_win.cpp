@@ -1,4 +1,4 @@
-// The import by the registry editor itself: which processes it starts, and what comes of it.
+// The import by the registry editor itself: which processes it starts, and what is imported.
 
 #include <windows.h>
 
@@ -21,7 +21,7 @@ using test::writeBytes;
 
 const std::string kSample = test::sampleData("Tollamere.reg");
 
-// This process and all that it starts from now on, counted by the system.
+// Has the system count all processes that this one starts from now on.
 class StartedProcesses {
  public:
   StartedProcesses() : job_(CreateJobObjectW(nullptr, nullptr)) {
@@ -34,10 +34,10 @@ class StartedProcesses {
   StartedProcesses(const StartedProcesses&) = delete;
   StartedProcesses& operator=(const StartedProcesses&) = delete;
 
-  // How many were started, those that have ended included.
+  // How many were started, including those that have ended.
   [[nodiscard]] DWORD number() const { return counts().TotalProcesses - before_; }
 
-  // Waits until none but this process is left; false when that takes too long.
+  // Waits until only this process is left; false if that takes too long.
   [[nodiscard]] bool waitForThem() const {
     constexpr int kTries = 600;
     for (int i = 0; i < kTries && counts().ActiveProcesses > 1; ++i) Sleep(50);

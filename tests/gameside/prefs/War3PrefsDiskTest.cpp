@@ -1,4 +1,4 @@
-// The preference file as a file: when it is written, and when it is left alone.
+// The preference file on disk: when it is written, and when it is left alone.
 
 #include <gtest/gtest.h>
 

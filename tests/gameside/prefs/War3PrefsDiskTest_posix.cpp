@@ -1,4 +1,4 @@
-// Where the preference file lies, and what permissions do to it, on systems with a home folder and
+// Where the preference file is, and how permissions protect it, on systems with home folders and
 // user ids.
 
 #include <gtest/gtest.h>
@@ -23,8 +23,8 @@ constexpr char kName[] = "War3Preferences.txt";
 constexpr char kOffFile[] = "[Gameplay]\r\ncustomkeys=0\r\n\r\n";
 constexpr char kOnFile[] = "[Gameplay]\r\ncustomkeys=2\r\n\r\n";
 
-// Switches custom keys on as an ordinary user, in a folder and a file of these modes. Afterwards
-// both may be read and removed again.
+// Switches custom keys on as an ordinary user, with these modes of the folder and the file.
+// Afterwards both may be read and removed again.
 bool trySwitchOn(const TempFolder& folder, mode_t folderMode, mode_t fileMode) {
   chmod((folder / kName).c_str(), fileMode);
   chmod(folder.path().c_str(), folderMode);
@@ -72,7 +72,7 @@ TEST(War3PrefsDiskPermissions, ProtectAFileThatMayNotBeOpenedAtAll) {
   EXPECT_EQ(folder.listing(), "War3Preferences.txt\n");
 }
 
-// What it holds is not known, so nothing can be put in its place.
+// Its content is not known, so nothing can replace it.
 TEST(War3PrefsDiskPermissions, ProtectAFileThatMayOnlyBeWritten) {
   const TempFolder folder;
   writeBytes(folder / kName, kOffFile);

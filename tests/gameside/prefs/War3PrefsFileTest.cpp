@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
                               "[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n\r\n"}),
     caseName);
 
-// The text is exactly as long as the file: each CR that was taken out leaves a zero at the end.
+// The text is exactly as long as the file: each CR that is removed leaves a zero at the end.
 INSTANTIATE_TEST_SUITE_P(
     EndOfFile, War3PrefsFileReadAndWritten,
     testing::Values(
@@ -252,7 +252,7 @@ TEST(War3PrefsFileParseLine, HandsASectionOverWhenTheNextOneBegins) {
   EXPECT_EQ(file.serialize(), "[A]\r\nx=1\r\n\r\n");
 }
 
-// 32 MB of the shapes that would hurt a reader that copies or searches more than it has to.
+// 32 MB in shapes that would hurt a reader that copies or searches more than it has to.
 class War3PrefsFileBigFile : public testing::TestWithParam<std::string_view> {};
 
 TEST_P(War3PrefsFileBigFile, LosesNothing) {

@@ -1,5 +1,5 @@
-// Whole preference files, each as the game wrote it (<case>.in.txt) and as it has to be after the
-// hotkeys of a scheme were put into it (<case>.out.txt).
+// Whole preference files: as the game wrote them (<case>.in.txt), and as they have to be once the
+// hotkeys of a scheme are in them (<case>.out.txt).
 //
 // The second file of each pair is a golden file, see Golden.h.
 
