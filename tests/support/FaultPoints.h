@@ -7,9 +7,9 @@
 
 namespace brennet::test {
 
-// At which of the points 0 to count - 1 a test lets something fail: at `sample` of them or a few
-// more, the same each time, with equal distances and the last one among them. BRENNET_TEST_FAULTS
-// is another number than `sample`, or "all".
+// The points, from 0 to count - 1, at which a test makes something fail: `sample` of them or a few
+// more, the same each time, evenly spaced and including the last one. BRENNET_TEST_FAULTS replaces
+// `sample` by another number or "all".
 inline std::vector<long> faultPoints(long count, long sample) {
   const char* const choice = std::getenv("BRENNET_TEST_FAULTS");
   if (choice != nullptr) {

@@ -23,7 +23,7 @@ void replace(const std::string& file, const std::string& content) {
   ASSERT_FALSE(platform::replaceFile(platform::pathFromNarrow(file), content)) << file;
 }
 
-// A file that is not there yet is empty.
+// A file that does not exist yet counts as empty.
 std::string read(const std::string& file) {
   std::string content;
   if (platform::readFile(platform::pathFromNarrow(file), content, platform::kAnySize)) return {};

@@ -3,16 +3,16 @@
 #include <string>
 
 // Files of the project that are made from the code or by running it. A test makes them and fails
-// where the project has others; `make update` has the same test rewrite them (it sets
+// if the project's own differ; `make update` has the same test rewrite them (it sets
 // BRENNET_UPDATE_GOLDEN and runs the suites of the sources that include this header).
 namespace brennet::test {
 
-// Fails where `actual` is not what the file `name` of the test data holds.
+// Fails if `actual` differs from the file `name` of the test data.
 void expectGolden(const std::string& name, const std::string& actual);
 
-// Fails where `actual` is not what stands between two lines of `file`, a file of the project named
-// from its top folder: "make update writes this: PART" and the next "make update: end", which may
-// stand in comments.
+// Fails if `actual` differs from what is between two lines of `file`, which is named from the
+// project's top folder: "make update writes this: PART" and the next "make update: end". Both may
+// be in comments.
 void expectGoldenPart(const std::string& file, const std::string& part, const std::string& actual);
 
 }  // namespace brennet::test

@@ -4,10 +4,10 @@
 
 namespace brennet::test {
 
-// Signal: on Windows the first touch is told of and then allowed; elsewhere the same as None.
+// Signal: on Windows the first access is reported and later ones are allowed; elsewhere as None.
 enum class Access { None, Read, Signal };
 
-// Writable pages in front of one with another protection, so that one byte too many shows.
+// Writable pages in front of one with another protection, so that touching one byte too many shows.
 class GuardedPages {
  public:
   // `writable` pages in a row, then one page with the access `guard`.
@@ -16,7 +16,7 @@ class GuardedPages {
   GuardedPages(const GuardedPages&) = delete;
   GuardedPages& operator=(const GuardedPages&) = delete;
 
-  // From here to the boundary the bytes may be written; the guard starts at the boundary.
+  // The bytes from begin() to boundary() may be written; the guard starts at boundary().
   [[nodiscard]] char* begin() const { return start_; }
   [[nodiscard]] char* boundary() const { return start_ + writable_; }
 

@@ -4,7 +4,7 @@
 
 namespace brennet::test {
 
-// How many files and other things of the system this process has open.
+// How many files and other objects of the system this process has open.
 [[nodiscard]] std::size_t openHandles();
 
 }  // namespace brennet::test

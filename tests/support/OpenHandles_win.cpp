@@ -6,8 +6,8 @@
 
 namespace brennet::test {
 
-// Wine does not count handles. Their values are multiples of 4, and one that is free is given again
-// before a larger one.
+// Wine does not count handles. They are multiples of 4, and a free one is reused before a larger
+// one is given.
 std::size_t openHandles() {
   constexpr std::uintptr_t kMoreThanAnyTestOpens = 0x10000;
   std::size_t count = 0;

@@ -7,8 +7,8 @@
 
 namespace brennet::test {
 
-// Passes all calls on to another file system: that of the computer, unless told otherwise. A test
-// overrides those that are to go another way.
+// Passes all calls on to another file system: the computer's own, unless told otherwise. A test
+// overrides those that are to do something else.
 class PassingFileSystem : public platform::FileSystem {
  public:
   using Path = platform::Path;

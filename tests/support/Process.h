@@ -6,7 +6,7 @@
 
 namespace brennet::test {
 
-// Another process: `program`, started with arguments that have no blanks and no quotes. Throws
+// Another process: `program`, started with arguments without blanks and quotes. Throws
 // std::system_error.
 class Process {
  public:
@@ -14,14 +14,14 @@ class Process {
   Process(Process&& other) noexcept;
   Process(const Process&) = delete;
   Process& operator=(const Process&) = delete;
-  // Ends it, if it has not ended.
+  // Ends the process if it has not ended.
   ~Process();
 
-  // Waits for the end, and gives the exit status.
+  // Waits for its end and returns the exit status.
   int wait();
 
  private:
-  std::intptr_t handle_;  // of the system; 0 where it has been waited for
+  std::intptr_t handle_;  // the system's; 0 once wait() has returned
 };
 
 }  // namespace brennet::test

@@ -5,7 +5,7 @@
 
 namespace brennet::test {
 
-// While it lives, no file that this process writes can be longer than so many bytes.
+// While it lives, this process can write no file longer than `size` bytes.
 class ScopedFileLimit {
  public:
   explicit ScopedFileLimit(rlim_t size) {

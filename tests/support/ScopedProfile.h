@@ -4,12 +4,11 @@
 
 namespace brennet::test {
 
-// A profile folder for the time of a test, so that nobody's real preference file is touched.
-// Under Windows itself the profile cannot be moved; there the constructor throws, and only Wine can
-// run such tests.
+// A profile folder for the duration of a test, so that nobody's real preference file is touched.
+// Windows itself cannot move the profile; there the constructor throws, so such tests need Wine.
 class ScopedProfile {
  public:
-  // `folder` exists; an empty one stands for a system that knows of no profile.
+  // `folder` exists; an empty path stands for a system without a profile folder.
   explicit ScopedProfile(const std::filesystem::path& folder);
   ~ScopedProfile();
   ScopedProfile(const ScopedProfile&) = delete;

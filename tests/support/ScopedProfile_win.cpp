@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Wine takes the profile folder to be the one of this name below C:\users.
+// For Wine, the profile folder is the one below C:\users that this variable names.
 constexpr wchar_t kVariable[] = L"WINEUSERNAME";
 constexpr wchar_t kProfiles[] = L"C:\\users";
 

@@ -10,9 +10,9 @@
 
 namespace brennet::test {
 
-// A registry without DotA 7 settings for the time of a test: a file of its own, in the folder of
-// which the user's own folder stands meanwhile, and on Windows the user's own registry. There the
-// constructor throws where the user has such settings; Wine gives each program a new user's
+// A registry without DotA 7 settings for the duration of a test: on Windows the user's registry,
+// elsewhere a new file, whose folder also holds the user's own folder meanwhile. On Windows the
+// constructor throws if the user has such settings; under Wine each program has a new user's
 // registry.
 class ScopedRegistry {
  public:
@@ -21,22 +21,22 @@ class ScopedRegistry {
   ScopedRegistry(const ScopedRegistry&) = delete;
   ScopedRegistry& operator=(const ScopedRegistry&) = delete;
 
-  // What stands at and below Software\Tollamere; elsewhere than on Windows, all that there is.
+  // What is at and below Software\Tollamere; except on Windows, the whole content.
   [[nodiscard]] platform::RegFile content() const;
-  // Waits until `content` stands there, for a minute at most: Windows imports a file by a program
-  // that nobody waits for.
+  // Waits until content() is `content`, for a minute at most: on Windows a program imports files,
+  // and nothing waits for that.
   [[nodiscard]] bool becomes(const platform::RegFile& content) const;
 
-  // Creates keys, given below the user's root, and sets values past all that is tested.
+  // Create keys and set values without the code that is tested; paths are below the user's root.
   void createKey(std::u16string_view path);
   void set(std::u16string_view path, std::u16string_view name,
            const platform::RegistryValue& value);
-  // Removes a key with all that is in it.
+  // Removes a key and everything in it.
   void removeKey(std::u16string_view path);
 
-  // Leaves of all rights to the key (elsewhere than on Windows: to all keys) that of reading.
+  // Leaves only the right to read the key; except on Windows, this affects all keys.
   void denyWriting(std::u16string_view path);
-  // Takes that back.
+  // Takes denyWriting() back.
   void allowWriting(std::u16string_view path);
 
  private:
@@ -44,7 +44,7 @@ class ScopedRegistry {
   std::optional<std::string> folderBefore_;  // for temporary files
 };
 
-// `path`, which is below the user's root, with that root before it.
+// The full path of `path`, which is below the user's root.
 [[nodiscard]] inline std::u16string below(std::u16string_view path) {
   return std::u16string(u"HKEY_CURRENT_USER\\").append(path);
 }
@@ -53,7 +53,7 @@ class ScopedRegistry {
 
 namespace brennet::platform {
 
-// Shows a content in the messages of failed tests; what is not ASCII as question marks.
+// Shows a content in messages of failed tests, with question marks for what is not ASCII.
 inline void PrintTo(const RegFile& content, std::ostream* out) {
   const std::string bytes = content.serialize();
   *out << '\n';

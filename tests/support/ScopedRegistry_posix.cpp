@@ -37,7 +37,7 @@ ScopedRegistry::~ScopedRegistry() {
   } else {
     unsetenv(kFolderVariable);
   }
-  // Rights that denyWriting() gave up.
+  // Regains the rights that denyWriting() gave up.
   if (getuid() == 0 && seteuid(0) != 0) std::abort();
 }
 
@@ -65,7 +65,8 @@ void ScopedRegistry::removeKey(std::u16string_view path) {
   writeBytes(folder_ / kName, content.serialize());
 }
 
-// Permissions do not bind the superuser, who gives that up. The second time nothing is left to do.
+// Permissions do not bind the superuser, so the process becomes another user's. A second call has
+// nothing left to do.
 void ScopedRegistry::denyWriting(std::u16string_view) {
   if (faccessat(AT_FDCWD, (folder_ / kName).c_str(), W_OK, AT_EACCESS) != 0) return;
   if (chmod((folder_ / kName).c_str(), 0444) != 0) throw std::runtime_error("no rights");

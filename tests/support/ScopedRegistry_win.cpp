@@ -79,7 +79,7 @@ void addKey(const std::wstring& path, platform::RegFile& content) {
   }
 }
 
-// Gives a key the rights that stand in `description`.
+// Gives a key the rights in `description`.
 void setRights(const std::wstring& path, const wchar_t* description) {
   const OpenKey key(path, WRITE_DAC);
   PSECURITY_DESCRIPTOR rights = nullptr;
@@ -99,8 +99,8 @@ ScopedRegistry::ScopedRegistry() {
   throw std::runtime_error("this user has DotA 7 settings, which the test would change");
 }
 
-// With the settings goes what runs of the dialog left that did not end: the next test has the same
-// registry, which would get back what it never had.
+// Besides the settings, removes what unfinished runs of the dialog left behind: the next test has
+// the same registry, and would get back values that it never had.
 ScopedRegistry::~ScopedRegistry() {
   RegDeleteTreeW(HKEY_CURRENT_USER, kKey);
   namespace fs = std::filesystem;
@@ -138,7 +138,7 @@ void ScopedRegistry::removeKey(std::u16string_view path) {
 }
 
 void ScopedRegistry::denyWriting(std::u16string_view path) {
-  // Everybody may read the key, change these rights and delete the key.
+  // Everybody may read the key, change its rights and delete it.
   setRights(wide(path), L"D:P(A;;KRWDSD;;;WD)");
 }
 

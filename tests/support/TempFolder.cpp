@@ -22,7 +22,7 @@ TempFolder::TempFolder() {
 
 TempFolder::~TempFolder() {
   std::error_code error;
-  // A test may have taken the rights to change it away.
+  // A test may have taken away the rights to change it.
   fs::permissions(path_, fs::perms::owner_all, fs::perm_options::add, error);
   fs::remove_all(path_, error);
 }

@@ -6,7 +6,7 @@
 
 namespace brennet::test {
 
-// An empty folder of its own for a test, removed with everything in it at the end.
+// A new, empty folder for a test, removed with everything in it at the end.
 class TempFolder {
  public:
   TempFolder();
@@ -19,14 +19,14 @@ class TempFolder {
   [[nodiscard]] std::filesystem::path operator/(std::string_view name) const {
     return path_ / name;
   }
-  // Names of everything directly in the folder, sorted, one a line.
+  // The names of everything directly in the folder, sorted, one a line.
   [[nodiscard]] std::string listing() const;
 
  private:
   std::filesystem::path path_;
 };
 
-// The whole file; empty when it cannot be read.
+// The whole file; empty if it cannot be read.
 std::string readBytes(const std::filesystem::path& path);
 void writeBytes(const std::filesystem::path& path, std::string_view bytes);
 

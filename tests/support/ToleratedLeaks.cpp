@@ -1,6 +1,6 @@
 #include "tests/support/ToleratedLeaks.h"
 
-// GCC says it by a macro, clang by a feature.
+// GCC has a macro for it, clang a feature.
 #if defined(__has_feature)
 #if __has_feature(address_sanitizer)
 #define BRENNET_HAS_LEAK_SANITIZER

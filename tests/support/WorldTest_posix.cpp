@@ -1,4 +1,4 @@
-// The world of test programs: nothing of the caller's, and the same as that of scripts.
+// The world of test programs has nothing of the caller's, and is the same as that of scripts.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ extern char** environ;
 namespace brennet::test {
 namespace {
 
-// What somebody may have set, and what must not reach a test.
+// Variables that somebody may have set and that must not reach a test.
 constexpr const char* kCallers[] = {"LANG",
                                     "LANGUAGE",
                                     "LC_CTYPE",
@@ -35,7 +35,7 @@ constexpr const char* kCallers[] = {"LANG",
                                     "FONTCONFIG_PATH",
                                     "BRENNET_REGISTRY"};
 
-// But for the folder that scripts share.
+// The environment, without the folder that scripts share.
 std::set<std::string> ownWorld() {
   std::set<std::string> world;
   for (char** entry = environ; *entry != nullptr; ++entry) {
@@ -54,7 +54,7 @@ std::set<std::string> worldOfScripts() {
       entry += static_cast<char>(byte);
       continue;
     }
-    // Of the tools of the scripts alone, and what they share.
+    // Only scripts have these: a folder for their tools and one that they share.
     const bool isTheirs =
         entry.starts_with("BRENNET_TOOLCHAIN_DIR=") || entry.starts_with("TMPDIR=");
     if (!isTheirs) world.insert(entry);

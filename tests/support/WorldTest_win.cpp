@@ -1,4 +1,4 @@
-// The world of test programs: nothing of the caller's, and what is the system's.
+// The world of test programs has nothing of the caller's, but everything of the system's.
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 namespace brennet::test {
 namespace {
 
-// What somebody may have set, and what must not reach a test.
+// Variables that somebody may have set and that must not reach a test.
 constexpr const char* kCallers[] = {"LANG",
                                     "TZ",
                                     "LANGUAGE",

@@ -18,7 +18,7 @@ extern char** environ;
 namespace brennet::test {
 namespace {
 
-// As in world.sh.
+// The same as in world.sh.
 constexpr std::string_view kKept[] = {
     "PATH",         "LD_LIBRARY_PATH", "BRENNET_UPDATE_GOLDEN",
     "ASAN_OPTIONS", "LSAN_OPTIONS",    "UBSAN_OPTIONS",
@@ -31,8 +31,8 @@ bool isKept(std::string_view name) {
                      [&](std::string_view beginning) { return name.starts_with(beginning); });
 }
 
-// A folder for the temporary files of this process and its children. As open to other users as the
-// system's own, because tests become other users.
+// A folder for the temporary files of this process and its children. It is as open to other users
+// as the system's own, because tests become other users.
 class OwnFolder {
  public:
   explicit OwnFolder(std::string parent) : path_(std::move(parent) + "/brennet-tests-XXXXXX") {

@@ -12,7 +12,7 @@
 namespace brennet::test {
 namespace {
 
-// The names of Unix go too, because Wine passes them on.
+// The variables of Unix go as well, because Wine passes them on.
 constexpr std::wstring_view kGone[] = {L"LANG", L"LANGUAGE", L"TZ", L"BRENNET_REGISTRY"};
 constexpr std::wstring_view kGoneBeginnings[] = {L"QT_", L"LC_", L"XDG_", L"FONTCONFIG_"};
 
@@ -29,7 +29,7 @@ void leaveTheCallersWorld() {
   wchar_t* const block = GetEnvironmentStringsW();
   if (block == nullptr) return;
   for (std::wstring_view text = block; !text.empty(); text = text.data() + text.size() + 1) {
-    // The names of folders on drives begin with the sign.
+    // The variables for the current folders of drives begin with "=".
     const std::wstring_view name = text.substr(0, text.find(L'=', 1));
     if (goes(name)) gone.emplace_back(name);
   }

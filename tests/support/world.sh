@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Runs a command in the world of the tests, whoever runs it and wherever:
+# Runs a command in the world of the tests, whoever calls it and wherever:
 # world.sh [NAME=VALUE]... COMMAND ARGUMENT...
 #
-# This is to scripts what World.h is to test programs. The toolchain folder is the caller's too.
+# This is to scripts what World.h is to test programs. They keep the caller's toolchain folder.
 set -euo pipefail
 # shellcheck source=tools/windows/lib.sh
 source "$(dirname "$0")/../../tools/windows/lib.sh"
