@@ -11,14 +11,14 @@ namespace {
 
 using Counter = std::uint8_t EditControl::*;
 
-// Numbers that a counter accepts, a bit for each.
+// The numbers that a counter accepts, one bit for each.
 constexpr unsigned bits(unsigned first, unsigned last) {
   return (2U << last) - (1U << first);
 }
 constexpr unsigned kGoods = bits(1, 2) | bits(4, 5) | bits(7, 8);
 
-// The slot that a number in a name stands for: all count from 1, but for items, which are named by
-// their digits on the numeric keypad.
+// The slot that a number in a name stands for. Numbers count from 1, except those of items, which
+// are digits on the numeric keypad.
 using SlotOfNumber = KeySlot (*)(std::uint8_t number);
 
 template <SettingId Setting>
@@ -40,7 +40,7 @@ constexpr KeySlot comboTarget(std::uint8_t /*number*/) {
   return kComboTarget;
 }
 
-// A name that is `prefix` and a number.
+// Names that are `prefix` and a number.
 struct NumberedName {
   std::u16string_view prefix;
   Counter counter;
@@ -80,7 +80,7 @@ constexpr FixedName kFixedNames[] = {
     {u"edtHotKeyLedgerSkill", &EditControl::nLedgerIndex, 3, kLedgerKey},
 };
 
-// The decimal number that `digits` are; 0 when they are no number, or none that a counter holds.
+// The value of the decimal `digits`; 0 if they are no number, or one that no counter holds.
 unsigned numberOf(std::u16string_view digits) {
   unsigned number = 0;
   for (const char16_t digit : digits) {
@@ -91,7 +91,8 @@ unsigned numberOf(std::u16string_view digits) {
   return number;
 }
 
-// What stands behind the last underscore of a name that has something on both sides of one.
+// The part of a name behind its last underscore, not counting those at its end; nothing if there is
+// no other one.
 std::optional<std::u16string_view> lastPart(std::u16string_view name) {
   while (name.ends_with(u'_')) name.remove_suffix(1);
   const std::size_t underscore = name.find_last_of(u'_');
@@ -99,7 +100,7 @@ std::optional<std::u16string_view> lastPart(std::u16string_view name) {
   return name.substr(underscore + 1);
 }
 
-// The digits of a name of the row `row`; empty when it is none of that row.
+// The digits of `name`; nothing if it is not a name of `row`.
 std::optional<std::u16string_view> digitsOf(std::u16string_view name, const NumberedName& row,
                                             BasicPage page) {
   if (!name.starts_with(row.prefix)) return std::nullopt;
@@ -111,7 +112,7 @@ std::optional<std::u16string_view> digitsOf(std::u16string_view name, const Numb
   return name.substr(row.prefix.size());
 }
 
-// What a name says: the counter that it selects, its number, and the slot, where the page has it.
+// What a name says: the counter that it selects, its number, and the slot if the page has it.
 struct Selection {
   Counter counter;
   std::uint8_t number;

@@ -7,16 +7,16 @@ namespace {
 
 constexpr std::u16string_view kPrefix = u"edt";
 
-// The one name that is not spelt like its element.
+// The only name that is not spelt like its element.
 constexpr std::u16string_view kChatWheelKey = u"edtChatWheelKey";
 
-// The part of `name` behind `start`; nothing where it begins with something else.
+// The part of `name` behind `start`; nothing if it begins with something else.
 std::optional<std::u16string_view> behind(std::u16string_view start, std::u16string_view name) {
   if (!name.starts_with(start)) return std::nullopt;
   return name.substr(start.size());
 }
 
-// The index that "_1" and so on stand for in a row of `count` keys.
+// The index that "_1", "_2" and so on stand for in a list of `count` keys; nothing for other texts.
 std::optional<std::uint8_t> indexOf(std::u16string_view rest, std::size_t count) {
   const auto digits = behind(u"_", rest);
   if (!digits || digits->empty() || digits->front() == u'0') return std::nullopt;

@@ -11,7 +11,7 @@ void clear(HotkeyConfig& config, KeySlot slot) {
   if (HotkeyScheme* const scheme = config.editableScheme()) storeKey(*scheme, slot, kNoKey);
 }
 
-// All that keeps `key` from being stored in `slot`; empty when it may be.
+// Everything that keeps `key` from being stored in `slot`; empty if nothing does.
 std::vector<KeyConflict> conflictsOf(const HotkeyScheme& scheme, KeySlot slot, KeyWord key) {
   const std::optional<KeyConflict> first = conflictOf(scheme, slot, key);
   if (!first) return {};
@@ -19,7 +19,7 @@ std::vector<KeyConflict> conflictsOf(const HotkeyScheme& scheme, KeySlot slot, K
   return holdersOf(scheme, key);
 }
 
-// Stores the key; or tells why not, and the slot has no key then.
+// Stores the key, or leaves the slot without a key and returns why.
 std::optional<Refusal> refusalOf(HotkeyConfig& config, KeySlot slot, KeyWord key) {
   HotkeyScheme* const scheme = config.editableScheme();
   if (scheme == nullptr) return Refusal{key, {}};

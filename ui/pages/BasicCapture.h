@@ -9,11 +9,12 @@ class QWidget;
 
 namespace brennet {
 
-// How the basic pages capture keys: fields for features first, then those whose object names say
-// what they edit. Warnings are modal to `page`, which outlives the result.
+// How the basic pages capture keys. A field's name is looked up among the elements (FeatureKeys.h)
+// first, then among the older lists (EditControl.h). Warnings are modal to `page`, which has to
+// outlive the result.
 [[nodiscard]] CapturePage basicCapturePage(BasicPage kind, QWidget& page);
 
-// What getEditControlTypeByParseName (EditControl.h) says, with a debug line about it.
+// The same as getEditControlTypeByParseName (EditControl.h), with a debug line about it.
 bool tracedEditControl(const QString& name, BasicPage kind, EditControl& control);
 
 }  // namespace brennet
