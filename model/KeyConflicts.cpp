@@ -21,7 +21,7 @@ bool canBeBound(KeyWord key) {
   return key.isSet() && vk != kBackspace && vk != kDelete && vk != kEnter;
 }
 
-// Looks at all of the few keys instead of stopping at a match: without branches the compiler
+// Looks at all of the few keys instead of stopping at a match: without branches, the compiler
 // compares several at a time.
 template <class Keys, class Predicate>
 bool anyOf(const Keys& keys, Predicate predicate) {
@@ -37,8 +37,9 @@ auto keysOf(const HotkeyScheme& scheme) {
   return std::span<const KeyWord, kCount>(kKindOf<Id>.keysOf(scheme));
 }
 
-// The keys that no other setting may have, row by row: calls `look` with the slot of the first key,
-// the distance of the slots, what holds the keys, and the way from an element of it to its key.
+// For each row of keys that no other setting may have, calls `look` with the slot of the first key,
+// the distance from one slot to the next, the elements with the keys, and a function that returns
+// the key of an element.
 template <class Look>
 void lookAtGuardedKeys(const HotkeyScheme& scheme, Look look) {
   constexpr auto sent = [](const KeyRemap& remap) { return remap.Dest; };
@@ -60,7 +61,7 @@ void lookAtGuardedKeys(const HotkeyScheme& scheme, Look look) {
   });
 }
 
-// Whether a row has a key that the player can press, of which `uses` is true.
+// Whether `uses` is true for any key of a row that the player can press.
 template <SettingId Id, class Uses>
 bool isPressed(const HotkeyScheme& scheme, Uses uses) {
   constexpr const auto& row = kKindOf<Id>;
@@ -78,7 +79,7 @@ bool isPressed(const HotkeyScheme& scheme, Uses uses) {
   }
 }
 
-// The place of `key` among `keys`, a fixed set; nothing when it is none of them.
+// The place of `key` in `keys`, a fixed set; nothing if it is not there.
 template <class Keys>
 std::optional<std::uint8_t> placeAmong(const Keys& keys, KeyWord key) {
   const auto found =
@@ -112,7 +113,7 @@ void forEachHolder(const HotkeyScheme& scheme, KeyWord key, Visit visit) {
   }
 }
 
-// The keys of a set that are taken. The choice that the set would replace is no reason.
+// The keys of a set that are taken. Those of the set that this one would replace do not count.
 template <class Keys>
 std::vector<TakenKey> takenKeysOf(const HotkeyScheme& scheme, const Keys& keys,
                                   KeyConflict::Reason replaced) {
@@ -125,7 +126,7 @@ std::vector<TakenKey> takenKeysOf(const HotkeyScheme& scheme, const Keys& keys,
   return taken;
 }
 
-// Why `key` is not assignable, the first reason of several; nothing when it is.
+// The first reason why `key` is not assignable; nothing if it is.
 std::optional<KeyConflict> conflictOfNew(const HotkeyScheme& scheme, KeyWord key) {
   std::optional<KeyConflict> first;
   forEachHolder(scheme, key, [&](const KeyConflict& conflict) {
