@@ -1,4 +1,4 @@
-// What every grammar promises, and how one of rules works.
+// What every grammar promises, and how a grammar of rules works.
 
 #include "fuzz/grammar/Grammar.h"
 
@@ -71,8 +71,8 @@ TEST_P(GrammarTest, ChangesOnlySomeOfAnInput) {
   EXPECT_GT(changes, 150);
 }
 
-// Stands for libFuzzer's own mutator: tells that it was here, and makes the input as long as may
-// be.
+// Takes the place of libFuzzer's own mutator: records the call and makes the input as long as
+// allowed.
 bool wereBytesMutated = false;
 std::size_t fillUp(std::uint8_t* data, std::size_t size, std::size_t most) {
   EXPECT_LE(size, most);

@@ -1,4 +1,5 @@
-// Inputs from the grammars get past the first checks of what reads them, and reach all of it.
+// Inputs from the grammars get past the first checks of the code that reads them, and reach all of
+// that code.
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-// The capture-name table, row by row. The rows here are written by rule where keys come in runs, so
-// they do not repeat the table's own way of listing them.
+// The capture-name table, row by row. Keys in runs are given by rules here, so that the rows do not
+// repeat the way in which the table lists them.
 
 #include "keys/CaptureKeyNames.h"
 
@@ -66,7 +66,7 @@ Names expectedNames() {
   return names;
 }
 
-// Every code that a caller can pass, and some that make no sense.
+// Every code that callers can pass, and some that make no sense.
 constexpr int kFirstCode = -300;
 constexpr int kLastCode = 600;
 

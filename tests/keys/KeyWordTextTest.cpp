@@ -28,7 +28,7 @@ INSTANTIATE_TEST_SUITE_P(
                     TextCase{0x5105, true, u"Alt + SHIFT + Q"},
                     TextCase{0x5106, true, u"CTRL + Alt + Q"},
                     TextCase{0x5107, true, u"CTRL + Alt + SHIFT + Q"},
-                    // Neither the quick-cast mark nor unused bits show.
+                    // Neither the quick-cast bit nor unused bits show.
                     TextCase{0x5108, true, u"Q"}, TextCase{0x51FF, true, u"CTRL + Alt + SHIFT + Q"},
                     TextCase{0x1204, true, u"Alt + ALT"}, TextCase{0x0800, true, u"BACK"},
                     TextCase{0xDE02, true, u"CTRL + '"}, TextCase{0x0002, false, u""},

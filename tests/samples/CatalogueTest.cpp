@@ -1,4 +1,4 @@
-// The language that the sample host's windows speak.
+// The language of the sample host's windows.
 
 #include "samples/host/Catalogue.h"
 

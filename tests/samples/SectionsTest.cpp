@@ -1,4 +1,4 @@
-// What the sample host reads from the files of the game's side, and what it finds changed in them.
+// What the sample host reads from the game's files, and which changes it finds in them.
 
 #include "samples/host/Sections.h"
 

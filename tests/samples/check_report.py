@@ -1,5 +1,5 @@
 #!/usr/bin/env -S python3 -B
-"""Checks what the sample host reports as JSON of a load that went well: check_report.py FILE"""
+"""Checks the sample host's JSON report of a successful load: check_report.py FILE"""
 
 import json
 import sys

@@ -2,7 +2,7 @@
 # Checks exit statuses, output and written files of the sample host:
 # host_cli.sh WORK_FOLDER SAMPLE_DATA LIBRARY HOST_COMMAND...
 #
-# The command is the host's program, after an emulator where the program takes one.
+# The command is the host's program, behind an emulator if it needs one.
 set -euo pipefail
 
 here=$(cd "$(dirname "$0")" && pwd)
@@ -42,7 +42,7 @@ run() {
 says() { grep -qF -- "$1" "$folder/out" || fail "the output does not say: $1"; }
 complains() { grep -qF -- "$1" "$folder/err" || fail "no message says: $1"; }
 
-# Help comes on standard output, also where there is no console.
+# Help goes to standard output, even without a console.
 for option in --help -h; do
   run 0 "$option"
   says '--settings <FILE>'
@@ -69,7 +69,7 @@ says 'no, defaults are in place'
 run 1 --settings "$folder/KeyInfo.xml" --enable on
 complains 'it is so already'
 
-# The profile is the user's own under Windows; elsewhere none is touched that is not given.
+# Under Windows the profile is the user's own; elsewhere only a given one is touched.
 if is_windows; then
   run 2 --settings "$folder/KeyInfo.xml" --profile "$folder/profile"
   complains 'cannot be given under Windows'
@@ -77,7 +77,7 @@ if is_windows; then
 else
   profile=(--profile "$folder/profile")
 fi
-# follows WORD: the preference file has the word, where the host could be told of it.
+# follows WORD: the preference file has the word, on systems where the host can be given that file.
 follows() {
   is_windows || grep -q "$1" "$game/War3Preferences.txt" ||
     fail 'the preference file does not follow'
@@ -96,7 +96,7 @@ follows 'customkeys=2'
 run 0 --settings "$folder/KeyInfo.xml" --json
 python3 -B "$here/check_report.py" "$folder/out" || fail 'the JSON is wrong'
 
-# What the file holds and cannot be used.
+# What a settings file holds that cannot be used.
 printf '%s' '<KeyInfo><LastSaveTime>5</LastSaveTime>
 <HeroSkillKey><Key id="0">20736</Key>
  <Key id="7">20736</Key></HeroSkillKey></KeyInfo>' >"$folder/twice.xml"
@@ -125,8 +125,8 @@ follows 'customkeys=0'
 is_windows || says '[Gameplay] customkeys: 2 -> 0'
 run 0 --settings "$folder/KeyInfo.xml" --enable on
 
-# The settings dialog, unseen: a picture is made of it, and nothing is changed. What the libraries
-# below it keep when a program ends is no leak of ours, where a sanitizer looks for leaks.
+# The settings dialog, unseen: the host takes a picture of it and changes nothing. If a sanitizer
+# looks for leaks, what the libraries below still hold at the end is none of ours.
 printf 'leak:%s\n' libfontconfig libqoffscreen libQt5 >"$folder/leaks"
 export LSAN_OPTIONS=suppressions=$folder/leaks:print_suppressions=0
 mkdir "$folder/pictures"

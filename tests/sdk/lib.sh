@@ -5,7 +5,7 @@ fail() {
   exit 1
 }
 
-# Makes FOLDER, empty.
+# Makes FOLDER an empty folder.
 empty_folder() { # FOLDER
   rm -rf "$1"
   mkdir -p "$1"
@@ -49,7 +49,7 @@ expect_relocatable() { # PACKAGE
   fail "an absolute path in the package: $found"
 }
 
-# Configuring the project in consumer/, or another one with -S, has to fail with a message.
+# Configuring the project in consumer/, or another one given by -S, has to fail with a message.
 expect_refused() { # MESSAGE BUILD_FOLDER ARGUMENT...
   local message=$1 build=$2
   shift 2

@@ -41,7 +41,7 @@ cp "$package"/bin/*.dll contract/
 run 0 "$emulator" contract/host.exe
 says 'loaded: yes, save time: 1404738022, feature: on' out
 
-# The same major version that is not newer is good enough.
+# Any version up to this one with the same major number is found.
 quietly cmake -G Ninja -S "$here/consumer" -B older "${windows[@]}" "${found[@]}" \
   -DBRENNET_WANTED="$major.0"
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Takes each DLL and the platform plugin away from the package, and has the missing one named:
+# Takes each DLL and the platform plugin away from the package, and expects the missing one's name:
 # missing.sh WORK PACKAGE SAMPLE_DATA EMULATOR
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
@@ -19,15 +19,15 @@ copy_host() {
   cp -R "$package"/bin/. host/
 }
 
-# compile NAME TEXT DLL...: makes a DLL of that C++ text which needs the other ones.
+# compile NAME TEXT DLL...: makes a DLL from that C++ text, which needs the other DLLs.
 compile() {
   local name=$1 text=$2
   shift 2
   quietly i686-w64-mingw32-g++-posix -shared -x c++ - -x none "$@" -o "made/$name" <<<"$text"
 }
 
-# What the host itself needs is named by the loader: by Windows in a box, by Wine in a line. That is
-# every DLL but the library.
+# If something is missing that the host itself needs, the loader names it: Windows in a box, Wine in
+# a line. That is every DLL except the library.
 for file in "$package"/bin/*.dll; do
   name=${file##*/}
   [[ $name != Brennet.dll ]] || continue
@@ -37,7 +37,7 @@ for file in "$package"/bin/*.dll; do
   says "Library $name (which is needed by" err
 done
 
-# What the host says itself from here on.
+# From here on, the messages are the host's own.
 export WINEDEBUG=-all
 
 # The library itself.
@@ -49,7 +49,7 @@ says 'host\Brennet.dll' err
 run 2 "$emulator" "${host[@]}" --library nowhere/Other.dll
 says 'there is no library nowhere\Other.dll' err
 
-# The plugin without which no window opens, and nothing else needs.
+# The plugin that windows need, and nothing else.
 copy_host
 rm host/platforms/qwindows.dll
 mkdir pictures
@@ -60,7 +60,7 @@ for way in --dialog '--pictures pictures'; do
 done
 run 0 "$emulator" "${host[@]}"
 
-# It may lie where a qt.conf says.
+# It may be where a qt.conf says.
 mkdir -p elsewhere/platforms
 cp "$package/bin/platforms/qwindows.dll" elsewhere/platforms/
 printf '[Paths]\nPlugins = ../elsewhere\n' >host/qt.conf

@@ -29,7 +29,7 @@ quietly cmake --build host
 build_contract_host -DCMAKE_PREFIX_PATH="$package" -DCMAKE_CXX_FLAGS="$flags"
 run 0 contract/my-host
 
-# The profile is one of the test's own, and so is the game's preference file in it.
+# The profile is the test's own, and so is the game's preference file in it.
 game="home/Documents/Warcraft III"
 mkdir -p "$game" run
 cp "$data/War3Preferences.txt" "$game/"

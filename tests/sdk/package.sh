@@ -13,7 +13,7 @@ cd "$work"
 export SOURCE_DATE_EPOCH=1500000000
 quietly "$checkout/tools/sdk.sh" "$build" first
 
-# Neither the hour nor the person's own settings get into it.
+# Neither the time nor the user's settings get into it.
 (umask 077 && export TZ=Asia/Shanghai && quietly "$checkout/tools/sdk.sh" "$build" second)
 cmp "first/$name.zip" "second/$name.zip" || fail 'the same build gives another zip'
 zipinfo -v "first/$name.zip" >entries
@@ -28,13 +28,13 @@ package="un packed/$name"
 expect_files "$package" <"$here/windows.list"
 expect_relocatable "$package"
 
-# No folder of this machine is named; the licence texts tell where a Debian system keeps its copies.
+# No folder of this machine is named, except where licence texts name the copies of Debian systems.
 leaks=$(find "$package" -type f -exec \
   grep -alF -e "$checkout" -e "$build" -e "$qt_dir" -e "$HOME/." {} + || true)
 leaks+=$(grep -alE '/usr/(lib|include|src|i686)' "$package"/{bin,lib}/*.* || true)
 [[ -z $leaks ]] || fail "folders of this machine are named in $leaks"
 
-# Expects a text in a file of licences/, which is too long to be shown.
+# Expects a text in a file of licences/; such a file is too long to be shown.
 names() { # TEXT FILE
   grep -qF -- "$1" "$package/licences/$2" || fail "\"$1\" is not in $2"
 }
@@ -49,8 +49,8 @@ while read -r file; do
   [[ -s $package/licences/$file ]] || fail "NOTICE.md names $file, which is not there"
 done <texts
 
-# So are all texts that others refer to by their place on a Debian system; there, names without a
-# version are those of the last one.
+# So are all texts that others refer to by their place on a Debian system, where names without a
+# version mean the last one.
 grep -ohE 'common-licenses/[A-Z][A-Za-z0-9.-]*[A-Za-z0-9]' "$package"/licences/*.txt | sort -u |
   sed -E 's|.*/||; s/^(L?GPL)$/\1-3/' >texts
 [[ $(wc -l <texts) -ge 3 ]] || fail "few texts are referred to: $(cat texts)"
@@ -58,8 +58,8 @@ while read -r file; do
   [[ -s $package/licences/$file.txt ]] || fail "a text refers to $file, which is not there"
 done <texts
 
-# What is shipped of the runtime is named by the texts for it, and each part of others in Qt is in
-# the list of them.
+# The runtime's licence texts name the parts that are shipped, and the list of other people's code
+# in Qt has each part.
 names 'GCC RUNTIME LIBRARY EXCEPTION' gcc-runtime.txt
 names ' - libgcc (' gcc-runtime.txt
 names ' - libstdc++-v3' gcc-runtime.txt

@@ -14,7 +14,7 @@ quietly cmake -G Ninja -S "$package/samples/host" -B build -DCMAKE_BUILD_TYPE=Re
   --toolchain "$checkout/cmake/mingw-i686.cmake" -DBRENNET_QT_DIR="$qt_dir"
 quietly cmake --build build
 
-# The DLLs beside it, as in the package; the shipped program comes along for comparison.
+# The DLLs are beside it, as in the package; the shipped program is there for comparison.
 cp -R "$package/bin" shipped
 cp -R "$package/bin" built
 cp build/brennet-host.exe built/

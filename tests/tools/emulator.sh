@@ -26,7 +26,7 @@ marked() {
   grep -lsa "[${marker:0:1}]${marker:1}" /proc/[0-9]*/cmdline || true
 }
 
-# Whether the program itself runs by now, and not only what starts it.
+# Whether the program itself is running, and not only what starts it.
 is_waiting() {
   marked | xargs -r grep -qsa 'system32.cmd.exe'
 }
@@ -40,8 +40,8 @@ cmd 1 "reg query $key /v Value"
 cmd 0 "echo x>$file && type $file"
 cmd 1 "type $file"
 
-# A program that waits for input for ever, and is stopped or killed. With job control, because
-# programs in the background cannot be interrupted without.
+# A program that waits for input for ever, and is stopped or killed. This takes job control, because
+# programs in the background cannot be interrupted without it.
 mkfifo "$folder/input"
 for signal in HUP INT TERM KILL; do
   set -m

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Checks how an installed Wine is found and used, where there is one: installed_wine.sh CHECKOUT
+# Checks how an installed Wine is found and used: installed_wine.sh CHECKOUT
 #
-# What stands for Wine tells how it was started.
+# Stand-ins for Wine's programs print how they were started.
 set -euo pipefail
 # shellcheck source=tests/tools/lib.sh
 source "$(dirname "$0")/lib.sh" "$1"
@@ -25,7 +25,7 @@ run=("$scripts/run.sh")
 # Times to sleep that no other program has in its command line.
 export LONG=3600.$$ LONG_SCREEN=3700.$$
 
-# says STATUS TEXT COMMAND...: the output and the exit status are these.
+# says STATUS TEXT COMMAND...: the command has this exit status and this output.
 says() {
   local expected=$1 text=$2 status=0
   shift 2
@@ -34,7 +34,7 @@ says() {
   [[ $(cat "$folder/out") == "$text" ]] || fail "said by $*: $(cat "$folder/out")"
 }
 
-# Whatever is missing of it, a root file system would be made instead. That takes root, or a package.
+# If any of it is missing, a root file system is made instead. That takes root, or a package.
 stand_in mmdebstrap 'echo "E: no network" >&2; exit 1'
 stand_in dpkg-query 'echo installed'
 stand_in apt-get 'echo "http://none.invalid stable $(. /etc/os-release; echo $VERSION_CODENAME) main"'
@@ -56,7 +56,7 @@ if [[ $EUID -eq 0 ]]; then
   mv "$folder/kept" "$folder/bin/fc-list"
 fi
 
-# A Wine that does not run, and one that is stopped.
+# A Wine that does not run, and one that is stopped by a signal.
 mv "$folder/bin/wineboot" "$folder/kept"
 stand_in wineboot 'exec sleep "$LONG"'
 stopped_by TERM "$LONG" "$scripts/wine.sh"
@@ -77,7 +77,7 @@ for _ in 1 2; do
 done
 [[ ! -e $HOME/left-behind ]] || fail 'written into the home folder'
 
-# Nothing of the caller's language, time and folders.
+# Nothing of the caller's language, time and folders gets through.
 says 0 'LC_ALL=zh_CN.UTF-8' env LANG=C LANGUAGE=tr LC_CTYPE=C TZ=Pacific/Kiritimati \
   TMPDIR=/tmp TMP=/tmp TEMP=/tmp XDG_CACHE_HOME="$folder/none" FONTCONFIG_FILE=none \
   "${run[@]}" environment.exe
@@ -87,7 +87,7 @@ says 7 $'program.exe, display :77, locale zh_CN.UTF-8, input typed\nregistry\n
 [Software\\\\Wine\\\\X11 Driver]\n"Managed"="N"' env BRENNET_SCREEN=1 "${run[@]}" program.exe
 wait_for 'the screen goes on' runs_not "$LONG_SCREEN"
 
-# Nothing goes on when it is stopped, or killed.
+# Nothing goes on running when it is stopped or killed.
 for signal in HUP INT TERM KILL; do
   export BRENNET_SCREEN=1
   stopped_by "$signal" "$LONG" "${run[@]}" wait.exe

@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # Shared by the tests of the scripts in tools/windows/, which source it: copies of the scripts in a
-# folder of their own, commands that stand before the real ones, and what is expected.
+# folder of their own, commands that replace the real ones, and checks.
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
@@ -17,12 +17,12 @@ fail() {
   failures=$((failures + 1))
 }
 
-# accepts COMMAND...: the command succeeds; what it says is in the file "out".
+# accepts COMMAND...: the command succeeds; its output is in the file "out".
 accepts() {
   "$@" >"$folder/out" 2>&1 9>&- || fail "exit status $?: $* ($(tail -n 3 "$folder/out"))"
 }
 
-# refuses MESSAGE COMMAND...: the command fails, and its last line says so in our words.
+# refuses MESSAGE COMMAND...: the command fails, and its last line is the scripts' own message.
 refuses() {
   local message=$1 status=0
   shift
@@ -32,7 +32,7 @@ refuses() {
     fail "no line says \"$message\": $* ($(tail -n 3 "$folder/err"))"
 }
 
-# Nothing but what is finished, the lock and the log of a failure is in the toolchain folder.
+# The toolchain folder has only finished folders, the lock and the log of a failure.
 is_clean() {
   local left
   left=$(find "$BRENNET_TOOLCHAIN_DIR" -mindepth 1 -maxdepth 1 ! -name lock ! -name failed.log \
@@ -40,7 +40,7 @@ is_clean() {
   [[ -z $left ]] || fail "left behind: $left"
 }
 
-# Commands that stand before the real ones.
+# Makes a command that replaces the real one.
 stand_in() { # NAME BODY
   mkdir -p "$folder/bin"
   printf '#!/bin/sh\n%s\n' "$2" >"$folder/bin/$1"
@@ -68,12 +68,12 @@ programs_with() { # WORD
 runs() { [[ -n $(programs_with "$1") ]]; }
 runs_not() { ! runs "$1"; }
 
-# starts WORD COMMAND...: starts a command that goes on for ever, as the word in a command line tells.
-# Its process is "program".
+# starts WORD COMMAND...: starts a command that goes on for ever, and waits until a command line has
+# the word. The number of its process is in "program".
 starts() {
   local word=$1
   shift
-  # With job control, because commands in the background cannot be interrupted without.
+  # With job control, because commands in the background cannot be interrupted without it.
   set -m
   (exec env PATH="$folder/bin:$PATH" "$@") >"$folder/out" 2>&1 9>&- &
   program=$!
@@ -98,7 +98,7 @@ stopped_by() {
   wait_for "goes on after $signal: $*" runs_not "$word"
 }
 
-# What stands before a command that somebody without rights starts.
+# The words before a command that somebody without rights is to run.
 as_nobody=()
 if [[ $EUID -eq 0 ]]; then
   chmod 755 "$folder"

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Checks the check for two definitions of one name: odr.sh CHECKOUT
 #
-# It builds two small programs with the flags of `make odr`; that with two types of one name must
-# not be linked.
+# It builds two small programs with the flags of `make odr`; the one with two types of one name must
+# not link.
 set -euo pipefail
 
 checkout=$1
@@ -14,11 +14,11 @@ fi
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
-# The flags stand in one place.
+# The flags are kept in one place.
 read -r -a flags < <(sed -n 's/^ *set(BRENNET_ODR_FLAGS \(.*\))$/\1/p' "$checkout/cmake/BrennetTargets.cmake")
 ((${#flags[@]} > 0)) || { echo 'FAILED: the flags are not found'; exit 1; }
 
-# links FILE...: whether the program is linked; by objects, as in a build.
+# links FILE...: whether the program links, from object files as in a build.
 links() {
   local objects=() file
   for file in "$@"; do

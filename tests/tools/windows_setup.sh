@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Checks how tools/windows/qt.sh makes its folder: once, whole, and without a trace where it fails or
+# Checks how tools/windows/qt.sh makes its folder: once, whole, and without a trace if it fails or
 # is stopped: windows_setup.sh CHECKOUT
 #
-# What stands for the source of Qt is built in a moment.
+# A stand-in for Qt's source builds in a moment.
 set -euo pipefail
 # shellcheck source=tests/tools/lib.sh
 source "$(dirname "$0")/lib.sh" "$1"
 
-# The configure script writes makefiles for every folder that is built, and tells that it ran. It
-# wants the fix that comes from the distribution.
+# The configure script writes makefiles for every folder that is built, and records that it ran. It
+# requires the distribution's fix.
 make_source() {
   mkdir -p source/src debian/patches
   echo broken >source/file
@@ -57,7 +57,7 @@ printf '#!/bin/sh\nmkdir "$2" && echo theirs >"$2/attributions.txt"\n' >"$script
 export RUNS=$folder/runs LONG=3600.$$
 qt=$("$scripts/qt.sh" --folder)
 
-# expect_runs COUNT: so often the source has been configured since the last question.
+# expect_runs COUNT: the source has been configured that often since the last call.
 expect_runs() {
   local count
   count=$(wc -l <"$RUNS")
@@ -88,14 +88,14 @@ for row in HUP:129 INT:130 TERM:143; do
   [[ $status == "${row#*:}" ]] || fail "exit status $status after ${row%:*}"
   is_clean
 done
-# What one leaves that is killed does not hold up the next.
+# Whatever a killed build leaves does not stop the next one.
 SLOW=yes starts "$LONG" "$scripts/qt.sh"
 kill -KILL "$program"
 wait "$program" 2>/dev/null || true
 kill_all "$LONG"
 expect_runs 4
 
-# Two at the same time make it once, and a third has nothing to do.
+# Two builds at the same time make it once, and a third has nothing to do.
 with_stand_ins "$scripts/qt.sh" >"$folder/first" 2>&1 9>&- &
 first=$!
 with_stand_ins "$scripts/qt.sh" >"$folder/second" 2>&1 9>&- || fail "the second: $(cat "$folder/second")"
@@ -111,7 +111,7 @@ expect_runs 0
 [[ $(cat "$qt/bin/qmake" "$qt/licences/attributions.txt") == $'qmake\ntheirs' ]] ||
   fail 'a part is missing'
 
-# Whoever may only read it uses it all the same.
+# Somebody who may only read it can use it all the same.
 accepts with_stand_ins "${as_nobody[@]}" "$scripts/qt.sh"
 chmod 644 "$BRENNET_TOOLCHAIN_DIR/lock"
 

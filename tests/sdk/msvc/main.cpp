@@ -1,6 +1,6 @@
-// A host in Microsoft's C++ ABI without a C library: it links the import library, loads KeyInfo.xml
-// from the working folder and says what it got. Exit status: 0, or the number of the step that
-// failed.
+// A host with Microsoft's C++ ABI and without a C library: it links the import library, loads
+// KeyInfo.xml from the working folder and prints the outcome. The exit status is 0, or the number
+// of the step that failed.
 
 #include <brennet/HotkeyBlock.h>
 #include <brennet/IBrennet.h>
@@ -25,15 +25,15 @@ void say(const char* text) {
   WriteFile(GetStdHandle(kStandardOutput), text, size, &size, nullptr);
 }
 
-// Slot 5 without the header: the table of functions is what the object's first word points to, and
-// the convention is __thiscall, whatever the header says.
+// Slot 5 without the header: the object's first word points to the table of functions, and the
+// calling convention is __thiscall, whatever the header says.
 unsigned long rawSaveTime(void* object) {
   using Slot = unsigned long(__thiscall*)(void*);
   constexpr int kGetLastSaveTime = 5;
   return (*static_cast<Slot**>(object))[kGetLastSaveTime](object);
 }
 
-// Slots with and without arguments and of every kind of result, first to last.
+// Calls slots with and without arguments and with every kind of result, from the first to the last.
 unsigned int use(brennet::IBrennet& brennet) {
   brennet.SetDataFolder(L".");
   if (!brennet.LoadSettings(L"KeyInfo.xml")) return 1;
@@ -51,7 +51,7 @@ unsigned int use(brennet::IBrennet& brennet) {
 
 }  // namespace
 
-// Called by the system without the alignment that the compiler counts on.
+// The system calls it without the stack alignment that the compiler relies on.
 extern "C" __attribute__((force_align_arg_pointer)) void start() {
   const unsigned int status = use(*GetBrennetPtr());
   say(status == 0 ? "all slots answered\n" : "a slot failed\n");

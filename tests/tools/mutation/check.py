@@ -16,7 +16,7 @@ from build import Build  # noqa: E402
 from mutants import Mutant, mutants_of  # noqa: E402
 from trial import Trials  # noqa: E402
 
-# The line of the sample, what stands there, and what is put in its place.
+# The line of the sample, the text there, and the text that replaces it.
 EXPECTED = [
     (12, "unit >= u'a' && unit <= u'z'", "!(unit >= u'a' && unit <= u'z')"),
     (12, ">=", "<"), (12, ">=", ">"), (12, "u'a'", "u'b'"), (12, "&&", "||"),
