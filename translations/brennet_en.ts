@@ -63,6 +63,10 @@
         <source>message %1:</source>
         <translation>Message %1:</translation>
     </message>
+    <message>
+        <source>快捷喊话短语</source>
+        <translation>Quick-chat phrases</translation>
+    </message>
 </context>
 <context>
     <name>CBasicSettingWidget</name>
@@ -802,6 +806,10 @@ Do you want to go on?</translation>
     <message>
         <source>在游戏中切换此项的按键</source>
         <translation>Key that switches this in game</translation>
+    </message>
+    <message>
+        <source>%1：按键</source>
+        <translation>%1: key</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,10 @@
         <source>message %1:</source>
         <translation>喊话 %1：</translation>
     </message>
+    <message>
+        <source>快捷喊话短语</source>
+        <translation>快捷喊话短语</translation>
+    </message>
 </context>
 <context>
     <name>CBasicSettingWidget</name>
@@ -801,6 +805,10 @@ Are you sure to continue?</source>
     <message>
         <source>在游戏中切换此项的按键</source>
         <translation>在游戏中切换此项的按键</translation>
+    </message>
+    <message>
+        <source>%1：按键</source>
+        <translation>%1：按键</translation>
     </message>
 </context>
 <context>

@@ -126,7 +126,9 @@ void CBasicSetting7Widget::addOption(QGridLayout& grid, int number, const Option
             [this, field = option.field](bool isOn) { switches_.store(field, isOn); });
   }
   if (option.keyField == nullptr) return;
-  auto* const field = brennet::newKeyField(QLatin1String(option.keyField), box->text());
+  auto* const field = brennet::newKeyField(
+      QLatin1String(option.keyField),
+      text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "%1：按键")).arg(box->text()));
   field->setAccessibleDescription(
       text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "在游戏中切换此项的按键")));
   grid.addWidget(field, row, column + 1);

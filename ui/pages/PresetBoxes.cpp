@@ -14,7 +14,8 @@ namespace brennet {
 
 namespace {
 
-// At once, and whenever the mouse is over the box.
+// At once, and whenever the mouse is over the box. Screen readers take the tool tip for the
+// description of the box.
 void showWhy(QCheckBox& box, const QString& why) {
   box.setToolTip(why);
   if (box.isVisible()) QToolTip::showText(box.mapToGlobal(box.rect().bottomLeft()), why, &box);

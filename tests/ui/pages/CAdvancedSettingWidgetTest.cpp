@@ -120,7 +120,7 @@ TEST_F(CAdvancedSettingWidgetTest, NamesItsControlsForScreenReaders) {
     EXPECT_EQ(accessible(family(n), QAccessible::Name), family(n).text());
     EXPECT_EQ(accessible(family(n), QAccessible::Description), QStringLiteral("快捷方式选择"));
   }
-  EXPECT_EQ(accessible(table(), QAccessible::Name), QStringLiteral("快捷喊话设置"));
+  EXPECT_EQ(accessible(table(), QAccessible::Name), QStringLiteral("快捷喊话短语"));
 }
 
 TEST_F(CAdvancedSettingWidgetTest, IsReadInOrderByTab) {

@@ -1,0 +1,120 @@
+// What programs that read the screen to a player find: a role and a name for each control, by which
+// it can be told from all others.
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QSet>
+#include <QTranslator>
+
+#include <memory>
+
+#include "gameside/dota7/Dota7KeyInfoManager.h"
+#include "model/FixedKeys.h"
+#include "model/KeyConflicts.h"
+#include "tests/support/ScopedRegistry.h"
+#include "tests/ui/AllWindows.h"
+#include "tests/ui/UiTest.h"
+#include "ui/capture/RefusalText.h"
+#include "ui/pages/CBasicSetting7Widget.h"
+#include "ui/window/CMsgBox.h"
+
+namespace brennet::test {
+namespace {
+
+// What a player can use, by its role.
+bool isControl(const QAccessibleInterface& part) {
+  switch (part.role()) {
+    case QAccessible::EditableText:
+    case QAccessible::CheckBox:
+    case QAccessible::RadioButton:
+    case QAccessible::PushButton:
+    case QAccessible::ComboBox:
+    case QAccessible::Link:
+    case QAccessible::Table:
+    case QAccessible::Tree:
+      return true;
+    default:
+      return false;
+  }
+}
+
+class Accessibility : public testing::TestWithParam<const char*> {
+ protected:
+  Accessibility() {
+    EXPECT_TRUE(catalogue_.load(QStringLiteral("brennet_%1.qm").arg(QLatin1String(GetParam())),
+                                QStringLiteral(BRENNET_TRANSLATIONS)));
+    QCoreApplication::installTranslator(&catalogue_);
+  }
+
+  // Fails for each control below `part` that has no name, or that of another control.
+  void check(QAccessibleInterface& part) {
+    if (part.state().invisible) return;
+    if (isControl(part)) {
+      const QString name = part.text(QAccessible::Name);
+      const QString where = part.object() != nullptr ? part.object()->objectName() : QString();
+      EXPECT_FALSE(name.trimmed().isEmpty()) << qPrintable(where) << " has no name";
+      EXPECT_FALSE(names_.contains(name))
+          << qPrintable(where) << " has the name of another control: " << qPrintable(name);
+      names_ += name;
+      if (part.role() == QAccessible::ComboBox) return;
+    }
+    for (int i = 0; i < part.childCount(); ++i) {
+      if (QAccessibleInterface* const child = part.child(i)) check(*child);
+    }
+  }
+
+  void checkWindow(QWidget& window) {
+    names_.clear();
+    window.show();
+    QAccessibleInterface* const root = QAccessible::queryAccessibleInterface(&window);
+    ASSERT_NE(root, nullptr);
+    check(*root);
+    EXPECT_FALSE(names_.isEmpty()) << "nothing to use";
+    window.hide();
+  }
+
+ private:
+  QTranslator catalogue_;
+  QSet<QString> names_;
+};
+
+TEST_P(Accessibility, NamesEachControlOfEachWindow) {
+  const ScopedRegistry registry;
+  HotkeyConfig config;
+  Dota7KeyInfoManager manager;
+  for (const WindowRow& row : allWindows()) {
+    SCOPED_TRACE(row.form);
+    const auto window = row.make(config, manager, nullptr);
+    checkWindow(*window);
+  }
+}
+
+TEST_P(Accessibility, NamesEachButtonOfABox) {
+  CMsgBox box(QMessageBox::Warning, QStringLiteral("title"), QStringLiteral("text"),
+              QMessageBox::Ok | QMessageBox::Cancel);
+  box.setButtonTexts();
+  checkWindow(box);
+}
+
+// Without a message box, a screen reader has only the description of the box to read.
+TEST(AccessibilityOfRefusals, DescribesWhyAPresetIsNotChosen) {
+  HotkeyConfig config;
+  config.editableScheme()->HeroSkillKey[0] = kItemPresetKeys[1][0];
+  CBasicSetting7Widget page(config, nullptr);
+  auto& box = *page.findChild<QCheckBox*>(QStringLiteral("chkGroupKey2"));
+  const auto description = [&box] {
+    return QAccessible::queryAccessibleInterface(&box)->text(QAccessible::Description);
+  };
+  EXPECT_EQ(description(), QString());
+  page.onToggled_GroupKey2(true);
+  EXPECT_EQ(description(), refusalText(takenKeysOfPreset(config.scheme(), 1), KeyWindow::Main));
+}
+
+INSTANTIATE_TEST_SUITE_P(In, Accessibility, testing::Values("en", "zh_CN"),
+                         [](const auto& test) { return std::string(test.param); });
+
+}  // namespace
+}  // namespace brennet::test
