@@ -38,4 +38,6 @@ rm -f "$work/KeyInfo.xml"
 cp "$data/Tollamere.reg" "$work/"
 run 0
 grep -q 'DotA 7: yes' "$work/out" || fail 'no DotA 7'
-tr -d '\0' <"$work/registry.reg" | grep -q 'Tollamere' || fail 'the registry did not get the first keys'
+# In a pipe, grep -q may end before tr has written all, which would count as a failure.
+registry=$(tr -d '\0' <"$work/registry.reg")
+[[ $registry == *Tollamere* ]] || fail 'the registry did not get the first keys'
