@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QHelpEvent>
+#include <QTest>
+#include <QToolTip>
 #include <QtGlobal>
 
 #include <algorithm>
@@ -112,6 +115,26 @@ void closeUnansweredBoxes() {
 
 void failOnWarnings() {
   qInstallMessageHandler(handleMessage);
+}
+
+namespace {
+
+// A tool tip goes only after a moment.
+void hideToolTip() {
+  QToolTip::hideText();
+  EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text().isEmpty(); }));
+}
+
+}  // namespace
+
+QString toolTipOf(QWidget& widget) {
+  hideToolTip();  // that of an earlier test
+  constexpr QPoint kInside(5, 5);
+  QHelpEvent request(QEvent::ToolTip, kInside, widget.mapToGlobal(kInside));
+  QCoreApplication::sendEvent(&widget, &request);
+  QString text = QToolTip::text();
+  hideToolTip();
+  return text;
 }
 
 }  // namespace brennet::test

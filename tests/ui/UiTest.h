@@ -61,4 +61,8 @@ void failOnWarnings();
 // From now on a message box that nobody answers fails the test instead of stopping it.
 void closeUnansweredBoxes();
 
+// The tool tip that a widget shows where the mouse rests on it; empty for none. None is shown any
+// more when the function returns.
+[[nodiscard]] QString toolTipOf(QWidget& widget);
+
 }  // namespace brennet::test

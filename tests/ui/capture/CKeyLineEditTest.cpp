@@ -5,11 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QHelpEvent>
 #include <QImage>
 #include <QTest>
-#include <QToolTip>
 
+#include "tests/ui/UiTest.h"
 #include "ui/window/StyleSheet.h"
 
 namespace brennet::test {
@@ -24,15 +23,9 @@ class CKeyLineEditTest : public testing::Test {
     field.resize(field.sizeHint());
     field.show();
   }
-  ~CKeyLineEditTest() override { QToolTip::hideText(); }
 
   void show(const char* text) { field.setText(QLatin1String(text)); }
-  QString toolTip() {
-    QToolTip::hideText();
-    QHelpEvent request(QEvent::ToolTip, QPoint(5, 5), field.mapToGlobal(QPoint(5, 5)));
-    QCoreApplication::sendEvent(&field, &request);
-    return QToolTip::text();
-  }
+  QString toolTip() { return toolTipOf(field); }
   QImage picture() { return field.grab().toImage(); }
 
   QWidget window;

@@ -6,16 +6,15 @@
 
 #include <QApplication>
 #include <QDropEvent>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
-#include <QToolTip>
 #include <QWidget>
 
 #include <memory>
 
+#include "tests/ui/UiTest.h"
 #include "ui/capture/EditControl.h"
 #include "ui/capture/RefusalText.h"
 #include "ui/capture/SlotCapture.h"
@@ -119,28 +118,18 @@ TEST(CaptureFields, OutlineTheHolderUntilTheNextPress) {
   EXPECT_FALSE(isOutlined(holder));
 }
 
-// What is shown at the field when the mouse rests on it.
-QString toolTipOf(QLineEdit& field) {
-  QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), field.mapToGlobal(QPoint(2, 2)));
-  QApplication::sendEvent(&field, &event);
-  const QString text = QToolTip::text();
-  QToolTip::hideText();
-  return text;
-}
-
 TEST(CaptureFields, TellWhatTheirKeyDoesInAToolTip) {
   Page page;
   page.show();
-  // These come first, since a tool tip is hidden only after a moment.
-  EXPECT_EQ(toolTipOf(page.field("edtText")), QString());
-  EXPECT_EQ(toolTipOf(page.field("edtUnknown")), QString());
+  EXPECT_EQ(test::toolTipOf(page.field("edtText")), QString());
+  EXPECT_EQ(test::toolTipOf(page.field("edtUnknown")), QString());
   QLineEdit& field = page.field("edtSkill_2");
   const KeySlot slot{SettingId::HeroSkillKey, 1};
-  EXPECT_EQ(toolTipOf(field), fieldText(page.config.scheme(), slot));
+  EXPECT_EQ(test::toolTipOf(field), fieldText(page.config.scheme(), slot));
   press(field, Qt::Key_Q);
   page.config.editableScheme()->MouseKey[0] = KeyWord('Q', 0);
-  EXPECT_EQ(toolTipOf(field), fieldText(page.config.scheme(), slot));
-  EXPECT_TRUE(toolTipOf(field).contains(QLatin1Char('\n')));
+  EXPECT_EQ(test::toolTipOf(field), fieldText(page.config.scheme(), slot));
+  EXPECT_TRUE(test::toolTipOf(field).contains(QLatin1Char('\n')));
 }
 
 TEST(CaptureFields, ShowAKeyThatTheyDoNotStore) {
