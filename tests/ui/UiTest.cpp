@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QHelpEvent>
-#include <QTest>
 #include <QToolTip>
 #include <QtGlobal>
 
@@ -122,7 +121,9 @@ namespace {
 // A tool tip goes only after a moment.
 void hideToolTip() {
   QToolTip::hideText();
-  EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text().isEmpty(); }));
+  while (!QToolTip::text().isEmpty()) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
 }
 
 }  // namespace
