@@ -76,6 +76,7 @@ void CaptureFields::take(QLineEdit& field, const Capture& capture) {
 
 void CaptureFields::tell(const std::optional<KeySlot>& slot, const Refusal& refusal) {
   std::vector<KeySlot> holders;
+  holders.reserve(refusal.reasons.size());
   for (const KeyConflict& reason : refusal.reasons) holders.push_back(reason.holder);
   outline(holders);
   page_.tellUsed(refusalText(refusal, slot ? windowOf(*slot) : KeyWindow::Main));

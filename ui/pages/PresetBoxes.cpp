@@ -23,6 +23,7 @@ void showWhy(QCheckBox& box, const QString& why) {
 
 std::vector<KeySlot> holdersIn(const std::vector<TakenKey>& taken) {
   std::vector<KeySlot> holders;
+  holders.reserve(taken.size());
   for (const TakenKey& key : taken) holders.push_back(key.conflict.holder);
   return holders;
 }
