@@ -3,14 +3,16 @@
 #include <QDir>
 #include <QFile>
 #include <QOperatingSystemVersion>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTextCodec>
+#include <cstdlib>
 
 namespace {
 
 const QString kPreferences = QStringLiteral("Documents/Warcraft III/War3Preferences.txt");
-const QString kRegistryKey = QStringLiteral("HKEY_CURRENT_USER\\Software\\Tollamere");
+// The registry's editor, called by the shell; the file is in the current folder.
+constexpr const char* kExportRegistry =
+    "reg export HKEY_CURRENT_USER\\Software\\Tollamere export.reg >nul 2>&1";
 
 // The text of a file in UTF-16 or UTF-8; empty if it cannot be read.
 QString readText(const QString& fileName) {
@@ -26,14 +28,14 @@ QString registryText() {
   if (QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows) {
     return readText(qEnvironmentVariable("BRENNET_REGISTRY"));
   }
+  // The shell takes names in the system's code page alone, so the file's folder is where it works.
+  // QProcess would take any, but hears of the end in another thread, at times after it is gone.
   const QTemporaryDir folder;
-  const QString file = QDir::toNativeSeparators(folder.filePath(QStringLiteral("export.reg")));
-  QProcess program;
-  program.setStandardOutputFile(QProcess::nullDevice());
-  program.setStandardErrorFile(QProcess::nullDevice());
-  program.start(QStringLiteral("reg"), {QStringLiteral("export"), kRegistryKey, file});
-  program.waitForFinished();
-  return readText(file);
+  const QString before = QDir::currentPath();
+  if (!folder.isValid() || !QDir::setCurrent(folder.path())) return {};
+  const bool isExported = std::system(kExportRegistry) == 0;
+  QDir::setCurrent(before);
+  return isExported ? readText(folder.filePath(QStringLiteral("export.reg"))) : QString();
 }
 
 }  // namespace
