@@ -4,7 +4,6 @@
 
 #include <bit>
 #include <cstddef>
-#include <regex>
 #include <set>
 #include <string>
 #include <type_traits>
@@ -81,14 +80,16 @@ auto memberAt(void* address) {
   return std::bit_cast<Member>(Pointer{address, 0});
 }
 
-// The operations that the public header declares, in order.
+// The operations that the public header declares, in order: the name between the calling convention
+// and the arguments.
 std::vector<std::string> declaredOperations() {
   const std::string header = readBytes(projectFile("host/include/brennet/IBrennet.h"));
-  const std::regex declaration("virtual [^;]*? BRENNET_CALL (\\w+)\\(");
+  const std::string convention = " BRENNET_CALL ";
   std::vector<std::string> names;
-  for (std::sregex_iterator found(header.begin(), header.end(), declaration), end; found != end;
-       ++found) {
-    names.push_back((*found)[1]);
+  std::size_t at = header.find("class IBrennet {");
+  while ((at = header.find(convention, at)) != std::string::npos) {
+    at += convention.size();
+    names.push_back(header.substr(at, header.find('(', at) - at));
   }
   return names;
 }
