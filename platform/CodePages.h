@@ -6,7 +6,7 @@
 namespace brennet::platform {
 
 // A Windows code page number. The conversions are kernel32's on Windows and ICU's converters
-// elsewhere. What the two make of a text:
+// elsewhere. How the two compare:
 //
 // - 936, which the settings are written in: the same, in both directions, for everything.
 // - 932: the same for single bytes; ICU's table of pairs is the nearest match. It lacks the best
@@ -37,13 +37,13 @@ enum class CodePageShape {
 // The code page of texts that name none: CP_ACP's on Windows, 936 elsewhere.
 [[nodiscard]] CodePage ansiCodePage();
 
-// UTF-8, UTF-16 and UTF-32 are not asked here: the caller converts them itself.
+// Not for UTF-8, UTF-16 and UTF-32, which the caller converts itself.
 [[nodiscard]] CodePageShape codePageShape(CodePage codePage);
 
 // Whether `byte` starts a pair in the double-byte code page `codePage`.
 [[nodiscard]] bool isLeadByte(CodePage codePage, unsigned char byte);
 
-// The UTF-16 unit of one byte that is no lead byte in a double-byte code page.
+// The UTF-16 unit of one byte of a double-byte code page that is not a lead byte.
 [[nodiscard]] char16_t byteToUtf16(CodePage codePage, unsigned char byte);
 
 // The UTF-16 unit of the pair `lead`, `trail` in a double-byte code page. A lead byte always takes
@@ -60,7 +60,7 @@ struct EncodedUnit {
 
 // Whole texts in code pages of any supported shape; appended to `out`. What has no representation
 // becomes the default character; `encode` returns whether that happened. What the system fails to
-// convert is left out, which is a loss, too.
+// convert is left out, which counts as a loss as well.
 void decode(CodePage codePage, std::string_view bytes, std::u16string& out);
 [[nodiscard]] bool encode(CodePage codePage, std::u16string_view text, std::string& out);
 

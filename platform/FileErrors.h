@@ -9,7 +9,7 @@ namespace brennet::platform {
 // There is no such file, or no folder for it.
 [[nodiscard]] bool isMissing(const std::error_code& error);
 
-// The file has more bytes than were asked for, or than can be written in place.
+// The file has more bytes than the caller allowed, or than can be written in place.
 [[nodiscard]] bool isTooLarge(const std::error_code& error);
 
 // A limit of bytes that no file exceeds.

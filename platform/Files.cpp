@@ -10,7 +10,7 @@
 namespace brennet::platform {
 namespace {
 
-// Reads the file once; Held where what was read, or that nothing is there, may not be true.
+// Reads the file once; Held where what was read, or that there is no file, may not be true.
 FileError readOnce(FileSystem& system, Patience& patience, const Path& path, std::string& bytes,
                    std::uint64_t limit) {
   if (const FileError error = settle(system, patience, path)) return error;
@@ -20,7 +20,7 @@ FileError readOnce(FileSystem& system, Patience& patience, const Path& path, std
   if (!error) error = file.lock(Sharing::Together);
   if (!error) error = file.readAll(bytes, limit);
   if (error) return error;
-  // Nobody writes it in place as long as it is locked, but somebody may have ended while he did.
+  // Nobody writes it in place while it is locked, but an earlier write may have been cut short.
   return busyIfTorn(system, path);
 }
 
@@ -66,7 +66,7 @@ bool pathExists(const Path& path) {
 bool isFileLarger(const Path& path, std::uint64_t size) {
   FileSystem& system = fileSystem();
   const Path target = system.resolved(path);
-  // What is opened is what a link leads to.
+  // Opening follows a link.
   OpenFile file(system);
   if (!file.open(target, OpenFor::Reading)) return file.facts().size > size;
   const FileFacts facts = system.look(target);
@@ -82,7 +82,7 @@ bool folderExists(const Path& path) {
 bool createFolder(const Path& path) {
   FileSystem& system = fileSystem();
   if (system.createFolder(path)) return false;
-  // Not every name ends where its folder ends.
+  // The path may end in a separator.
   const Path name = path.has_filename() ? path : path.parent_path();
   static_cast<void>(system.flushFolder(name.parent_path()));
   return true;

@@ -21,7 +21,7 @@ FileError openAlone(FileSystem& system, Patience& patience, OpenFile& file, cons
   });
 }
 
-// The content of the file at `path`; none where nothing is there.
+// The content of the file at `path`; none if it does not exist.
 FileError readContent(FileSystem& system, Patience& patience, const Path& path,
                       std::optional<std::string>& content) {
   const FileError error = retried(system, patience, [&] {
@@ -33,7 +33,8 @@ FileError readContent(FileSystem& system, Patience& patience, const Path& path,
   return error.obstacle == Obstacle::Missing ? FileError() : error;
 }
 
-// Writes over the open file. What it held is not cut off before the rest is on the disk.
+// Writes over the open file. It is cut to its new length only once the bytes before are on the
+// disk.
 FileError overwrite(const OpenFile& file, std::string_view bytes, std::uint64_t sizeBefore) {
   FileError error = file.writeAll(bytes);
   if (!error && sizeBefore > bytes.size()) {
@@ -43,24 +44,23 @@ FileError overwrite(const OpenFile& file, std::string_view bytes, std::uint64_t 
   return error ? error : file.flush();
 }
 
-// Puts back what the file held, or removes one that there was not.
+// Puts back what the file held, or removes it if it is new.
 FileError putBack(FileSystem& system, const Path& path, OpenFile& file,
                   const std::optional<std::string>& old) {
-  // How long the file is now nobody knows who has not finished writing it.
+  // The file may have any length now: the write was not finished.
   if (old) return overwrite(file, *old, kAnySize);
   static_cast<void>(file.close());
   return system.remove(path);
 }
 
-// Puts back what the file held before `write`. `isDone` tells whether nothing of that is left to
-// do: not so where no file is, because its disk may be away, or somebody may have renamed it for a
-// moment.
+// Puts back what the file held before `write`. `isDone` tells whether nothing is left to do; false
+// if there is no file, because its disk may be away, or somebody may have renamed it for a moment.
 FileError undo(FileSystem& system, Patience& patience, const Path& path, const TornWrite& write,
                bool& isDone) {
   std::optional<std::string> content;
   const auto read = [&] {
     const FileError error = readContent(system, patience, path, content);
-    // A file that is too large somebody else has written since.
+    // If the file is too large, somebody else has written it since.
     isDone = content || !write.old || isTooLarge(error.code);
     return isTooLarge(error.code) ? FileError() : error;
   };
@@ -70,7 +70,7 @@ FileError undo(FileSystem& system, Patience& patience, const Path& path, const T
   if (const FileError error = openAlone(system, patience, file, path, OpenFor::Writing)) {
     return error;
   }
-  // Now that nobody else writes it.
+  // Once more, now that nobody else writes it.
   if (const FileError error = read()) return error;
   if (!content || !write.mayHaveLeft(*content)) return {};
   return putBack(system, path, file, write.old);
@@ -79,11 +79,11 @@ FileError undo(FileSystem& system, Patience& patience, const Path& path, const T
 // Brings the name of a new file to the disk.
 FileError flushName(FileSystem& system, const Path& folder) {
   const FileError error = system.flushFolder(folder);
-  // Where the folder may not be looked into, that cannot be had.
+  // A folder that may not be read cannot be flushed.
   return error.obstacle == Obstacle::Denied ? FileError() : error;
 }
 
-// A write in place, its kept file being open. Once something is written, no memory is taken.
+// A write in place, with its kept file open. Once something is written, no memory is taken.
 class InPlaceWrite {
  public:
   InPlaceWrite(FileSystem& system, Patience& patience, const Path& path, KeptWrite& kept)
@@ -94,7 +94,7 @@ class InPlaceWrite {
         kept_(kept),
         file_(system) {}
 
-  // `lost`: the content that is still to be put back, into a file that was not found.
+  // `lost`: content that is still to be put back, into a file that was not found.
   FileError run(std::string_view bytes, std::optional<std::string> lost) {
     FileError error = readOld();
     if (lost) {
@@ -110,21 +110,21 @@ class InPlaceWrite {
       return error;
     }
     error = overwrite(file_, bytes, old_ ? old_->size() : 0);
-    // A new name has to be on the disk before nothing tells any more that it may be missing.
+    // A new name must be on the disk before the record that it may be missing goes.
     if (!error && !old_) error = flushName(system_, folder_);
     if (!error) error = kept_.discard();
-    if (!error) return {};  // what was flushed is there, whatever closing says
+    if (!error) return {};  // what was flushed is on the disk, whatever closing reports
     if (!putBack(system_, path_, file_, old_)) static_cast<void>(kept_.discard());
     return error;
   }
 
  private:
-  // Locks the file before it is read, so that nobody writes it since.
+  // Locks the file before it is read, so that nobody writes it in between.
   FileError readOld() {
     const FileError error = openAlone(system_, patience_, file_, path_, OpenFor::Writing);
     if (error.obstacle == Obstacle::Missing) return {};
     if (error) return error;
-    // Somebody who wrote it by another name has ended meanwhile.
+    // A process that was writing it by another name may have ended meanwhile.
     std::vector<KeptWrite::Identity> names;
     if (const FileError failed = KeptWrite::find(system_, path_, names)) return failed;
     if (names.size() > 1) return busy();
@@ -132,7 +132,7 @@ class InPlaceWrite {
     return !failed && !old_ ? busy() : failed;
   }
 
-  // The file is there then, so only the lock is asked for again.
+  // Once the file exists, only the lock is tried again.
   FileError create() {
     const FileError error =
         retried(system_, patience_, [&] { return file_.open(path_, OpenFor::Creating); });
@@ -143,8 +143,8 @@ class InPlaceWrite {
     return orRemove(retried(system_, patience_, [&] { return file_.lock(Sharing::Alone); }));
   }
 
-  // Makes a file of that content, which stays kept until it is there and on the disk. Only where a
-  // file can be made, its disk is not away.
+  // Makes a file with that content, which stays kept until the file is on the disk. That a file can
+  // be made shows that its disk is not away.
   FileError makeAnew(std::string_view content) {
     FileError error = create();
     if (!error) error = orRemove(overwrite(file_, content, 0));
@@ -153,7 +153,7 @@ class InPlaceWrite {
 
   FileError reserve(std::uint64_t size) { return orRemove(file_.reserve(size)); }
 
-  // After an error, a file that there was not goes again.
+  // After an error, removes the file again if it is new.
   FileError orRemove(const FileError& error) {
     if (error && !old_) static_cast<void>(putBack(system_, path_, file_, old_));
     return error;
@@ -168,7 +168,7 @@ class InPlaceWrite {
   std::optional<std::string> old_;
 };
 
-// Undoes what was written into the file at `path` when it had the name `identity`.
+// Undoes what was written to the file at `path` when its name was `identity`.
 FileError undoByName(FileSystem& system, Patience& patience, const Path& path,
                      const KeptWrite::Identity& identity) {
   KeptWrite kept(system, patience, identity);

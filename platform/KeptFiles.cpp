@@ -17,7 +17,7 @@ namespace {
 
 constexpr char kStart[] = ".kept-";
 constexpr std::string_view kStampForm = "00000000-000000";  // a zero for each digit
-constexpr int kNames = 60;              // as many seconds to look for a free name
+constexpr int kNames = 60;              // how many seconds are tried to find a free name
 constexpr std::size_t kPiece = 65'536;  // bytes that are copied at once
 
 using Text = std::basic_string<Path::value_type>;
@@ -51,7 +51,7 @@ bool isStamp(TextView text) {
                     });
 }
 
-// Copies what the file at `path` holds, which nobody of ours writes meanwhile. Held where that is
+// Copies the content of the file at `path`, which nobody of ours writes meanwhile. Held where it is
 // torn.
 FileError copyContent(FileSystem& system, Patience& patience, const Path& path,
                       const OpenFile& copy) {
@@ -69,7 +69,7 @@ FileError copyContent(FileSystem& system, Patience& patience, const Path& path,
       return system.read(file.handle(), offset, piece.data(), kPiece, count);
     });
     if (unread) return unread;
-    // Somebody of ours may have ended while he wrote it.
+    // A process of ours may have ended while it wrote the file.
     if (count == 0) return busyIfTorn(system, path);
     const std::string_view bytes = std::string_view(piece).substr(0, count);
     if (const FileError unwritten = copy.writeAt(offset, bytes)) return unwritten;
@@ -77,8 +77,8 @@ FileError copyContent(FileSystem& system, Patience& patience, const Path& path,
   }
 }
 
-// Whether a new file beside one that is there was refused as a folder does that takes none, or none
-// of such a long name; for which some systems find no place.
+// Whether a new file beside an existing one was refused as by a folder that takes none, or none
+// with so long a name; some systems report the latter as a missing place.
 bool isRefused(const FileError& error) {
   return error.obstacle == Obstacle::Denied || error.obstacle == Obstacle::Exists ||
          error.obstacle == Obstacle::Missing || error.code == std::errc::filename_too_long;
@@ -111,7 +111,7 @@ void KeptFiles::find(std::uint64_t names) {
                         isStamp(text.substr(start.size()));
     if (!isKept) return;
     const Path kept = folder / name;
-    // Not every file system tells its files apart.
+    // Compared only where needed: not every file system tells its files apart.
     const bool isLink = names > 1 && system_.isSameFile(kept, path_);
     (isLink ? links_ : others_).push_back(kept);
   });
@@ -119,7 +119,7 @@ void KeptFiles::find(std::uint64_t names) {
   std::sort(others_.begin(), others_.end());
 }
 
-// Has `give` give the file a kept name that is free; `name` becomes the one.
+// Has `give` give the file a free kept name, which is then stored in `name`.
 template <class Name>
 FileError KeptFiles::underFreeName(Path& name, Name give) {
   const std::int64_t now = system_.wallTime();
@@ -134,7 +134,7 @@ FileError KeptFiles::underFreeName(Path& name, Name give) {
 }
 
 void KeptFiles::keep() {
-  // Also where it has one: that may be another process's, which takes it away when its save fails.
+  // Even if it has one: that may be another process's, which removes it if its save fails.
   const FileError error =
       underFreeName(link_, [&](const Path& name) { return system_.link(path_, name); });
   if (error && links_.empty()) {
@@ -161,7 +161,7 @@ FileError KeptFiles::keepCopy() {
   if (copy_.empty()) {
     TemporaryFile copy(system_, patience_);
     FileError error = copy.create(path_, OpenFor::NewAndPrivate);
-    // Asked again, so that one failure does not cost the old content.
+    // Tried again, so that one failure does not cost the old content.
     if (error && isRefused(error)) error = copy.create(path_, OpenFor::NewAndPrivate);
     if (error) {
       const bool hasLinks = !links_.empty() || !link_.empty();
@@ -171,10 +171,10 @@ FileError KeptFiles::keepCopy() {
       return isGone(unkept) ? FileError() : unkept;
     }
   }
-  // What stands behind the links is about to change.
+  // What the links lead to is about to change.
   if (const FileError error = dropLinks()) return error;
   const FileError error = system_.flushFolder(path_.parent_path());
-  // Where the folder may not be looked into, that cannot be had.
+  // A folder that may not be read cannot be flushed.
   return error.obstacle == Obstacle::Denied ? FileError() : error;
 }
 
@@ -203,7 +203,7 @@ FileError KeptFiles::dropLinks() {
 
 void KeptFiles::stay() noexcept {
   const bool isKept = !link_.empty() || !copy_.empty();
-  // The same content, a second time; unless another process has replaced the file meanwhile.
+  // The same content a second time, unless another process has replaced the file meanwhile.
   for (const Path& name : links_) {
     if (system_.isSameFile(name, link_)) static_cast<void>(system_.remove(name));
   }

@@ -5,23 +5,23 @@
 #include "platform/FileSystem.h"
 #include "platform/Patience.h"
 
-// Old files that are put aside under a name of their own, before another takes their place: the
-// file's name, then ".kept-YYYYMMDD-HHMMSS", by the local time.
+// Old files that are put aside under a name of their own before another takes their place: the
+// file's name, then ".kept-YYYYMMDD-HHMMSS" in local time.
 namespace brennet::platform {
 
 inline constexpr std::size_t kMostKeptFiles = 3;
 
-// The name under which a file is put aside at that time (FileSystem::wallTime).
+// The name under which a file is put aside at `wallTime` (FileSystem::wallTime).
 [[nodiscard]] Path keptName(const Path& path, std::int64_t wallTime);
 
 class TemporaryFile;
 
-// The kept files of one file that is about to get another content. What is put aside here is
-// removed again unless it stays.
+// The kept files of one file that is about to get new content. What is put aside here is removed
+// again unless stay() is called.
 //
-// A file that another one is to take the place of gets its kept name as a second one: that is done
-// at once, whole, and for files of any size, also those that cannot be read. A file that is to be
-// written in place must not have such a name, since that would show what is written; it is copied.
+// A file that another one will replace gets its kept name as a second name: that is done in one
+// step, for files of any size, even those that cannot be read. A file that will be written in place
+// must not have such a name, because the new content would show under it too; it is copied.
 class KeptFiles {
  public:
   KeptFiles(FileSystem& system, Patience& patience, const Path& path)
@@ -30,22 +30,22 @@ class KeptFiles {
   KeptFiles(const KeptFiles&) = delete;
   KeptFiles& operator=(const KeptFiles&) = delete;
 
-  // Looks for those that are there, where the file has so many names. Throws std::bad_alloc, as all
-  // functions do but stay().
+  // Looks for the existing kept files of a file that has `names` names in all. Throws
+  // std::bad_alloc, as do keep() and keepCopy().
   void find(std::uint64_t names);
   // How many of them are the file itself, by a second name: a process put it aside and ended before
-  // another file took its place, or is about to have one take it.
+  // it replaced the file, or is about to replace it.
   [[nodiscard]] std::size_t links() const { return links_.size(); }
 
-  // Puts the file aside by a second name, or as a copy where there are none. Passes over failures:
-  // the file can be replaced all the same. A file that is torn by then (busyIfTorn) nothing may
-  // take the place of, so its second name goes again.
+  // Puts the file aside by a second name, or as a copy where there can be none. Ignores failures:
+  // the file can be replaced all the same.
   void keep();
-  // Puts the file aside as a copy, where that is not done yet, and takes its second names away, all
-  // of that on the disk too. Not an error where the folder takes no new file, unless there are such
-  // names. Held where it is torn.
+  // Puts the file aside as a copy, if that is not done yet, and removes its second names, all of
+  // that on the disk too. Not an error where the folder takes no new file, unless there are such
+  // names. Held where the file is torn.
   FileError keepCopy();
-  // The save is done: what was put aside stays, and the oldest go that are too many.
+  // The save is done: what was put aside stays, and the oldest files beyond kMostKeptFiles are
+  // removed.
   void stay() noexcept;
 
  private:
@@ -58,11 +58,11 @@ class KeptFiles {
   FileSystem& system_;
   Patience& patience_;
   const Path& path_;
-  std::vector<Path> others_;  // older files, the oldest first
-  std::vector<Path> links_;   // names of the file itself that were there
-  Path link_;                 // the one it got here
+  std::vector<Path> others_;  // earlier files, the oldest first
+  std::vector<Path> links_;   // names of the file itself that existed before
+  Path link_;                 // the one that was added here
   Path copy_;
-  bool isCopyForLinks_ = false;  // takes the place of one of those that were there, so it stays
+  bool isCopyForLinks_ = false;  // replaces a name that existed before, so it stays
 };
 
 }  // namespace brennet::platform

@@ -9,10 +9,10 @@
 namespace brennet::platform {
 namespace {
 
-// Both contents, and what stands around them: a path, above all.
+// Both contents, and what encloses them: mainly a path.
 constexpr std::uint64_t kLargestRecord = 2 * kLargestInPlace + (1U << 20U);
 constexpr char kEnding[] = ".kept";
-constexpr std::size_t kStart = std::size_t{66} << 10U;  // bytes; with the longest name of a file
+constexpr std::size_t kStart = std::size_t{66} << 10U;  // bytes; enough for the longest path
 
 std::string bytesOf(const Path& path) {
   const auto& text = path.native();
@@ -25,35 +25,35 @@ Path pathOf(std::string_view bytes) {
   return text;
 }
 
-// A short name for a long one. Two files that share it cannot be written in place at once, and
-// never get each other's content: the kept file has the long name as well.
+// A short name for a long one. Two files that share it cannot be written in place at the same time,
+// but never get each other's content: the kept file holds the long name as well.
 std::string shortName(std::string_view text) {
   std::string name;
   appendDigits(checksum(text), name);
   return name;
 }
 
-// The name of the file that tells of the file with that identity.
+// The name of the kept file for the file with that identity.
 Path keptName(const Path& folder, std::string_view file) {
   return folder / (shortName(file) + kEnding);
 }
 
-// Whether there can be a kept file for any file at all; as a rule there is none.
+// Whether there can be a kept file for any file at all; usually there is none.
 FileError findAny(FileSystem& system, const Path& folder, bool& isAnyThere) {
   isAnyThere = false;
   if (folder.empty()) return {};
   const FileError error = system.checkPrivateFolder(folder);
   isAnyThere = !error;
-  // A folder that anybody else may write into tells nothing that could be believed.
+  // What is in a folder that others may write to cannot be trusted.
   const bool isNone = error.obstacle == Obstacle::Missing || error.obstacle == Obstacle::Denied;
   return isNone ? FileError() : error;
 }
 
-// Which file the kept file tells of; none where it is gone, or not written yet.
+// Which file the kept file is about; none if the kept file is gone, or not written yet.
 FileError readFileName(FileSystem& system, const Path& kept, std::optional<std::string>& file) {
   OpenFile opened(system);
   const FileError error = opened.open(kept, OpenFor::Reading);
-  // What is about to go refuses itself to everybody.
+  // Access to a file that is about to go is denied.
   const bool isGone = error.obstacle == Obstacle::Missing || error.obstacle == Obstacle::Denied;
   if (error) return isGone ? FileError() : error;
   std::string start;
@@ -99,7 +99,7 @@ FileError KeptWrite::find(FileSystem& system, const Path& path, std::vector<Iden
   std::optional<std::string> file;
   FileError error = readFileName(system, own, file);
   if (error) return error;
-  // One that has not been written yet will tell of the file that its name says.
+  // A kept file that is not written yet will be about the file that its name stands for.
   const bool isOwn = file ? *file == identity : system.look(own).kind == FileFacts::Kind::File;
   if (isOwn) names.push_back({ownIdentity, file.has_value()});
   const FileError unlisted = system.list(folder, [&](const Path& entry) {
@@ -110,7 +110,7 @@ FileError KeptWrite::find(FileSystem& system, const Path& path, std::vector<Iden
     const Path name = pathOf(*file);
     if (system.isSameFile(name, path)) names.push_back({name, true});
   });
-  // Whoever had the folder may have removed it.
+  // Another process that used the folder may have removed it.
   return error || unlisted.obstacle == Obstacle::Missing ? error : unlisted;
 }
 
@@ -119,7 +119,7 @@ bool KeptWrite::isThere() const {
 }
 
 FileError KeptWrite::openFile() {
-  // Whoever had the file removes it and its folder in the end.
+  // Another process that had the file removes it and its folder in the end.
   return retried(
       system_, patience_,
       [&] {
@@ -132,10 +132,10 @@ FileError KeptWrite::openFile() {
 FileError KeptWrite::open() {
   if (name_.empty()) return nowhere();
   if (const FileError error = openFile()) return error;
-  saysSomething_ = true;  // as long as that is not known
+  saysSomething_ = true;  // until the file has been read
   std::string kept;
   const FileError error = opened_.readAll(kept, kLargestRecord);
-  // One that is longer than any that is written says nothing.
+  // A file that is longer than any record says nothing.
   if (error && !isTooLarge(error.code)) return error;
   found_ = TornWrite::parse(kept);
   if (found_ && found_->file != file_) {
@@ -158,18 +158,18 @@ FileError KeptWrite::write(const std::optional<std::string>& old, std::string_vi
   saysSomething_ = !error;
   if (!error) error = opened_.flush();
   if (!error) error = system_.flushFolder(folder_);
-  // A folder that may not be looked into cannot be flushed either; the next one is older.
+  // A folder that may not be read cannot be flushed either; the parent has existed for longer.
   if (!error) static_cast<void>(system_.flushFolder(parent_));
   return error;
 }
 
 FileError KeptWrite::discard() {
   if (opened_.handle() == kNoFile) return {};
-  // An empty file says nothing to anybody; flushed, not even after a power loss. Not every system
-  // can bring a removal to the disk, so one failure is not to make that count instead.
+  // An empty file says nothing to anybody; flushed, it says nothing even after a power loss. Each
+  // call is tried twice, because not every system can bring a removal to the disk instead.
   const FileError emptied = askedTwice([&] { return opened_.resize(0); });
   const FileError flushed = emptied ? emptied : askedTwice([&] { return opened_.flush(); });
-  // While it is open, so that it is not one of somebody else who came in between.
+  // While it is open, so that no other process's new file is removed instead.
   const FileError removed = system_.removeKept(opened_.handle(), name_);
   if (emptied && removed) return removed;
   if (flushed) static_cast<void>(system_.flushFolder(folder_));

@@ -26,7 +26,7 @@ void removeLeftovers(FileSystem& system, const Path& path) {
     const bool isLeft = facts.age >= kOld || !system.isRunning(*process);
     if (facts.kind == FileFacts::Kind::File && isLeft) static_cast<void>(system.remove(leftover));
   });
-  static_cast<void>(unseen);  // what is left goes another time
+  static_cast<void>(unseen);  // what stays now goes another time
 }
 
 }  // namespace brennet::platform

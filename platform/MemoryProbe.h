@@ -7,11 +7,11 @@ namespace brennet::platform {
 enum class Writability {
   Writable,
   NotWritable,
-  Unknown,  // the system gave no means to find out just now
+  Unknown,  // the system could not find out just now
 };
 
-// Whether this process may read and write the `size` bytes at `address`; Writable for no bytes.
-// Never faults and leaves the bytes as they are.
+// Whether this process may read and write the `size` bytes at `address`; Writable if `size` is 0.
+// Never faults, and leaves the bytes as they are.
 [[nodiscard]] Writability probeMemory(void* address, std::size_t size);
 
 }  // namespace brennet::platform

@@ -22,14 +22,14 @@ class OpenFile {
   // What the file was when it was opened.
   [[nodiscard]] const FileFacts& facts() const { return facts_; }
 
-  // Makes `bytes` what the file holds, to its end also where it grows meanwhile; after an error
-  // they are empty. More than `limit` bytes are an error (std::errc::file_too_large) and are not
-  // read. Throws std::bad_alloc.
+  // Makes `bytes` the content of the file, to its end even if it grows meanwhile; after an error
+  // they are empty. More than `limit` bytes are an error (std::errc::file_too_large). Throws
+  // std::bad_alloc.
   FileError readAll(std::string& bytes, std::uint64_t limit) const;
-  // Makes `bytes` the first `size` bytes of what the file holds, or all where it holds fewer.
-  // Throws std::bad_alloc.
+  // Makes `bytes` the first `size` bytes of the content, or all of it if it is shorter. Throws
+  // std::bad_alloc.
   FileError readStart(std::string& bytes, std::size_t size) const;
-  // Writes `bytes` from the start of the file on. What stands behind them stays.
+  // Writes `bytes` from the start of the file on. What follows them in the file stays.
   [[nodiscard]] FileError writeAll(std::string_view bytes) const { return writeAt(0, bytes); }
   // The same from `offset` on.
   [[nodiscard]] FileError writeAt(std::uint64_t offset, std::string_view bytes) const;

@@ -4,16 +4,16 @@
 
 namespace brennet::platform {
 
-// The windows of the host that a modal window stands before; null: none. Handles of Windows; other
-// systems have none.
+// The windows around the one of the host that the player works in, which a modal window stands in
+// front of; null: none. Handles of Windows; other systems have none.
 struct OwnerWindows {
-  void* root = nullptr;   // disabled here
-  void* popup = nullptr;  // the last one of the root's that was active
+  void* root = nullptr;   // the root of its parents, if that was disabled here
+  void* popup = nullptr;  // its popup that was active last, or the window itself
   bool isPopupDisabled = false;
 };
 
-// Finds the window of the calling thread that the player has before him, and disables it together
-// with the one at the root of its parents, as far as they are enabled.
+// Finds the window of the calling thread that the player works in, and disables the two windows
+// above, where they are enabled.
 [[nodiscard]] OwnerWindows disableOwnerWindows();
 
 // Where a window stands: in pixels of all screens together, whatever their scales.
@@ -24,11 +24,11 @@ struct WindowFrame {
   int height;
 };
 
-// The place of the window that the player has before him, of this thread; nothing where there is
-// none, or where it is minimized.
+// The place of the window of this thread that the player works in; nothing where there is none, or
+// where it is minimized.
 [[nodiscard]] std::optional<WindowFrame> ownerFrame();
 
-// Enables what was disabled, and gives the player his window back.
+// Enables what was disabled, and makes the player's window active again.
 void enableOwnerWindows(const OwnerWindows& windows);
 
 }  // namespace brennet::platform

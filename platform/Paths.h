@@ -10,10 +10,11 @@ namespace brennet::platform {
 // Only the value type of std::filesystem is used; Files.h reports errors without exceptions.
 using Path = std::filesystem::path;
 
-// `name` as a path. Unpaired surrogates name no file elsewhere than on Windows; they become U+FFFD.
+// `name` as a path. Unpaired surrogates name no file except on Windows; elsewhere they become
+// U+FFFD.
 [[nodiscard]] Path pathFromUtf16(std::u16string_view name);
 
-// `name` as a path: text in the ANSI code page on Windows, bytes taken as they are elsewhere.
+// `name` as a path: text in the ANSI code page on Windows, plain bytes elsewhere.
 [[nodiscard]] Path pathFromNarrow(std::string_view name);
 
 }  // namespace brennet::platform

@@ -8,16 +8,16 @@
 namespace brennet::platform {
 
 // How long one operation waits for other programs, in all its steps together: virus scanners and
-// indexers hold a new file for a moment, and backup programs an old one. With the pauses between
-// the tries that is a fifth of a second, also where pauses last longer than they were asked to: on
-// Windows they may last as long again as the clock takes to tick.
+// indexers hold a new file for a moment, and backup programs an old one. All pauses together last
+// about a fifth of a second, even where each is longer than asked for: on Windows a pause may be
+// longer by one tick of the clock.
 class Patience {
  public:
   static constexpr int kPauses = 9;
-  static constexpr std::uint64_t kMilliseconds = 200;  // of waiting; what is done between is none
-  static constexpr std::uint64_t kLongestPause = 32;   // milliseconds, as a rule
+  static constexpr std::uint64_t kMilliseconds = 200;  // of waiting; work in between does not count
+  static constexpr std::uint64_t kLongestPause = 32;   // milliseconds, usually
 
-  // Waits a little. Returns false, and at once, where that has been done often or long enough.
+  // Waits a little. Returns false, without waiting, once that has been done often or long enough.
   [[nodiscard]] bool wait(FileSystem& system) {
     if (pauses_ == 0 || waited_ + kLongestPause > kMilliseconds) return false;
     --pauses_;
@@ -32,7 +32,7 @@ class Patience {
   std::uint64_t waited_ = 0;
 };
 
-// The error of a file with which somebody is busy in a way that no call told of.
+// The error for a file that somebody is busy with, where no call has reported that.
 inline FileError busy() {
   return {Obstacle::Held, std::make_error_code(std::errc::resource_unavailable_try_again)};
 }
@@ -41,8 +41,8 @@ inline bool isHeld(const FileError& error) {
   return error.obstacle == Obstacle::Held;
 }
 
-// Calls `operation`, which gives a FileError, until it succeeds, fails for good, or patience ends.
-// It fails for good in a way of which `mayPass` does not think that it may pass.
+// Calls `operation`, which returns a FileError, until it succeeds, fails for good, or patience
+// ends. Errors for which `mayPass` returns false are for good.
 template <class Operation, class Condition = bool (*)(const FileError&)>
 FileError retried(FileSystem& system, Patience& patience, Operation operation,
                   Condition mayPass = isHeld) {

@@ -34,7 +34,8 @@ bool PrivateFile::isThere(std::string_view name) const {
 }
 
 FileError PrivateFile::openLock() {
-  // Whoever had the file removes it and its folder in the end. As long as he has it, it is his.
+  // Another process that had the file removes it and its folder in the end. While it has the file,
+  // this one does not wait.
   Patience patience;
   return retried(
       system_, patience,
@@ -53,7 +54,7 @@ bool PrivateFile::take(std::string_view name) {
   backup_ = backupName(path_);
   lockPath_ = lockOf(path_);
   if (openLock()) return false;
-  // A folder that may not be looked into cannot be flushed; the lock says nothing by itself.
+  // A folder that may not be read cannot be flushed; the lock alone says nothing.
   static_cast<void>(system_.flushFolder(folder_));
   static_cast<void>(system_.flushFolder(parent_));
   return true;
@@ -64,9 +65,9 @@ std::error_code PrivateFile::read(std::string& bytes, std::uint64_t limit) const
 }
 
 std::error_code PrivateFile::write(std::string_view bytes) const {
-  // One that replaces it takes its rights over; one that is new would have those of new files, and
-  // these may shut the user out when it was made by an elevated process of his. As long as it is
-  // empty it says nothing.
+  // A file that replaces another takes over its rights. A new one would have the usual rights of
+  // new files, which may shut the user out if an elevated process of his made it. While it is
+  // empty, it says nothing.
   OpenFile fresh(system_);
   static_cast<void>(fresh.open(path_, OpenFor::NewAndPrivate));
   static_cast<void>(fresh.close());
@@ -77,15 +78,15 @@ FileError PrivateFile::empty(Patience& patience, const Path& path) noexcept {
   OpenFile file(system_);
   FileError error = retried(system_, patience, [&] { return file.open(path, OpenFor::Writing); });
   if (!error) error = file.resize(0);
-  // Once the file is short, it says nothing any more to whoever comes after this process; that the
-  // disk has it matters only to a machine that fails.
+  // Once the file is empty, it says nothing to any later process; whether that is on the disk
+  // matters only if the machine fails.
   if (!error) static_cast<void>(file.flush());
   return error;
 }
 
 bool PrivateFile::clear() noexcept {
-  // A replacement that failed half-way may have left the old content under the other name. As long
-  // as the file is there, it is the one that counts; so the other goes first.
+  // A replacement that failed half-way may have left the old content under the other name. While
+  // the file exists, it is the one that counts; so the other one goes first.
   Patience patience;
   const FileError oldError = empty(patience, backup_);
   const FileError error = empty(patience, path_);

@@ -9,10 +9,11 @@
 namespace brennet::platform {
 
 // A file in the user's own folder (FileSystem::privateFolder) that outlives the process, and that
-// one process has to itself at a time. Whoever has it holds a second file open beside it,
-// NAME.lock, which the system lets go of when the process ends, however it ends.
+// one process at a time has to itself. Whoever has it holds a second file open beside it,
+// NAME.lock, which the system releases when the process ends, however it ends.
 //
-// Nobody but the user can look into that folder; where it is somebody else's, there are no files.
+// Nobody but the user can look into that folder; if it belongs to somebody else, there are no
+// files.
 class PrivateFile {
  public:
   PrivateFile() : system_(fileSystem()), lock_(system_) {}
@@ -21,24 +22,23 @@ class PrivateFile {
   PrivateFile(const PrivateFile&) = delete;
   PrivateFile& operator=(const PrivateFile&) = delete;
 
-  // Whether the file of that name, or what is left of its use, is there. Throws std::bad_alloc.
+  // Whether there is a file of that name, or something left from its use. Throws std::bad_alloc.
   [[nodiscard]] bool isThere(std::string_view name) const;
 
-  // Takes the file of that name, which need not be there; this object has none yet. Waits for no
-  // process that has it. Returns whether this object has it now. Throws
-  // std::bad_alloc.
+  // Takes the file of that name, which need not exist; this object must not have one yet. Does not
+  // wait for a process that has it. Returns whether this object has it now. Throws std::bad_alloc.
   [[nodiscard]] bool take(std::string_view name);
   [[nodiscard]] bool isTaken() const { return lock_.handle() != kNoFile; }
 
   // The functions below are for a file that was taken.
 
   // readFile and replaceFile of Files.h: at every moment the disk holds the whole old or the whole
-  // new content; where there was no file, one that holds nothing may come before.
+  // new content; where there was no file, there may be an empty one first.
   [[nodiscard]] std::error_code read(std::string& bytes, std::uint64_t limit) const;
   [[nodiscard]] std::error_code write(std::string_view bytes) const;
 
-  // Makes the file hold nothing, in one step and on the disk too, and removes it. Returns whether
-  // it holds nothing now. Needs no memory.
+  // Empties the file, in one step and on the disk too, and removes it. Returns whether it holds
+  // nothing now. Needs no memory.
   [[nodiscard]] bool clear() noexcept;
 
   // Lets go of the file; one that holds something stays.

@@ -60,7 +60,8 @@ void appendBytes(const RegistryValue& value, std::u16string& out) {
   }
 }
 
-// The text of a text value that a line can hold: closed by a zero, and no other control characters.
+// Whether a line can hold this text value, and its text: it ends in a zero, and has no other
+// control characters.
 bool isPlainText(const RegistryValue& value, std::u16string& text) {
   const std::string& data = value.data;
   if (value.type != kRegistryText || data.size() % 2 != 0 || data.empty()) return false;

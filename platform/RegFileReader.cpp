@@ -32,7 +32,7 @@ bool take(std::u16string_view word, std::u16string_view& text) {
   return true;
 }
 
-// Nothing but a comment may stand behind what a line says.
+// Only a comment may follow what a line says.
 bool isEnd(std::u16string_view text) {
   dropBlanks(text);
   return text.empty() || text.front() == u';';
@@ -58,7 +58,8 @@ std::optional<std::uint32_t> takeHex(std::size_t most, std::u16string_view& text
   return number;
 }
 
-// Takes a text in quotation marks, in which a backslash stands before each of these and of itself.
+// Takes a text in quotation marks, in which a backslash stands before each quotation mark and each
+// backslash.
 std::optional<std::u16string> takeQuoted(std::u16string_view& text) {
   if (!take(u"\"", text)) return std::nullopt;
   std::u16string result;
@@ -188,7 +189,7 @@ class Reader {
     return value;
   }
 
-  // `text` and the lines behind it, as long as each ends in a backslash and another one with bytes
+  // `text` and the lines after it, as long as each ends in a backslash and another one with bytes
   // follows.
   std::u16string continued(std::u16string_view text) {
     std::u16string lines;
@@ -201,7 +202,7 @@ class Reader {
     }
   }
 
-  // Whether the next line may go on with bytes. A line that begins anything else is left alone.
+  // Whether the next line can continue the bytes. A line that begins anything else is left alone.
   [[nodiscard]] bool bytesFollow() {
     take(u"\n", rest_);  // of CR LF
     std::u16string_view line = rest_;
@@ -209,7 +210,7 @@ class Reader {
     return !line.empty() && digitOf(line.front()) >= 0;
   }
 
-  // Texts given as bytes are in the ANSI code page in old files, and in the registry in UTF-16.
+  // Texts given as bytes are in the ANSI code page in old files, and in UTF-16 in the registry.
   [[nodiscard]] std::string inUtf16(std::uint32_t type, std::string bytes) const {
     constexpr std::uint32_t kExpandableText = 2;
     constexpr std::uint32_t kTexts = 7;
@@ -224,7 +225,7 @@ class Reader {
 
   std::u16string_view rest_;
   RegFile* target_;
-  std::u16string key_;  // whose values the lines are; empty: of none
+  std::u16string key_;  // the key whose values the lines give; empty: none
   bool textsAreAnsi_ = false;
 };
 

@@ -4,12 +4,13 @@
 
 namespace brennet::platform {
 
-// Has the .reg file `name` in `folder` imported into the registry, without a word to the user.
+// Has the .reg file `name` in `folder` imported into the registry, without showing anything to the
+// user.
 //
-// Windows starts regedit.exe with the folder as its working directory, does not wait for it, and
-// does not learn what comes of it. Elsewhere the file is carried out on the file that stands for
-// the registry (Registry.h), which is created where it is missing, before the call returns.
-// `folder` ends in a separator. Returns whether the import was started.
+// On Windows regedit.exe is started with the folder as its working directory; nobody waits for it
+// or learns what comes of it. Elsewhere the file is carried out on the file that stands for the
+// registry (Registry.h), which is created if it is missing, before the call returns. `folder` ends
+// in a separator. Returns whether the import was started.
 bool importRegFile(std::u16string_view folder, std::u16string_view name);
 
 }  // namespace brennet::platform

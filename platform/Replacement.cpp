@@ -9,7 +9,7 @@
 namespace brennet::platform {
 namespace {
 
-constexpr int kTries = 10;  // with another temporary file each
+constexpr int kTries = 10;  // each with another temporary file
 
 bool isFile(FileSystem& system, const Path& path) {
   return system.look(path).kind == FileFacts::Kind::File;
@@ -25,15 +25,15 @@ FileError dropBackup(FileSystem& system, const Path& backup, const Path& path, c
   return error ? error : system.removeBackup(backup, path);
 }
 
-// What stands at the name before it is replaced.
+// What is at the name before it is replaced.
 struct Target {
   bool isThere = false;
   bool isLink = false;
-  std::uint64_t names = 1;  // others than those under which it was put aside keep the old content
+  std::uint64_t names = 1;  // those under which it was not put aside keep the old content
   std::uint64_t size = 0;   // in bytes
 };
 
-// Finds out whether a file can be written at `path`, and what is there.
+// Finds out what is at `path`, and whether a file can be written there.
 FileError inspect(FileSystem& system, const Path& path, Target& target) {
   OpenFile file(system);
   const FileError error = file.open(path, OpenFor::Writing);
@@ -49,8 +49,8 @@ FileError inspect(FileSystem& system, const Path& path, Target& target) {
 }
 
 enum class Way {
-  Gone,      // to the end, well or not
-  Closed,    // there is none through a temporary file; nothing has changed
+  Gone,      // to the end, with or without success
+  Closed,    // no way through a temporary file; nothing has changed
   TryAgain,  // somebody took the temporary file away
 };
 
@@ -78,8 +78,8 @@ class Replacement {
       TemporaryFile temporary(system_, patience_);
       const FileError error =
           temporary.create(path_, target_.isThere ? OpenFor::NewAndPrivate : OpenFor::New);
-      // Without a folder there is no other way either. Where it is there, what is not found is a
-      // place for a name that is too long.
+      // Without a folder there is no other way either. If there is one, "missing" means that the
+      // name is too long for it.
       const bool isGone = error.obstacle == Obstacle::Missing && !isFolderThere();
       if (error) return {isGone ? Way::Gone : Way::Closed, error};
       temporary_ = temporary.name();
@@ -90,7 +90,7 @@ class Replacement {
   }
 
  private:
-  // No name for it is that of the current folder.
+  // An empty name is that of the current folder.
   [[nodiscard]] bool isFolderThere() const { return folder_.empty() || exists(system_, folder_); }
 
   Outcome fillAndPlace(TemporaryFile& temporary) {
@@ -98,16 +98,16 @@ class Replacement {
     const FileError error = takePlace();
     if (!error) {
       temporary.hasMoved();
-      // So that the new name is on the disk too. The file's content is safe either way.
+      // So that the new name is on the disk too. The content is safe either way.
       static_cast<void>(system_.flushFolder(folder_));
       return {};
     }
-    // That comes first.
+    // A torn file has to be put right first.
     if (torn_) return {Way::Gone, torn_};
-    // Where the old content has no other place than the backup, nothing is written in place, so
-    // that nobody takes that for the file and removes the backup.
+    // If the old content exists only as the backup, nothing is written in place: another process
+    // would take that for the file, and remove the backup.
     if (isMovedAway()) return {Way::Gone, error};
-    // A file that has come meanwhile has rights, which another temporary file will get.
+    // A file that has appeared meanwhile has rights, which another temporary file will get.
     const bool hasCome = !target_.isThere && error.obstacle == Obstacle::Exists;
     target_.isThere = target_.isThere || hasCome;
     return {hasCome || !exists(system_, temporary_) ? Way::TryAgain : Way::Closed, error};
@@ -121,25 +121,25 @@ class Replacement {
     return error ? error : file.close();
   }
 
-  // Gives the temporary file the place of the other, which may go under way.
+  // Gives the temporary file the place of the other, which may disappear meanwhile.
   FileError takePlace() {
     while (target_.isThere) {
       const FileError error = exchange();
       const bool hasGone = error.obstacle == Obstacle::Missing && exists(system_, temporary_);
       if (!hasGone) return error;
-      // Another process is replacing the file at this moment, or it is gone for good.
+      // Either another process is replacing the file at this moment, or it is gone for good.
       if (isMovedAway()) {
         if (!patience_.wait(system_)) return error;
       } else {
         target_.isThere = false;
       }
     }
-    // The folder takes a file, so the disk is not away.
+    // The folder took the temporary file, so its disk is not away.
     return makeInsteadOfTorn(system_, patience_, path_, [&] { return moveTo(path_); });
   }
 
-  // Locks the old file meanwhile, where it can be read, so that nobody of ours begins to write it
-  // in place. What is kept of such a write would be put back over the new content some day.
+  // Locks the old file meanwhile, if it can be read, so that no process of ours begins to write it
+  // in place: what is kept of such a write would be put back over the new content some day.
   FileError exchangeWhole() {
     OpenFile old(system_);
     FileError error = old.open(path_, OpenFor::Reading);
@@ -172,7 +172,7 @@ class Replacement {
     return retried(system_, patience_, [&] { return system_.move(temporary_, name); });
   }
 
-  // Whether the old file has the backup's name and nothing its own.
+  // Whether the old file has the backup's name and nothing has its own.
   bool isMovedAway() { return isFile(system_, backup_) && !exists(system_, path_); }
 
   FileSystem& system_;
@@ -183,7 +183,7 @@ class Replacement {
   Path temporary_;
   Target target_;
   std::string_view bytes_;
-  FileError torn_;  // that the old file has to be put right, or may have to be
+  FileError torn_;  // set if the old file is torn, or may be
 };
 
 FileError awaitReplacement(FileSystem& system, Patience& patience, const Path& path) {
@@ -196,13 +196,13 @@ FileError awaitReplacement(FileSystem& system, Patience& patience, const Path& p
     }
   } while (patience.wait(system));
   const FileError error = system.move(backup, path);
-  // Somebody else did it.
+  // Another process has done it.
   const bool isDone = error.obstacle == Obstacle::Missing || error.obstacle == Obstacle::Exists;
   return isDone ? FileError() : error;
 }
 
-// A file that another takes the place of, as a rule; else it is written in place, once nothing that
-// was put aside can be lost by that. `path` is no link, and nothing else has to be put right.
+// Usually another file takes its place; else it is written in place, once nothing that was put
+// aside can be lost by that. `path` is not a link, and nothing has to be put right there.
 FileError replaceAt(FileSystem& system, Patience& patience, const Path& path,
                     std::string_view bytes, const Target& target, OldContent old, KeptFiles& kept) {
   const bool isShared = target.names > 1 + kept.links();
@@ -230,19 +230,19 @@ FileError settle(FileSystem& system, Patience& patience, const Path& path) {
   const FileError error = awaitReplacement(system, patience, path);
   if (error) return error;
   const FileError undone = undoTornWrite(system, patience, path);
-  // Nobody is to take that for a file that is not there.
+  // A caller would take that for a file that does not exist.
   return undone.obstacle == Obstacle::Missing ? busy() : undone;
 }
 
 bool isBeingReplaced(FileSystem& system, const Path& path, const FileError& error) {
-  // A link to nothing is no file that has come meanwhile.
+  // A link to nothing is not a file that has appeared meanwhile.
   return error.obstacle == Obstacle::Missing &&
          (isFile(system, backupName(path)) || isFile(system, path));
 }
 
 namespace {
 
-// Replaces the file once; Held also where somebody came in between.
+// Replaces the file once; Held also if another process came in between.
 FileError replaceOnce(FileSystem& system, Patience& patience, const Path& path,
                       std::string_view bytes, OldContent old) {
   Target target;

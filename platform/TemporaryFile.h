@@ -5,8 +5,8 @@
 
 namespace brennet::platform {
 
-// A new file beside another, with one of its temporary names (TemporaryNames.h), that is removed
-// again unless it takes a name of its own. Once it is there, no memory is taken.
+// A new file beside another, with one of its temporary names (TemporaryNames.h), which is removed
+// again unless it gets a name of its own. Once it exists, no memory is taken.
 class TemporaryFile {
  public:
   TemporaryFile(FileSystem& system, Patience& patience)
@@ -15,13 +15,13 @@ class TemporaryFile {
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-  // Makes the file beside the one at `path`, under the first name that is free; `purpose` is one of
-  // those for new files. Exists where none is free. Throws std::bad_alloc.
+  // Makes the file beside the one at `path`, under the first free name; `purpose` is one of those
+  // for new files. Exists if no name is free. Throws std::bad_alloc.
   FileError create(const Path& path, OpenFor purpose);
 
   [[nodiscard]] const Path& name() const { return name_; }
   [[nodiscard]] OpenFile& file() { return file_; }
-  // It has another name now, or has taken another's place.
+  // The file has another name now, or has taken another's place: it stays.
   void hasMoved() { isThere_ = false; }
 
  private:

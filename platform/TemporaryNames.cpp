@@ -10,7 +10,7 @@ namespace {
 
 using NameView = std::basic_string_view<Path::value_type>;
 
-// In the units of this system's names.
+// `text` in the units of this system's names.
 template <std::size_t size>
 constexpr std::array<Path::value_type, size - 1> inUnits(const char (&text)[size]) {
   std::array<Path::value_type, size - 1> units{};
@@ -30,7 +30,7 @@ bool isNumber(NameView text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), isDigit);
 }
 
-// No process has a larger one.
+// The largest number stands for all that are too large: no process has it.
 unsigned long numberOf(NameView digits) {
   constexpr unsigned long kLargest = std::numeric_limits<unsigned long>::max();
   unsigned long number = 0;

@@ -25,7 +25,7 @@ std::uint64_t takeNumber(std::string_view& text) {
   return number;
 }
 
-// Takes `size` bytes off `text`. Whether it had so many.
+// Takes `size` bytes off `text`. Returns whether it had so many.
 bool take(std::string_view& text, std::uint64_t size, std::string& bytes) {
   if (size > text.size()) return false;
   bytes = text.substr(0, static_cast<std::size_t>(size));

@@ -5,7 +5,7 @@
 
 namespace brennet::platform {
 
-// UTF-16 text as bytes, the lower one of each unit first.
+// Appends UTF-16 text as bytes, the lower one of each unit first.
 inline void appendUtf16Bytes(std::u16string_view text, std::string& bytes) {
   bytes.reserve(bytes.size() + 2 * text.size());
   for (const char16_t unit : text) {
@@ -14,7 +14,7 @@ inline void appendUtf16Bytes(std::u16string_view text, std::string& bytes) {
   }
 }
 
-// The way back. An odd byte at the end is passed over.
+// The reverse. An odd byte at the end is ignored.
 [[nodiscard]] inline std::u16string utf16FromBytes(std::string_view bytes) {
   std::u16string text;
   text.reserve(bytes.size() / 2);
