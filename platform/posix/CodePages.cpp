@@ -50,12 +50,12 @@ constexpr CodePageName kConverterNames[] = {
 constexpr CodePage kShiftJis = 932;
 constexpr CodePage kHz = 52936;
 
-// ICU switches to ASCII, which is in force, before the first character of a text in HZ: this is
-// what becomes of a blank.
+// Before the first character of a text in HZ, ICU switches to ASCII, although that is in force
+// already. This is what it makes of a blank.
 constexpr std::string_view kFirstHzBlank = "~} ";
 
-// Bytes of code page 932 that are characters by themselves and other ones in ICU's table, which
-// permutes three control characters and has nothing for the last five.
+// Single bytes of code page 932 for which ICU's table has other characters or none: it permutes
+// three control characters, and has nothing for the last five.
 struct ShiftJisByte {
   unsigned char byte;
   char16_t unit;
@@ -65,7 +65,7 @@ constexpr ShiftJisByte kShiftJisBytes[] = {
     {0xA0, 0xF8F0}, {0xFD, 0xF8F1}, {0xFE, 0xF8F2}, {0xFF, 0xF8F3},
 };
 
-// kernel32 drops the top bit of a byte there.
+// In this one kernel32 drops the top bit of each byte.
 constexpr CodePage kAscii = 20127;
 
 // The lead bytes that kernel32 reports for its double-byte code pages (CPINFO.LeadByte).
@@ -77,7 +77,7 @@ constexpr LeadByteRange kLeadBytes[] = {
     {932, 0x81, 0x9F}, {932, 0xE0, 0xFC}, {936, 0x81, 0xFE}, {949, 0x81, 0xFE}, {950, 0x81, 0xFE},
 };
 
-// kernel32's default characters. The Unicode one of code page 932 is the katakana middle dot.
+// kernel32's default characters. For code page 932 the Unicode one is the katakana middle dot.
 constexpr char kDefaultByte = '?';
 char16_t defaultUnit(CodePage codePage) {
   return codePage == 932 ? u'\u30FB' : u'?';
@@ -98,7 +98,7 @@ using ConverterHandle = std::unique_ptr<UConverter, CloseConverter>;
 ConverterHandle openNamed(const std::string& name) {
   UErrorCode error = U_ZERO_ERROR;
   ConverterHandle converter(ucnv_open(name.c_str(), &error));
-  // Not to be taken for a code page that does not exist.
+  // This must not look like a code page that does not exist.
   if (error == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
   return U_SUCCESS(error) ? std::move(converter) : nullptr;
 }
@@ -120,7 +120,7 @@ ConverterHandle openConverter(CodePage codePage) {
 
 void U_CALLCONV writeDefaultUnit(const void* context, UConverterToUnicodeArgs* args, const char*,
                                  int32_t, UConverterCallbackReason reason, UErrorCode* error) {
-  if (reason > UCNV_IRREGULAR) return;  // reset, close and clone are no conversions
+  if (reason > UCNV_IRREGULAR) return;  // reset, close and clone are not conversions
   *error = U_ZERO_ERROR;
   ucnv_cbToUWriteUChars(args, static_cast<const char16_t*>(context), 1, 0, error);
 }
@@ -133,7 +133,7 @@ void U_CALLCONV writeDefaultByte(const void* lost, UConverterFromUnicodeArgs* ar
   UCNV_FROM_U_CALLBACK_SUBSTITUTE(nullptr, args, units, length, codePoint, reason, error);
 }
 
-// One open converter with kernel32's answers to what it cannot convert.
+// An open converter that treats what it cannot convert as kernel32 does.
 class Converter {
  public:
   explicit Converter(CodePage codePage)
@@ -194,8 +194,8 @@ Converter& converterOf(CodePage codePage) {
   return converters.try_emplace(codePage, codePage).first->second;
 }
 
-// Some of ICU's tables turn half-width arrows into the control characters that are drawn as arrows
-// on old consoles; kernel32 does so in no double-byte code page.
+// Some of ICU's tables turn half-width arrows into the control characters that old consoles draw as
+// arrows; kernel32 does not do so in any double-byte code page.
 bool isConsoleArrow(char16_t unit, std::string_view bytes) {
   return unit >= 0x80 && bytes.size() == 1 && static_cast<unsigned char>(bytes[0]) < 0x20;
 }
@@ -234,7 +234,7 @@ char16_t pairToUtf16(CodePage codePage, unsigned char lead, unsigned char trail)
   std::u16string unit;
   const char text[] = {static_cast<char>(lead), static_cast<char>(trail)};
   converterOf(codePage).decode({text, 2}, unit);
-  // ICU leaves a trail byte that fits no pair to the next character; kernel32 takes it along.
+  // ICU leaves a trail byte that fits no pair to the next character; kernel32 consumes it.
   return unit.size() == 1 ? unit.front() : defaultUnit(codePage);
 }
 

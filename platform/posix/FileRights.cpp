@@ -13,14 +13,14 @@
 namespace brennet::platform {
 namespace {
 
-// Where Linux keeps the access list of a file, among its attributes.
+// The attribute in which Linux keeps the access list of a file.
 constexpr char kAccessList[] = "system.posix_acl_access";
 
 // The attributes that a player or his system has given the file. What the kernel derives from the
-// content is not taken to another one.
+// content is not copied.
 constexpr std::array<std::string_view, 2> kKeptAttributes = {"user.", "security.selinux"};
 
-// The value of an attribute of the file at `path`. Whether it has one that could be read.
+// The value of an attribute of the file at `path`. Returns whether it has one that could be read.
 bool readAttribute(const Path& path, const char* name, std::string& value) {
   const ssize_t size = lgetxattr(path.c_str(), name, nullptr, 0);
   if (size < 0) return false;
@@ -43,12 +43,12 @@ void copyAttributes(const Path& path, int file) {
   }
 }
 
-// Whether the file has no access list any more; a folder may have handed it one when it was made.
+// Whether the file has no access list any more; its folder may have given it one when it was made.
 bool dropAccessList(int file) {
   return fremovexattr(file, kAccessList) == 0 || errno == ENODATA || errno == EOPNOTSUPP;
 }
 
-// Whether the file has the access list now that the old one had, or none either.
+// Whether the file now has the access list of the old one, or none if that has none.
 bool copyAccessList(const Path& path, int file) {
   std::string list;
   if (readAttribute(path, kAccessList, list)) {
@@ -73,7 +73,8 @@ mode_t others(mode_t mode) {
   return mode & 7U;
 }
 
-// Whether the old owner, who counts as one of the group or of the others now, gets no more there.
+// Whether the old owner, who now counts as one of the group or of the others, gains no rights by
+// that.
 bool hadAllRights(mode_t mode) {
   return ((groups(mode) | others(mode)) & ~owners(mode)) == 0;
 }
@@ -93,13 +94,14 @@ void copyFileRights(const Path& path, int file) {
   if (lstat(path.c_str(), &old) != 0 || !S_ISREG(old.st_mode) || fstat(file, &made) != 0) return;
   constexpr auto kSameUser = static_cast<uid_t>(-1);
   constexpr auto kSameGroup = static_cast<gid_t>(-1);
-  // The group first: it may be had where the owner may not, and not after the owner has changed.
+  // The group first: it may be possible to set that where the owner cannot be set, but not once the
+  // owner has changed.
   const bool hasGroup = made.st_gid == old.st_gid || fchown(file, kSameUser, old.st_gid) == 0;
   const bool hasOwner = made.st_uid == old.st_uid || fchown(file, old.st_uid, kSameGroup) == 0;
   copyAttributes(path, file);
   const mode_t mode = old.st_mode & 0777U;
   if (hasGroup && (hasOwner || hadAllRights(mode))) {
-    // A list that cannot be had leaves the file its owner's alone.
+    // If the list cannot be set, the file stays private to its owner.
     if (copyAccessList(path, file)) static_cast<void>(fchmod(file, mode));
   } else if (!hasAccessList(path) && dropAccessList(file)) {
     static_cast<void>(fchmod(file, narrowedMode(mode, hasOwner, hasGroup)));

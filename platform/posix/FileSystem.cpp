@@ -26,7 +26,7 @@ constexpr mode_t kUsualFolderMode = 0777;
 constexpr mode_t kPrivateMode = 0600;
 constexpr mode_t kPrivateFolderMode = 0700;
 constexpr long kPause = 20'000'000;            // nanoseconds
-constexpr off_t kLockedByte = off_t{1} << 40;  // far behind the end of any file of ours
+constexpr off_t kLockedByte = off_t{1} << 40;  // far beyond the end of any file of ours
 constexpr int kMostLinks = 40;                 // as many as the kernel follows
 
 Obstacle obstacleOf(int error) {
@@ -36,7 +36,7 @@ Obstacle obstacleOf(int error) {
       return Obstacle::Missing;
     case EEXIST:
       return Obstacle::Exists;
-    case EAGAIN:  // another program has a lease on the file, and has been asked to give it up
+    case EAGAIN:  // another program has a lease on the file, and has been told to give it up
     case ETXTBSY:
       return Obstacle::Held;
     case EACCES:
@@ -52,7 +52,7 @@ FileError failure(int error) {
   return {obstacleOf(error), {error, std::generic_category()}};
 }
 
-// The end of a call that gives 0 or sets errno.
+// The result of a call that returns 0 or sets errno.
 FileError ended(int result) {
   return result == 0 ? FileError() : failure(errno);
 }
@@ -64,7 +64,7 @@ auto retried(Call call) {
   return result;
 }
 
-// While it lives, a file that grows beyond what this process may write gives an error: the signal
+// While it exists, a file that grows beyond what this process may write gives an error: the signal
 // would end the host.
 class NoSizeSignal {
  public:
@@ -135,7 +135,7 @@ bool isStillAt(const Path& path, const struct stat& opened) {
          now.st_ino == opened.st_ino;
 }
 
-// Refuses what is no file, and a file to be kept that somebody else keeps or has just removed.
+// Refuses what is not a file, and a file to be kept that somebody else keeps or has just removed.
 FileError check(int file, const Path& path, OpenFor purpose, FileFacts& facts) {
   if ((flagsFor(purpose) & O_EXCL) != 0) {  // it is new
     facts = {FileFacts::Kind::File};
@@ -156,7 +156,7 @@ std::string folderOf(const std::string& path) {
   return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
-// Gives the file the name `to`, which no other can have then, before it takes the name `from` away.
+// Gives the file the name `to`, if that is free, before the name `from` is removed.
 FileError moveInTwoSteps(const Path& from, const Path& to) {
   if (::link(from.c_str(), to.c_str()) == 0) {
     if (unlink(from.c_str()) == 0) return {};
@@ -166,7 +166,7 @@ FileError moveInTwoSteps(const Path& from, const Path& to) {
   }
   const FileError error = failure(errno);
   if (error.obstacle == Obstacle::Missing || error.obstacle == Obstacle::Exists) return error;
-  // A file system without second names. What comes to the name in this very moment is lost.
+  // A file system without second names. A file that appears at `to` in this very moment is lost.
   struct stat status {};
   if (lstat(to.c_str(), &status) == 0) return failure(EEXIST);
   return ended(std::rename(from.c_str(), to.c_str()));
@@ -175,7 +175,7 @@ FileError moveInTwoSteps(const Path& from, const Path& to) {
 class PosixFileSystem final : public FileSystem {
  public:
   FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
-    // Not to wait for a lease here, nor for the other end of a pipe.
+    // Without waiting for a lease, or for the other end of a pipe.
     const int flags = flagsFor(purpose) | O_NONBLOCK | O_CLOEXEC;
     const int opened = retried([&] { return ::open(path.c_str(), flags, modeFor(purpose)); });
     if (opened < 0) return failure(errno);
@@ -219,7 +219,7 @@ class PosixFileSystem final : public FileSystem {
     const int result = retried([&] {
       return fallocate(static_cast<int>(file), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size));
     });
-    // EINVAL also where there is nothing to reserve.
+    // EINVAL also if there is nothing to reserve.
     if (result == 0 || errno == EOPNOTSUPP || errno == EINVAL || errno == ENOSYS) return {};
     return failure(errno);
   }
@@ -228,8 +228,8 @@ class PosixFileSystem final : public FileSystem {
     return ended(retried([&] { return fsync(static_cast<int>(file)); }));
   }
 
-  // By the open file, not by the process: threads lock files apart, and who closes the file under
-  // another handle does not unlock it.
+  // The lock belongs to the open file, not to the process: threads lock files separately, and
+  // closing the file through another handle does not unlock it.
   FileError lock(FileHandle file, Sharing sharing) override {
     struct flock range {};
     range.l_type = sharing == Sharing::Alone ? F_WRLCK : F_RDLCK;
@@ -280,7 +280,8 @@ class PosixFileSystem final : public FileSystem {
 
   FileError removeKept(FileHandle /*file*/, const Path& path) override { return remove(path); }
 
-  // Nothing is moved to a backup here: what is one comes from another system that shares the disk.
+  // Files are never moved to a backup here: one that exists comes from another system that shares
+  // the disk.
   FileError removeBackup(const Path& backup, const Path& path) override {
     return look(path).kind == FileFacts::Kind::File ? remove(backup) : FileError();
   }
@@ -313,11 +314,11 @@ class PosixFileSystem final : public FileSystem {
     if (folder < 0) return failure(errno);
     const FileError error = flush(folder);
     ::close(folder);
-    // Not every file system can.
+    // Not every file system can flush a folder.
     return error.code == std::errc::invalid_argument ? FileError() : error;
   }
 
-  // Not by std::filesystem: its functions that report errors without exceptions end the process
+  // Not with std::filesystem: its functions that report errors without exceptions end the process
   // when memory runs out.
   FileError list(const Path& folder, const std::function<void(const Path& name)>& visit) override {
     struct Close {
@@ -354,7 +355,7 @@ class PosixFileSystem final : public FileSystem {
   }
 
   Path privateFolder() override {
-    // Other than /tmp, this one outlives a restart; what a user has chosen may not.
+    // Unlike /tmp, /var/tmp outlives a restart; a folder that the user has chosen may not.
     const char* const chosen = std::getenv("TMPDIR");
     const Path folder = chosen != nullptr && *chosen == '/' ? chosen : "/var/tmp";
     return folder / ("brennet-" + std::to_string(geteuid()));

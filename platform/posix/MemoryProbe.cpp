@@ -9,8 +9,8 @@
 namespace brennet::platform {
 namespace {
 
-// A pipe through which the kernel copies a byte out of the probed memory and back into it. The
-// kernel answers EFAULT where the process itself would fault.
+// A pipe through which the kernel copies a byte out of the probed memory and back again. The kernel
+// answers EFAULT where the process itself would fault.
 class ProbePipe {
  public:
   ProbePipe() : open_(pipe2(ends_, O_CLOEXEC) == 0) {}
@@ -54,7 +54,7 @@ Writability probeMemory(void* address, std::size_t size) {
   if (!pipe.isOpen()) return Writability::Unknown;
   const auto pageSize = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
   auto* const bytes = static_cast<char*>(address);
-  // The first byte, then the first one of every further page.
+  // The first byte, then the first one of each further page.
   for (std::size_t at = 0; at < size; at += pageSize - (first + at) % pageSize) {
     const Writability byte = pipe.roundTrip(bytes + at);
     if (byte != Writability::Writable) return byte;

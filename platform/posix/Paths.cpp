@@ -12,7 +12,7 @@ bool isLowSurrogate(char16_t unit) {
   return unit >= 0xDC00 && unit < 0xE000;
 }
 
-// The code point that starts at `at`, which moves behind it.
+// The code point that starts at `at`; moves `at` past it.
 char32_t nextCodePoint(std::u16string_view text, std::size_t& at) {
   const char16_t unit = text[at++];
   if (!isHighSurrogate(unit) && !isLowSurrogate(unit)) return unit;

@@ -12,7 +12,7 @@
 namespace brennet::platform {
 namespace {
 
-// Whether the rights that the process has now let it read and write the file.
+// Whether the present rights of the process let it read and write the file.
 bool mayChange(const Path& file) {
   return faccessat(AT_FDCWD, file.c_str(), R_OK | W_OK, AT_EACCESS) == 0;
 }
@@ -39,7 +39,7 @@ struct RegistryKey::Body {
   std::u16string path;
   RegFile content;
 
-  // Another key may have written to the file since it was read.
+  // Reads the file again: another RegistryKey may have written to it since.
   template <class Change>
   bool change(Change change) {
     RegFile changed;
@@ -76,7 +76,7 @@ bool RegistryKey::remove(std::u16string_view name) {
   });
 }
 
-// Each write was.
+// Each write was flushed when it was made.
 bool RegistryKey::flush() {
   return isOpen();
 }

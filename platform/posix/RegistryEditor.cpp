@@ -7,8 +7,8 @@
 
 namespace brennet::platform {
 
-// A file that is no .reg file changes nothing, but it was handed to the importer all the same: who
-// asks regedit.exe does not learn of that either.
+// A file that is not a .reg file changes nothing, but it was handed to the importer all the same:
+// with regedit.exe, too, the caller would not learn of that.
 bool importRegFile(std::u16string_view folder, std::u16string_view name) {
   const Path registry = registryPath();
   std::string bytes;

@@ -2,7 +2,7 @@
 
 namespace brennet::platform {
 
-// The loader unloads nothing that anybody else uses, and the C++ runtime is the host's too.
+// The loader unloads nothing that is still in use, and the host uses the same C++ runtime.
 void keepSharedLibraries() {}
 
 }  // namespace brennet::platform
