@@ -15,7 +15,7 @@ constexpr char kDefaultByte = '?';
 // kernel32 counts in int; longer texts are converted piece by piece.
 constexpr std::size_t kLongestText = std::numeric_limits<int>::max() / 8;
 
-// What GetCPInfo tells of a code page, asked once.
+// What GetCPInfo says about a code page, asked once.
 struct CodePageFacts {
   CodePageShape shape = CodePageShape::Unsupported;
   std::array<bool, 256> isLead{};
@@ -44,8 +44,8 @@ const CodePageFacts& factsOf(CodePage codePage) {
   return facts.emplace(codePage, askSystem(codePage)).first->second;
 }
 
-// Whether WideCharToMultiByte can tell of the default character: not in UTF-7, GB18030 and the
-// stateful code pages.
+// Whether WideCharToMultiByte can report its use of the default character: it cannot in UTF-7,
+// GB18030 and the stateful code pages.
 bool tellsOfLoss(CodePage codePage) {
   return factsOf(codePage).shape != CodePageShape::Other;
 }
@@ -57,7 +57,7 @@ char16_t decodeOne(CodePage codePage, const char* bytes, int size) {
   return u'?';
 }
 
-// A call that fails gives no text: the system tells nothing of what it has written by then.
+// A call that fails gives no text: the system does not say how much it had written.
 void decodePiece(CodePage codePage, std::string_view bytes, std::u16string& out) {
   const int size = static_cast<int>(bytes.size());
   const int length = MultiByteToWideChar(codePage, 0, bytes.data(), size, nullptr, 0);
@@ -75,7 +75,7 @@ bool isReadAs(CodePage codePage, std::string_view bytes, std::u16string_view tex
   return back == text;
 }
 
-// Returns whether anything was lost; where a call fails, that is all.
+// Returns whether anything was lost: everything, if a call fails.
 bool encodePiece(CodePage codePage, std::u16string_view text, std::string& out) {
   const auto* const units = reinterpret_cast<const wchar_t*>(text.data());
   const int size = static_cast<int>(text.size());

@@ -19,7 +19,8 @@ struct Descriptor {
   PSECURITY_DESCRIPTOR data = nullptr;
 };
 
-// A user, or the owner that his new files have; both begin with the SID.
+// The user of the process, or the owner that his new files get; the data of both begins with the
+// SID.
 struct User {
   bool find(TOKEN_INFORMATION_CLASS what) {
     HANDLE token = nullptr;
@@ -34,7 +35,7 @@ struct User {
   alignas(TOKEN_USER) BYTE data[sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE] = {};
 };
 
-// Whether it is a folder by itself: no link, no junction, nothing that a driver puts there.
+// Whether it is a folder itself: not a link, a junction, or anything else that a driver puts there.
 bool isPlainFolder(const BY_HANDLE_FILE_INFORMATION& info) {
   constexpr DWORD kAsked = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
   return (info.dwFileAttributes & kAsked) == FILE_ATTRIBUTE_DIRECTORY;
@@ -43,10 +44,10 @@ bool isPlainFolder(const BY_HANDLE_FILE_INFORMATION& info) {
 }  // namespace
 
 struct OwnRights::Body {
-  // Whether the user is known; asked anew until he is.
+  // Whether the user is known; tried again until he is.
   bool isKnown() { return isMade || (isMade = make()); }
 
-  // Whether all of it could be made.
+  // Returns whether all of it could be made.
   bool make() {
     auto* const entries = reinterpret_cast<ACL*>(list);
     attributes = {sizeof(attributes), &descriptor, FALSE};
@@ -54,7 +55,7 @@ struct OwnRights::Body {
            InitializeAcl(entries, sizeof(list), ACL_REVISION) != FALSE &&
            AddAccessAllowedAce(entries, ACL_REVISION, FILE_ALL_ACCESS, user.sid()) != FALSE &&
            InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION) != FALSE &&
-           // An elevated process would leave what is private to the administrators else.
+           // Else what an elevated process creates would belong to the administrators.
            SetSecurityDescriptorOwner(&descriptor, user.sid(), FALSE) != FALSE &&
            SetSecurityDescriptorDacl(&descriptor, TRUE, entries, FALSE) != FALSE &&
            SetSecurityDescriptorControl(&descriptor, SE_DACL_PROTECTED, SE_DACL_PROTECTED) != FALSE;
@@ -64,14 +65,14 @@ struct OwnRights::Body {
     return EqualSid(sid, user.sid()) != FALSE || EqualSid(sid, owner.sid()) != FALSE;
   }
 
-  // Who owns something can change its list. The administrators can do that anyway.
+  // The owner of a folder can change its list. The administrators can do that anyway.
   [[nodiscard]] bool mayOwn(PSID sid) const { return isOwn(sid) || isAdministrators(sid); }
 
   static bool isAdministrators(PSID sid) {
     return IsWellKnownSid(sid, WinBuiltinAdministratorsSid) != FALSE;
   }
 
-  // Without a list it is everybody's. Entries that deny something open nothing.
+  // Without a list everybody has access. Entries that deny something open nothing.
   [[nodiscard]] bool opensToNobodyElse(ACL* entries) const {
     if (entries == nullptr) return false;
     for (DWORD i = 0; i < entries->AceCount; ++i) {
@@ -127,7 +128,7 @@ void copyFileRights(const Path& path, void* file) {
   ACL* list = nullptr;
   if (GetNamedSecurityInfoW(path.c_str(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr,
                             nullptr, &list, nullptr, &descriptor.data) == ERROR_SUCCESS) {
-    // As it is; SetSecurityInfo would have the folder add to it.
+    // Sets the list as it is; SetSecurityInfo would let the folder add to it.
     SetKernelObjectSecurity(file, DACL_SECURITY_INFORMATION, descriptor.data);
   }
 }

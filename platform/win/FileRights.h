@@ -15,16 +15,15 @@ class OwnRights {
   OwnRights(const OwnRights&) = delete;
   OwnRights& operator=(const OwnRights&) = delete;
 
-  // For whatever is created (SECURITY_ATTRIBUTES): the user owns it, also where this process is
-  // elevated, and nobody else may do anything. Null where the user cannot be found out now, which
-  // gives it the rights of its folder.
+  // For whatever is created (SECURITY_ATTRIBUTES): the user owns it, even if this process is
+  // elevated, and nobody else may do anything. Null if the user cannot be found out now; what is
+  // created then gets the rights of its folder.
   [[nodiscard]] void* attributes() const;
 
-  // Whether what stands at `path` is a folder, and no way to another, that belongs to the user of
-  // this process, or to the administrators, and that its access list opens to nobody else, those
-  // apart who may do anything anyway: the system and the administrators. 0 if so,
-  // ERROR_ACCESS_DENIED if not, or if it does not even let itself be asked; else the error of the
-  // call that could not tell.
+  // Whether `path` is a folder, not a link to another, that belongs to the user of this process or
+  // to the administrators, and that its access list opens to nobody else, except for those who may
+  // do anything anyway: the system and the administrators. 0 if so; ERROR_ACCESS_DENIED if not, or
+  // if not even that may be asked; else the error of the call that could not tell.
   [[nodiscard]] unsigned long check(const Path& path) const;
 
  private:
@@ -32,8 +31,8 @@ class OwnRights {
   std::unique_ptr<Body> body_;
 };
 
-// Gives the open file (HANDLE) the access list of the file at `path`. Where that cannot be, it
-// keeps its own.
+// Gives the open file (HANDLE) the access list of the file at `path`. If that fails, it keeps its
+// own.
 void copyFileRights(const Path& path, void* file);
 
 }  // namespace brennet::platform

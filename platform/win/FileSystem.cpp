@@ -16,10 +16,10 @@ namespace brennet::platform {
 namespace {
 
 constexpr DWORD kLargestPiece = 1U << 30U;
-constexpr std::uint64_t kLockedByte = std::uint64_t{1} << 40U;  // far behind the end of any file
+constexpr std::uint64_t kLockedByte = std::uint64_t{1} << 40U;  // far beyond the end of any file
 constexpr DWORD kPause = 20;                                    // milliseconds
-constexpr std::uint64_t kTicksPerSecond = 10'000'000;           // as times of files are counted
-constexpr std::uint64_t kSecondsBefore1970 = 11'644'473'600;    // since 1601, where they begin
+constexpr std::uint64_t kTicksPerSecond = 10'000'000;           // the unit of file times
+constexpr std::uint64_t kSecondsBefore1970 = 11'644'473'600;    // since 1601, their start
 
 Obstacle obstacleOf(DWORD error) {
   switch (error) {
@@ -39,7 +39,7 @@ Obstacle obstacleOf(DWORD error) {
   }
 }
 
-// Whether a path was refused that no file or folder can have.
+// Whether the error says that no file or folder can have such a path.
 bool canBeNone(DWORD error) {
   return error == ERROR_INVALID_NAME || error == ERROR_BAD_PATHNAME ||
          error == ERROR_FILENAME_EXCED_RANGE || error == ERROR_DIRECTORY;
@@ -49,12 +49,12 @@ FileError failure(DWORD error) {
   return {obstacleOf(error), {static_cast<int>(error), std::system_category()}};
 }
 
-// The end of a call that gives 0 and the error in GetLastError where it fails.
+// The result of a call that returns 0 where it fails, with the error in GetLastError.
 FileError ended(BOOL result) {
   return result != FALSE ? FileError() : failure(GetLastError());
 }
 
-// The same for calls to which access is denied, too, while a file is about to go or to be moved.
+// The same for calls that are also denied access while a file is about to go or to be moved.
 FileError endedOrHeld(BOOL result) {
   FileError error = ended(result);
   if (error.obstacle == Obstacle::Denied) error.obstacle = Obstacle::Held;
@@ -92,8 +92,8 @@ std::uint64_t ageOf(const FILETIME& written) {
   return now > then ? (now - then) / kTicksPerSecond : 0;
 }
 
-// Whether the name itself is only one for another. Other files than links have reparse points, too:
-// deduplicated ones, and those that are kept elsewhere.
+// Whether the name itself is a symbolic link. Files that are not links can have reparse points too:
+// deduplicated ones, and those that are stored elsewhere.
 bool isSymbolicLink(const std::wstring& path, DWORD attributes) {
   if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
   WIN32_FIND_DATAW data{};
@@ -115,7 +115,8 @@ Opening openingFor(OpenFor purpose) {
   switch (purpose) {
     case OpenFor::Reading:
       return {GENERIC_READ, kAll, OPEN_EXISTING};
-    // As the C runtime opens it: beside a program that has it open for writing and shares that.
+    // As the C runtime opens it: another program may have it open for writing, if that program
+    // shares it.
     case OpenFor::Writing:
       return {GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING};
     case OpenFor::Creating:
@@ -130,21 +131,21 @@ Opening openingFor(OpenFor purpose) {
   return {};
 }
 
-// Access is denied to a folder and to what may not be written; that does not pass.
+// Folders and read-only files deny access for good.
 bool isForbidden(const Path& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
   constexpr DWORD kForbidden = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & kForbidden) != 0;
 }
 
-// A file that is about to go does not even tell its attributes.
+// A file that is about to go (its deletion is pending) does not even give its attributes.
 bool isAboutToGo(const Path& path) {
   return GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES &&
          obstacleOf(GetLastError()) == Obstacle::Denied;
 }
 
-// Whether the call that failed last was denied access to `path`, where nothing is. Leaves the
-// error.
+// Whether the call that has just failed was denied access to `path`, although nothing is there.
+// GetLastError() stays as it was.
 bool isDeniedToNothing(const Path& path) {
   const DWORD error = GetLastError();
   if (obstacleOf(error) != Obstacle::Denied) return false;
@@ -154,9 +155,9 @@ bool isDeniedToNothing(const Path& path) {
   return !isThere;
 }
 
-// Access is denied, too, to a file that is about to go. Under that name there can be no new one.
-// Where it stays, its access list denies the access, and where there is none, its folder takes no
-// new file; neither passes.
+// Access is also denied to a file that is about to go: until it has gone, no new file can have its
+// name (Exists), and others have to wait (Held). Any other denial is for good: by the access list
+// of the file, or by a folder that takes no new file.
 FileError openingError(const Path& path, OpenFor purpose) {
   FileError error = failure(GetLastError());
   if (error.obstacle != Obstacle::Denied || purpose == OpenFor::Reading) return error;
@@ -169,11 +170,11 @@ FileError openingError(const Path& path, OpenFor purpose) {
 class WindowsFileSystem final : public FileSystem {
  public:
   FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
-    // Asked for first: the system may open such a file for an administrator all the same.
+    // Checked first: the system may open such a file for an administrator all the same.
     if (purpose == OpenFor::Writing && isForbidden(path)) return failure(ERROR_ACCESS_DENIED);
     const bool isPrivate = purpose == OpenFor::NewAndPrivate || purpose == OpenFor::Keeping;
     const Opening opening = openingFor(purpose);
-    // CREATE_NEW refuses a name that a link has anyway.
+    // CREATE_NEW refuses the name of a link anyway.
     const bool followsLinks = purpose != OpenFor::Keeping;
     const auto create = [&] {
       return CreateFileW(path.c_str(), opening.access, opening.sharing,
@@ -235,7 +236,7 @@ class WindowsFileSystem final : public FileSystem {
     room.AllocationSize.QuadPart = static_cast<LONGLONG>(size);
     LARGE_INTEGER now{};
     if (GetFileSizeEx(handleOf(file), &now) == FALSE) return failure(GetLastError());
-    // Less room than the file has would cut it.
+    // Less room than the file has would truncate it.
     if (room.AllocationSize.QuadPart <= now.QuadPart) return {};
     const FileError error =
         ended(SetFileInformationByHandle(handleOf(file), FileAllocationInfo, &room, sizeof(room)));
@@ -255,7 +256,7 @@ class WindowsFileSystem final : public FileSystem {
     return isLocked ? failure(ERROR_LOCK_VIOLATION) : FileError();
   }
 
-  // Closing may be where a failed write shows.
+  // A failed write may not show before this call.
   FileError close(FileHandle file) override { return ended(CloseHandle(handleOf(file))); }
 
   void copyRights(const Path& path, FileHandle file) override {
@@ -278,8 +279,9 @@ class WindowsFileSystem final : public FileSystem {
     return endedOrHeld(MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH));
   }
 
-  // ReplaceFileW keeps what belongs to the old file, as far as this process may set it. It can fail
-  // half-way; its documentation tells the states in which it leaves the files then.
+  // ReplaceFileW keeps the rights, attributes and streams of the old file, as far as this process
+  // may set them. It can fail half-way; its documentation says in which states it may leave the
+  // files.
   FileError exchange(const Path& replacement, const Path& path, const Path& backup) override {
     FileError error = endedOrHeld(ReplaceFileW(path.c_str(), replacement.c_str(), backup.c_str(),
                                                REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr));
@@ -287,7 +289,7 @@ class WindowsFileSystem final : public FileSystem {
       case ERROR_UNABLE_TO_MOVE_REPLACEMENT_2:
         error.obstacle = Obstacle::Halfway;
         break;
-      // Both files have the names they had. Often told when somebody has one of them open.
+      // Both files have the names they had. Often the error when somebody has one of them open.
       case ERROR_UNABLE_TO_REMOVE_REPLACED:
       case ERROR_UNABLE_TO_MOVE_REPLACEMENT:
         error.obstacle = Obstacle::Held;
@@ -298,8 +300,9 @@ class WindowsFileSystem final : public FileSystem {
     return error;
   }
 
-  // A name that could not be removed again, because somebody lets nobody remove the file, is none;
-  // nor is one that is not on the disk, where nothing but the file itself can bring it.
+  // Fails if the name could not be removed again, because another program lets nobody delete the
+  // file, or if the name cannot be brought to the disk, for which the file itself has to be
+  // flushed.
   FileError link(const Path& path, const Path& second) override {
     constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     HANDLE const file = CreateFileW(path.c_str(), DELETE | GENERIC_WRITE, kAll, nullptr,
@@ -314,8 +317,8 @@ class WindowsFileSystem final : public FileSystem {
     return error;
   }
 
-  // Both are open at the same time: the number of a file may be given anew when it is closed. File
-  // systems without such numbers give 0 for all files.
+  // Both are open at the same time, because the number of a file may be reused once it is closed.
+  // File systems without such numbers give 0 for all files.
   bool isSameFile(const Path& a, const Path& b) override {
     const OpenForFacts first(a);
     const OpenForFacts second(b);
@@ -332,7 +335,7 @@ class WindowsFileSystem final : public FileSystem {
     return ended(removeWhenClosed(handleOf(file)));
   }
 
-  // While the backup is held open here nobody can give its name to another file, so no replacement
+  // While the backup is held open here, nobody can give its name to another file, so no replacement
   // can begin after the look at `path`.
   FileError removeBackup(const Path& backup, const Path& path) override {
     HANDLE const file = CreateFileW(backup.c_str(), DELETE, 0, nullptr, OPEN_EXISTING,
@@ -363,13 +366,13 @@ class WindowsFileSystem final : public FileSystem {
     const auto isThere = [&] {
       return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
     };
-    // As a rule it is not, which is found out faster so.
+    // Usually it does not exist, and this is the faster way to find out.
     const FileError unseen = isThere() ? FileError() : failure(GetLastError());
     if (unseen.obstacle == Obstacle::Missing) return unseen;
     const DWORD error = own_.check(path);
     if (error == ERROR_SUCCESS) return {};
     FileError failed = failure(error);
-    // Access is denied, too, to what is about to go, or has gone by now.
+    // Access is also denied to what is about to go, or has gone by now.
     const bool isGoing = failed.obstacle == Obstacle::Denied && !isThere();
     if (isGoing || canBeNone(error)) failed.obstacle = Obstacle::Missing;
     return failed;
@@ -377,7 +380,7 @@ class WindowsFileSystem final : public FileSystem {
 
   void removeFolder(const Path& path) override { RemoveDirectoryW(path.c_str()); }
 
-  // Moves write through, and so do links.
+  // Moves write through, and links are flushed.
   FileError flushFolder(const Path& /*path*/) override { return {}; }
 
   FileError list(const Path& folder, const std::function<void(const Path& name)>& visit) override {
@@ -397,7 +400,7 @@ class WindowsFileSystem final : public FileSystem {
     return error == ERROR_NO_MORE_FILES ? FileError() : failure(error);
   }
 
-  // Names have no case here.
+  // The case of names does not count here.
   bool isSameName(std::wstring_view a, std::wstring_view b) override {
     return CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(),
                                 static_cast<int>(b.size()), TRUE) == CSTR_EQUAL;

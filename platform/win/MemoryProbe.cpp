@@ -7,14 +7,13 @@
 namespace brennet::platform {
 namespace {
 
-// IsBadWritePtr touches the pages: on one that guards the end of a stack it would set the guard
-// off.
+// IsBadWritePtr touches the pages: it would set off the guard page at the end of a stack.
 bool hasGuardPage(const char* first, const char* last) {
   MEMORY_BASIC_INFORMATION region{};
   for (const char* at = first; VirtualQuery(at, &region, sizeof(region)) != 0;) {
     if (region.State == MEM_COMMIT && (region.Protect & PAGE_GUARD) != 0) return true;
     const auto* const start = static_cast<const char*>(region.BaseAddress);
-    // The last byte of the region, because the address behind it may be 0.
+    // The last byte of the region: the address after it may be 0.
     const char* const end = start + (region.RegionSize - 1);
     if (end >= last) return false;
     at = end + 1;
@@ -25,7 +24,7 @@ bool hasGuardPage(const char* first, const char* last) {
 }  // namespace
 
 // IsBadWritePtr is obsolete for good reasons, but it is the contract with the host: an answer, not
-// a fault, for memory that is not there. It does not look at ranges that wrap around.
+// a fault, for memory that does not exist. It does not handle ranges that wrap around.
 Writability probeMemory(void* address, std::size_t size) {
   if (size == 0) return Writability::Writable;
   const auto first = reinterpret_cast<std::uintptr_t>(address);

@@ -6,8 +6,9 @@
 
 namespace brennet::platform {
 
-// A file or folder that is open for a look at what it is, which nobody who has it can refuse. The
-// name itself is meant, not what it may lead to, and leads nowhere else meanwhile.
+// A file or folder that is opened only to see what it is, which no program that has it open can
+// refuse. A link itself is opened, not what it leads to, and the handle stays with it whatever
+// becomes of the name.
 struct OpenForFacts {
   explicit OpenForFacts(const Path& path, DWORD more = 0)
       : handle(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES | more,

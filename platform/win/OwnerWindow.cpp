@@ -15,7 +15,7 @@ bool isOfThisThread(HWND window) {
   return GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
 }
 
-// Not every window of the thread is one that the player works in.
+// The player does not work in every window of the thread.
 bool isOwner(HWND window) {
   if (IsWindowVisible(window) == FALSE || !isOfThisThread(window)) return false;
   constexpr int kNameUnits = 32;
@@ -27,7 +27,7 @@ bool isOwner(HWND window) {
 
 BOOL CALLBACK stopAtOwner(HWND window, LPARAM found) {
   if (!isOwner(window)) return TRUE;
-  // Windows passes what it is given on as a number.
+  // Windows passes on what it is given as a number.
   *reinterpret_cast<HWND*>(found) = window;  // NOLINT(performance-no-int-to-ptr)
   return FALSE;
 }
@@ -74,7 +74,7 @@ OwnerWindows disableOwnerWindows() {
 }
 
 std::optional<WindowFrame> ownerFrame() {
-  // Not its root: that may stand elsewhere, or be a window that is never seen.
+  // Not its root: that may be elsewhere, or be a window that is never visible.
   HWND const owner = withoutChildren(findOwner());
   RECT frame = {};
   if (owner == nullptr || IsIconic(owner) != FALSE || GetWindowRect(owner, &frame) == FALSE) {

@@ -47,7 +47,7 @@ RegistryKey::Reading RegistryKey::read(std::u16string_view name) const {
   DWORD type = REG_NONE;
   DWORD size = kUsualSize;
   std::string data(size, '\0');
-  // Again as long as the value grows between two calls.
+  // Repeated as long as the value grows between two calls.
   LSTATUS status = ERROR_MORE_DATA;
   while (status == ERROR_MORE_DATA) {
     data.resize(size);
@@ -62,7 +62,7 @@ RegistryKey::Reading RegistryKey::read(std::u16string_view name) const {
 
 bool RegistryKey::write(std::u16string_view name, const RegistryValue& value) {
   if (!isOpen()) return false;
-  // The system adds a zero to a text that has none at its end, where one stands behind it.
+  // The system adds a zero to a text that does not end in one, if a zero follows it in memory.
   const std::string data = value.data + "\xFF\xFF\xFF";
   return RegSetValueExW(body_->handle, wide(name).c_str(), 0, value.type,
                         reinterpret_cast<const BYTE*>(data.data()),

@@ -10,7 +10,7 @@
 namespace brennet::platform {
 
 bool importRegFile(std::u16string_view folder, std::u16string_view name) {
-  // The bare name: a path with blanks in it would have to be quoted.
+  // The bare name: a path with spaces in it would have to be quoted.
   const std::wstring parameters = L"/s " + std::wstring(name.begin(), name.end());
   const std::wstring directory(folder.begin(), folder.end());
   const HINSTANCE result = ShellExecuteW(nullptr, L"open", L"regedit.exe", parameters.c_str(),

@@ -4,8 +4,8 @@
 
 namespace brennet::platform {
 
-// Libraries that are not loaded are not needed. Nothing is loaded here, so this may be called while
-// a library is being loaded.
+// Libraries that are not loaded need no keeping. Nothing is loaded here, so this may be called
+// while a library is being loaded.
 void keepSharedLibraries() {
   constexpr const wchar_t* kShared[] = {
       L"libgcc_s_dw2-1.dll", L"libstdc++-6.dll", L"libwinpthread-1.dll",
