@@ -30,7 +30,7 @@ void endProcess() {
   raise(SIGKILL);
 }
 
-// Whether the next call is the one; ends the process where it is to end before it.
+// Whether the next call is the faulty one; ends the process if it is to end before it.
 bool isFaulty() {
   if (failingCall.number < 0) return false;
   const int call = failingCall.calls++;
@@ -40,7 +40,8 @@ bool isFaulty() {
   return isIt;
 }
 
-// Does the call, or what is to happen instead; `part` is what a call does that ends in its middle.
+// Makes the call, or does what is to happen instead; `part` is what a call does that ends in the
+// middle.
 template <class Call, class Part>
 auto passed(Call call, Part part) -> decltype(call()) {
   if (!isFaulty()) return call();
@@ -101,7 +102,7 @@ int fsync(int file) {
   return passed([&] { return real(file); });
 }
 
-// Closed in any case.
+// The file is closed even if the call is to fail.
 int close(int file) {
   static auto* const real = systems<int(int)>("close");
   const bool closesFirst =

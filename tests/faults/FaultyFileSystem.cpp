@@ -86,7 +86,7 @@ FileError FaultyFileSystem::lock(FileHandle file, Sharing sharing) {
   return passed("lock", [&] { return system_.lock(file, sharing); });
 }
 
-// A file is closed also when closing fails.
+// A file is closed even when closing fails.
 FileError FaultyFileSystem::close(FileHandle file) {
   const auto call = [&] { return system_.close(file); };
   const FileError error = passed("close", call);
@@ -122,7 +122,7 @@ FileError FaultyFileSystem::exchange(const Path& replacement, const Path& path,
     return call();
   };
   const FileError error = passed("exchange", call, firstStep);
-  // Systems that do it in two steps can fail between them.
+  // Systems that exchange files in two steps can fail between them.
   const bool isFailure = fault_ == Fault::Fails || fault_ == Fault::FailsForGood;
   return isFailure && error.obstacle == Obstacle::Halfway ? firstStep() : error;
 }

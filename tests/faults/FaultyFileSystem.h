@@ -15,19 +15,19 @@ enum class Fault {
   FailsForGood,  // and so do all after it
   EndsBefore,    // the process ends before the call,
   EndsAfter,     // after it,
-  EndsInside,    // or when it has done a part: half of a write, the first step of an exchange
-  Short,         // a write or a read that does one byte only
+  EndsInside,    // or in its middle: half of a write, the first step of an exchange
+  Short,         // a read of one byte, or half of a write
 };
 
-// Passes calls on but for the one that has the fault. After the process has ended, calls do nothing
-// and fail.
+// Passes on all calls except the one that has the fault. After the process has ended, calls do
+// nothing and fail.
 class FaultyFileSystem final : public PassingFileSystem {
  public:
   explicit FaultyFileSystem(ModelFileSystem& system) : PassingFileSystem(system), system_(system) {}
 
-  // The call with that number, from 0 on, has the fault; `error` is the one it fails with.
+  // The call with the number `call`, from 0 on, has the fault; `error` is the one it fails with.
   void plan(int call, Fault fault, Obstacle error = Obstacle::Other);
-  // How many calls there were since.
+  // How many calls there have been since.
   [[nodiscard]] int calls() const { return calls_; }
   [[nodiscard]] bool hasEnded() const { return hasEnded_; }
   // The name of the call that had the fault; empty where it was not reached.
@@ -62,7 +62,7 @@ class FaultyFileSystem final : public PassingFileSystem {
  private:
   // The fault of the next call.
   Fault next(const char* name);
-  // Does the call, whose middle is `part`, as `fault` has it.
+  // Makes the call, whose middle is `part`, in the way that `fault_` asks for.
   template <class Call>
   FileError passed(const char* name, Call call);
   template <class Call, class Part>

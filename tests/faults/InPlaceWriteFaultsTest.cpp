@@ -1,5 +1,5 @@
 // What is kept of a write in place goes neither too early nor too late: it puts right what was
-// torn, and never goes over what was saved since.
+// torn, and never overwrites what was saved since.
 
 #include "platform/InPlaceWrite.h"
 
@@ -17,10 +17,10 @@ using platform::replaceFile;
 
 class InPlaceWriteFaultsTest : public TornFileFixture {
  protected:
-  // Of the same content as the write that was not finished, so that nothing tells the two apart.
+  // Saves the same content as the write that was not finished, so that nothing tells the two apart.
   std::error_code save() { return replaceFile(kFile, kNew); }
 
-  // What was told as saved stays, and after an error there is what was.
+  // What was reported as saved stays; after an error the old content is there.
   void checkNextSession(const std::error_code& error, const std::string& what) {
     beginSession();
     EXPECT_EQ(read(kFile), error ? kOld : kNew) << what << ": " << error.message();
@@ -33,7 +33,7 @@ class InPlaceWriteFaultsTest : public TornFileFixture {
     tear(kFile);
   }
 
-  // The same, and its disk is away.
+  // The same, but its disk is away.
   void beginTornAndAway() {
     beginTorn();
     in_.model.removeFile(kFile);
@@ -72,7 +72,7 @@ TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveWithOneFailingCall) {
   }
 }
 
-// Another process begins to write the file in place when it has been looked at already.
+// Another process begins to write the file in place after this one has looked at it.
 TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveThatBeganBeforeIt) {
   constexpr int kMoreThanAllOpenings = 40;
   for (const char* const name : {kFile, kSecond}) {
@@ -88,8 +88,8 @@ TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveThatBeganBeforeIt) {
   }
 }
 
-// The new content counts once nothing is kept any more, on the disk too. Some systems bring no
-// removal there.
+// The new content counts once nothing is kept any more, on the disk too. Some systems cannot bring
+// a removal there.
 TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveInPlaceAfterAPowerLoss) {
   in_.model.makeSecondName(kFile, kSecond);
   for (const bool flushesNoFolders : {false, true}) {
@@ -112,7 +112,7 @@ TEST_F(InPlaceWriteFaultsTest, GoOverNoSaveInPlaceAfterAPowerLoss) {
 class InPlaceWriteFaultsOfAnAwayFileTest : public InPlaceWriteFaultsTest,
                                            public testing::WithParamInterface<bool> {
  protected:
-  // Through a temporary file, or in place, because the folder takes no such name.
+  // Saves go through a temporary file, or in place, because the folder takes no such name.
   InPlaceWriteFaultsOfAnAwayFileTest() {
     if (GetParam()) in_.model.nature.shortNames.insert(kFolder);
   }
@@ -129,8 +129,8 @@ class InPlaceWriteFaultsOfAnAwayFileTest : public InPlaceWriteFaultsTest,
     if (isBack) in_.model.makeFile(kFile, kTorn);
     const std::string found = read(kFile);
     EXPECT_TRUE(found == kOld || (!isBack && found == "entirely different")) << what << found;
-    // Who has ended has told nothing, and a disk to which nothing can be brought any more loses
-    // what was saved when the power fails.
+    // A process that has ended reports nothing, and a disk to which nothing can be brought any more
+    // loses what was saved when the power fails.
     const bool isTold = fault == Fault::Fails || (fault == Fault::FailsForGood && way == 1);
     EXPECT_TRUE(error || !isTold || found == "entirely different") << what << found;
     EXPECT_FALSE(save()) << what;
@@ -139,7 +139,7 @@ class InPlaceWriteFaultsOfAnAwayFileTest : public InPlaceWriteFaultsTest,
   }
 };
 
-// Its disk is away while it is saved.
+// The file's disk is away while it is saved.
 TEST_P(InPlaceWriteFaultsOfAnAwayFileTest, KeepTheOldContentUntilThereIsANewFileOnTheDisk) {
   for (const Fault fault : {Fault::Fails, Fault::FailsForGood, Fault::EndsBefore, Fault::EndsInside,
                             Fault::EndsAfter}) {
@@ -152,7 +152,7 @@ TEST_P(InPlaceWriteFaultsOfAnAwayFileTest, KeepTheOldContentUntilThereIsANewFile
 INSTANTIATE_TEST_SUITE_P(, InPlaceWriteFaultsOfAnAwayFileTest, testing::Bool(),
                          [](const auto& row) { return row.param ? "InPlace" : "AsAWhole"; });
 
-// It is back before the new file has its place.
+// The file is back before the new one takes its place.
 TEST_F(InPlaceWriteFaultsTest, PutRightWhatComesBackWhileItIsSaved) {
   for (const Fault fault :
        {Fault::None, Fault::Fails, Fault::FailsForGood, Fault::EndsBefore, Fault::EndsAfter}) {

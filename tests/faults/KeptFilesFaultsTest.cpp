@@ -1,5 +1,5 @@
-// A file that could not be loaded is replaced, and put aside, while any call fails, is the last one
-// of its process, or of the machine. What it held stays in its place, or whole under a kept name.
+// A file that could not be loaded is put aside and replaced, while any call fails, or is the last
+// one of its process or of the machine. What it held stays in place, or whole under a kept name.
 
 #include <gtest/gtest.h>
 
@@ -33,7 +33,7 @@ const std::string kOlder[] = {"/folder/f.kept-20010101-000000", "/folder/f.kept-
 struct Setting {
   const char* name;
   void (*prepare)(ModelFileSystem& system);
-  bool needsCopy = false;  // where that fails, the save goes on without
+  bool needsCopy = false;  // if that fails, the save goes on without one
 };
 
 const Setting kSettings[] = {
@@ -109,9 +109,9 @@ class KeptFilesFaultsTest : public testing::TestWithParam<Setting> {
     return in_->faulty.calls();
   }
 
-  // Each of them is one that was there, or the damaged file, whole. One that is the damaged file by
-  // a second name is not known where the folder could not be looked through, and shows what is
-  // written.
+  // Each kept file is an earlier one, or the whole damaged file. If the folder could not be looked
+  // through (`isUnseen`), a kept file that is the damaged one by a second name is not recognised,
+  // and shows what is written.
   void checkKeptFiles(const std::string& what, bool isUnseen = false) {
     for (const std::string& name : names()) {
       if (!name.starts_with("/folder/f.kept-")) continue;
@@ -121,7 +121,7 @@ class KeptFilesFaultsTest : public testing::TestWithParam<Setting> {
     }
   }
 
-  // A session that has nothing against it.
+  // A session without faults.
   void checkNextSession(bool mayBeLost, const std::string& what) {
     const bool isUnseen = in_->faulty.faulty() == "list" || in_->faulty.faulty() == "isSameFile";
     in_->model.endPrograms();
@@ -171,7 +171,7 @@ TEST_P(KeptFilesFaultsTest, OfOneCallOrAllLoseNothing) {
   }
 }
 
-// What could be removed again was.
+// After a failed save, what could be removed again is gone.
 TEST_P(KeptFilesFaultsTest, ThatFailTheSaveLeaveTheFolderAsItWas) {
   const int calls = countCalls();
   for (int call = 0; call < calls; ++call) {
@@ -212,7 +212,7 @@ TEST_P(KeptFilesFaultsTest, ThatTakeThePowerAwayLoseNothing) {
   }
 }
 
-// What a process leaves that ends while it writes the file in place.
+// Leaves what a process leaves that ends while it writes the file in place.
 void tear(ModelFileSystem& system) {
   platform::Patience patience;
   platform::KeptWrite kept(system, patience, Path(kFile));

@@ -1,5 +1,5 @@
-// The built library on the real file system: every call of the system that a save makes fails, or
-// is the last one of its process. Each save runs in a process of its own.
+// The built library on the real file system: each system call that a save makes fails, or is the
+// last one of its process. Each save runs in a process of its own.
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -31,7 +31,7 @@ constexpr char kSettings[] =
 constexpr char kPreferences[] = "[Mine]\r\nkept=1\r\n\r\n[Gameplay]\r\ncustomkeys=0\r\n\r\n";
 constexpr std::uint32_t kNewTime = 2;
 
-// Where the settings file lies. The folder belongs to the user of the process.
+// Where the settings file is. The folder belongs to the user of the process.
 struct Place {
   const char* name;
   void (*prepare)(const std::filesystem::path& folder);
@@ -60,7 +60,7 @@ const Place kPlaces[] = {
 
 class LibraryFaults : public testing::TestWithParam<Place> {
  protected:
-  // The world of a player, who is not the superuser.
+  // The files of a player, who is not the superuser.
   class Files {
    public:
     Files() {
@@ -86,7 +86,7 @@ class LibraryFaults : public testing::TestWithParam<Place> {
     [[nodiscard]] const std::filesystem::path& path() const { return folder_.path(); }
     [[nodiscard]] std::string settings() const { return readBytes(settingsIn(path())); }
     [[nodiscard]] std::string preferences() const { return readBytes(preferencesPath()); }
-    // Everything that there is, one name a line.
+    // Everything in the folder, one name a line.
     [[nodiscard]] std::string listing() const {
       std::set<std::string> names;
       for (const auto& entry : std::filesystem::recursive_directory_iterator(path())) {
@@ -101,14 +101,14 @@ class LibraryFaults : public testing::TestWithParam<Place> {
     TempFolder folder_;
   };
 
-  // What a process says when it ends.
+  // What a process answers when it ends.
   enum Answer { kSaved = 1, kLoaded = 2, kEnabled = 4 };
 
-  // Runs `operation`, which gives an answer, in a process of its own, with the user's rights.
-  // -1 where it was ended.
+  // Runs `operation`, which returns an answer, in a process of its own, with the user's rights.
+  // Returns -1 if a signal ended it.
   template <class Operation>
   static int run(const Files& files, Operation operation) {
-    library();  // here: the other user need not be able to read it
+    library();  // loaded here, because the other user may not be able to read it
     const pid_t child = fork();
     if (child == 0) {
       if (geteuid() == 0 && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) _exit(64);
@@ -134,7 +134,7 @@ class LibraryFaults : public testing::TestWithParam<Place> {
     return run(files, [&] { return saveHere(files, fault) ? int{kSaved} : 0; });
   }
 
-  // Loads, and says what was found; saves it again.
+  // Loads, and answers what was found; then saves twice.
   static int runCleanSession(const Files& files) {
     return run(files, [&] {
       const bool isLoaded = library().LoadSettings(settingsIn(files.path()).wstring().c_str());
@@ -158,7 +158,7 @@ class LibraryFaults : public testing::TestWithParam<Place> {
     return calls;
   }
 
-  // Makes every call faulty, one after the other, or some of them.
+  // Makes every call faulty, one at a time, or a sample of them.
   static void sweep(FailingCall fault) {
     const Files untouched;
     const long calls = countCalls(untouched);
@@ -181,7 +181,7 @@ class LibraryFaults : public testing::TestWithParam<Place> {
   }
 
   static constexpr uid_t kNobody = 65534;
-  static constexpr int kMoreThanAnySave = 200;  // an answer of a process has eight bits
+  static constexpr int kMoreThanAnySave = 200;  // the exit status of a process has eight bits
   static constexpr long kSample = 9;
 };
 

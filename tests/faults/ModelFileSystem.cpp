@@ -20,7 +20,7 @@ bool mayCreate(OpenFor purpose) {
   return isNew(purpose) || purpose == OpenFor::Creating || purpose == OpenFor::Keeping;
 }
 
-// One way in which a content that was written over another comes out when the power fails.
+// One way in which content that was written over other content comes out when the power fails.
 std::string cameOut(const std::string& flushed, const std::string& written, unsigned way) {
   switch (way) {
     case 0:
@@ -277,7 +277,7 @@ FileError ModelFileSystem::exchange(const Path& replacement, const Path& path, c
     change({backup, nodeAt(path), path});
     if (stopsHalfway) return failureOf(Obstacle::Halfway);
   }
-  // What puts one name in the place of another does that as a whole, on the disk too.
+  // Replacing one name by another is one step, on the disk too.
   change({path, node, replacement});
   return {};
 }

@@ -24,24 +24,25 @@ using platform::Sharing;
 
 FileError failureOf(Obstacle obstacle);
 
-// A file system in memory. It tells apart what programs see from what is on the disk: contents get
-// there by flush, names by flushFolder. What is neither may or may not be there after a power loss.
+// A file system in memory. It tells apart what programs see and what is on the disk: contents get
+// there by flush, names by flushFolder. Whatever has not got there may or may not exist after a
+// power loss.
 class ModelFileSystem final : public FileSystem {
  public:
   // What is different about a place.
   struct Nature {
     std::set<Path> closedFolders;    // take no new names
     std::set<Path> shortNames;       // folders that take names of one letter only...
-    bool findsNoLongNames = false;   // ...and tell that there is no place for the others
+    bool findsNoLongNames = false;   // ...and report that there is no place for others
     std::set<Path> unlistedFolders;  // cannot be looked through
-    std::set<Path> mounts;           // files that nothing can take the place of
+    std::set<Path> mounts;           // files that nothing can replace
     std::set<Path> foreignFiles;     // only their owner may link, rename, remove or replace them
-    std::map<Path, int> busy;        // for so many pauses another program has the file
+    std::map<Path, int> busy;        // how many pauses another program has the file for
     bool twoSteps = false;           // exchange() moves the old file away first
     bool hasLinks = true;            // files can have several names
     bool hasPrivateFolder = true;
-    // flushFolder() does nothing. Files, as soon as they are flushed, moves and links are on the
-    // disk all the same, but nobody knows when a removal is.
+    // flushFolder() does nothing. Flushed files, moves and links are on the disk all the same, but
+    // nobody knows when a removal is.
     bool flushesNoFolders = false;
   };
   Nature nature;
@@ -50,11 +51,11 @@ class ModelFileSystem final : public FileSystem {
   struct Others {
     std::function<void(const Path& path, OpenFor purpose)> beforeOpen;
     std::function<void(const Path& path)> beforeRead;
-    std::function<void()> beforePrivateFolder;  // is made, or asked for
+    std::function<void()> beforePrivateFolder;  // before it is made or checked
   };
   Others others;
 
-  // How often somebody has waited, and how long that takes each time, in milliseconds.
+  // How often somebody has waited, and how long each time takes, in milliseconds.
   int pauses = 0;
   std::uint64_t pauseLength = 20;
 
@@ -73,11 +74,11 @@ class ModelFileSystem final : public FileSystem {
 
   // All programs end; what they saw stays.
   void endPrograms();
-  // The power fails: what was not flushed comes out in one of several ways. Each number is another
-  // way; 0 leaves exactly what was flushed, 1 everything.
+  // The power fails: what was not flushed comes out in one of several ways, each with its number; 0
+  // leaves exactly what was flushed, 1 everything.
   void losePower(unsigned way);
 
-  // Whether the next exchange() ends after its first step, as if the process had ended there.
+  // The next exchange() stops after its first step, as if the process had ended there.
   void stopHalfway() { stopsHalfway_ = true; }
 
   FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override;
@@ -126,8 +127,8 @@ class ModelFileSystem final : public FileSystem {
   using NodePointer = std::shared_ptr<Node>;
   using Names = std::map<Path, NodePointer>;
 
-  // What happened to names since their folder was flushed, all at once: one got a node, and one may
-  // have gone.
+  // What happened to names since their folder was flushed: in one step, one name got a node, and
+  // one may have gone.
   struct Change {
     Path name;
     NodePointer node;
@@ -145,7 +146,7 @@ class ModelFileSystem final : public FileSystem {
   [[nodiscard]] unsigned linksOf(const NodePointer& node) const;
   static void apply(const Change& change, Names& names);
   void change(Change change);
-  // Brings the changes to the disk of which `isMeant` says so.
+  // Brings those changes to the disk for which `isMeant` returns true.
   void flushChanges(const std::function<bool(const Change&)>& isMeant);
   FileError mayName(const Path& path) const;
   bool isBusy(const Path& path);

@@ -1,4 +1,4 @@
-// A file of the user's own that is being cleared, while any call fails or is the last one.
+// A file of the user's own is cleared, while any call fails or is the last one.
 
 #include <gtest/gtest.h>
 
@@ -18,14 +18,14 @@ using platform::PrivateFile;
 constexpr char kName[] = "file";
 constexpr char kNone[] = "(none)";
 
-// What stands there before: under the file's own name, and under that of the old content while it
-// is replaced, as a replacement leaves it that failed half-way.
+// What is there before: the file itself, and the old content under the name that it has while it is
+// replaced, as a replacement that failed half-way leaves it.
 struct Content {
   const char* name;
   const char* file;
   const char* backup;
 
-  // What whoever comes next reads as long as it was not cleared.
+  // What the next process reads if it was not cleared.
   [[nodiscard]] std::string whole() const { return file != nullptr ? file : backup; }
   friend void PrintTo(const Content& content, std::ostream* out) { *out << content.name; }
 };

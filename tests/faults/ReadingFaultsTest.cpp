@@ -19,7 +19,7 @@ class ReadingFaultsTest : public TornFileFixture {
  protected:
   ReadingFaultsTest() { in_.model.makeSecondName(kFile, kSecond); }
 
-  // Does something before the file is opened for reading, the first `times` times.
+  // Calls `action` before the file is opened for reading, the first `times` times.
   void beforeOpening(int times, const std::function<void()>& action) {
     in_.model.others.beforeOpen = [this, times, action](const Path& path, OpenFor purpose) mutable {
       if (purpose != OpenFor::Reading || path != kFile || isBusy_ || times == 0) return;
@@ -103,7 +103,7 @@ TEST_F(ReadingFaultsTest, FindsOneContentWholeAfterAWriteByAnotherNameThatEndsAn
   }
 }
 
-// Content that fits is no reason: any file that is empty would.
+// That its content would fit does not make another file the torn one: any empty file would fit.
 TEST_F(ReadingFaultsTest, TakesNoOtherFileForTheOneThatWasTorn) {
   for (const char* const content : {"", kTorn, kOld, kNew}) {
     in_.model.makeFile("/folder/other", content);
@@ -113,7 +113,7 @@ TEST_F(ReadingFaultsTest, TakesNoOtherFileForTheOneThatWasTorn) {
   }
 }
 
-// Its disk is away for a while, or somebody has renamed it for a moment.
+// The file's disk is away for a while, or somebody has renamed the file for a moment.
 TEST_F(ReadingFaultsTest, PutsRightWhatWasTornOnceItIsBack) {
   in_.model.removeFile(kSecond);
   tear(kFile);
@@ -125,7 +125,7 @@ TEST_F(ReadingFaultsTest, PutsRightWhatWasTornOnceItIsBack) {
   EXPECT_EQ(in_.model.listing("/private"), "");
 }
 
-// The folder is there without its disk, and takes nothing.
+// The folder exists without its disk, and takes no files.
 TEST_F(ReadingFaultsTest, PutsRightWhatWasTornAfterASaveThatFailedMeanwhile) {
   constexpr int kMoreThanAnySave = 120;
   in_.model.removeFile(kSecond);
@@ -147,7 +147,7 @@ TEST_F(ReadingFaultsTest, PutsRightWhatWasTornAfterASaveThatFailedMeanwhile) {
   }
 }
 
-// The player has deleted the torn one.
+// The player has deleted the torn file.
 TEST_F(ReadingFaultsTest, GivesAFileThatWasMadeAnewNothingOfOneThatWasTorn) {
   constexpr int kMoreThanAnySave = 120;
   in_.model.removeFile(kSecond);
@@ -159,7 +159,7 @@ TEST_F(ReadingFaultsTest, GivesAFileThatWasMadeAnewNothingOfOneThatWasTorn) {
         tear(kFile);
         in_.model.removeFile(kFile);
         in_.faulty.plan(call, fault);
-        // Of the same content as the one that was not finished.
+        // The same content as in the write that was not finished.
         const std::error_code error = replaceFile(kFile, kNew);
         in_.model.endPrograms();
         in_.faulty.plan(-1, Fault::None);
@@ -205,7 +205,7 @@ TEST_F(ReadingFaultsTest, IsNotDoneWhileTheFileIsWrittenInPlace) {
   }
 }
 
-// Whoever had it may remove the empty folder at any moment.
+// Another process that used the folder may remove it, once empty, at any moment.
 TEST_F(ReadingFaultsTest, MakesNoFolderForKeptFiles) {
   const Path folder = in_.model.privateFolder();
   in_.model.makeFolder(folder);
@@ -217,7 +217,7 @@ TEST_F(ReadingFaultsTest, MakesNoFolderForKeptFiles) {
   EXPECT_EQ(in_.model.listing("/private"), "");
 }
 
-// Systems tell of a lock when the file is opened, or not before it is read.
+// Some systems report a lock when the file is opened, others not before it is read.
 TEST_F(ReadingFaultsTest, WaitsForWhatIsHeldInWhateverCall) {
   tear(kFile);
   constexpr int kMoreThanAnyRead = 60;

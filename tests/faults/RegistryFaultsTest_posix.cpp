@@ -1,6 +1,6 @@
-// Whole runs of the dialog on the DotA 7 values, of which any call of the system fails, is the last
-// one of the process, or the last one of the machine. The registry is a file here, which stands on
-// the same calls as the journal.
+// Whole runs of the dialog on the DotA 7 values, in which any system call fails, or is the last one
+// of the process or of the machine. The registry is a file here, which uses the same calls as the
+// journal.
 
 #include <gtest/gtest.h>
 
@@ -38,8 +38,7 @@ const Place kPlaces[] = {
 
 using Manager = Dota7KeyInfoManager;
 
-// Values that are there, one of another type and length than they should have, and some that are
-// missing.
+// Existing values, one of another type and length than it should have; some are missing.
 RegFile registryOfAPlayer() {
   RegFile content;
   content.createKey(below(kDota7ControlPath));
@@ -52,7 +51,8 @@ RegFile registryOfAPlayer() {
   return content;
 }
 
-// What a player does in one run: values that are there and that are not, one of them twice.
+// What a player does in one run: changes values that exist and values that do not, one of them
+// twice.
 void edit(Manager& manager) {
   Dota7Settings& settings = manager.settings();
   settings.load();
@@ -67,7 +67,7 @@ enum class End { Accept, Cancel };
 
 class RegistryFaults : public testing::TestWithParam<Place> {
  protected:
-  // A player's registry, and a process that has no fault yet.
+  // A player's registry, and a process without a fault as yet.
   void begin() {
     manager_.reset();
     in_.reset();
@@ -92,7 +92,7 @@ class RegistryFaults : public testing::TestWithParam<Place> {
     }
   }
 
-  // The process ends where it is, and another one begins.
+  // The process ends at once, and another one begins.
   void endProcess() {
     in_->faulty.plan(0, Fault::EndsBefore);
     in_->faulty.removeFolder({});
@@ -110,7 +110,7 @@ class RegistryFaults : public testing::TestWithParam<Place> {
     return content;
   }
 
-  // What the registry is to become, and how many calls that takes.
+  // Finds out what the registry becomes without a fault, and how many calls that takes.
   int countCalls(End end) {
     begin();
     in_->faulty.plan(-1, Fault::None);
@@ -121,7 +121,7 @@ class RegistryFaults : public testing::TestWithParam<Place> {
     return calls;
   }
 
-  // That the next opening finds the old values, or those that were confirmed, if there are any.
+  // The next opening must find the old values, or the confirmed ones.
   void checkNextRun(const RegFile& confirmed, const std::string& what) {
     endProcess();
     manager_->beginRun();
@@ -132,7 +132,7 @@ class RegistryFaults : public testing::TestWithParam<Place> {
     checkWholeRun(what);
   }
 
-  // That nothing acts later, and that one whole run leaves nothing behind.
+  // Nothing may take effect later, and one whole run must leave nothing behind.
   void checkWholeRun(const std::string& what) {
     const RegFile found = content();
     edit(*manager_);
@@ -231,7 +231,8 @@ TEST_P(RegistryFaults, ThatTakeThePowerAwayLeaveTheOldOrTheConfirmedValues) {
   }
 }
 
-// The next run is disturbed as well, as a whole or in the middle of undoing what it found.
+// The next run is disturbed as well: while it undoes what it found, and with some faults until its
+// end.
 TEST_P(RegistryFaults, OfTheNextRunLeaveTheOldValuesToTheOneBehindIt) {
   begin();
   manager_->beginRun();

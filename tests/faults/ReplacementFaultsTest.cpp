@@ -1,6 +1,6 @@
-// Every call that replacing a file makes fails, or is the last one of its process, or of the
-// machine. Whatever happens, the next session finds the whole old or the whole new content, the
-// result has told the truth, and nothing is left lying about.
+// Each call that replacing a file makes fails, or is the last one of its process or of the machine.
+// Whatever happens, the next session finds the whole old or the whole new content, the result has
+// told the truth, and nothing is left lying about.
 
 #include <gtest/gtest.h>
 
@@ -130,7 +130,7 @@ class ReplacementFaults : public testing::TestWithParam<Setting> {
 
   [[nodiscard]] std::string content() { return in_->model.contentOf(in_->model.resolved(kFile)); }
 
-  // A session that has nothing against it. What it reads is what is there.
+  // A session without faults. What it reads must be what is there.
   void runCleanSession(std::initializer_list<std::string> allowed, const std::string& what) {
     in_->model.endPrograms();
     in_->faulty.plan(-1, Fault::None);
@@ -228,7 +228,7 @@ TEST_P(ReplacementFaults, ThatTakeThePowerAwayLeaveOneContentWhole) {
   }
 }
 
-// What was told as done is on the disk.
+// What was reported as done is on the disk.
 TEST_P(ReplacementFaults, LeaveWhatWasDoneAfterAPowerLoss) {
   for (const char* const bytes : {kNew, kShort}) {
     static_cast<void>(countCalls(bytes));

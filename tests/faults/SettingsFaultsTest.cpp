@@ -1,5 +1,5 @@
-// Whole operations on a player's two files, of which any call of the system fails, is the last one
-// of the process, or the last one of the machine.
+// Whole operations on a player's two files, in which any system call fails, or is the last one of
+// the process or of the machine.
 
 #include <gtest/gtest.h>
 
@@ -69,7 +69,7 @@ class SettingsFaults : public testing::TestWithParam<Setting> {
         platform::pathFromNarrow(platform::profileFolder() + platform::gamePreferencesSuffix());
   }
 
-  // A player's files, one of his keys changed in memory, and the session that is to save it.
+  // A player's files, with one of his keys changed in memory, and the session that will save it.
   void begin() {
     in_.reset();
     in_.emplace();
@@ -91,7 +91,7 @@ class SettingsFaults : public testing::TestWithParam<Setting> {
 
   Files filesOf() { return {in_->model.contentOf(kSettings), in_->model.contentOf(preferences_)}; }
 
-  // What the files become without a fault.
+  // Finds out what the files become without a fault, and how many calls a save makes.
   int countCalls() {
     begin();
     HotkeyConfig loaded;
@@ -136,7 +136,7 @@ class SettingsFaults : public testing::TestWithParam<Setting> {
     EXPECT_EQ(in_->model.listing("/private"), "") << what;
   }
 
-  // Whether a file that was put aside holds that.
+  // Whether a file that was put aside has this content.
   bool isKept(const std::string& content) {
     constexpr int kSeconds = 4;  // each has a name of its own, one after the other
     for (int i = 0; i < kSeconds; ++i) {
@@ -148,7 +148,7 @@ class SettingsFaults : public testing::TestWithParam<Setting> {
 
   Told save() { return config_.Save(kSettingsName, kNewTime) ? Told::Saved : Told::NotSaved; }
 
-  TempFolder home_;  // its name; nothing is written there
+  TempFolder home_;  // only its name is used; nothing is written there
   ScopedProfile profile_;
   Path preferences_;
   std::optional<StandIn> in_;
@@ -244,7 +244,7 @@ TEST_P(SettingsFaults, LosePreferencesOfTheGameToNobodyWhoMovesThemAway) {
   EXPECT_NE(in_->model.contentOf(preferences_).find("kept=1"), std::string::npos);
 }
 
-// A load and a save wait once for each of the two files.
+// A save waits once for each of the two files.
 TEST_P(SettingsFaults, WaitOnceForEachFile) {
   begin();
   constexpr int kForever = 1000;
@@ -255,7 +255,7 @@ TEST_P(SettingsFaults, WaitOnceForEachFile) {
   EXPECT_LE(in_->model.pauses - before, 2 * platform::Patience::kPauses);
 }
 
-// What could not be loaded is in its place, or put aside, whatever happens while it is saved over.
+// What could not be loaded stays in place, or put aside, whatever happens while it is saved over.
 TEST_P(SettingsFaults, LoseNothingThatWasNotRead) {
   static_cast<void>(countCalls());
   constexpr int kMoreThanAnySave = 200;
@@ -264,7 +264,7 @@ TEST_P(SettingsFaults, LoseNothingThatWasNotRead) {
                             Fault::FailsForGood}) {
     for (int call = 0; call < kMoreThanAnySave; ++call) {
       begin();
-      // Where nothing new can be made, nothing can be put aside.
+      // A folder that takes no new file takes no kept file either.
       if (in_->model.nature.closedFolders.contains("/folder")) return;
       in_->model.makeFile(kSettings, kDamaged);
       GetParam().prepare(in_->model, preferences_);
@@ -280,7 +280,7 @@ TEST_P(SettingsFaults, LoseNothingThatWasNotRead) {
   }
 }
 
-// It is made for the save.
+// The save makes the folder.
 TEST(SettingsFaultsMissingFolder, IsThereWithTheFileOrNotAtAll) {
   const TempFolder home;
   const ScopedProfile profile(home.path());

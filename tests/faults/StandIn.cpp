@@ -9,7 +9,7 @@ platform::FileSystem* current = nullptr;
 
 }  // namespace
 
-// The functions of Files.h stand on this one here.
+// The functions of Files.h use this one in these programs.
 platform::FileSystem& platform::fileSystem() {
   if (current == nullptr) std::abort();
   return *current;

@@ -4,8 +4,8 @@
 
 namespace brennet::test {
 
-// A file system in memory, with faults, below the functions of platform/Files.h, as long as it
-// lives. There is one at a time.
+// A file system in memory, with faults, that the functions of platform/Files.h use as long as it
+// exists. There is one at a time.
 class StandIn {
  public:
   StandIn();

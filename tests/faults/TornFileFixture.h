@@ -11,7 +11,7 @@
 
 namespace brennet::test {
 
-// A file in a folder of a file system in memory, which a process may leave torn.
+// A file in a file system in memory, which a process may leave torn.
 class TornFileFixture : public testing::Test {
  protected:
   static constexpr char kFolder[] = "/folder";
@@ -35,8 +35,8 @@ class TornFileFixture : public testing::Test {
     return bytes;
   }
 
-  // What a process leaves that ends while it writes the file in place, which held `old`. Nothing
-  // where others keep it from doing so.
+  // Leaves what a process leaves that ends while it writes the file in place, which held `old`.
+  // Does nothing if others have the file.
   void tear(const Path& path, const std::string& old = kOld) {
     platform::Patience patience;
     platform::KeptWrite kept(in_.model, patience, path);

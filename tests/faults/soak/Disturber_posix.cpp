@@ -10,7 +10,7 @@ namespace {
 
 constexpr useconds_t kHold = 3'000;  // microseconds
 constexpr useconds_t kPause =
-    40'000;  // between two leases; who waits for one must find the file free
+    40'000;  // between two leases; whoever waits for one to end must find the file free
 
 }  // namespace
 

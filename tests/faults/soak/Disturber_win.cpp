@@ -11,7 +11,7 @@ namespace {
 constexpr DWORD kHold = 50;   // milliseconds
 constexpr DWORD kPause = 10;  // between two looks
 
-// Whether a file is another than before at its name.
+// Whether there is another file than before under the name.
 bool isNew(std::map<std::wstring, FILETIME>& known, const WIN32_FIND_DATAW& data) {
   FILETIME& time = known[data.cFileName];
   const bool isKnown = CompareFileTime(&time, &data.ftLastWriteTime) == 0;

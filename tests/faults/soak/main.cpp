@@ -1,8 +1,8 @@
-// Many processes on a player's two files: brennet-soak ROUNDS
+// Many processes use a player's two files: brennet-soak ROUNDS
 //
 // Two save the settings, one reads them, one replaces the game's file as the game does, and one
-// disturbs them all. Nothing may ever be read that is not whole, no save may be lost, and nothing
-// may be left behind in the end.
+// disturbs them all. Nobody may ever read anything that is not whole, no save may be lost, and
+// nothing may be left behind in the end.
 
 #include <chrono>
 #include <cstdio>
@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 
 constexpr char kGamesPart[] = "[Mine]\r\nkept=1\r\n\r\n";
 
-// The files in the place that goes from process to process.
+// The files, in the place that each process is given.
 struct Files {
   explicit Files(const fs::path& place)
       : folder(place / "player"),
@@ -40,13 +40,13 @@ struct Files {
   fs::path readings;  // what the reader has counted; nobody disturbs it there
 };
 
-// What a saver writes: its number is in every save time.
+// The save time that a saver writes in a round. It tells the savers apart.
 std::uint32_t saveTime(int saver, int round) {
   return static_cast<std::uint32_t>(2 * round + saver);
 }
 
-// A file may be held for longer than a save waits, most of all on a busy computer. A save that is
-// told as failed is tried again, as a player would; where that does not help, it is a fault.
+// A file may be held for longer than a save waits, above all on a busy computer. A save that is
+// reported as failed is tried again, as a player would; if that does not help, it is a fault.
 int save(const Files& files, int saver, int rounds) {
   constexpr int kTries = 50;
   const ScopedProfile profile(files.folder);
@@ -71,12 +71,12 @@ bool isWhole(const Files& files) {
          preferences.find("kept=1") != std::string::npos;
 }
 
-// Reads until it is ended; leaves the number of what was wrong in a file.
+// Reads until it is ended; leaves the numbers of readings and of faults in a file.
 [[noreturn]] void read(const Files& files) {
   for (long rounds = 1, failures = 0;; ++rounds) {
     if (!isWhole(files)) ++failures;
     if (rounds % 16 != 1 && failures == 0) continue;
-    // Under another name first: this process ends at any moment.
+    // Written under another name first: this process may end at any moment.
     fs::path newReadings = files.readings;
     newReadings += ".new";
     writeBytes(newReadings, std::to_string(rounds) + " " + std::to_string(failures));
@@ -84,7 +84,7 @@ bool isWhole(const Files& files) {
   }
 }
 
-// Replaces the game's file by one without hotkeys, as the game does when it ends.
+// Replaces the game's file with one without hotkeys, as the game does when it ends.
 [[noreturn]] void play(const Files& files) {
   const fs::path other = files.folder / "games-own";
   while (true) {
@@ -108,7 +108,7 @@ int failed(const std::string& what) {
   return 1;
 }
 
-// What is there when all have ended, and one session more has run.
+// Checks what is there after all have ended and one more session has run.
 int check(const Files& files, int rounds) {
   const std::string readings = readBytes(files.readings);
   std::printf("readings, and those that were not whole: %s\n", readings.c_str());
