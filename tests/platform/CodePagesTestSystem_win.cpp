@@ -1,5 +1,5 @@
-// What kernel32 is asked for code pages, and what comes of its answers: among them those of a code
-// page that not every system has, and failures.
+// What kernel32 is asked about code pages, and what its answers lead to: among them failures, and
+// answers about a code page that not every system has.
 
 #include <windows.h>
 // gtest.h comes after windows.h, which would undo its macros.
@@ -14,8 +14,7 @@
 
 namespace {
 
-// A code page of longer sequences, as GB18030 is one. Of all characters it has ASCII and one
-// ideograph.
+// A code page with longer sequences, such as GB18030. It has only ASCII and one ideograph.
 constexpr UINT kLongPage = 54936;
 constexpr wchar_t kIdeograph = 0x8C22;
 constexpr char kItsBytes[] = "\xD0\xBB";
@@ -33,7 +32,8 @@ System kernel;
 
 using brennet::test::systems;
 
-// Copies what fits; the whole length where there is no room, as kernel32 has it.
+// Copies `text` and returns its length; 0 if it does not fit. With no room at all it only returns
+// the length, as kernel32 does.
 template <class Text, class Unit>
 int give(const Text& text, Unit* out, int room) {
   const int size = static_cast<int>(text.size());
@@ -80,7 +80,7 @@ int WINAPI toBytes(UINT codePage, DWORD flags, LPCWCH units, int size, LPSTR out
   if (codePage != kLongPage) {
     return real(codePage, flags, units, size, out, room, byDefault, usedDefault);
   }
-  if (usedDefault != nullptr) return 0;  // it cannot tell
+  if (usedDefault != nullptr) return 0;  // as kernel32 fails for such pages
   std::string bytes;
   for (int i = 0; i < size; ++i) {
     if (units[i] == kIdeograph) {
@@ -140,7 +140,7 @@ TEST_F(CodePagesTestSystem, TellOfLossesWhereKernel32DoesNot) {
   EXPECT_FALSE(encode(kLongPage, u"???", bytes)) << "they are no losses";
 }
 
-// Each of the calls of a conversion.
+// Each call of a conversion fails in turn.
 TEST_F(CodePagesTestSystem, GiveNoTextWhereACallFails) {
   for (const CodePage page : {1252U, kLongPage}) {
     for (const int call : {0, 1}) {

@@ -1,4 +1,4 @@
-// ICU knows GB18030 wherever it runs.
+// ICU's converters for the code pages of Windows.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ struct PageRow {
 
 using Shape = CodePageShape;
 
-// A word of each code page, from the tables of another library.
+// A text in each code page, from the tables of another library.
 constexpr PageRow kPages[] = {
     {37, Shape::SingleByte, "\xC1\x82\xBA\x51", u"Ab[\u00E9"},
     {437, Shape::SingleByte, "\xA4\xAB", u"\u00F1\u00BD"},
@@ -94,7 +94,7 @@ TEST(CodePages, HaveNoLeadBytesBeyondTheirRanges) {
   }
 }
 
-// The bytes after the end may be those of the pair.
+// The byte after the end could complete the pair.
 TEST(CodePages, EndWhereTheTextEnds) {
   std::u16string text;
   decode(949, std::string_view("\xC7\xD1").substr(0, 1), text);
@@ -133,7 +133,7 @@ TEST(CodePagesGb18030, SurvivesLongBuffers) {
   EXPECT_EQ(back, text);
 }
 
-// ICU begins a text with a switch to ASCII, which is in force already.
+// ICU begins a text with a switch to ASCII, although that is in force already.
 TEST(CodePagesHz, BeginsWithItsText) {
   struct Row {
     std::u16string_view text;

@@ -13,7 +13,7 @@ TEST(CodePagesAnsi, IsTheOneOfTheSystem) {
   EXPECT_EQ(ansiCodePage(), GetACP());
 }
 
-// Windows has it; Wine has not in every version.
+// Windows has it; not every version of Wine does.
 TEST(CodePagesGb18030, IsThereWhereTheSystemHasIt) {
   const bool known = IsValidCodePage(kGb18030) != FALSE;
   EXPECT_EQ(codePageShape(kGb18030), known ? CodePageShape::Other : CodePageShape::Unsupported);
@@ -23,7 +23,7 @@ TEST(CodePagesGb18030, IsThereWhereTheSystemHasIt) {
   EXPECT_EQ(bytes, known ? "\xD0\xBB" : "");
 }
 
-// kernel32 cannot tell of losses there, and fails when it is asked to. There are none: UTF-7 has
+// kernel32 cannot report losses in UTF-7, and fails when it is asked to. There are none: UTF-7 has
 // every unit.
 TEST(CodePagesUtf7, IsWritten) {
   std::string bytes;

@@ -14,11 +14,11 @@ class FileFaultsFixture : public testing::Test {
 
   [[nodiscard]] std::filesystem::path path() const { return folder_ / "f"; }
 
-  // A file whose name has no room for the ending of a temporary name.
+  // A file whose name leaves no room for the ending of a temporary name.
   [[nodiscard]] std::filesystem::path longPath() const {
     constexpr std::size_t kLongest = 255;
     const std::filesystem::path path = folder_ / std::string(kLongest - 3, 'n');
-    // Windows takes long paths where they say so.
+    // Windows accepts long paths that begin like this.
     const bool isWindows = std::filesystem::path::preferred_separator != '/';
     return isWindows ? std::filesystem::path(R"(\\?\)" + path.string()) : path;
   }

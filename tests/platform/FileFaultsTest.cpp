@@ -1,4 +1,4 @@
-// Every system call on the way to a new file fails once, one after the other. Whatever fails, the
+// Each system call that replacing a file makes fails once, one after the other. Whatever fails, the
 // disk holds the whole old or the whole new content and no temporary file.
 
 #include <gtest/gtest.h>
@@ -39,7 +39,7 @@ TEST_F(FileFaults, LeaveTheWholeOldOrTheWholeNewContent) {
   for (int call = 0; call < kMoreCallsThanAnyWrite; ++call) {
     writeBytes(path(), kOld);
     const std::error_code error = replaceWithFailure(call);
-    // What could not be removed then goes with the next read.
+    // The next read removes what could not be removed then.
     std::string read;
     EXPECT_FALSE(readFile(path(), read, kAnySize));
     EXPECT_EQ(read, error ? kOld : kNew) << "failing call " << call;
@@ -113,7 +113,8 @@ TEST_F(FileFaults, LeaveTheOldContentOfAFileThatIsWrittenInPlace) {
   }
 }
 
-// The old content could not be written back then: it must not be touched before there is room.
+// On such a disk the old content could not be written back: it must not be touched before there is
+// room.
 TEST_F(FileFaults, OfADiskThatStaysFullLeaveTheOldContentAlone) {
   writeBytes(path(), kOld);
   faults.newFiles = true;
@@ -124,7 +125,7 @@ TEST_F(FileFaults, OfADiskThatStaysFullLeaveTheOldContentAlone) {
 
 TEST_F(FileFaults, LeaveNoHandleOpen) {
   writeBytes(path(), kOld);
-  static_cast<void>(replaceWithFailure(0));  // what the system keeps for itself is there now
+  static_cast<void>(replaceWithFailure(0));  // opens what the system keeps open for itself
   const std::size_t before = test::openHandles();
   for (int call = 0; call < kMoreCallsThanAnyWrite; ++call) {
     static_cast<void>(replaceWithFailure(call));

@@ -22,7 +22,7 @@ using FileFaultsMovedFile = test::FileFaultsFixture;
 
 class FileFaultsFileToBeKept : public test::FileFaultsFixture {
  protected:
-  // Opens it, while `happens` comes between the opening and the look at what was opened.
+  // Opens the file; `happens` is called between the opening and the look at what was opened.
   Obstacle opened(std::function<void()> happens) {
     test::beforeStatus = std::move(happens);
     FileHandle file = kNoFile;
@@ -33,7 +33,8 @@ class FileFaultsFileToBeKept : public test::FileFaultsFixture {
   }
 };
 
-// Who keeps a file removes it before it lets go; what was opened then is nobody's any more.
+// A process that keeps a file removes it before it releases it; what others have opened by then is
+// no longer the file of that name.
 TEST_F(FileFaultsFileToBeKept, IsTheOneUnderItsName) {
   EXPECT_EQ(opened([] {}), Obstacle::None);
   EXPECT_EQ(opened([&] { std::filesystem::remove(path()); }), Obstacle::Held);
@@ -45,7 +46,7 @@ TEST_F(FileFaultsFileToBeKept, IsTheOneUnderItsName) {
   EXPECT_EQ(opened([] {}), Obstacle::None);
 }
 
-// In whatever way the file system lets it move.
+// Whichever way of moving the file system offers.
 TEST_F(FileFaultsMovedFile, TakesAFreeNameOnly) {
   const Path other = folder_ / "other";
   for (const test::Lacking& lacks :
@@ -79,7 +80,7 @@ TEST_F(FileFaultsMovedFile, HasItsOldNameAfterHalfAMove) {
 
 using FileFaultsMode = test::FileFaultsFixture;
 
-// Where there may be a list that could not be asked for, the file stays its owner's alone.
+// If there may be a list that could not be read, the file stays private to its owner.
 TEST_F(FileFaultsMode, IsKeptWhereNoFileHasAnAccessList) {
   struct Row {
     int error;

@@ -2,7 +2,7 @@
 // while another program has the file.
 
 #include "tests/platform/FileFaults_win.h"
-// gtest.h comes after windows.h, which would undo its macros.
+// gtest.h (in FileFaultsFixture.h) comes after windows.h, which would undo its macros.
 #include <iterator>
 #include <string>
 #include <thread>
@@ -51,7 +51,7 @@ TEST_F(FileFaultsHalfReplacement, ThatTookTheOldNameAwayIsMadeGood) {
   EXPECT_EQ(readBytes(path()), kNew);
   EXPECT_EQ(folder_.listing(), "f\n");
 
-  // Where the new file cannot be moved, the old one comes back and is written in place.
+  // If the new file cannot be moved, the old one comes back and is written in place.
   halfwayFaults.movingTheNew = true;
   EXPECT_FALSE(replaceFile(path(), kShort));
   EXPECT_EQ(readBytes(path()), kShort);
@@ -60,8 +60,8 @@ TEST_F(FileFaultsHalfReplacement, ThatTookTheOldNameAwayIsMadeGood) {
 
 constexpr char kBackup[] = "f.brennet-old";
 
-// Nothing is written in place then: whoever reads meanwhile would take that for the file, and the
-// backup for one that is not needed.
+// Nothing is written in place then: other processes would take that for the file, and the backup
+// for one that is not needed.
 TEST_F(FileFaultsHalfReplacement, ThatCannotBeMadeGoodLeavesTheOldFileUnderItsBackupName) {
   writeBytes(path(), kOld);
   halfwayFaults.replacing = ERROR_UNABLE_TO_MOVE_REPLACEMENT_2;
@@ -70,7 +70,7 @@ TEST_F(FileFaultsHalfReplacement, ThatCannotBeMadeGoodLeavesTheOldFileUnderItsBa
   EXPECT_EQ(folder_.listing(), std::string(kBackup) + "\n");
   EXPECT_EQ(readBytes(folder_ / kBackup), kOld);
 
-  // As long as it cannot be put back, the file counts as unreadable, not as missing.
+  // While it cannot be put back, the file counts as unreadable, not as missing.
   std::string read;
   EXPECT_EQ(readFile(path(), read, kAnySize).value(), ERROR_INVALID_NAME);
   EXPECT_EQ(replaceFile(path(), kNew).value(), ERROR_INVALID_NAME);
@@ -135,7 +135,7 @@ TEST_F(FileFaultsPassingFault, OfMakingAFileIsNoneWhereTheFolderTakesNone) {
   }
 }
 
-// Access to a file that stays is denied by its access list.
+// If the file is not about to go, its access list denies the access.
 TEST_F(FileFaultsPassingFault, OfOpeningIsNoneWhereTheFileStays) {
   writeBytes(path(), kOld);
   passingFaults = {.error = ERROR_ACCESS_DENIED, .opening = kAFew};
@@ -170,7 +170,7 @@ TEST_F(FileFaultsPassingFault, OfReadingIsWaitedForWhereSomebodyHasTheFile) {
     std::string read;
     EXPECT_FALSE(readFile(path(), read, kAnySize)) << error;
     EXPECT_EQ(read, kOld) << error;
-    // A lock shows when the file is open already.
+    // A lock does not show before the file is read.
     passingFaults = {.error = error, .reading = kAFew};
     EXPECT_FALSE(readFile(path(), read, kAnySize)) << error;
     EXPECT_EQ(read, kOld) << error;
@@ -284,7 +284,7 @@ class FileFaultsPrivateFolder : public test::FileFaultsFixture {
   const Path own_ = folder_ / "own";
 };
 
-// What is kept there must not be passed over because of a failure.
+// A failure must not cause what is kept there to be ignored.
 TEST_F(FileFaultsPrivateFolder, ThatCannotBeAskedAboutIsNotTakenForSomebodyElses) {
   for (const DWORD error : {ERROR_IO_DEVICE, ERROR_NOT_ENOUGH_MEMORY, ERROR_NETNAME_DELETED}) {
     passingFaults = {.error = error, .opening = 1};
@@ -303,7 +303,7 @@ TEST_F(FileFaultsPrivateFolder, ThatCannotBeIsMissing) {
   }
 }
 
-// Whoever had it removes it in the end; then it can be made again.
+// Another process that used it removes it in the end; then it can be made again.
 TEST_F(FileFaultsPrivateFolder, ThatGoesIsMissing) {
   interruptions.beforeOpening = [&] { std::filesystem::remove(own_); };
   EXPECT_EQ(system_.checkPrivateFolder(own_).obstacle, Obstacle::Missing);

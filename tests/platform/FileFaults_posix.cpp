@@ -66,7 +66,7 @@ int __wrap_open(const char* path, int flags, ...) {
   if ((isNew && faults.newFiles) || faults.failsNow()) return failWith(EACCES);
   return __real_open(path, flags, mode);
 }
-// A full disk takes a part before it refuses the rest.
+// A full disk takes part of a write before it refuses the rest.
 ssize_t __wrap_pwrite(int file, const void* bytes, size_t size, off_t offset) {
   struct stat status {};
   if (__real_fstat(file, &status) == 0) brennet::test::writtenModes |= status.st_mode & 0777U;

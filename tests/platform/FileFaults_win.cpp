@@ -39,7 +39,7 @@ BOOL failWith(DWORD error) {
   return FALSE;
 }
 
-// Whether a call fails, being one of the `left` ones that do.
+// Whether a call fails, as one of the `left` calls that still do.
 bool failsInPassing(int& left) {
   if (left == 0) return false;
   --left;
@@ -65,7 +65,7 @@ HANDLE WINAPI createFile(LPCWSTR name, DWORD access, DWORD sharing, SECURITY_ATT
   return INVALID_HANDLE_VALUE;
 }
 
-// A full disk takes a part before it refuses the rest.
+// A full disk takes part of a write before it refuses the rest.
 BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written, OVERLAPPED* where) {
   static auto* const real = systems<decltype(WriteFile)>("WriteFile");
   if (!faults.diskFull && !faults.failsNow()) return real(file, bytes, size, written, where);
@@ -79,7 +79,7 @@ BOOL WINAPI flushFile(HANDLE file) {
   return faults.flushing || faults.failsNow() ? failWith(ERROR_IO_DEVICE) : real(file);
 }
 
-// Whether the file would be longer if it ended where it stands now.
+// Whether the file would become longer if it ended at its current position.
 bool growsHere(HANDLE file) {
   static auto* const sizeOf = systems<decltype(GetFileSizeEx)>("GetFileSizeEx");
   LARGE_INTEGER here{};
@@ -106,7 +106,7 @@ BOOL WINAPI factsOfFile(HANDLE file, BY_HANDLE_FILE_INFORMATION* facts) {
   return isDone;
 }
 
-// A device that fails has given a part before.
+// A failing device reads a part first.
 BOOL WINAPI readBytes(HANDLE file, LPVOID bytes, DWORD size, LPDWORD read, OVERLAPPED* where) {
   static auto* const real = systems<decltype(ReadFile)>("ReadFile");
   if (failsInPassing(passingFaults.reading)) return FALSE;
@@ -171,7 +171,7 @@ DWORD WINAPI attributesOf(LPCWSTR name) {
   }
   const DWORD attributes = real(name);
   if (reparseTag == 0 || !std::wstring(name).ends_with(L"\\f")) return attributes;
-  // A link to nothing is there, too.
+  // A link to nothing has attributes too.
   return (attributes == INVALID_FILE_ATTRIBUTES ? 0 : attributes) | FILE_ATTRIBUTE_REPARSE_POINT;
 }
 

@@ -69,7 +69,7 @@ std::string attribute(const Path& path, const char* name) {
 TEST(FileRightsReplaceFile, KeepsAttributes) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
-  // A file system that has no attributes keeps none.
+  // A file system without attributes keeps none.
   static_cast<void>(setxattr((folder / "f").c_str(), "user.note", "mine", 4, 0));
   const std::string before = attribute(folder / "f", "user.note");
   EXPECT_FALSE(replaceFile(folder / "f", "new"));
@@ -79,8 +79,8 @@ TEST(FileRightsReplaceFile, KeepsAttributes) {
 constexpr char kAccessList[] = "system.posix_acl_access";
 constexpr char kDefaultList[] = "system.posix_acl_default";
 
-// An access list as Linux keeps it: the owner and the group read and write, so does one more user,
-// as far as the mask lets them; others nothing.
+// An access list as Linux keeps it: the owner reads and writes, others may do nothing; one more
+// user (reading and writing) and the group (`groupRights`) may as far as the mask allows.
 std::string listWith(std::uint32_t user, std::uint16_t groupRights, std::uint16_t mask) {
   struct Entry {
     std::uint16_t tag;
@@ -112,7 +112,8 @@ TEST(FileRightsReplaceFile, KeepsAnAccessListAndNotOnlyItsMask) {
   EXPECT_EQ(statusOf(folder / "f").st_mode, mode);
 }
 
-// New files of such a folder are for one user more; a file that is there need not be.
+// The folder's default list gives new files to one more user; an existing file may not have that
+// entry.
 TEST(FileRightsReplaceFile, TakesNoAccessListOverFromTheFolder) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");
@@ -165,7 +166,7 @@ constexpr uid_t kMember = 4242;
 constexpr gid_t kGroup = 4243;
 constexpr gid_t kOtherGroup = 4244;
 
-// Only root can be somebody else for a moment.
+// As whom the test acts for a moment, which only root can do.
 class AMember {
  public:
   explicit AMember(std::initializer_list<gid_t> groups) {

@@ -23,7 +23,7 @@ using test::writeBytes;
 
 constexpr SECURITY_INFORMATION kList = DACL_SECURITY_INFORMATION;
 
-// The list in the system's own words.
+// The list as text (SDDL).
 std::wstring listOf(const Path& path) {
   PSECURITY_DESCRIPTOR descriptor = nullptr;
   wchar_t* text = nullptr;
@@ -79,7 +79,7 @@ TEST(FileRightsAccessList, OfANewFileIsThatOfItsFolder) {
   EXPECT_EQ(listOf(folder / "f"), listOf(folder / "usual"));
 }
 
-// A folder with an access list of the test's own, in the system's words.
+// Makes a folder with the access list `list` (SDDL).
 void makeFolder(const Path& path, const wchar_t* list) {
   SECURITY_ATTRIBUTES attributes{sizeof(attributes), nullptr, FALSE};
   ASSERT_NE(ConvertStringSecurityDescriptorToSecurityDescriptorW(

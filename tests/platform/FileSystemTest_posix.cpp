@@ -1,4 +1,4 @@
-// The calls of the system under the file functions, one by one.
+// The system calls under the file functions, one by one.
 
 #include "platform/FileSystem.h"
 
@@ -31,7 +31,7 @@ FileSystem& sys() {
   return operatingSystem();
 }
 
-// A file that is opened for one test, and how that went.
+// A file that is opened for one test, and the result of opening it.
 class Opened {
  public:
   Opened(const Path& path, OpenFor purpose) {
@@ -54,7 +54,7 @@ class Opened {
   Obstacle obstacle_ = Obstacle::None;
 };
 
-// A variable of the environment that a test changes.
+// An environment variable that a test changes.
 class ScopedVariable {
  public:
   ScopedVariable(const char* name, const char* value) : name_(name) {
@@ -362,7 +362,7 @@ TEST(FileSystemWriting, LeavesAPendingSignalToTheHost) {
   EXPECT_EQ(sigismember(&blocked, SIGXFSZ), 1);
 }
 
-// No system says why a write of some bytes took none of them.
+// The system gives no reason for a write that took no bytes.
 TEST(FileSystemWriting, FailsAsOnAFullDiskWhereNothingIsTaken) {
   const TempFolder folder;
   const Opened file(folder / "f", OpenFor::New);

@@ -1,4 +1,4 @@
-// Memory runs out at any moment of a save. Nothing has changed then.
+// Memory runs out at any moment of a save; then nothing has changed.
 
 #include <gtest/gtest.h>
 
@@ -61,10 +61,10 @@ TEST_F(FilesOutOfMemory, AreAsTheyWereThroughATemporaryFile) {
   check(folder_ / "f", false, OldContent::Drop);
 }
 
-// The name has no room for the ending of a temporary one.
+// The name leaves no room for the ending of a temporary one.
 TEST_F(FilesOutOfMemory, AreAsTheyWereInPlace) {
   Path path = folder_ / std::string(250, 'n');
-  // Windows takes long paths where they say so.
+  // Windows accepts long paths that begin like this.
   if (Path::preferred_separator != '/') path = R"(\\?\)" + path.string();
   check(path, true, OldContent::Drop);
   check(path, false, OldContent::Drop);

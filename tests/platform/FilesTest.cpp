@@ -78,7 +78,7 @@ void writeOldBytes(const Path& path) {
   makeOld(path);
 }
 
-// What processes left that were ended while they wrote.
+// What is left by processes that were ended while they wrote.
 TEST(FilesReplaceFile, RemovesOldTemporaryFilesOfItsOwn) {
   const TempFolder folder;
   for (const char* const name : {"f.brennet-1-0.tmp", "f.brennet-4294967295-99.tmp"})
@@ -110,7 +110,7 @@ TEST(FilesReplaceFile, RemovesTemporaryFilesThatAreAnHourOld) {
     std::chrono::seconds age;
     bool goes;
   };
-  // In the second row there is half a minute for the test.
+  // The second row leaves the test half a minute.
   const Row kRows[] = {{kHour, true}, {kHour - std::chrono::seconds(30), false}};
   for (const Row& row : kRows) {
     const TempFolder folder;
@@ -122,7 +122,7 @@ TEST(FilesReplaceFile, RemovesTemporaryFilesThatAreAnHourOld) {
   }
 }
 
-// Its process has ended, so nobody waits for it to become old.
+// The process has ended, so the file need not become old first.
 TEST(FilesReplaceFile, RemovesTemporaryFilesOfProcessesThatAreNone) {
   const TempFolder folder;
   writeBytes(folder / "f.brennet-4294967290-0.tmp", "half");
@@ -179,7 +179,7 @@ TEST(FilesPathExists, ForFilesAndFolders) {
   EXPECT_TRUE(pathExists(folder / "f"));
 }
 
-// Both contents would be in memory, and more than once.
+// Both contents would be in memory, in more than one copy.
 TEST(FilesReplaceFile, DoesNotWriteLargeFilesInPlace) {
   constexpr std::uint64_t kLimit = 64U << 20U;  // bytes
   const TempFolder folder;

@@ -53,7 +53,7 @@ TEST(FilesReplaceFile, WritesThroughALinkToAFileThatIsNotThereYet) {
   EXPECT_EQ(readBytes(folder / "f"), "new");
 }
 
-// Nobody could put its content back if the writing were cut short.
+// Nobody could put its content back if the write were cut short.
 TEST(FilesReplaceFile, LeavesAFileAloneThatCannotBeReadInAFolderThatTakesNoNewFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "old");

@@ -1,4 +1,4 @@
-// Attributes, other programs that hold a file, and names of every kind.
+// Attributes, other programs that hold a file, and all kinds of names.
 
 #include <windows.h>
 // gtest.h comes after windows.h, which would undo its macros.
@@ -19,7 +19,7 @@ using test::readBytes;
 using test::TempFolder;
 using test::writeBytes;
 
-// Another program that has the file open and shares it as far as `sharing` says.
+// Another program that has the file open, and shares it as `sharing` says.
 class Holder {
  public:
   Holder(const Path& path, DWORD access, DWORD sharing)
@@ -34,7 +34,7 @@ class Holder {
   HANDLE handle_;
 };
 
-// Holds the file from now on, alone, until the thread that is returned lets it go.
+// Holds the file alone from now on, until the thread that is returned releases it.
 std::thread holdForAMoment(const Path& path) {
   auto holder = std::make_unique<Holder>(path, GENERIC_READ, 0);
   return std::thread([holder = std::move(holder)]() mutable {
@@ -104,7 +104,8 @@ TEST(FilesReplacing, WaitsForAProgramThatLooksAtTheFileForAMoment) {
   EXPECT_EQ(readBytes(folder / "f"), "new");
 }
 
-// A reader that forbids deleting keeps the file from being replaced, but not from being written.
+// A reader that does not share deletion keeps the file from being replaced, but not from being
+// written.
 TEST(FilesReplacing, WritesInPlaceWhereAReaderKeepsTheFile) {
   const TempFolder folder;
   writeBytes(folder / "f", "a longer old content");
@@ -116,7 +117,7 @@ TEST(FilesReplacing, WritesInPlaceWhereAReaderKeepsTheFile) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-// A second name could not be taken away again as long as he has the file.
+// A second name could not be removed again while a reader has the file.
 TEST(FilesReplacing, PutsTheOldFileAsideAsACopyWhereAReaderKeepsIt) {
   const TempFolder folder;
   writeBytes(folder / "f", "a longer old content");
@@ -142,7 +143,7 @@ TEST(FilesReplacing, WritesBesideAProgramThatWritesAndLetsOthersDoSo) {
       EXPECT_FALSE(replaceFile(folder / "f", "new")) << sharing;
     }
     EXPECT_EQ(readBytes(folder / "f"), "new") << sharing;
-    // What the program has open goes when it does not any more.
+    // The file that the program has open goes once it is closed.
     std::string read;
     EXPECT_FALSE(readFile(folder / "f", read, kAnySize)) << sharing;
     EXPECT_EQ(folder.listing(), "f\n") << sharing;
@@ -206,7 +207,7 @@ TEST(FilesReading, DoesNotBringAFileBackThatThePlayerHasDeleted) {
   EXPECT_EQ(folder.listing(), "");
 }
 
-// As long as somebody holds the only copy, nothing takes its place.
+// While somebody holds the only copy, nothing replaces it.
 TEST(FilesReplacing, DoesNotForgetABackupThatIsHeld) {
   const TempFolder folder;
   writeBytes(folder / kBackup, "old");
@@ -244,7 +245,7 @@ TEST(FilesReplacing, LeavesAFolderWithTheNameOfABackupAlone) {
   EXPECT_TRUE(folderExists(folder / kBackup));
 }
 
-// A reader meets the whole old or the whole new content, and never no file.
+// A reader finds the whole old or the whole new content, and always finds a file.
 TEST(FilesReplacing, IsNotNoticedByAReader) {
   const TempFolder folder;
   const std::string contents[] = {std::string(5000, 'a'), std::string(7000, 'b')};
@@ -274,7 +275,7 @@ TEST(FilesReplacing, TakesNamesOutsideTheAnsiCodePage) {
   EXPECT_TRUE(folderExists(inner));
 }
 
-// Those of a temporary file and of a kept one would be longer than a path may be.
+// The paths of a temporary and of a kept file would be too long.
 TEST(FilesReplacing, WritesInPlaceWhereThePathHasNoRoomForALongerOne) {
   const TempFolder folder;
   constexpr std::size_t kLongest = 250;

@@ -1,4 +1,4 @@
-// Files that another program keeps from being opened for a moment, and files that may not grow.
+// Files that another program keeps from being opened for a moment, and files that must not grow.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -23,8 +23,8 @@ using test::writeBytes;
 constexpr useconds_t kAMoment = 60'000;  // microseconds
 constexpr unsigned kForever = 10;        // seconds
 
-// Another process with a lease on a file. The system asks it for the file as soon as somebody wants
-// to open it, and refuses until it is given up.
+// Another process with a lease on a file. The system tells it to give the lease up as soon as
+// somebody wants to open the file, and refuses to open it until then.
 class Leaser {
  public:
   enum class Manner { GivesUp, Keeps };

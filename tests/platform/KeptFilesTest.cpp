@@ -32,8 +32,8 @@ std::vector<std::string> keptFiles(const TempFolder& folder) {
   return names;
 }
 
-// A system that counts what is read, may refuse second names, new files, and exchanges, and tells
-// so many times that somebody is writing what is to be read.
+// A system that records the largest read, can refuse second names, new files, exchanges and moves,
+// and reports `timesHeld` times that somebody is writing what is to be read.
 class Reluctant : public test::PassingFileSystem {
  public:
   FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
@@ -113,7 +113,7 @@ TEST(KeptFiles, AreNotMadeOfNothing) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-// They may be of any size.
+// The files may be of any size.
 TEST(KeptFiles, AreNotRead) {
   const TempFolder folder;
   Reluctant system;
@@ -183,7 +183,7 @@ TEST(KeptFiles, AreNoneWhereTheFolderTakesNoFile) {
   EXPECT_EQ(folder.listing(), "f\n");
 }
 
-// A process that ended between two steps of a save put it aside.
+// A process put the file aside, and ended before the next step of its save.
 TEST(KeptFiles, ThatAreTheFileItselfAreNotWritten) {
   for (const OldContent old : {OldContent::Keep, OldContent::Drop}) {
     for (const bool takesExchanges : {true, false}) {

@@ -15,7 +15,7 @@
 namespace brennet::platform {
 namespace {
 
-// The folder for them lies in one that is this test's alone.
+// The folder for kept files is in one that belongs to this test alone.
 class KeptWriteTest : public testing::Test {
  protected:
   KeptWriteTest() {

@@ -8,7 +8,7 @@
 namespace brennet::platform {
 namespace {
 
-// There are no more open files than now.
+// While it exists, no more files can be opened.
 class NoMoreFiles {
  public:
   NoMoreFiles() {

@@ -16,7 +16,8 @@ namespace {
 using test::readBytes;
 using test::writeBytes;
 
-// Tells of fewer bytes than there will be, and moves only so many at a time.
+// Reports `sizeAtFirst` as the size of a file, as if the rest came later, and moves at most `part`
+// bytes at a time.
 class InParts : public test::PassingFileSystem {
  public:
   InParts(std::uint64_t sizeAtFirst, std::size_t part) : sizeAtFirst_(sizeAtFirst), part_(part) {}

@@ -15,7 +15,7 @@ constexpr std::string_view kName = "brennet-test.undo";
 constexpr std::string_view kOther = "brennet-test-2.undo";
 constexpr std::uint64_t kLimit = 100;
 
-// In a folder of the test's own, where there is a choice.
+// Uses a folder of the test's own where the system offers the choice.
 class PrivateFileTest : public testing::Test {
  protected:
   ~PrivateFileTest() override {

@@ -1,4 +1,4 @@
-// The text of .reg files: what is read, what is passed over, and that writing loses nothing.
+// The text of .reg files: what is read and what is skipped, and that writing loses nothing.
 
 #include "platform/RegFile.h"
 
@@ -25,7 +25,7 @@ std::string asUtf16(const std::string& text) {
   return bytes;
 }
 
-// A file whose lines behind the one of the key are `lines`, which are ASCII.
+// A file whose lines after that of the key are `lines`, which are ASCII.
 RegFile fileWith(const std::string& lines) {
   RegFile file;
   EXPECT_TRUE(file.merge(asUtf16(kUnicodeHead + lines)));
@@ -144,13 +144,13 @@ TEST(RegFileText, DoesNotTakeAKeyForMoreBytes) {
 }
 
 TEST(RegFileText, IsReadInTheAnsiCodePage) {
-  // The second byte of the pair 0x81 0x5C is a backslash, and that of 0xD0 0xBB none.
+  // The second byte of the pair 0x81 0x5C is a backslash, that of 0xD0 0xBB is not.
   RegFile file;
   ASSERT_TRUE(file.merge(kAnsiHead + "\"\xD0\xBB\x81\x5C\"=hex(1):d0,bb,00\r\n"s));
   const RegistryValue* const value = file.find(kKey, u"\u8C22\u4E57");
   ASSERT_NE(value, nullptr);
   EXPECT_EQ(value->data, textData(u"\u8C22"));
-  // So are texts with variables, and lists of texts; other bytes are no texts.
+  // The same for texts with variables and lists of texts; other bytes are not texts.
   ASSERT_TRUE(file.merge(kAnsiHead + "\"E\"=hex(2):d0,bb\r\n\"L\"=hex(7):d0,bb\r\n"
                                      "\"B\"=hex(8):d0,bb\r\n"s));
   EXPECT_EQ(valueIn(file, kKey, u"E"), (RegistryValue{2, textData(u"\u8C22").substr(0, 2)}));

@@ -1,4 +1,4 @@
-// The file that stands for the registry, where it is none.
+// The file that stands for the registry on systems without one.
 
 #include <gtest/gtest.h>
 

@@ -22,7 +22,7 @@ TEST(RegistryHandles, AreClosedWithTheirKeys) {
     EXPECT_TRUE(key.read(u"N").known);
     EXPECT_TRUE(key.remove(u"N"));
   };
-  // With the first key the system opens what it needs itself.
+  // The first key makes the system open handles for itself.
   use();
   const std::size_t before = test::openHandles();
   {

@@ -1,4 +1,4 @@
-// How a file takes the place of another while the system, or somebody else, is in the way.
+// How a file takes the place of another while the system or somebody else is in the way.
 
 #include "platform/Replacement.h"
 
@@ -25,7 +25,7 @@ FileError obstacle(Obstacle kind) {
 
 constexpr int kTries = Patience::kPauses + 1;
 
-// A system in which others do something at an exchange and while this process waits.
+// A system in which others do something at an exchange or a move, and while this process waits.
 class Crowded : public test::PassingFileSystem {
  public:
   FileError exchange(const Path& replacement, const Path& path, const Path& backup) override {
@@ -42,7 +42,7 @@ class Crowded : public test::PassingFileSystem {
     if (whileWaiting) whileWaiting();
   }
 
-  // Of a system that follows links only when it opens files, where that is wanted.
+  // Without `resolvesLinks`, a link is followed only when a file is opened for Creating.
   FileError open(const Path& path, OpenFor purpose, FileHandle& file, FileFacts& facts) override {
     const bool follows = !resolvesLinks && purpose == OpenFor::Creating;
     return PassingFileSystem::open(follows ? PassingFileSystem::resolved(path) : path, purpose,

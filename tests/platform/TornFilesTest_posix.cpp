@@ -1,4 +1,5 @@
-// Links, rights and owners, as far as the functions above the system count on them.
+// Torn files on the real file system, and the links, rights and owners that putting them right
+// depends on.
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -71,7 +72,7 @@ TEST(TornFilesOfTheSystem, FollowsLinksToTheEnd) {
   EXPECT_EQ(system.resolved(folder / "round"), folder / "round");
 }
 
-// A folder for temporary files of the test's own.
+// Gives the test a folder of its own for temporary files.
 class ScopedTemporaries {
  public:
   ScopedTemporaries() : before_(std::filesystem::temp_directory_path()) {
@@ -86,7 +87,7 @@ class ScopedTemporaries {
   TempFolder folder_;
 };
 
-// Keeps an unfinished write, as a process leaves it that ends, and tears the file.
+// Keeps an unfinished write as a process leaves it that ends, and tears the file.
 void tear(const Path& path, const char* torn) {
   Patience patience;
   KeptWrite kept(operatingSystem(), patience, path);
@@ -119,7 +120,7 @@ TEST(TornFiles, IsPutRightByWhateverNameItIsRead) {
   EXPECT_FALSE(pathExists(operatingSystem().privateFolder()));
 }
 
-// The name by which it was written is still one of the file, but no longer the one that is found.
+// The name by which it was written still leads to the file, but is no longer its identity.
 TEST(TornFiles, IsPutRightWhereItsFolderHasMovedAndALinkHasItsName) {
   const ScopedTemporaries temporaries;
   const TempFolder folder;
@@ -168,7 +169,7 @@ TEST(TornFiles, IsNotBelievedFromAFolderThatOthersMayEnter) {
   std::string read;
   EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
   EXPECT_EQ(read, "the new one");
-  // Nor is anything kept there.
+  // Nothing is kept there either.
   ASSERT_EQ(link((folder / "f").c_str(), (folder / "second").c_str()), 0);
   EXPECT_TRUE(replaceFile(folder / "f", "newer"));
   EXPECT_EQ(readBytes(folder / "f"), "the new one");
@@ -191,7 +192,7 @@ TEST(TornFiles, WaitsForTheProcessThatIsWritingIt) {
   EXPECT_FALSE(readFile(folder / "f", read, kAnySize));
 }
 
-// A system on which writing one file fails so many times, after a part of the first write.
+// A system on which writing one file fails `failures` times, after half of the first write.
 class AFailingFile : public test::PassingFileSystem {
  public:
   AFailingFile(Path path, int failures) : path_(std::move(path)), failures_(failures) {}
@@ -224,7 +225,7 @@ struct FailureRow {
   bool isKept;
 };
 
-// What the file held is kept as long as it could not be put back, and not a moment longer.
+// The old content is kept until it could be put back, and not a moment longer.
 TEST(TornFilesFailedWrite, KeepsTheOldContentUntilItIsPutBack) {
   constexpr FailureRow kRows[] = {{1, "the old one", false}, {2, "the nld one", true}};
   for (const FailureRow& row : kRows) {

@@ -45,7 +45,7 @@ TEST(TornWrite, IsNoneWhereAnyByteIsMissingOrAnother) {
   EXPECT_FALSE(TornWrite::parse(kept + "x").has_value());
 }
 
-// The sum behind a kept file, as its format has it: FNV-1a, the lowest byte first.
+// Appends the checksum to a kept file as the format says: FNV-1a, the lowest byte first.
 std::string withSum(std::string kept) {
   std::uint64_t sum = 14695981039346656037ULL;
   for (const char byte : kept) sum = (sum ^ static_cast<unsigned char>(byte)) * 1099511628211ULL;
@@ -53,7 +53,8 @@ std::string withSum(std::string kept) {
   return kept;
 }
 
-// Whole by their sum, and yet no kept file. Nothing stands behind them that could be read.
+// Their checksums are right, and yet they are no kept files. No memory that could be read follows
+// them.
 TEST(TornWrite, IsNoneWhereANumberIsMissingOrTooLarge) {
   const std::string none(8, '\xFF');
   const std::string zero(8, '\0');

@@ -7,7 +7,7 @@
 
 namespace brennet::test {
 
-// The rights of all files that were written to, as they were then.
+// The rights that files had when they were written to, all of them together.
 extern mode_t writtenModes;
 
 }  // namespace brennet::test
@@ -22,7 +22,7 @@ using test::writtenModes;
 
 using WrittenRightsTest = test::FileFaultsFixture;
 
-// Until it has the rights of the old file, and also where it gets fewer for good.
+// Until it gets the rights of the old file, whatever those are.
 TEST_F(WrittenRightsTest, IsWrittenForItsOwnerAlone) {
   for (const mode_t mode : {0600U, 0644U, 0666U}) {
     writeBytes(path(), "old");
