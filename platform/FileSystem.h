@@ -12,7 +12,7 @@
 // and put right is written once, above these calls; tests put implementations of their own below.
 namespace brennet::platform {
 
-// Why a call failed, as far as the code above makes a difference.
+// Why a call failed, as far as the code above distinguishes that.
 enum class Obstacle {
   None,
   Missing,  // there is no such file, or no folder for it

@@ -45,11 +45,11 @@ class Patience;
 // Old content that can neither be replaced nor get its name back stays under that name until the
 // next call.
 //
-// Temporary files of processes that have ended are removed.
+// Temporary files are removed if their process has ended or if they are an hour old.
 //
 // Returns the first error of any step, a failed flush of the content included, or an empty one. Two
 // failures are not reported: that the name of a file that has taken its place could not be brought
-// to the disk, and, after two attempts, that the record of a write in place could not be cleared
+// to the disk, and, after two attempts, that what was kept of a write in place could not be cleared
 // there. After a power loss the old content may then be back, or no file where there was none.
 // After an error the old content is there, or is put back by the next call, and no temporary file
 // is left. Throws std::bad_alloc, and then has changed nothing.
@@ -58,8 +58,8 @@ class Patience;
 [[nodiscard]] std::error_code replaceFile(const Path& path, std::string_view bytes, OldContent old,
                                           Patience& patience);
 
-// Removes temporary files beside `path` whose processes have ended, as replaceFile does; for a file
-// that needs no replacement. Throws std::bad_alloc.
+// Removes such temporary files beside `path`, as replaceFile does; for a file that needs no
+// replacement. Throws std::bad_alloc.
 void removeLeftovers(const Path& path);
 
 // Whether anything exists at `path`, a file or a folder.

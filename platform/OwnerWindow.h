@@ -16,7 +16,7 @@ struct OwnerWindows {
 // above, where they are enabled.
 [[nodiscard]] OwnerWindows disableOwnerWindows();
 
-// Where a window stands: in pixels of all screens together, whatever their scales.
+// Where a window is, in pixels on the desktop of all screens, whatever their scales.
 struct WindowFrame {
   int left;
   int top;

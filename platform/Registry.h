@@ -50,7 +50,7 @@ class RegistryKey {
   bool remove(std::u16string_view name);
 
   // Brings to the disk what was written and removed, which the system would do by itself a little
-  // later. Returns whether it is there.
+  // later. Returns whether that is done.
   bool flush();
 
  private:

@@ -27,7 +27,7 @@ bool isOwner(HWND window) {
 
 BOOL CALLBACK stopAtOwner(HWND window, LPARAM found) {
   if (!isOwner(window)) return TRUE;
-  // Windows passes on what it is given as a number.
+  // Windows hands the pointer on as a number.
   *reinterpret_cast<HWND*>(found) = window;  // NOLINT(performance-no-int-to-ptr)
   return FALSE;
 }
