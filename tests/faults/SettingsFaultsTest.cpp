@@ -166,7 +166,8 @@ TEST_P(SettingsFaults, OfASaveLeaveItWholeAndTruthful) {
         begin();
         in_->faulty.plan(call, fault, obstacle);
         const Told told = save();
-        checkNextSession(told, described(*in_, call) + (fault == Fault::Fails ? " once" : " ever"));
+        checkNextSession(told,
+                         described(*in_, call) + (fault == Fault::Fails ? " once" : " for good"));
         if (HasFailure()) return;
       }
     }

@@ -137,7 +137,7 @@ TEST_F(CodePagesTestSystem, TellOfLossesWhereKernel32DoesNot) {
     EXPECT_NE(bytes.find('?'), std::string::npos);
   }
   std::string bytes;
-  EXPECT_FALSE(encode(kLongPage, u"???", bytes)) << "they are no losses";
+  EXPECT_FALSE(encode(kLongPage, u"???", bytes)) << "question marks are not losses";
 }
 
 // Each call of a conversion fails in turn.

@@ -201,7 +201,7 @@ TEST_F(FileFaultsInterruption, ThatTakesTheOldFileAwayLeavesTheNewOne) {
   EXPECT_FALSE(replaceFile(path(), kNew));
   EXPECT_EQ(readBytes(path()), kNew);
   EXPECT_EQ(replacedFiles, before);
-  EXPECT_EQ(moveFlags, DWORD{MOVEFILE_WRITE_THROUGH}) << "not moved, or in another way";
+  EXPECT_EQ(moveFlags, DWORD{MOVEFILE_WRITE_THROUGH}) << "not moved, or moved in another way";
   EXPECT_EQ(folder_.listing(), "away\nf\n");
 }
 

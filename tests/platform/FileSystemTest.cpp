@@ -82,7 +82,7 @@ TEST(FileSystem, WritesAndCutsAtThePlaceItIsTold) {
   EXPECT_EQ(count, 2U);
   EXPECT_FALSE(file.reserve(1000));
   EXPECT_FALSE(file.flush());
-  EXPECT_EQ(readBytes(folder / "f"), "0123xy6789") << "room that is made does not show";
+  EXPECT_EQ(readBytes(folder / "f"), "0123xy6789") << "reserved room does not show";
   EXPECT_FALSE(file.resize(7));
   EXPECT_FALSE(file.close());
   EXPECT_EQ(readBytes(folder / "f"), "0123xy6");
@@ -127,9 +127,9 @@ TEST(FileSystem, HasAFolderForOneUser) {
   const TempFolder folder;
   FileSystem& system = operatingSystem();
   EXPECT_EQ(system.checkPrivateFolder(folder / "own").obstacle, Obstacle::Missing);
-  EXPECT_EQ(folder.listing(), "") << "who asks makes none";
+  EXPECT_EQ(folder.listing(), "") << "asking creates none";
   EXPECT_FALSE(system.createPrivateFolder(folder / "own"));
-  EXPECT_FALSE(system.createPrivateFolder(folder / "own")) << "it is there, and his own";
+  EXPECT_FALSE(system.createPrivateFolder(folder / "own")) << "it exists, and is his own";
   EXPECT_FALSE(system.checkPrivateFolder(folder / "own"));
   writeBytes(folder / "file", "");
   EXPECT_EQ(system.createPrivateFolder(folder / "file").obstacle, Obstacle::Denied);
@@ -156,7 +156,7 @@ TEST(FileSystem, ListsWhatStandsInAFolder) {
   EXPECT_EQ(names, (std::set<std::string>{"f", "g"}));
   const auto visit = [](const Path& name) { ADD_FAILURE() << name; };
   EXPECT_EQ(operatingSystem().list(folder / "missing", visit).obstacle, Obstacle::Missing);
-  EXPECT_TRUE(operatingSystem().list(folder / "f", visit)) << "no folder";
+  EXPECT_TRUE(operatingSystem().list(folder / "f", visit)) << "not a folder";
 }
 
 TEST(FileSystem, KnowsOneNameForAllSpellingsOfAPath) {

@@ -198,7 +198,7 @@ TEST(FileSystemLooking, TellsTheAge) {
   };
   EXPECT_GE(aged(500), 500U);
   EXPECT_LT(aged(500), 5000U);
-  EXPECT_EQ(aged(-500), 0U) << "written in a time to come";
+  EXPECT_EQ(aged(-500), 0U) << "written in the future";
 }
 
 TEST(FileSystemPrivateFolders, AreThisUsersAlone) {
@@ -323,9 +323,9 @@ TEST(FileSystemIdentities, AreTheSameForAllSpellings) {
 TEST(FileSystemProcesses, AreRunningOrNot) {
   EXPECT_EQ(sys().process(), static_cast<unsigned long>(getpid()));
   EXPECT_TRUE(sys().isRunning(sys().process()));
-  EXPECT_TRUE(sys().isRunning(1)) << "another user's, as a rule";
+  EXPECT_TRUE(sys().isRunning(1)) << "usually another user's";
   EXPECT_FALSE(sys().isRunning(0));
-  EXPECT_FALSE(sys().isRunning(INT_MAX)) << "more than there are";
+  EXPECT_FALSE(sys().isRunning(INT_MAX)) << "larger than any process number";
   EXPECT_FALSE(sys().isRunning(static_cast<unsigned long>(INT_MAX) + 1 + sys().process()));
 }
 

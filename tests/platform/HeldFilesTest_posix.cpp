@@ -88,7 +88,7 @@ TEST(HeldFilesReadFile, TellsOfALeaseThatIsNot) {
   std::string read;
   const std::error_code error = readFile(folder / "f", read, kAnySize);
   EXPECT_EQ(static_cast<bool>(error), leaser.hasLease());
-  EXPECT_FALSE(isMissing(error)) << "taken for a file that is not there";
+  EXPECT_FALSE(isMissing(error)) << "taken for a missing file";
 }
 
 TEST(HeldFilesReplaceFile, WaitsForALeaseThatIsGivenUp) {

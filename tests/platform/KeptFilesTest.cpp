@@ -178,7 +178,7 @@ TEST(KeptFiles, AreNoneWhereTheFolderTakesNoFile) {
   system.takesLinks = false;
   writeBytes(folder / "f", "damaged");
   EXPECT_FALSE(replaceFileOn(system, patience, folder / "f", "new", OldContent::Keep))
-      << "it goes on";
+      << "the save goes on";
   EXPECT_EQ(readBytes(folder / "f"), "new");
   EXPECT_EQ(folder.listing(), "f\n");
 }
