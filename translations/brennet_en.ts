@@ -652,6 +652,10 @@ Do you want to go on?</translation>
         <source>您的设置中有 %1 个按键无法使用：%2</source>
         <translation>%1 keys of your settings could not be used: %2</translation>
     </message>
+    <message>
+        <source>查看按键</source>
+        <translation>Keys in use</translation>
+    </message>
 </context>
 <context>
     <name>CHotkeySettingPage</name>
@@ -1071,6 +1075,205 @@ Do you want to go on?</translation>
     <message>
         <source>%1（在“快捷喊话设置”中）</source>
         <translation>%1 (under &quot;Chat settings&quot;)</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapWindow</name>
+    <message>
+        <source>查看按键</source>
+        <translation>Keys in use</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>复制图片</source>
+        <translation>Copy as picture</translation>
+    </message>
+    <message>
+        <source>保存图片...</source>
+        <translation>Save picture...</translation>
+    </message>
+    <message>
+        <source>键盘图</source>
+        <translation>Keyboard</translation>
+    </message>
+    <message>
+        <source>搜索按键</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>排序方式</source>
+        <translation>Order of the list</translation>
+    </message>
+    <message>
+        <source>使用中的按键</source>
+        <translation>Keys in use</translation>
+    </message>
+    <message>
+        <source>技%1</source>
+        <translation>S%1</translation>
+    </message>
+    <message>
+        <source>物%1</source>
+        <translation>I%1</translation>
+    </message>
+    <message>
+        <source>令%1</source>
+        <translation>O%1</translation>
+    </message>
+    <message>
+        <source>话%1</source>
+        <translation>C%1</translation>
+    </message>
+    <message>
+        <source>主窗口</source>
+        <translation>Main window</translation>
+    </message>
+    <message>
+        <source>快捷喊话设置</source>
+        <translation>Chat settings</translation>
+    </message>
+    <message>
+        <source>%1：直接按下时无作用（%2）</source>
+        <translation>%1: does nothing by itself (%2)</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1：%2 → 发送 %3</source>
+        <translation>%1: %2 → sends %3</translation>
+    </message>
+    <message>
+        <source>%1：%2，与 %4 同时按下 → 发送 %3</source>
+        <translation>%1: %2, together with %4 → sends %3</translation>
+    </message>
+    <message>
+        <source>%1 → %2</source>
+        <translation>%1 → %2</translation>
+    </message>
+    <message>
+        <source>%1：空闲</source>
+        <translation>%1: nothing, it is free</translation>
+    </message>
+    <message>
+        <source>%1：不能用作快捷键</source>
+        <translation>%1: cannot be a hotkey</translation>
+    </message>
+    <message>
+        <source>英雄技能</source>
+        <translation>Hero skills</translation>
+    </message>
+    <message>
+        <source>物品</source>
+        <translation>Items</translation>
+    </message>
+    <message>
+        <source>改键：按下的键</source>
+        <translation>Remap: key to press</translation>
+    </message>
+    <message>
+        <source>改键：发送的键</source>
+        <translation>Remap: key to send</translation>
+    </message>
+    <message>
+        <source>命令和选择</source>
+        <translation>Orders and selections</translation>
+    </message>
+    <message>
+        <source>选项</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>喊话</source>
+        <translation>Chat</translation>
+    </message>
+    <message>
+        <source>Orrery</source>
+        <translation>Orrery</translation>
+    </message>
+    <message>
+        <source>Orrery设置</source>
+        <translation>Orrery settings</translation>
+    </message>
+    <message>
+        <source>快捷喊话</source>
+        <translation>Quick chat</translation>
+    </message>
+    <message>
+        <source>设置文件</source>
+        <translation>Settings file</translation>
+    </message>
+    <message>
+        <source>鼠标滚轮</source>
+        <translation>mouse wheel</translation>
+    </message>
+    <message>
+        <source>→改%1</source>
+        <translation>→R%1</translation>
+    </message>
+    <message>
+        <source>改%1→</source>
+        <translation>R%1→</translation>
+    </message>
+    <message>
+        <source>→组</source>
+        <translation>→Cmb</translation>
+    </message>
+    <message>
+        <source>组→</source>
+        <translation>Cmb→</translation>
+    </message>
+    <message>
+        <source>览%1</source>
+        <translation>Orr%1</translation>
+    </message>
+    <message>
+        <source>话</source>
+        <translation>Chat</translation>
+    </message>
+    <message>
+        <source>项</source>
+        <translation>Opt</translation>
+    </message>
+    <message>
+        <source>按按键排序</source>
+        <translation>By key</translation>
+    </message>
+    <message>
+        <source>按位置排序</source>
+        <translation>By place</translation>
+    </message>
+    <message>
+        <source>按键</source>
+        <translation>Key</translation>
+    </message>
+    <message>
+        <source>作用</source>
+        <translation>What it does</translation>
+    </message>
+    <message>
+        <source>设置于</source>
+        <translation>Set in</translation>
+    </message>
+    <message>
+        <source>按任意键或滚动滚轮，即可查看它的作用。Shift+Tab 离开键盘图。</source>
+        <translation>Press any key or turn the wheel to see what it does. Shift+Tab leaves the keyboard.</translation>
+    </message>
+    <message>
+        <source>保存图片</source>
+        <translation>Save picture</translation>
+    </message>
+    <message>
+        <source>图片无法保存：%1</source>
+        <translation>The picture could not be saved: %1</translation>
+    </message>
+    <message>
+        <source>无修饰键</source>
+        <translation>Plain</translation>
     </message>
 </context>
 <context>

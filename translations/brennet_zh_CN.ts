@@ -651,6 +651,10 @@ Are you sure to continue?</source>
         <source>您的设置中有 %1 个按键无法使用：%2</source>
         <translation>您的设置中有 %1 个按键无法使用：%2</translation>
     </message>
+    <message>
+        <source>查看按键</source>
+        <translation>查看按键</translation>
+    </message>
 </context>
 <context>
     <name>CHotkeySettingPage</name>
@@ -1070,6 +1074,205 @@ Are you sure to continue?</source>
     <message>
         <source>%1（在“快捷喊话设置”中）</source>
         <translation>%1（在“快捷喊话设置”中）</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapWindow</name>
+    <message>
+        <source>查看按键</source>
+        <translation>查看按键</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>复制图片</source>
+        <translation>复制图片</translation>
+    </message>
+    <message>
+        <source>保存图片...</source>
+        <translation>保存图片...</translation>
+    </message>
+    <message>
+        <source>键盘图</source>
+        <translation>键盘图</translation>
+    </message>
+    <message>
+        <source>搜索按键</source>
+        <translation>搜索按键</translation>
+    </message>
+    <message>
+        <source>排序方式</source>
+        <translation>排序方式</translation>
+    </message>
+    <message>
+        <source>使用中的按键</source>
+        <translation>使用中的按键</translation>
+    </message>
+    <message>
+        <source>技%1</source>
+        <translation>技%1</translation>
+    </message>
+    <message>
+        <source>物%1</source>
+        <translation>物%1</translation>
+    </message>
+    <message>
+        <source>令%1</source>
+        <translation>令%1</translation>
+    </message>
+    <message>
+        <source>话%1</source>
+        <translation>话%1</translation>
+    </message>
+    <message>
+        <source>主窗口</source>
+        <translation>主窗口</translation>
+    </message>
+    <message>
+        <source>快捷喊话设置</source>
+        <translation>快捷喊话设置</translation>
+    </message>
+    <message>
+        <source>%1：直接按下时无作用（%2）</source>
+        <translation>%1：直接按下时无作用（%2）</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1：%2 → 发送 %3</source>
+        <translation>%1：%2 → 发送 %3</translation>
+    </message>
+    <message>
+        <source>%1：%2，与 %4 同时按下 → 发送 %3</source>
+        <translation>%1：%2，与 %4 同时按下 → 发送 %3</translation>
+    </message>
+    <message>
+        <source>%1 → %2</source>
+        <translation>%1 → %2</translation>
+    </message>
+    <message>
+        <source>%1：空闲</source>
+        <translation>%1：空闲</translation>
+    </message>
+    <message>
+        <source>%1：不能用作快捷键</source>
+        <translation>%1：不能用作快捷键</translation>
+    </message>
+    <message>
+        <source>英雄技能</source>
+        <translation>英雄技能</translation>
+    </message>
+    <message>
+        <source>物品</source>
+        <translation>物品</translation>
+    </message>
+    <message>
+        <source>改键：按下的键</source>
+        <translation>改键：按下的键</translation>
+    </message>
+    <message>
+        <source>改键：发送的键</source>
+        <translation>改键：发送的键</translation>
+    </message>
+    <message>
+        <source>命令和选择</source>
+        <translation>命令和选择</translation>
+    </message>
+    <message>
+        <source>选项</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>喊话</source>
+        <translation>喊话</translation>
+    </message>
+    <message>
+        <source>Orrery</source>
+        <translation>Orrery</translation>
+    </message>
+    <message>
+        <source>Orrery设置</source>
+        <translation>Orrery设置</translation>
+    </message>
+    <message>
+        <source>快捷喊话</source>
+        <translation>快捷喊话</translation>
+    </message>
+    <message>
+        <source>设置文件</source>
+        <translation>设置文件</translation>
+    </message>
+    <message>
+        <source>鼠标滚轮</source>
+        <translation>鼠标滚轮</translation>
+    </message>
+    <message>
+        <source>→改%1</source>
+        <translation>→改%1</translation>
+    </message>
+    <message>
+        <source>改%1→</source>
+        <translation>改%1→</translation>
+    </message>
+    <message>
+        <source>→组</source>
+        <translation>→组</translation>
+    </message>
+    <message>
+        <source>组→</source>
+        <translation>组→</translation>
+    </message>
+    <message>
+        <source>览%1</source>
+        <translation>览%1</translation>
+    </message>
+    <message>
+        <source>话</source>
+        <translation>话</translation>
+    </message>
+    <message>
+        <source>项</source>
+        <translation>项</translation>
+    </message>
+    <message>
+        <source>按按键排序</source>
+        <translation>按按键排序</translation>
+    </message>
+    <message>
+        <source>按位置排序</source>
+        <translation>按位置排序</translation>
+    </message>
+    <message>
+        <source>按键</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>作用</source>
+        <translation>作用</translation>
+    </message>
+    <message>
+        <source>设置于</source>
+        <translation>设置于</translation>
+    </message>
+    <message>
+        <source>按任意键或滚动滚轮，即可查看它的作用。Shift+Tab 离开键盘图。</source>
+        <translation>按任意键或滚动滚轮，即可查看它的作用。Shift+Tab 离开键盘图。</translation>
+    </message>
+    <message>
+        <source>保存图片</source>
+        <translation>保存图片</translation>
+    </message>
+    <message>
+        <source>图片无法保存：%1</source>
+        <translation>图片无法保存：%1</translation>
+    </message>
+    <message>
+        <source>无修饰键</source>
+        <translation>无修饰键</translation>
     </message>
 </context>
 <context>

@@ -12,9 +12,13 @@
 #include "gameside/dota7/RegistryImport.h"
 #include "model/HotkeyConfig.h"
 #include "model/LoadReport.h"
+#include "ui/capture/Dota7FieldText.h"
+#include "ui/capture/RefusalText.h"
 #include "ui/capture/SlotText.h"
 #include "ui/capture/TabOrder.h"
 #include "ui/capture/VirtualKey.h"
+#include "ui/keymap/Dota7KeyMap.h"
+#include "ui/keymap/SchemeKeyMap.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CBasicSettingWidget.h"
@@ -22,6 +26,7 @@
 #include "ui/pages/CDotA7BasicSetting.h"
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/pages/KeyMapWindow.h"
 #include "ui/window/CMsgBox.h"
 #include "ui/window/CNoticeStrip.h"
 #include "ui/window/EventGuard.h"
@@ -52,6 +57,7 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
   setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
   form_->setupUi(this);
   fit_ = new brennet::ScreenFit(*this);
+  fit_->spare(*form_->lblHeader);  // the title says as much
   manager_.beginRun();
   createPages();
   fillForm();
@@ -104,7 +110,8 @@ void CHotkeySettingDlg::fillForm() {
   const bool isThere = index < form_->cmbHotkeySetting->count();
   form_->cmbHotkeySetting->setCurrentIndex(isThere ? index : -1);
   form_->chkUseHotkeySettings->setChecked(config_.enable());
-  for (QLabel* const link : {form_->lblResetToDefaultSetting, form_->lblUseRecommendedSetting}) {
+  for (QLabel* const link :
+       {form_->lblResetToDefaultSetting, form_->lblUseRecommendedSetting, form_->lblKeyMap}) {
     link->installEventFilter(this);
   }
   form_->btnSwitchPlat->hide();
@@ -298,6 +305,37 @@ void CHotkeySettingDlg::onShowDota7HotKeySettingDlg() {
   }
 }
 
+// What is shown is what was set when the window came up; nothing is kept up to date after that.
+void CHotkeySettingDlg::showKeyMap() {
+  leaveField();
+  if (keyMap_ == nullptr) keyMap_ = new KeyMapWindow(this);
+  const bool isDota7 = mode_ == Mode::Dota7;
+  keyMap_->setMap(
+      isDota7 ? brennet::keyMapOf(manager_.settings()) : brennet::keyMapOf(config_.scheme()),
+      isDota7);
+  if (brennet::runWindow(*keyMap_) != QDialog::Accepted || !keyMap_->chosen()) return;
+  leadTo(*keyMap_->chosen());
+}
+
+void CHotkeySettingDlg::leadTo(const brennet::MapTarget& target) {
+  if (const auto* const field = std::get_if<const brennet::Dota7KeyField*>(&target)) {
+    if (!brennet::isDota7ChatKey(**field)) {
+      dota7_->leadTo(**field);
+      return;
+    }
+    dota7Chat_->leadTo(**field);
+    onShowDota7HotKeySettingDlg();
+    return;
+  }
+  const auto slot = std::get<brennet::KeySlot>(target);
+  if (brennet::windowOf(slot) != brennet::KeyWindow::QuickChat) {
+    basic_->leadTo(slot);
+    return;
+  }
+  quickChat_->leadTo(slot.index);
+  onShowHotKeySettingDlg();
+}
+
 // For the keyboard a link is a button: a key that goes down and up on it clicks it.
 bool CHotkeySettingDlg::isLinkClicked(const QLabel& link, const QEvent& event) {
   const auto isItsKey = [&event] {
@@ -326,6 +364,7 @@ bool CHotkeySettingDlg::eventFilter(QObject* watched, QEvent* event) {
     brennet::guarded([&] {
       if (link == form_->lblResetToDefaultSetting) emit resetSetting();
       if (link == form_->lblUseRecommendedSetting) emit useRecommendedSetting();
+      if (link == form_->lblKeyMap) showKeyMap();
     });
   }
   return QDialog::eventFilter(watched, event);

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "ui/keymap/KeyMap.h"
+
 namespace Ui {
 class CHotkeySettingDlg;
 }
@@ -25,6 +27,7 @@ class CChatRouletteSettingWidget;
 class CDotA7BasicSetting;
 class ChatKeySettingWidget;
 class Dota7ChatKeySettingWidget;
+class KeyMapWindow;
 class QLabel;
 class QStackedLayout;
 
@@ -97,6 +100,8 @@ class CHotkeySettingDlg : public QDialog {
   [[nodiscard]] bool applySkin();
   void fitToSkin();
   void showSettings();
+  void showKeyMap();
+  void leadTo(const brennet::MapTarget& target);
   void clearSettings(Mode mode, const brennet::SettingPage* spared = nullptr);
   [[nodiscard]] bool isConfirmed(int icon, const QString& title, const QString& question);
   [[nodiscard]] brennet::DraggableWindow dragged() const;
@@ -115,6 +120,7 @@ class CHotkeySettingDlg : public QDialog {
   CDotA7BasicSetting* dota7_ = nullptr;
   ChatKeySettingWidget* quickChat_ = nullptr;
   Dota7ChatKeySettingWidget* dota7Chat_ = nullptr;
+  KeyMapWindow* keyMap_ = nullptr;  // made when it is first asked for
   std::vector<Page> pages_;
   Mode mode_ = Mode::Platform;
   bool isFirstShow_ = true;

@@ -2,6 +2,7 @@
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "ui/CHotkeySettingDlg.h"
+#include "ui/keymap/SchemeKeyMap.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/pages/CBasicSettingWidget.h"
@@ -10,6 +11,7 @@
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/pages/KeyMapWindow.h"
 
 namespace brennet::test {
 namespace {
@@ -30,6 +32,12 @@ Made orrery(HotkeyConfig& /*config*/, Dota7KeyInfoManager& /*manager*/, QWidget*
   return std::make_unique<COrrerySettingDlg>(parent);
 }
 
+Made keyMap(HotkeyConfig& config, Dota7KeyInfoManager& /*manager*/, QWidget* parent) {
+  auto window = std::make_unique<KeyMapWindow>(parent);
+  window->setMap(keyMapOf(config.scheme()), false);
+  return window;
+}
+
 Made dialog(HotkeyConfig& config, Dota7KeyInfoManager& manager, QWidget* /*parent*/) {
   return std::make_unique<CHotkeySettingDlg>(config, manager);
 }
@@ -43,6 +51,7 @@ constexpr WindowRow kWindows[] = {
     {"COrrerySettingDlg", orrery},
     {"CDotA7BasicSetting", ofRegistry<CDotA7BasicSetting>},
     {"Dota7ChatKeySettingWidget", ofRegistry<Dota7ChatKeySettingWidget>},
+    {"KeyMapWindow", keyMap, true, false},
     {"CHotkeySettingDlg", dialog, false},
 };
 

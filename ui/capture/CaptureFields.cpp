@@ -66,6 +66,16 @@ void CaptureFields::outline(const std::vector<KeySlot>& holders) {
   outline_.show(std::move(fields));
 }
 
+void CaptureFields::leadTo(KeySlot slot) {
+  const auto row = std::ranges::find_if(fields_, [&](const Field& each) {
+    return each.slot == slot && each.field->isVisibleTo(each.field->window());
+  });
+  if (row == fields_.end()) return;
+  outline({slot});
+  row->field->window()->activateWindow();
+  row->field->setFocus(Qt::OtherFocusReason);
+}
+
 void CaptureFields::take(QLineEdit& field, const Capture& capture) {
   if (capture.outcome != Capture::Outcome::Shown) page_.trace(field);
   const std::optional<KeySlot> slot = slotOf(field);

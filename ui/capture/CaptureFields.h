@@ -49,6 +49,10 @@ class CaptureFields {
   // For the event filter of the page: whether the event was consumed.
   bool filter(QObject* watched, QEvent* event);
 
+  // Gives the keyboard to the field that edits this slot, and outlines it until the next press.
+  // Does nothing if there is none, or none that the player ever sees.
+  void leadTo(KeySlot slot);
+
   // Outlines the fields that edit these slots, until the next key is pressed in a field or all are
   // shown anew.
   void outline(const std::vector<KeySlot>& holders);

@@ -62,6 +62,14 @@ void Dota7KeyFields::refresh() {
   }
 }
 
+void Dota7KeyFields::leadTo(const Dota7KeyField& row) {
+  for (const Field& field : fields_) {
+    if (field.row != &row) continue;
+    outline_.show({field.field});
+    field.field->setFocus(Qt::OtherFocusReason);
+  }
+}
+
 void Dota7KeyFields::take(QLineEdit& field, const Capture& capture) {
   Dota7Settings& settings = manager_->settings();
   const Dota7KeyField& row = *rowOf(field);

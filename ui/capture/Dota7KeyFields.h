@@ -34,6 +34,9 @@ class Dota7KeyFields {
   // Shows the keys of the current cast mode.
   void refresh();
 
+  // Gives the keyboard to that field, and outlines it until the next press.
+  void leadTo(const Dota7KeyField& row);
+
   // For the event filter of the page: whether the event was consumed.
   bool filter(QObject* watched, QEvent* event);
 

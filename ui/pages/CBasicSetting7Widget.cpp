@@ -7,6 +7,7 @@
 
 #include "model/RecommendedScheme.h"
 #include "model/SchemeAssignment.h"
+#include "ui/capture/RefusalText.h"
 #include "ui/capture/TabOrder.h"
 #include "ui/pages/BasicCapture.h"
 #include "ui/pages/COrrerySettingDlg.h"
@@ -215,6 +216,16 @@ void CBasicSetting7Widget::useRecommended() {
 void CBasicSetting7Widget::setDota7Offered(bool offered) {
   form_->btnDota7Setting->setVisible(offered);
   form_->lblDota7Setting->setVisible(offered);
+}
+
+void CBasicSetting7Widget::leadTo(brennet::KeySlot slot) {
+  if (slot.setting == brennet::SettingId::NumComboKeyIndex) {
+    presets_.leadToChosen();
+    return;
+  }
+  const bool isInOrrery = brennet::windowOf(slot) == brennet::KeyWindow::Orrery;
+  if (isInOrrery && !orrery_->isVisible()) onClickedOrrerySettingBtn();
+  fields_.leadTo(slot);
 }
 
 bool CBasicSetting7Widget::getEditControlTypeByParseName(const QString& name,

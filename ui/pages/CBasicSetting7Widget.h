@@ -39,6 +39,10 @@ class CBasicSetting7Widget : public QWidget, public brennet::SettingPage {
   // Whether the page has the button for the DotA 7 mode.
   void setDota7Offered(bool offered);
 
+  // Leads the player to the field of a key or the box of a preset, here or in the Orrery window.
+  // Does nothing if there is none.
+  void leadTo(brennet::KeySlot slot);
+
   // Which setting the field of this name edits; writes a trace line.
   bool getEditControlTypeByParseName(const QString& name, brennet::EditControl& control) const;
 

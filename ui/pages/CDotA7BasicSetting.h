@@ -32,6 +32,9 @@ class CDotA7BasicSetting : public QWidget, public brennet::SettingPage {
   // Gives all keys and options their defaults: no key, off, normal cast.
   void clearSettings() override;
 
+  // Leads the player to the field of a key.
+  void leadTo(const brennet::Dota7KeyField& row) { fields_.leadTo(row); }
+
  signals:
   void showDota7HotKeySettingDlg();
 

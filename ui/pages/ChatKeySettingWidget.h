@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QLineEdit>
+
 #include <memory>
 
 #include "ui/capture/CaptureFields.h"
@@ -30,6 +32,9 @@ class ChatKeySettingWidget : public brennet::MovableDialog, public brennet::Sett
   // Chooses Alt+F1 to Alt+F8 and empties all phrases, in the fields and in the current scheme.
   // If one of these keys is used for something else, the player is told and the choice stays.
   void clearSettings() override;
+
+  // Leads the player to a phrase, from 0.
+  void leadTo(std::size_t phrase) { field(phrase).setFocus(Qt::OtherFocusReason); }
 
  protected:
   // Captures keys as the pages do, without a setting to store them in. Installed on nothing: the

@@ -28,6 +28,9 @@ class Dota7ChatKeySettingWidget : public brennet::MovableDialog, public brennet:
   // Writes the phrases as the fields have them.
   void savePhrases();
 
+  // Leads the player to the field of a key.
+  void leadTo(const brennet::Dota7KeyField& row) { keys_.leadTo(row); }
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -40,6 +40,11 @@ void PresetBoxes::refresh() const {
   }
 }
 
+void PresetBoxes::leadToChosen() const {
+  const auto preset = static_cast<std::size_t>(config_->scheme().NumComboKeyIndex);
+  if (preset < boxes_.size()) boxes_[preset]->setFocus(Qt::OtherFocusReason);
+}
+
 std::vector<KeySlot> PresetBoxes::toggled(int preset, bool isChecked) const {
   for (QCheckBox* const box : boxes_) box->setToolTip({});
   if (isChecked) {

@@ -24,6 +24,9 @@ class PresetBoxes {
   // Checks the box that the current scheme has chosen. Stores nothing.
   void refresh() const;
 
+  // Gives the keyboard to the box that the current scheme has chosen, if any.
+  void leadToChosen() const;
+
   // To be called when the box of `preset` was toggled. A checked box unchecks the others; its
   // preset is chosen unless one of its keys is used for something else: then the scheme stays as it
   // was, and a tool tip on the box says why. When no box is checked any more, the items have their

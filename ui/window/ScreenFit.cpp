@@ -105,7 +105,18 @@ void ScreenFit::fitNow(bool moves) const {
 
 void ScreenFit::limitTo(QSize available) const {
   if (content_ == nullptr) return;
-  QLayout& layout = *window_.layout();
+  const QLayout& layout = *window_.layout();
+  if (spared_ != nullptr) spared_->show();
+  limitContent(available);
+  if (spared_ != nullptr && layout.totalSizeHint().width() > available.width()) {
+    spared_->hide();
+    limitContent(available);
+  }
+  window_.resize(layout.totalSizeHint());
+}
+
+void ScreenFit::limitContent(QSize available) const {
+  const QLayout& layout = *window_.layout();
   content_->setLimit({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
   renewSizes(*content_, window_);
   // Twice: when its window gets narrower, a notice takes more lines and so more height.
@@ -114,7 +125,6 @@ void ScreenFit::limitTo(QSize available) const {
     content_->setLimit(available - around);
     renewSizes(*content_, window_);
   }
-  window_.resize(layout.totalSizeHint());
 }
 
 }  // namespace brennet

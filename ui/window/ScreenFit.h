@@ -30,18 +30,23 @@ class ScreenFit : public QObject {
   // comes back where it was.
   void comeUp(const QShowEvent& shown);
 
+  // A widget of the window, which outlives it, that is hidden on screens too narrow for the rest.
+  void spare(QWidget& widget) { spared_ = &widget; }
+
   // To be called when the content of the window has changed while it is shown.
   void refit() { fitAgain(true); }
 
  private:
   void watch();
   void limitTo(QSize available) const;
+  void limitContent(QSize available) const;
   void fitAgain(bool moves);
   void fitNow(bool moves) const;
   void moveTo(QPoint corner) const;
 
   QWidget& window_;
   CPageScroller* content_;
+  QWidget* spared_ = nullptr;
   QPointer<const QWindow> handle_;  // whose screen is watched
   bool isWatching_ = false;         // the screens
 };

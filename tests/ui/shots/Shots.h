@@ -28,6 +28,7 @@ struct Shot {
 [[nodiscard]] QList<Shot> controlShots();
 [[nodiscard]] QList<Shot> dialogShots();
 [[nodiscard]] QList<Shot> dota7Shots();
+[[nodiscard]] QList<Shot> keyMapShots();
 [[nodiscard]] QList<Shot> wheelShots();
 
 }  // namespace brennet::shots
