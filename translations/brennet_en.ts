@@ -1101,7 +1101,7 @@ Do you want to go on?</translation>
     </message>
     <message>
         <source>搜索按键</source>
-        <translation>Search</translation>
+        <translation>Search the keys</translation>
     </message>
     <message>
         <source>排序方式</source>
@@ -1274,6 +1274,10 @@ Do you want to go on?</translation>
     <message>
         <source>无修饰键</source>
         <translation>Plain</translation>
+    </message>
+    <message>
+        <source>搜索：</source>
+        <translation>Search:</translation>
     </message>
 </context>
 <context>

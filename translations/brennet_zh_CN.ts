@@ -1274,6 +1274,10 @@ Are you sure to continue?</source>
         <source>无修饰键</source>
         <translation>无修饰键</translation>
     </message>
+    <message>
+        <source>搜索：</source>
+        <translation>搜索：</translation>
+    </message>
 </context>
 <context>
     <name>QDialogButtonBox</name>

@@ -104,7 +104,8 @@ void KeyMapWindow::setMap(brennet::KeyMap map, bool isDota7) {
   form_->view->setMap(map_, isDota7_);
   form_->optPlain->click();
   form_->txtSearch->clear();
-  showText(tr("按任意键或滚动滚轮，即可查看它的作用。Shift+Tab 离开键盘图。"));
+  text_ = tr("按任意键或滚动滚轮，即可查看它的作用。Shift+Tab 离开键盘图。");
+  showText();
   fillList();
 }
 
@@ -142,21 +143,21 @@ void KeyMapWindow::filterList() {
 }
 
 // There is always room for the same number of lines, so that nothing moves.
-void KeyMapWindow::showText(const QString& text) {
-  QStringList lines = text.split(QLatin1Char('\n')).mid(0, kStoryLines);
+void KeyMapWindow::showText() {
+  QStringList lines = text_.split(QLatin1Char('\n')).mid(0, kStoryLines);
   const QFontMetrics metrics(form_->lblStory->font());
   for (QString& line : lines) {
-    line = metrics.elidedText(line, Qt::ElideRight, form_->view->width());
+    line = metrics.elidedText(line, Qt::ElideRight, form_->lblStory->width());
   }
   while (lines.size() < kStoryLines) lines += QString();
   form_->lblStory->setText(lines.join(QLatin1Char('\n')));
-  form_->lblStory->setToolTip(text);
+  form_->lblStory->setToolTip(text_);
 }
 
 void KeyMapWindow::showStory(MapPress press) {
-  const QString story = brennet::pressStory(map_, press);
-  showText(story);
-  form_->view->setAccessibleDescription(story);
+  text_ = brennet::pressStory(map_, press);
+  showText();
+  form_->view->setAccessibleDescription(text_);
 }
 
 // Closes the window; the dialog leads to the field.
@@ -206,6 +207,11 @@ void KeyMapWindow::askAndSavePicture() {
   if (error.isEmpty()) return;
   CMsgBox::showMessage(this, QMessageBox::Critical, tr("保存图片"),
                        tr("图片无法保存：%1").arg(error), QMessageBox::Ok, QMessageBox::Ok);
+}
+
+void KeyMapWindow::resizeEvent(QResizeEvent* event) {
+  MovableDialog::resizeEvent(event);
+  showText();
 }
 
 void KeyMapWindow::showEvent(QShowEvent* event) {

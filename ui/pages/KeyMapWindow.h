@@ -32,13 +32,14 @@ class KeyMapWindow : public brennet::MovableDialog {
   [[nodiscard]] QString savePicture(const QString& fileName) const;
 
  protected:
+  void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
   void connectForm();
   void fillList();
   void filterList();
-  void showText(const QString& text);
+  void showText();
   void showStory(brennet::MapPress press);
   void choose(const brennet::MapUse& use);
   void clickKey(brennet::MapPress press);
@@ -49,5 +50,6 @@ class KeyMapWindow : public brennet::MovableDialog {
   std::unique_ptr<Ui::KeyMapWindow> form_;
   brennet::KeyMap map_;
   bool isDota7_ = false;
+  QString text_;  // what is told below the keyboard
   std::optional<brennet::MapTarget> chosen_;
 };

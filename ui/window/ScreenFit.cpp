@@ -104,15 +104,20 @@ void ScreenFit::fitNow(bool moves) const {
 }
 
 void ScreenFit::limitTo(QSize available) const {
-  if (content_ == nullptr) return;
-  const QLayout& layout = *window_.layout();
+  const QLayout* const layout = window_.layout();
+  if (content_ == nullptr) {
+    // By itself, Qt leaves a third of the screen free.
+    const bool canGive = layout != nullptr && layout->sizeConstraint() != QLayout::SetFixedSize;
+    if (canGive) window_.resize(layout->totalSizeHint().boundedTo(available));
+    return;
+  }
   if (spared_ != nullptr) spared_->show();
   limitContent(available);
-  if (spared_ != nullptr && layout.totalSizeHint().width() > available.width()) {
+  if (spared_ != nullptr && layout->totalSizeHint().width() > available.width()) {
     spared_->hide();
     limitContent(available);
   }
-  window_.resize(layout.totalSizeHint());
+  window_.resize(layout->totalSizeHint());
 }
 
 void ScreenFit::limitContent(QSize available) const {

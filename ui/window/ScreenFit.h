@@ -21,7 +21,7 @@ namespace brennet {
 class ScreenFit : public QObject {
  public:
   // `window` owns this. A window too large for the screen scrolls in its CPageScroller; without one
-  // it keeps its size.
+  // it gets smaller, as far as its layout allows, or keeps its size if that is fixed.
   explicit ScreenFit(QWidget& window);
 
   // To be called when the window gets the event `shown` and has its final look. A window that

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QImage>
 #include <QLabel>
+#include <QLayout>
 #include <QPushButton>
 #include <QScreen>
 
@@ -14,9 +15,11 @@
 #include "tests/ui/fit/FitWindows.h"
 #include "tests/ui/pages/PageChecks.h"
 #include "ui/CHotkeySettingDlg.h"
+#include "ui/keymap/SchemeKeyMap.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/pages/KeyMapWindow.h"
 #include "ui/window/CMsgBox.h"
 
 namespace brennet::test {
@@ -123,12 +126,35 @@ TEST_P(FitScreensTest, ComesUpWholeInEachOtherWindow) {
     check(*dialog->findChild<Dota7ChatKeySettingWidget*>(), kEnds);
     COrrerySettingDlg orrery;
     check(orrery, {"btnClose"});
+    KeyMapWindow keyMap(dialog.get());
+    keyMap.setMap(keyMapOf(config.scheme()), false);
+    check(keyMap, {"btnClose", "btnSavePicture"});
+    const QSize wanted = keyMap.layout()->totalSizeHint();
+    EXPECT_EQ(keyMap.size(), wanted.boundedTo(available.size())) << "as large as it would be";
     CMsgBox box(QMessageBox::Warning, QCoreApplication::translate("QObject", "IDS_TITLE"),
                 QCoreApplication::translate("QObject", "IDS_GROUP_KEY_USED"), QMessageBox::Ok,
                 dialog.get());
     box.setButtonTexts();
     box.button(QMessageBox::Ok)->setObjectName(QStringLiteral("btnOK"));
     check(box, {"btnClose", "btnOK"});
+  }
+}
+
+// The header has room for the links on any screen, but for its heading only where there is enough.
+TEST_P(FitScreensTest, SparesItsHeadingWhereItIsNarrow) {
+  for (const int width : {560, 1280}) {
+    const TestScreens screens({{{width, 700}}});
+    const auto dialog = showDialog(false);
+    const auto widget = [&](const char* name) {
+      return dialog->findChild<QWidget*>(QLatin1String(name));
+    };
+    for (const char* const name : {"lblResetToDefaultSetting", "lblKeyMap", "btnClose"}) {
+      EXPECT_TRUE((QRegion(widget(name)->rect()) - widget(name)->visibleRegion()).isEmpty())
+          << name;
+    }
+    if (width == 1280) {
+      EXPECT_TRUE(widget("lblHeader")->isVisible());
+    }
   }
 }
 

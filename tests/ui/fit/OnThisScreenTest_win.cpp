@@ -14,9 +14,11 @@
 #include "model/HotkeyConfig.h"
 #include "tests/support/ScopedRegistry.h"
 #include "ui/CHotkeySettingDlg.h"
+#include "ui/keymap/SchemeKeyMap.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/pages/KeyMapWindow.h"
 #include "ui/window/CMsgBox.h"
 
 namespace brennet::test {
@@ -78,6 +80,9 @@ TEST_P(OnThisScreen, TheOtherWindowsAreWhole) {
   expectInside(*dialog.findChild<Dota7ChatKeySettingWidget*>());
   COrrerySettingDlg orrery;
   expectInside(orrery);
+  KeyMapWindow keyMap(&dialog);
+  keyMap.setMap(keyMapOf(config.scheme()), false);
+  expectInside(keyMap);
   CMsgBox box(QMessageBox::Warning, QCoreApplication::translate("QObject", "IDS_TITLE"),
               QCoreApplication::translate("QObject", "IDS_GROUP_KEY_USED"), QMessageBox::Ok,
               &dialog);
