@@ -83,7 +83,8 @@ TEST_F(CHotkeySettingDlgTest, HasItsChildrenInTheirOrder) {
   pages.erase(std::remove_if(pages.begin(), pages.end(),
                              [](const QString& type) { return type.startsWith(u'Q'); }),
               pages.end());
-  EXPECT_EQ(pages, expected);
+  EXPECT_EQ(pages, expected) << "hosts know the pages by their order: make a new one last in "
+                                "createPages(), and add it here";
 }
 
 TEST_F(CHotkeySettingDlgTest, HasTwoPagesInItsStack) {

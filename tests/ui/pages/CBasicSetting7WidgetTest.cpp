@@ -92,7 +92,7 @@ TEST_F(CBasicSetting7WidgetTest, HasItsTexts) {
                           QStringLiteral(u"游戏设置"),   QStringLiteral(u"小键盘组合快捷键")};
   groups.sort();
   expected.sort();
-  EXPECT_EQ(groups, expected);
+  EXPECT_EQ(groups, expected) << "add the title of a new group to this list";
 }
 
 TEST_F(CBasicSetting7WidgetTest, ShowsTheSkillsWhereTheGameHasThem) {
