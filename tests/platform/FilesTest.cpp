@@ -180,6 +180,17 @@ TEST(FilesPathExists, ForFilesAndFolders) {
 }
 
 // Both contents would be in memory, in more than one copy.
+TEST(FilesIsFileLarger, ThanSoManyBytes) {
+  const TempFolder folder;
+  writeBytes(folder / "f", "12345");
+  EXPECT_TRUE(isFileLarger(folder / "f", 0));
+  EXPECT_TRUE(isFileLarger(folder / "f", 4));
+  EXPECT_FALSE(isFileLarger(folder / "f", 5));
+  EXPECT_FALSE(isFileLarger(folder / "f", 6));
+  EXPECT_FALSE(isFileLarger(folder / "missing", 0));
+  EXPECT_FALSE(isFileLarger(folder.path(), 0));
+}
+
 TEST(FilesReplaceFile, DoesNotWriteLargeFilesInPlace) {
   constexpr std::uint64_t kLimit = 64U << 20U;  // bytes
   const TempFolder folder;

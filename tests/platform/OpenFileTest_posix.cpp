@@ -41,6 +41,21 @@ class InParts : public test::PassingFileSystem {
   std::size_t part_;
 };
 
+// Reads only so many times.
+class Failing : public test::PassingFileSystem {
+ public:
+  explicit Failing(int readings) : readings_(readings) {}
+
+  FileError read(FileHandle file, std::uint64_t offset, char* bytes, std::size_t size,
+                 std::size_t& count) override {
+    if (readings_-- == 0) return {Obstacle::Other, std::make_error_code(std::errc::io_error)};
+    return PassingFileSystem::read(file, offset, bytes, std::min(size, std::size_t{7}), count);
+  }
+
+ private:
+  int readings_;
+};
+
 std::string someBytes() {
   std::string bytes;
   for (int i = 0; i < 1000; ++i) bytes.push_back(static_cast<char>(i * 7));
@@ -77,6 +92,21 @@ TEST(OpenFile, IsReadFromItsStart) {
       std::string bytes = "before";
       EXPECT_FALSE(file.readStart(bytes, size));
       EXPECT_EQ(bytes, content.substr(0, size)) << size << ' ' << part;
+    }
+  }
+}
+
+TEST(OpenFile, GivesNothingAfterAnError) {
+  const test::TempFolder folder;
+  writeBytes(folder / "f", someBytes());
+  for (const int readings : {0, 1, 5}) {
+    for (const bool isWhole : {true, false}) {
+      Failing system(readings);
+      OpenFile file(system);
+      ASSERT_FALSE(file.open(folder / "f", OpenFor::Reading));
+      std::string bytes = "before";
+      EXPECT_TRUE(isWhole ? file.readAll(bytes, 1000) : file.readStart(bytes, 500));
+      EXPECT_EQ(bytes, "") << readings << isWhole;
     }
   }
 }

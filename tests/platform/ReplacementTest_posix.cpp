@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "platform/Patience.h"
 #include "tests/support/PassingFileSystem.h"
@@ -30,8 +31,19 @@ class Crowded : public test::PassingFileSystem {
  public:
   FileError exchange(const Path& replacement, const Path& path, const Path& backup) override {
     ++exchanges;
-    const FileError error = beforeExchange ? beforeExchange(path, backup) : FileError();
-    return error ? error : PassingFileSystem::exchange(replacement, path, backup);
+    FileError error = beforeExchange ? beforeExchange(path, backup) : FileError();
+    if (error) return error;
+    error = PassingFileSystem::exchange(replacement, path, backup);
+    if (afterExchange) afterExchange(replacement);
+    return error;
+  }
+  FileError flush(FileHandle file) override {
+    const FileError error = beforeFlush ? std::exchange(beforeFlush, {})() : FileError();
+    return error ? error : PassingFileSystem::flush(file);
+  }
+  FileError lock(FileHandle file, Sharing sharing) override {
+    const FileError error = beforeLock ? beforeLock(sharing) : FileError();
+    return error ? error : PassingFileSystem::lock(file, sharing);
   }
   FileError move(const Path& from, const Path& to) override {
     const FileError error = beforeMove ? beforeMove(from, to) : FileError();
@@ -54,6 +66,9 @@ class Crowded : public test::PassingFileSystem {
 
   bool resolvesLinks = true;
   std::function<FileError(const Path& path, const Path& backup)> beforeExchange;
+  std::function<void(const Path& replacement)> afterExchange;
+  std::function<FileError()> beforeFlush;
+  std::function<FileError(Sharing sharing)> beforeLock;
   std::function<FileError(const Path& from, const Path& to)> beforeMove;
   std::function<void()> whileWaiting;
   int exchanges = 0;
@@ -227,6 +242,44 @@ TEST_F(ReplacementTest, StartsAgainWhereAFileHasComeMeanwhile) {
   EXPECT_EQ(system_.exchanges, 1);
   EXPECT_EQ(readBytes(path_), "new");
   EXPECT_EQ(folder_.listing(), "f\n");
+}
+
+// What the player would lose is not written over.
+TEST_F(ReplacementTest, DoesNotWriteInPlaceWhatCouldNotBePutAside) {
+  std::filesystem::create_hard_link(path_, folder_ / "second");
+  system_.beforeFlush = [] { return obstacle(Obstacle::Other); };
+  Patience patience;
+  EXPECT_TRUE(replaceFileOn(system_, patience, path_, "new", OldContent::Keep));
+  EXPECT_EQ(readBytes(path_), "old");
+  EXPECT_EQ(folder_.listing(), "f\nsecond\n");
+}
+
+// The name is free at once, and what another process puts there is not ours to remove.
+TEST_F(ReplacementTest, LeavesItsTemporaryNameToOthers) {
+  Path name;
+  system_.afterExchange = [&](const Path& replacement) {
+    name = replacement;
+    writeBytes(name, "another's");
+  };
+  EXPECT_FALSE(replace());
+  EXPECT_EQ(readBytes(path_), "new");
+  EXPECT_EQ(readBytes(name), "another's");
+}
+
+// A process of ours that writes the file in place locks it for that.
+TEST_F(ReplacementTest, DoesNotExchangeAFileThatIsLocked) {
+  bool isLocked = true;
+  system_.beforeLock = [&](Sharing sharing) {
+    return isLocked && sharing == Sharing::Together ? obstacle(Obstacle::Held) : FileError();
+  };
+  system_.beforeExchange = [&](const Path&, const Path&) {
+    EXPECT_FALSE(isLocked);
+    return FileError();
+  };
+  system_.whileWaiting = [&] { isLocked = false; };
+  EXPECT_FALSE(replace());
+  EXPECT_EQ(system_.pauses, 1);
+  EXPECT_EQ(readBytes(path_), "new");
 }
 
 TEST_F(ReplacementTest, WaitsForABackupToBecomeTheFile) {
