@@ -1,14 +1,16 @@
 #include "ui/capture/Dota7KeyFields.h"
 
-#include <QEvent>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QStringList>
+#include <QToolTip>
 #include <utility>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "ui/capture/Dota7FieldText.h"
 #include "ui/capture/RefusalText.h"
 #include "ui/capture/SlotCapture.h"
+#include "ui/window/EventGuard.h"
 #include "ui/window/Text.h"
 
 namespace brennet {
@@ -51,7 +53,37 @@ void Dota7KeyFields::install(const QWidget& window, QObject& page) {
 
 bool Dota7KeyFields::filter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) outline_.clear();
+  if (event->type() == QEvent::ToolTip && showToolTip(watched, static_cast<QHelpEvent&>(*event))) {
+    return true;
+  }
   return filter_.filter(watched, event);
+}
+
+// Made when it is asked for, since it tells of another field, too.
+bool Dota7KeyFields::showToolTip(QObject* watched, const QHelpEvent& event) const {
+  auto* const field = qobject_cast<QLineEdit*>(watched);
+  const Dota7KeyField* const row = field != nullptr ? rowOf(*field) : nullptr;
+  if (row == nullptr) return false;
+  return guarded([&] {
+    QToolTip::showText(event.globalPos(), toolTipOf(*row), field);
+    return true;
+  });
+}
+
+QString Dota7KeyFields::toolTipOf(const Dota7KeyField& row) const {
+  const Dota7Settings& settings = manager_->settings();
+  const Dota7Key key = settings.key(row);
+  if (key.code == 0) return noKeyLine(dota7FieldText(row));
+  QString text = keyLine(toQString(settings.keyText(row)), dota7FieldText(row));
+  if (const Dota7KeyField* const other = settings.holderOf(row, key)) {
+    text += QLatin1Char('\n') + alsoLine(placeText(*other, row));
+  }
+  return text;
+}
+
+QString Dota7KeyFields::placeText(const Dota7KeyField& row, const Dota7KeyField& from) {
+  const bool isHere = isDota7ChatKey(row) == isDota7ChatKey(from);
+  return isHere ? dota7FieldText(row) : dota7FieldTextElsewhere(row);
 }
 
 void Dota7KeyFields::refresh() {
@@ -93,9 +125,7 @@ void Dota7KeyFields::take(QLineEdit& field, const Capture& capture) {
 void Dota7KeyFields::tell(const Dota7KeyField& refusing, KeyWord key, const Dota7KeyField* holder) {
   QStringList lines;
   if (holder != nullptr) {
-    const bool isHere = isDota7ChatKey(refusing) == isDota7ChatKey(*holder);
-    lines +=
-        keyLine(textOf(key), isHere ? dota7FieldText(*holder) : dota7FieldTextElsewhere(*holder));
+    lines += keyLine(textOf(key), placeText(*holder, refusing));
     for (const Field& field : fields_) {
       if (field.row == holder) outline_.show({field.field});
     }

@@ -8,6 +8,7 @@
 #include "ui/capture/HolderOutline.h"
 #include "ui/capture/KeyFieldFilter.h"
 
+class QHelpEvent;
 class QString;
 
 namespace brennet {
@@ -46,6 +47,10 @@ class Dota7KeyFields {
     const Dota7KeyField* row;
   };
 
+  bool showToolTip(QObject* watched, const QHelpEvent& event) const;
+  [[nodiscard]] QString toolTipOf(const Dota7KeyField& row) const;
+  // What has a key, for a player who looks at the window of `from`.
+  [[nodiscard]] static QString placeText(const Dota7KeyField& row, const Dota7KeyField& from);
   void take(QLineEdit& field, const Capture& capture);
   // Outlines the field that has a refused key until the next press, and tells the player of it.
   void tell(const Dota7KeyField& refusing, KeyWord key, const Dota7KeyField* holder);

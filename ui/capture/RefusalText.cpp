@@ -78,6 +78,14 @@ QString keyLine(const QString& key, const QString& what) {
   return words(QT_TRANSLATE_NOOP("KeyHolder", "%1：%2")).arg(key, what);
 }
 
+QString noKeyLine(const QString& what) {
+  return words(QT_TRANSLATE_NOOP("KeyHolder", "%1：没有按键")).arg(what);
+}
+
+QString alsoLine(const QString& what) {
+  return words(QT_TRANSLATE_NOOP("KeyHolder", "也用于：%1")).arg(what);
+}
+
 QString pasteLine(const QString& key) {
   return keyLine(
       key, words(QT_TRANSLATE_NOOP("KeyHolder", "在游戏聊天中用于粘贴；聊天轮盘的热键已移除")));
@@ -112,12 +120,11 @@ QString holderText(const KeyConflict& conflict, KeyWindow from) {
 QString fieldText(const HotkeyScheme& scheme, KeySlot slot) {
   const QString place = placeText(slot);
   const KeyWord key = keyAt(scheme, slot);
-  if (!key.isSet()) return words(QT_TRANSLATE_NOOP("KeyHolder", "%1：没有按键")).arg(place);
+  if (!key.isSet()) return noKeyLine(place);
   QStringList lines(keyLine(nameOf(key), place));
   for (const KeySlot other : usesOf(scheme, key)) {
     if (other == slot) continue;
-    const QString where = fromWindow(placeText(other), windowOf(other), windowOf(slot));
-    lines += words(QT_TRANSLATE_NOOP("KeyHolder", "也用于：%1")).arg(where);
+    lines += alsoLine(fromWindow(placeText(other), windowOf(other), windowOf(slot)));
   }
   return lines.join(QLatin1Char('\n'));
 }

@@ -26,6 +26,10 @@ enum class KeyWindow : std::uint8_t {
 // A line of a refusal: the text of a key, and what has it.
 [[nodiscard]] QString keyLine(const QString& key, const QString& what);
 
+// A line of a tool tip: what has no key, and what else has the key of the field.
+[[nodiscard]] QString noKeyLine(const QString& what);
+[[nodiscard]] QString alsoLine(const QString& what);
+
 // What the player is told of Ctrl+V, besides what has it.
 [[nodiscard]] QString pasteLine(const QString& key);
 

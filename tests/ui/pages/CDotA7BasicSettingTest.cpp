@@ -212,6 +212,31 @@ TEST_F(CDotA7BasicSettingTest, RefusesAKeyThatAnotherFieldHas) {
   EXPECT_FALSE(fieldOf(u"edt_HStopKey").property("holdsKey").toBool());
 }
 
+TEST_F(CDotA7BasicSettingTest, TellsInToolTipsWhatAKeyDoesAndWhatElseHasIt) {
+  const Dota7KeyField& stop = *findDota7KeyField(u"edt_HStopKey");
+  EXPECT_EQ(toolTipOf(fieldOf(u"edt_HStopKey")), noKeyLine(dota7FieldText(stop)));
+  pressKey(fieldOf(u"edt_HStopKey"), Qt::Key_S, Qt::AltModifier);
+  const QString line = keyLine(QStringLiteral("ALT + S"), dota7FieldText(stop));
+  EXPECT_EQ(toolTipOf(fieldOf(u"edt_HStopKey")), line);
+  // Another program has given two fields one key.
+  for (const Dota7KeyField* const row : {&dota7UnitKeys()[0], &dota7ChatKeys()[0]}) {
+    settings.reset();
+    const Dota7Key key{'S', Dota7Key::kAlt};
+    ASSERT_TRUE(settings.storeKey(*row, key));
+    const std::pair<std::u16string_view, std::u16string_view> kCopies[] = {
+        {row->normal.code, stop.normal.code}, {row->normal.text, stop.normal.text}};
+    for (const auto& [from, to] : kCopies) {
+      registry.set(stop.keyPath, to, valueOf(row->keyPath, from).value());
+    }
+    settings.load();
+    ASSERT_EQ(settings.holderOf(stop, key), row);
+    const bool isHere = row == &dota7UnitKeys()[0];
+    EXPECT_EQ(toolTipOf(fieldOf(u"edt_HStopKey")),
+              line + QLatin1Char('\n') +
+                  alsoLine(isHere ? dota7FieldText(*row) : dota7FieldTextElsewhere(*row)));
+  }
+}
+
 TEST_F(CDotA7BasicSettingTest, StoresItsOptions) {
   struct Row {
     const char* box;
