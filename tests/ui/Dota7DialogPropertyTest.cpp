@@ -6,11 +6,14 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTest>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include <random>
 
@@ -18,8 +21,10 @@
 #include "tests/gameside/dota7/Dota7Test.h"
 #include "tests/ui/pages/PageChecks.h"
 #include "ui/CHotkeySettingDlg.h"
+#include "ui/keymap/CKeyMapView.h"
 #include "ui/pages/CDotA7BasicSetting.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/pages/KeyMapWindow.h"
 
 namespace brennet::test {
 namespace {
@@ -30,10 +35,13 @@ class Dota7DialogPropertyTest : public Dota7Test {
   static constexpr int kSteps = 40;
 
   Dota7DialogPropertyTest() {
-    // Warnings that a key is in use come up all the time.
+    // Warnings that a key is in use come up all the time, and the windows that the map leads to.
     QObject::connect(&closer_, &QTimer::timeout, [] {
-      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (box != nullptr) box->accept();
+      QWidget* const window = QApplication::activeModalWidget();
+      if (auto* const box = qobject_cast<QMessageBox*>(window)) box->accept();
+      if (auto* const chat = dynamic_cast<MovableDialog*>(window)) {
+        if (qobject_cast<KeyMapWindow*>(window) == nullptr) chat->reject();
+      }
     });
     closer_.start(0);
     registry.set(kDota7ControlPath, u"HStopKeyCode", platform::dwordValue('S'));
@@ -65,7 +73,7 @@ class Dota7DialogPropertyTest : public Dota7Test {
     QApplication::setActiveWindow(&dialog);
     auto& page = *dialog.findChild<CDotA7BasicSetting*>();
     auto& chat = *dialog.findChild<Dota7ChatKeySettingWidget*>();
-    switch (number(8)) {
+    switch (number(9)) {
       case 0:
         return dialog.onSwitchPlatKeySettingDlg();
       case 1:
@@ -78,9 +86,30 @@ class Dota7DialogPropertyTest : public Dota7Test {
         return chatFor(chat, number(2));
       case 5:
         return pressSomething(anyOf<QLineEdit>(chat));
+      case 6:
+        return lookAtTheMap(dialog);
       default:
         return pressSomething(anyOf<QLineEdit>(page));
     }
+  }
+
+  // Presses something there and goes to a use, or back.
+  void lookAtTheMap(CHotkeySettingDlg& dialog) {
+    const bool goesOn = number(2) == 0;
+    const auto leave = [goesOn] {
+      auto* const map = qobject_cast<KeyMapWindow*>(QApplication::activeModalWidget());
+      ASSERT_NE(map, nullptr);
+      pressKey(*map->findChild<CKeyMapView*>(), Qt::Key_Q);
+      auto& list = *map->findChild<QTreeWidget*>();
+      if (goesOn && list.topLevelItemCount() > 0) {
+        emit list.itemActivated(list.topLevelItem(0), 0);
+      } else {
+        map->reject();
+      }
+    };
+    QTimer::singleShot(0, leave);
+    auto& link = *dialog.findChild<QLabel*>(QStringLiteral("lblKeyMap"));
+    QTest::mouseClick(&link, Qt::LeftButton);
   }
 
   // Types a phrase and ends the chat window, as the dialog runs it.
