@@ -188,6 +188,7 @@ void CHotkeySettingDlg::setMode(Mode mode) {
   stack_->setCurrentWidget(mode == Mode::Platform ? static_cast<QWidget*>(basic_) : dota7_);
   for (const auto& row : kShownIn) row.widget->setVisible(row.mode == mode);
   form_->btnSwitchDota7->hide();
+  fit_->refit();  // the header needs another width
 }
 
 // Nothing is connected to the next four; clients know them.

@@ -142,9 +142,16 @@ TEST_P(FitScreensTest, ComesUpWholeInEachOtherWindow) {
 
 // The header has room for the links on any screen, but for its heading only where there is enough.
 TEST_P(FitScreensTest, SparesItsHeadingWhereItIsNarrow) {
-  for (const int width : {560, 1280}) {
+  for (const int width : {560, 640, 720, 800, 1280}) {
+    SCOPED_TRACE(width);
     const TestScreens screens({{{width, 700}}});
     const auto dialog = showDialog(false);
+    dialog->onSwitchDota7KeySettingDlg();
+    settleLayouts();
+    expectInside(*dialog, screens.at(0).availableGeometry(), {"btnSwitchPlat", "lblKeyMap"});
+    dialog->onSwitchPlatKeySettingDlg();
+    settleLayouts();
+    expectInside(*dialog, screens.at(0).availableGeometry(), {"lblKeyMap"});
     const auto widget = [&](const char* name) {
       return dialog->findChild<QWidget*>(QLatin1String(name));
     };

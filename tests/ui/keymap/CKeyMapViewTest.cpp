@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "tests/ui/UiTest.h"
+#include "tests/ui/pages/PageChecks.h"
 #include "ui/keymap/KeyMapPainter.h"
 
 namespace brennet::test {
@@ -60,11 +61,15 @@ class CKeyMapViewTest : public testing::Test {
 };
 
 TEST_F(CKeyMapViewTest, TellsEachPress) {
-  QTest::keyClick(&view, Qt::Key_Q);
-  QTest::keyClick(&view, Qt::Key_F5, Qt::ControlModifier);
-  QTest::keyClick(&view, Qt::Key_Escape);
-  QTest::keyClick(&view, Qt::Key_Return);
-  QTest::keyClick(&view, Qt::Key_Tab);
+  pressKey(view, Qt::Key_Q);
+  releaseKey(view, Qt::Key_Q);
+  pressKey(view, Qt::Key_F5, Qt::ControlModifier);
+  pressKey(view, Qt::Key_Escape);
+  releaseKey(view, Qt::Key_Escape);
+  pressKey(view, Qt::Key_Return);
+  releaseKey(view, Qt::Key_Return);
+  pressKey(view, Qt::Key_Tab);
+  releaseKey(view, Qt::Key_Tab);
   EXPECT_EQ(pressed, (std::vector<MapPress>{
                          {'Q', 0}, {0x74, KeyWord::kCtrl}, {0x1B, 0}, {0x0D, 0}, {0x09, 0}}));
   EXPECT_TRUE(window.isVisible());
@@ -72,32 +77,32 @@ TEST_F(CKeyMapViewTest, TellsEachPress) {
 }
 
 TEST_F(CKeyMapViewTest, TellsARepeatedKeyOnce) {
-  QKeyEvent first(QEvent::KeyPress, Qt::Key_Q, Qt::NoModifier);
-  QKeyEvent again(QEvent::KeyPress, Qt::Key_Q, Qt::NoModifier, QString(), true);
-  for (QKeyEvent* const event : {&first, &again, &again}) QApplication::sendEvent(&view, event);
+  pressKey(view, Qt::Key_Q);
+  holdKey(view, Qt::Key_Q);
+  holdKey(view, Qt::Key_Q);
   EXPECT_EQ(pressed.size(), 1U);
 }
 
 TEST_F(CKeyMapViewTest, LetsShiftTabGoOn) {
-  QTest::keyClick(&view, Qt::Key_Backtab, Qt::ShiftModifier);
+  pressKey(view, Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(behind.hasFocus());
-  EXPECT_EQ(pressed, (std::vector<MapPress>{{0x10, 0}})) << "Shift, but not Tab";
+  EXPECT_TRUE(pressed.empty());
 }
 
 TEST_F(CKeyMapViewTest, ShowsTheLayerOfHeldKeys) {
   view.setLayer(KeyWord::kCtrl);
   layers.clear();
-  QTest::keyPress(&view, Qt::Key_Alt);
-  QTest::keyPress(&view, Qt::Key_Control, Qt::AltModifier);
-  QTest::keyRelease(&view, Qt::Key_Alt, Qt::ControlModifier);
-  QTest::keyRelease(&view, Qt::Key_Control);
+  pressKey(view, Qt::Key_Alt);
+  pressKey(view, Qt::Key_Control, Qt::AltModifier);
+  releaseKey(view, Qt::Key_Alt, Qt::ControlModifier);
+  releaseKey(view, Qt::Key_Control);
   EXPECT_EQ(layers, (std::vector<int>{KeyWord::kAlt, KeyWord::kCtrl | KeyWord::kAlt, KeyWord::kCtrl,
                                       KeyWord::kCtrl}));
   EXPECT_TRUE(pressed.empty()) << "they only choose the layer";
 }
 
 TEST_F(CKeyMapViewTest, ForgetsHeldKeysWithoutTheKeyboard) {
-  QTest::keyPress(&view, Qt::Key_Alt);
+  pressKey(view, Qt::Key_Alt);
   before.setFocus();
   EXPECT_EQ(layers, (std::vector<int>{KeyWord::kAlt, 0}));
 }
@@ -106,8 +111,10 @@ TEST_F(CKeyMapViewTest, ForgetsHeldKeysWithoutTheKeyboard) {
 TEST_F(CKeyMapViewTest, TellsAModifierThatIsAKey) {
   const KeyMap keys = {{.press = {0x11, 0}, .tag = QStringLiteral("O1")}};
   view.setMap(keys, true);
-  QTest::keyClick(&view, Qt::Key_Control);
-  QTest::keyClick(&view, Qt::Key_Alt);
+  pressKey(view, Qt::Key_Control);
+  releaseKey(view, Qt::Key_Control);
+  pressKey(view, Qt::Key_Alt);
+  releaseKey(view, Qt::Key_Alt);
   EXPECT_EQ(pressed, (std::vector<MapPress>{{0x11, 0}}));
   view.setMap(map, false);
 }
@@ -140,7 +147,8 @@ TEST_F(CKeyMapViewTest, TellsClicksWithTheLayerThatIsShown) {
 
 TEST_F(CKeyMapViewTest, ShowsWhatIsPressedAndThatItHasTheKeyboard) {
   const QImage first = view.grab().toImage();
-  QTest::keyClick(&view, Qt::Key_G);
+  pressKey(view, Qt::Key_G);
+  releaseKey(view, Qt::Key_G);
   const QImage lit = view.grab().toImage();
   EXPECT_NE(first, lit);
   before.setFocus();

@@ -94,10 +94,10 @@ TEST_F(KeyMapWindowTest, FindsKeysAndWhatTheyDo) {
 
 TEST_F(KeyMapWindowTest, TellsWhatAPressDoes) {
   EXPECT_TRUE(view().hasFocus());
-  QTest::keyClick(&view(), Qt::Key_Z);
+  pressKey(view(), Qt::Key_Z);
   EXPECT_EQ(story(), pressStory(map, {'Z', 0}));
   EXPECT_EQ(view().accessibleDescription(), story());
-  QTest::keyClick(&view(), Qt::Key_Escape);
+  pressKey(view(), Qt::Key_Escape);
   EXPECT_EQ(story(), pressStory(map, {0x1B, 0}));
   EXPECT_TRUE(window.isVisible()) << "Escape is a key here";
   EXPECT_FALSE(window.chosen());
@@ -111,7 +111,7 @@ TEST_F(KeyMapWindowTest, KeepsItsSizeWhateverItTells) {
     many.back().what = QString(300, QLatin1Char('W'));
   }
   window.setMap(many, false);
-  QTest::keyClick(&view(), Qt::Key_Q, Qt::AltModifier);
+  pressKey(view(), Qt::Key_Q, Qt::AltModifier);
   QCoreApplication::processEvents();
   EXPECT_EQ(window.size(), size);
   EXPECT_EQ(story(), pressStory(many, {'Q', KeyWord::kAlt}));
@@ -122,9 +122,9 @@ TEST_F(KeyMapWindowTest, ShowsTheLayerThatIsChosenOrHeld) {
   QTest::mouseClick(&view(), Qt::LeftButton, {}, view().placeOf('G').center());
   EXPECT_EQ(story(), pressStory(map, {'G', KeyWord::kAlt})) << "a free key is told of";
   EXPECT_TRUE(window.isVisible());
-  QTest::keyPress(&view(), Qt::Key_Control);
+  pressKey(view(), Qt::Key_Control);
   EXPECT_TRUE(find<QRadioButton>("optCtrl").isChecked());
-  QTest::keyRelease(&view(), Qt::Key_Control);
+  releaseKey(view(), Qt::Key_Control);
   EXPECT_TRUE(find<QRadioButton>("optAlt").isChecked());
 }
 

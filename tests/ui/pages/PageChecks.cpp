@@ -21,8 +21,9 @@
 namespace brennet::test {
 namespace {
 
-void send(QWidget& field, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  QKeyEvent event(type, key, modifiers, 0, virtualKeyOfQtKey(key, false), 0);
+void send(QWidget& field, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers,
+          bool isRepeat = false) {
+  QKeyEvent event(type, key, modifiers, 0, virtualKeyOfQtKey(key, false), 0, {}, isRepeat);
   QApplication::sendEvent(&field, &event);
 }
 
@@ -122,8 +123,12 @@ void pressKey(QWidget& field, Qt::Key key, Qt::KeyboardModifiers modifiers) {
   send(field, QEvent::KeyPress, key, modifiers);
 }
 
-void releaseKey(QWidget& field, Qt::Key key) {
-  send(field, QEvent::KeyRelease, key, Qt::NoModifier);
+void holdKey(QWidget& field, Qt::Key key) {
+  send(field, QEvent::KeyPress, key, Qt::NoModifier, true);
+}
+
+void releaseKey(QWidget& field, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  send(field, QEvent::KeyRelease, key, modifiers);
 }
 
 QStringList tabOrder(QWidget& window) {

@@ -17,7 +17,9 @@ namespace brennet::test {
 
 // A key with the code that Windows sends for it.
 void pressKey(QWidget& field, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-void releaseKey(QWidget& field, Qt::Key key);
+// The press once more, as it is sent while a key stays down.
+void holdKey(QWidget& field, Qt::Key key);
+void releaseKey(QWidget& field, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 // The object names of all widgets that Tab reaches in a window that is shown, from the first on.
 [[nodiscard]] QStringList tabOrder(QWidget& window);
