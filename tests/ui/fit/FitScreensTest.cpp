@@ -165,6 +165,22 @@ TEST_P(FitScreensTest, SparesItsHeadingWhereItIsNarrow) {
   }
 }
 
+// Which of the two headers is the wider one depends on the font.
+TEST_P(FitScreensTest, FitsAgainWhenTheOtherModeHasTheWiderHeader) {
+  const TestScreens screens({{{1280, 700}}});
+  const auto dialog = showDialog(true);
+  auto& button = *dialog->findChild<QPushButton*>(QStringLiteral("btnSwitchPlat"));
+  const auto& header = *dialog->findChild<QLayout*>(QStringLiteral("layHeader"));
+  const int others = header.sizeHint().width() - button.width();
+  dialog->onSwitchPlatKeySettingDlg();
+  // Just too wide for the screen with the heading.
+  button.setStyleSheet(QStringLiteral("min-width: %1px; max-width: %1px;").arg(1280 - others));
+  dialog->onSwitchDota7KeySettingDlg();
+  settleLayouts();
+  EXPECT_FALSE(dialog->findChild<QLabel*>(QStringLiteral("lblHeader"))->isVisible());
+  expectInside(*dialog, screens.at(0).availableGeometry(), {"btnSwitchPlat", "lblKeyMap"});
+}
+
 TEST_P(FitScreensTest, ScrollsTheChatWindowsWhereTheirLettersAreLarge) {
   const TestScreens screens({{{1024, 768}}});
   QFont font = QApplication::font();
