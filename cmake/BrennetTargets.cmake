@@ -104,10 +104,9 @@ function(brennet_add_test name)
   brennet_note_golden(${name}_tests ${test_SOURCES})
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name}_tests --gtest_brief=1)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
   else()
     gtest_discover_tests(${name}_tests TEST_PREFIX "${name}." NO_PRETTY_VALUES
-      DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 600)
+      DISCOVERY_TIMEOUT 60)
   endif()
 endfunction()
 
@@ -138,6 +137,6 @@ function(brennet_add_font_tests name filter)
   foreach(set IN LISTS others)
     gtest_discover_tests(${name}_tests TEST_PREFIX "${name}_${set}." TEST_FILTER "${filter}"
       TEST_LIST ${name}_${set}_tests NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
-      PROPERTIES TIMEOUT 600 ENVIRONMENT "BRENNET_TEST_FONTS=${set}")
+      PROPERTIES ENVIRONMENT "BRENNET_TEST_FONTS=${set}")
   endforeach()
 endfunction()
