@@ -306,14 +306,18 @@ void CHotkeySettingDlg::onShowDota7HotKeySettingDlg() {
   }
 }
 
+// A settings file may name a setting group that does not exist; then no key does anything.
+brennet::KeyMap CHotkeySettingDlg::shownKeys() {
+  if (mode_ == Mode::Dota7) return brennet::keyMapOf(manager_.settings());
+  return config_.editableScheme() == nullptr ? brennet::KeyMap()
+                                             : brennet::keyMapOf(config_.scheme());
+}
+
 // What is shown is what was set when the window came up; nothing is kept up to date after that.
 void CHotkeySettingDlg::showKeyMap() {
   leaveField();
   if (keyMap_ == nullptr) keyMap_ = new KeyMapWindow(this);
-  const bool isDota7 = mode_ == Mode::Dota7;
-  keyMap_->setMap(
-      isDota7 ? brennet::keyMapOf(manager_.settings()) : brennet::keyMapOf(config_.scheme()),
-      isDota7);
+  keyMap_->setMap(shownKeys(), mode_ == Mode::Dota7);
   if (brennet::runWindow(*keyMap_) != QDialog::Accepted || !keyMap_->chosen()) return;
   leadTo(*keyMap_->chosen());
 }

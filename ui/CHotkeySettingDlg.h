@@ -100,6 +100,7 @@ class CHotkeySettingDlg : public QDialog {
   [[nodiscard]] bool applySkin();
   void fitToSkin();
   void showSettings();
+  [[nodiscard]] brennet::KeyMap shownKeys();
   void showKeyMap();
   void leadTo(const brennet::MapTarget& target);
   void clearSettings(Mode mode, const brennet::SettingPage* spared = nullptr);

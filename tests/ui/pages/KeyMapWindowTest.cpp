@@ -269,6 +269,21 @@ TEST_F(KeyMapWindowInDialogTest, LeadsToTheFieldsOfDota7) {
   EXPECT_EQ(name, toQString(dota7ChatKeys()[2].objectName));
 }
 
+// Nothing could be set where its keys would lead.
+TEST_F(KeyMapWindowInDialogTest, IsEmptyWithoutASettingGroup) {
+  config.setIndex(HotkeyConfig::kSchemes);
+  show();
+  int rows = -1;
+  QTimer::singleShot(0, [&rows] {
+    auto* const window = qobject_cast<KeyMapWindow*>(QApplication::activeModalWidget());
+    ASSERT_NE(window, nullptr);
+    rows = window->findChild<QTreeWidget*>()->topLevelItemCount();
+    window->reject();
+  });
+  clickLink(find<QLabel>("lblKeyMap"));
+  EXPECT_EQ(rows, 0);
+}
+
 TEST_F(KeyMapWindowInDialogTest, IsNotMadeBeforeItIsOpened) {
   show();
   EXPECT_EQ(dialog->findChild<KeyMapWindow*>(), nullptr);
