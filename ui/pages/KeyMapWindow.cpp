@@ -146,9 +146,9 @@ void KeyMapWindow::filterList() {
 void KeyMapWindow::showText() {
   QStringList lines = text_.split(QLatin1Char('\n')).mid(0, kStoryLines);
   const QFontMetrics metrics(form_->lblStory->font());
-  for (QString& line : lines) {
-    line = metrics.elidedText(line, Qt::ElideRight, form_->lblStory->width());
-  }
+  // Letters may stand out of what a font says of their widths.
+  const int room = form_->lblStory->width() - metrics.averageCharWidth();
+  for (QString& line : lines) line = metrics.elidedText(line, Qt::ElideRight, room);
   while (lines.size() < kStoryLines) lines += QString();
   form_->lblStory->setText(lines.join(QLatin1Char('\n')));
   form_->lblStory->setToolTip(text_);
