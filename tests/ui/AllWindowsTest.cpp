@@ -69,24 +69,6 @@ TEST(AllWindows, AreMadeByTheDialog) {
   }
 }
 
-// The guide leaves out pages that players cannot reach yet, and only sums up those of DotA 7.
-TEST(AllWindows, HaveTheirSwitchesInTheGuideForPlayers) {
-  QTranslator english;
-  ASSERT_TRUE(english.load(QStringLiteral("brennet_en.qm"), QStringLiteral(BRENNET_TRANSLATIONS)));
-  QCoreApplication::installTranslator(&english);
-  HotkeyConfig config;
-  const CBasicSetting7Widget page(config, nullptr);
-  const COrrerySettingDlg orrery;
-  const QString guide =
-      QString::fromStdString(readBytes(projectFile("docs/users.md"))).simplified();
-  for (const QCheckBox* const box :
-       page.findChildren<QCheckBox*>() + orrery.findChildren<QCheckBox*>()) {
-    if (box->objectName().startsWith(QLatin1String("chkGroupKey"))) continue;  // the presets
-    EXPECT_TRUE(guide.contains(box->text()))
-        << "tell players of \"" << qPrintable(box->text()) << "\" in docs/users.md";
-  }
-}
-
 std::string nameOf(const Setting& row) {
   return {row.element.begin(), row.element.end()};
 }
