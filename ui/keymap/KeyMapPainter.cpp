@@ -1,11 +1,15 @@
 #include "ui/keymap/KeyMapPainter.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+
+#include "platform/Files.h"
+#include "ui/window/Text.h"
 
 namespace brennet {
 namespace {
@@ -201,6 +205,7 @@ QImage mapPicture(const KeyMap& map, bool isDota7) {
   QImage image(static_cast<int>(kMapColumns * kUnit + 2 * kMargin),
                static_cast<int>(one * static_cast<double>(layers.size()) + 2 * kMargin),
                QImage::Format_RGB32);
+  if (image.isNull()) return image;
   image.fill(mapBackground());
   QPainter painter(&image);
   double top = kMargin;
@@ -214,6 +219,15 @@ QImage mapPicture(const KeyMap& map, bool isDota7) {
     top += one;
   }
   return image;
+}
+
+std::error_code savePicture(const QImage& picture, const QString& fileName) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (!picture.save(&buffer, "PNG")) return std::make_error_code(std::errc::not_enough_memory);
+  return platform::replaceFile(platform::pathFromUtf16(viewOf(fileName)),
+                               {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 }  // namespace brennet

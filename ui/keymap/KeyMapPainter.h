@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <system_error>
 
 #include "ui/keymap/KeyMap.h"
 
@@ -50,7 +51,12 @@ struct MapGrid {
 void paintMap(QPainter& painter, const QRectF& area, const MapLook& look);
 
 // A picture to print and share: each layer that has uses (the plain one in any case) with its name.
+// Null if there is no memory for it.
 [[nodiscard]] QImage mapPicture(const KeyMap& map, bool isDota7);
+
+// Writes a picture as a PNG file, which it replaces as a whole. Returns the system's error, or an
+// empty one; after an error an old file is still there.
+[[nodiscard]] std::error_code savePicture(const QImage& picture, const QString& fileName);
 
 // What a layer is called: "Ctrl + Alt".
 [[nodiscard]] QString layerText(std::uint8_t layer);

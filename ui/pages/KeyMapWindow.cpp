@@ -1,6 +1,5 @@
 #include "ui/pages/KeyMapWindow.h"
 
-#include <QBuffer>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QHeaderView>
@@ -11,7 +10,6 @@
 #include <array>
 #include <numeric>
 
-#include "platform/Files.h"
 #include "ui/keymap/CKeyMapView.h"
 #include "ui/keymap/KeyMapPainter.h"
 #include "ui/pages/Form.h"
@@ -37,13 +35,6 @@ QString searchable(const QString& text) {
 bool isBefore(const MapUse& a, const MapUse& b) {
   const int orders[] = {brennet::mapOrder(a.press.code), brennet::mapOrder(b.press.code)};
   return orders[0] != orders[1] ? orders[0] < orders[1] : a.press.modifiers < b.press.modifiers;
-}
-
-QByteArray pngOf(const QImage& image) {
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  return image.save(&buffer, "PNG") ? bytes : QByteArray();
 }
 
 }  // namespace
@@ -189,10 +180,7 @@ void KeyMapWindow::copyPicture() const {
 }
 
 QString KeyMapWindow::savePicture(const QString& fileName) const {
-  const QByteArray bytes = pngOf(brennet::mapPicture(map_, isDota7_));
-  const std::error_code error =
-      brennet::platform::replaceFile(brennet::platform::pathFromUtf16(brennet::viewOf(fileName)),
-                                     {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  const std::error_code error = brennet::savePicture(brennet::mapPicture(map_, isDota7_), fileName);
   return error ? QString::fromLocal8Bit(error.message().c_str()) : QString();
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "tests/support/TempFolder.h"
 #include "tests/ui/PixelContrast.h"
 #include "ui/keymap/SchemeKeyMap.h"
 
@@ -123,6 +124,16 @@ TEST(KeyMapPainter, MakesAPictureOfTheLayersInUse) {
   EXPECT_EQ(none.width(), two.width());
   EXPECT_GT(one.height(), none.height());
   EXPECT_EQ(two.height() - one.height(), one.height() - none.height());
+}
+
+TEST(KeyMapPainter, LeavesAFileAloneWhereThereIsNoPicture) {
+  const test::TempFolder folder;
+  test::writeBytes(folder / "map.png", "old");
+  const QString file = QString::fromStdU16String((folder / "map.png").u16string());
+  EXPECT_TRUE(savePicture(QImage(), file));
+  EXPECT_EQ(test::readBytes(folder / "map.png"), "old");
+  EXPECT_FALSE(savePicture(mapPicture({}, false), file));
+  EXPECT_NE(test::readBytes(folder / "map.png"), "old");
 }
 
 TEST(KeyMapPainter, NamesEachLayer) {
