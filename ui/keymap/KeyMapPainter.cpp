@@ -97,8 +97,8 @@ void drawLegend(QPainter& painter, const QRectF& area, double unit, bool isDota7
   for (std::size_t i = 0; i < kKeyKinds; ++i) {
     const auto kind = static_cast<KeyKind>(i);
     if (!isInLegend(kind, isDota7)) continue;
-    const QPointF corner(area.x() + number % kColumns * width,
-                         area.y() + static_cast<double>(number / kColumns) * line);
+    const int row = number / kColumns;
+    const QPointF corner(area.x() + number % kColumns * width, area.y() + row * line);
     const QRectF swatch(corner.x() + unit * kGap, corner.y() + line * 0.2, line * 0.6, line * 0.6);
     painter.setPen(QPen(QColor(0x52, 0x6e, 0x7a), 1));
     painter.setBrush(kindColor(kind));
