@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <variant>
@@ -16,6 +17,7 @@
 #include "model/KeyConflicts.h"
 #include "model/KeySlot.h"
 #include "model/SchemeAssignment.h"
+#include "model/SchemeDifferences.h"
 #include "model/SchemeReader.h"
 #include "model/SchemeWriter.h"
 #include "model/SettingTable.h"
@@ -128,6 +130,13 @@ class EverySetting : public testing::TestWithParam<SettingId> {
 
 TEST_P(EverySetting, IsCompared) {
   EXPECT_NE(changed_, defaults_);
+}
+
+TEST_P(EverySetting, CountsAsADifferenceOfItsOwn) {
+  if (GetParam() == SettingId::ComboKey3to1) return;
+  const std::vector<SettingPart> parts = differencesOf(defaults_, changed_);
+  EXPECT_THAT(parts, testing::Each(testing::Field(&SettingPart::setting, GetParam())));
+  EXPECT_GE(parts.size(), std::max<std::size_t>(keyCount(GetParam()), 1));
 }
 
 TEST_P(EverySetting, IsSavedAndLoaded) {
