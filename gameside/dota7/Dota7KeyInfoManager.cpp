@@ -1,5 +1,6 @@
 #include "gameside/dota7/Dota7KeyInfoManager.h"
 
+#include <utility>
 #include <vector>
 
 namespace brennet {
@@ -73,7 +74,7 @@ void Dota7KeyInfoManager::apply(std::span<const Dota7FieldChange> changes) {
 }
 
 void Dota7KeyInfoManager::noteFor(const Dota7Place& place, const RegistryKey::Reading& now,
-                                  const RegistryValue& value) {
+                                  const Content& value) {
   if (!now.known || now.value == value) return;
   if (note(before_, place, now.value, value).second) isJournalBehind_ = true;
 }
@@ -85,13 +86,42 @@ void Dota7KeyInfoManager::writeJournal() {
 
 // A value whose old content is unknown could not be restored, so it is not written. The journal
 // comes first: if memory runs out, nothing may have been written.
-void Dota7KeyInfoManager::put(RegistryKey& key, const Dota7Place& place,
-                              const RegistryValue& value) {
+void Dota7KeyInfoManager::put(RegistryKey& key, const Dota7Place& place, const Content& value) {
   const RegistryKey::Reading now = key.read(place.second);
   if (!now.known || now.value == value) return;
   noteFor(place, now, value);
   writeJournal();
-  if (key.write(place.second, value)) before_.find(place)->second.isChanged = true;
+  Content& after = step_.try_emplace(place, Dota7Edit{now.value, now.value}).first->second.after;
+  Content next = value;
+  if (!(value ? key.write(place.second, *value) : key.remove(place.second))) return;
+  before_.find(place)->second.isChanged = true;
+  after = std::move(next);
+}
+
+Dota7Step Dota7KeyInfoManager::takeStep() {
+  std::erase_if(step_, [](const auto& entry) { return entry.second.before == entry.second.after; });
+  return std::exchange(step_, {});
+}
+
+// The journal is written once, before the first value changes.
+void Dota7KeyInfoManager::restore(const Dota7Step& step, Content Dota7Edit::*side) {
+  for (const auto& [place, edit] : step) {
+    noteFor(place, RegistryKey(place.first).read(place.second), edit.*side);
+  }
+  writeJournal();
+  for (const auto& [place, edit] : step) {
+    RegistryKey key(place.first);
+    put(key, place, edit.*side);
+  }
+  step_.clear();
+  refresh();
+}
+
+Dota7Settings Dota7KeyInfoManager::settingsBefore() {
+  Dota7Settings settings(names_, *this);
+  settings.setCast(settings_.cast());
+  settings.loadAsBefore(before_);
+  return settings;
 }
 
 void Dota7KeyInfoManager::writeRecords() {
@@ -118,6 +148,7 @@ void Dota7KeyInfoManager::cancelChanges() {
 // What cannot be restored is not kept in memory: it would be restored in the middle of a later run.
 void Dota7KeyInfoManager::endRun(bool isUndone) noexcept {
   before_.clear();
+  step_.clear();
   isJournalBehind_ = false;
   if (isUndone) {
     journal_.drop();

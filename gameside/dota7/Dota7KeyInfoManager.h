@@ -11,6 +11,7 @@
 #include "gameside/dota7/Dota7Journal.h"
 #include "gameside/dota7/Dota7KeyNames.h"
 #include "gameside/dota7/Dota7Settings.h"
+#include "gameside/dota7/Dota7Step.h"
 #include "platform/Registry.h"
 
 namespace brennet {
@@ -58,6 +59,21 @@ class Dota7KeyInfoManager : public QObject, private Dota7ChangeSink {
   // Writes the changes of fields and records them.
   void apply(std::span<const Dota7FieldChange> changes) override;
 
+  // What this run has changed in the registry since the last call, or since it began. Values that
+  // hold again what they held then are left out. Throws std::bad_alloc.
+  [[nodiscard]] Dota7Step takeStep();
+
+  // Puts what the values of a step held before it back into the registry, or what they held after
+  // it. Forgets the recorded changes, and reads the settings again: what the registry refuses to
+  // change stays. Like every other change, this can be cancelled, and belongs to no further step.
+  // Throws std::bad_alloc; a part of the values may have changed then.
+  void undo(const Dota7Step& step) { restore(step, &Dota7Edit::before); }
+  void redo(const Dota7Step& step) { restore(step, &Dota7Edit::after); }
+
+  // The settings as they were before this run changed anything, in the present cast mode; nothing
+  // is stored through them. Reads the registry.
+  [[nodiscard]] Dota7Settings settingsBefore();
+
   // The player accepts: writes the recorded changes once more and forgets them and the old values.
   // Once the journal is gone, nothing undoes them.
   void acceptChanges();
@@ -77,15 +93,19 @@ class Dota7KeyInfoManager : public QObject, private Dota7ChangeSink {
 
  private:
   void endRun(bool isUndone) noexcept;
-  void put(platform::RegistryKey& key, const Dota7Place& place,
-           const platform::RegistryValue& value);
+  // A value to be put into the registry; nothing: it is to be removed.
+  using Content = std::optional<platform::RegistryValue>;
+
+  void restore(const Dota7Step& step, Content Dota7Edit::*side);
+  void put(platform::RegistryKey& key, const Dota7Place& place, const Content& value);
   void noteFor(const Dota7Place& place, const platform::RegistryKey::Reading& now,
-               const platform::RegistryValue& value);
+               const Content& value);
   void writeJournal();
 
   Dota7KeyNames names_;
   std::map<std::u16string, Dota7Change, std::less<>> records_;
   Dota7Undos before_;
+  Dota7Step step_;  // since it was last taken
   Dota7Journal journal_;
   bool isJournalBehind_ = false;  // something has been noted since it was last written
   Dota7Settings settings_{names_, *this};

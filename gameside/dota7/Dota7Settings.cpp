@@ -23,12 +23,6 @@ std::size_t sideOf(const Dota7KeyField& field, Dota7Cast cast) {
   return cast == Dota7Cast::Quick && field.followsCast() ? 1 : 0;
 }
 
-// The number in four bytes, whatever the type of the value; 0 if there are not four.
-std::uint32_t readNumber(const platform::RegistryKey& source, std::u16string_view name) {
-  const platform::RegistryKey::Reading reading = source.read(name);
-  return reading.value ? platform::fourBytesIn(*reading.value).value_or(0) : 0;
-}
-
 // The bytes of a text; nothing if there is no text, or one too long to be ours.
 std::optional<std::string> textIn(const std::optional<platform::RegistryValue>& value) {
   if (!value || value->type != platform::kRegistryBinary) return std::nullopt;
@@ -48,8 +42,7 @@ struct PhraseReading {
   bool isWhole;  // writing the text again would give the same value
 };
 
-PhraseReading readPhrase(const platform::RegistryKey& source, std::u16string_view name) {
-  const platform::RegistryKey::Reading reading = source.read(name);
+PhraseReading phraseIn(const platform::RegistryKey::Reading& reading) {
   PhraseReading result{{}, reading.known && !reading.value};
   if (const std::optional<std::string> bytes = textIn(reading.value)) {
     utf8ToUtf16(*bytes, result.text);
@@ -87,30 +80,67 @@ Dota7Key stored(Dota7Key key) {
 
 }  // namespace
 
-void Dota7Settings::load() {
-  loadKeys(kDota7ControlPath);
-  const platform::RegistryKey source(kDota7ControlPath);
-  for (const Dota7Switch& row : dota7Switches()) {
-    switches_[indexOf(row, dota7Switches())] = readNumber(source, row.valueName) != 0;
+// A key of the registry with values that are read: as they are, or as they were before changes.
+class Dota7Settings::Source {
+ public:
+  explicit Source(std::u16string_view path, const Dota7Undos* changes = nullptr)
+      : key_(path), path_(path), changes_(changes) {}
+
+  [[nodiscard]] const std::u16string& path() const { return path_; }
+
+  [[nodiscard]] platform::RegistryKey::Reading read(std::u16string_view name) const {
+    if (changes_ == nullptr) return key_.read(name);
+    const auto change = changes_->find({path_, std::u16string(name)});
+    const bool isChanged = change != changes_->end() && change->second.isChanged;
+    if (!isChanged) return key_.read(name);
+    return {.known = true, .value = change->second.old};
   }
-  loadPhrases();
+
+  // The number in four bytes, whatever the type of the value; 0 if there are not four.
+  [[nodiscard]] std::uint32_t number(std::u16string_view name) const {
+    const platform::RegistryKey::Reading reading = read(name);
+    return reading.value ? platform::fourBytesIn(*reading.value).value_or(0) : 0;
+  }
+
+ private:
+  platform::RegistryKey key_;
+  std::u16string path_;
+  const Dota7Undos* changes_;
+};
+
+void Dota7Settings::load() {
+  load(Source(kDota7ControlPath), Source(kDota7PhrasesPath));
+}
+
+void Dota7Settings::loadAsBefore(const Dota7Undos& changes) {
+  load(Source(kDota7ControlPath, &changes), Source(kDota7PhrasesPath, &changes));
+}
+
+void Dota7Settings::load(const Source& control, const Source& phrases) {
+  loadKeys(control);
+  for (const Dota7Switch& row : dota7Switches()) {
+    switches_[indexOf(row, dota7Switches())] = control.number(row.valueName) != 0;
+  }
+  loadPhrases(phrases);
 }
 
 void Dota7Settings::loadPhrases() {
-  loadKeys(kDota7PhrasesPath);
-  const platform::RegistryKey source(kDota7PhrasesPath);
+  loadPhrases(Source(kDota7PhrasesPath));
+}
+
+void Dota7Settings::loadPhrases(const Source& source) {
+  loadKeys(source);
   for (const Dota7Phrase& row : dota7Phrases()) {
     const std::size_t index = indexOf(row, dota7Phrases());
-    PhraseReading reading = readPhrase(source, row.valueName);
+    PhraseReading reading = phraseIn(source.read(row.valueName));
     phrases_[index] = std::move(reading.text);
     unreadable_[index] = !reading.isWhole;
   }
 }
 
-void Dota7Settings::loadKeys(std::u16string_view keyPath) {
-  const platform::RegistryKey source(keyPath);
+void Dota7Settings::loadKeys(const Source& source) {
   for (const Dota7KeyField& field : dota7KeyFields()) {
-    if (field.keyPath != keyPath) continue;
+    if (field.keyPath != source.path()) continue;
     for (const Dota7Cast cast : kCasts) {
       keyPlace(field, cast) = readKey(source, field.values(cast));
     }
@@ -118,9 +148,8 @@ void Dota7Settings::loadKeys(std::u16string_view keyPath) {
 }
 
 // The registry has no value for the modifier: it is found in the text stored with the key.
-Dota7Key Dota7Settings::readKey(const platform::RegistryKey& source,
-                                const Dota7ValuePair& values) const {
-  const std::uint32_t code = readNumber(source, values.code);
+Dota7Key Dota7Settings::readKey(const Source& source, const Dota7ValuePair& values) const {
+  const std::uint32_t code = source.number(values.code);
   if (code == 0 || code > kLargestCode) return {};
   Dota7Key key{static_cast<int>(code), Dota7Key::kNoModifier};
   const std::optional<std::string> text = textIn(source.read(values.text).value);

@@ -8,6 +8,7 @@
 
 #include "gameside/dota7/Dota7Change.h"
 #include "gameside/dota7/Dota7KeyNames.h"
+#include "gameside/dota7/Dota7Undo.h"
 #include "gameside/dota7/Dota7Values.h"
 #include "platform/Registry.h"
 
@@ -42,6 +43,9 @@ class Dota7Settings {
   void load();
   // Reads only the phrases and their keys.
   void loadPhrases();
+  // Reads what load() would read if these changes had not been made. Those that the current run has
+  // not made itself count as made by somebody else.
+  void loadAsBefore(const Dota7Undos& changes);
 
   [[nodiscard]] Dota7Cast cast() const { return cast_; }
   // From now on the fields that follow the cast mode show and edit the values of this one.
@@ -77,9 +81,12 @@ class Dota7Settings {
  private:
   using Keys = std::array<Dota7Key, 2>;  // by cast mode
 
-  void loadKeys(std::u16string_view keyPath);
-  [[nodiscard]] Dota7Key readKey(const platform::RegistryKey& source,
-                                 const Dota7ValuePair& values) const;
+  class Source;
+
+  void load(const Source& control, const Source& phrases);
+  void loadPhrases(const Source& source);
+  void loadKeys(const Source& source);
+  [[nodiscard]] Dota7Key readKey(const Source& source, const Dota7ValuePair& values) const;
   [[nodiscard]] Dota7Key& keyPlace(const Dota7KeyField& field, Dota7Cast cast);
   // Take a value and return what has to be written for it.
   [[nodiscard]] Dota7FieldChange keyChange(const Dota7KeyField& field, Dota7Cast cast,

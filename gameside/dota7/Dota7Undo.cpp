@@ -52,7 +52,7 @@ bool Dota7PlaceOrder::operator()(const Dota7Place& a, const Dota7Place& b) const
 
 std::pair<Dota7Undo*, bool> note(Dota7Undos& undos, const Dota7Place& place,
                                  const std::optional<RegistryValue>& now,
-                                 const RegistryValue& next) {
+                                 const std::optional<RegistryValue>& next) {
   auto [entry, isNew] = undos.try_emplace(place, Dota7Undo{now, {}, false});
   Dota7Undo& undo = entry->second;
   // Somebody else changed it before this run did: that is the old value.
@@ -60,8 +60,8 @@ std::pair<Dota7Undo*, bool> note(Dota7Undos& undos, const Dota7Place& place,
     undo = Dota7Undo{now, {}, false};
     isNew = true;
   }
-  if (holds(undo.written, next)) return {&undo, isNew};
-  undo.written.push_back(next);
+  if (!next || holds(undo.written, next)) return {&undo, isNew};
+  undo.written.push_back(*next);
   return {&undo, true};
 }
 

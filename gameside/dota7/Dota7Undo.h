@@ -31,11 +31,12 @@ struct Dota7Undo {
 
 using Dota7Undos = std::map<Dota7Place, Dota7Undo, Dota7PlaceOrder>;
 
-// Notes that `next` is to replace `now`, the present value. Returns the entry, and whether it has
-// something new. Throws std::bad_alloc; `undos` can still be used then.
+// Notes that `next` is to replace `now`, the present value; nothing: there is or will be no value.
+// Returns the entry, and whether it has something new. Throws std::bad_alloc; `undos` can still be
+// used then.
 std::pair<Dota7Undo*, bool> note(Dota7Undos& undos, const Dota7Place& place,
                                  const std::optional<platform::RegistryValue>& now,
-                                 const platform::RegistryValue& next);
+                                 const std::optional<platform::RegistryValue>& next);
 
 // Undoes the changes, brings that to the disk, and removes the entries of values that are restored,
 // or that somebody else has changed since. Returns whether none is left. If memory runs out, the

@@ -52,13 +52,16 @@ RegFile registryOfAPlayer() {
 }
 
 // What a player does in one run: changes values that exist and values that do not, one of them
-// twice.
+// twice, and undoes all of it, does it again, and goes on.
 void edit(Manager& manager) {
   Dota7Settings& settings = manager.settings();
   settings.load();
   EXPECT_TRUE(settings.storeKey(*findDota7KeyField(u"edt_HStopKey"), {'T', Dota7Key::kAlt}));
   settings.setOn(*findDota7Switch(u"chk_SLegacyKeys"), true);
   EXPECT_TRUE(settings.storeKey(*findDota7KeyField(u"edt_HStopKey"), {'U', Dota7Key::kCtrl}));
+  const Dota7Step step = manager.takeStep();
+  manager.undo(step);
+  manager.redo(step);
   settings.setPhrase(*findDota7Phrase(u"edt_SOnStartString3"), u"");
   settings.setPhrase(*findDota7Phrase(u"edt_SQuickChatString0"), u"hello", true);
 }

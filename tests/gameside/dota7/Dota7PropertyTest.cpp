@@ -3,6 +3,8 @@
 
 #include <map>
 #include <random>
+#include <utility>
+#include <vector>
 
 #include "gameside/dota7/Dota7Settings.h"
 #include "tests/gameside/dota7/Dota7Test.h"
@@ -61,7 +63,7 @@ class Player {
 
   void step(Dota7KeyInfoManager& manager) {
     Dota7Settings& settings = manager.settings();
-    switch (below(12)) {
+    switch (below(14)) {
       case 0:
         settings.setCast(below(2) == 0 ? Dota7Cast::Normal : Dota7Cast::Quick);
         break;
@@ -84,6 +86,12 @@ class Player {
       case 7:
         settings.loadPhrases();  // the chat page, cancelled
         break;
+      case 8:
+        undo(manager);
+        break;
+      case 9:
+        redo(manager);
+        break;
       default:
         captureKey(settings);
         break;
@@ -91,6 +99,22 @@ class Player {
   }
 
  private:
+  // Undoes what was changed since the last call, or else the step before it.
+  void undo(Dota7KeyInfoManager& manager) {
+    if (Dota7Step step = manager.takeStep(); !step.empty()) done_.push_back(std::move(step));
+    if (done_.empty()) return;
+    manager.undo(done_.back());
+    undone_.push_back(std::move(done_.back()));
+    done_.pop_back();
+  }
+  void redo(Dota7KeyInfoManager& manager) {
+    if (!manager.takeStep().empty()) undone_.clear();
+    if (undone_.empty()) return;
+    manager.redo(undone_.back());
+    done_.push_back(std::move(undone_.back()));
+    undone_.pop_back();
+  }
+
   // As on the pages: a key that is in use clears the field.
   void captureKey(Dota7Settings& settings) {
     const Dota7KeyField& field = oneOf(dota7KeyFields());
@@ -98,6 +122,7 @@ class Player {
   }
 
   std::mt19937 random_;
+  std::vector<Dota7Step> done_, undone_;
 };
 
 // Everything that the pages show, in both cast modes.
