@@ -656,6 +656,14 @@ Do you want to go on?</translation>
         <source>查看按键</source>
         <translation>Keys in use</translation>
     </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>Redo</translation>
+    </message>
 </context>
 <context>
     <name>CHotkeySettingPage</name>
@@ -862,6 +870,13 @@ Do you want to go on?</translation>
     </message>
 </context>
 <context>
+    <name>ChangeMarks</name>
+    <message>
+        <source>打开窗口时：%1</source>
+        <translation>When the dialog opened: %1</translation>
+    </message>
+</context>
+<context>
     <name>ChatKeySettingWidget</name>
     <message>
         <source>CAdvancedSettingWidget</source>
@@ -992,6 +1007,25 @@ Do you want to go on?</translation>
     <message>
         <source>方案%1，%2：%3</source>
         <translation>Group %1, %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>KeyFieldMenu</name>
+    <message>
+        <source>恢复原按键</source>
+        <translation>Put back</translation>
+    </message>
+    <message>
+        <source>恢复：%1</source>
+        <translation>Put back: %1</translation>
+    </message>
+    <message>
+        <source>恢复：%1（%2）</source>
+        <translation>Put back: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>清除</source>
+        <translation>Clear</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1433,64 @@ Do you want to go on?</translation>
     <message>
         <source>IDS_GROUP_KEY_USED</source>
         <translation>One of these keys is already in use, so they cannot be chosen.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingText</name>
+    <message>
+        <source>镜头缩放</source>
+        <translation>Camera zoom</translation>
+    </message>
+    <message>
+        <source>小键盘组合快捷键</source>
+        <translation>Keypad preset</translation>
+    </message>
+    <message>
+        <source>快捷喊话的按键</source>
+        <translation>Quick-chat keys</translation>
+    </message>
+    <message>
+        <source>聊天轮盘短语 %1</source>
+        <translation>Chat wheel phrase %1</translation>
+    </message>
+    <message>
+        <source>开</source>
+        <translation>on</translation>
+    </message>
+    <message>
+        <source>关</source>
+        <translation>off</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>%1：%2 → %3</source>
+        <translation>%1: %2 → %3</translation>
+    </message>
+    <message>
+        <source>快捷喊话短语 %1</source>
+        <translation>Quick-chat phrase %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepText</name>
+    <message>
+        <source>方案</source>
+        <translation>Setting group</translation>
+    </message>
+    <message>
+        <source>%1（快捷施法）</source>
+        <translation>%1 (quick cast)</translation>
+    </message>
+    <message>
+        <source>以及另外 %1 项</source>
+        <translation>and %1 more</translation>
     </message>
 </context>
 </TS>

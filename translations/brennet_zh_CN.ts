@@ -655,6 +655,14 @@ Are you sure to continue?</source>
         <source>查看按键</source>
         <translation>查看按键</translation>
     </message>
+    <message>
+        <source>撤销</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>重做</translation>
+    </message>
 </context>
 <context>
     <name>CHotkeySettingPage</name>
@@ -861,6 +869,13 @@ Are you sure to continue?</source>
     </message>
 </context>
 <context>
+    <name>ChangeMarks</name>
+    <message>
+        <source>打开窗口时：%1</source>
+        <translation>打开窗口时：%1</translation>
+    </message>
+</context>
+<context>
     <name>ChatKeySettingWidget</name>
     <message>
         <source>CAdvancedSettingWidget</source>
@@ -991,6 +1006,25 @@ Are you sure to continue?</source>
     <message>
         <source>方案%1，%2：%3</source>
         <translation>方案%1，%2：%3</translation>
+    </message>
+</context>
+<context>
+    <name>KeyFieldMenu</name>
+    <message>
+        <source>恢复原按键</source>
+        <translation>恢复原按键</translation>
+    </message>
+    <message>
+        <source>恢复：%1</source>
+        <translation>恢复：%1</translation>
+    </message>
+    <message>
+        <source>恢复：%1（%2）</source>
+        <translation>恢复：%1（%2）</translation>
+    </message>
+    <message>
+        <source>清除</source>
+        <translation>清除</translation>
     </message>
 </context>
 <context>
@@ -1398,6 +1432,64 @@ Are you sure to continue?</source>
     <message>
         <source>IDS_GROUP_KEY_USED</source>
         <translation>这组按键中有按键已被使用，无法选用。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingText</name>
+    <message>
+        <source>镜头缩放</source>
+        <translation>镜头缩放</translation>
+    </message>
+    <message>
+        <source>小键盘组合快捷键</source>
+        <translation>小键盘组合快捷键</translation>
+    </message>
+    <message>
+        <source>快捷喊话的按键</source>
+        <translation>快捷喊话的按键</translation>
+    </message>
+    <message>
+        <source>聊天轮盘短语 %1</source>
+        <translation>聊天轮盘短语 %1</translation>
+    </message>
+    <message>
+        <source>开</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>关</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>%1：%2 → %3</source>
+        <translation>%1：%2 → %3</translation>
+    </message>
+    <message>
+        <source>快捷喊话短语 %1</source>
+        <translation>快捷喊话短语 %1</translation>
+    </message>
+</context>
+<context>
+    <name>StepText</name>
+    <message>
+        <source>方案</source>
+        <translation>方案</translation>
+    </message>
+    <message>
+        <source>%1（快捷施法）</source>
+        <translation>%1（快捷施法）</translation>
+    </message>
+    <message>
+        <source>以及另外 %1 项</source>
+        <translation>以及另外 %1 项</translation>
     </message>
 </context>
 </TS>

@@ -2,10 +2,12 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <QStackedLayout>
 
 #include <initializer_list>
 #include <new>
+#include <optional>
 #include <utility>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
@@ -14,9 +16,15 @@
 #include "model/LoadReport.h"
 #include "ui/capture/Dota7FieldText.h"
 #include "ui/capture/RefusalText.h"
+#include "ui/capture/SettingText.h"
 #include "ui/capture/SlotText.h"
 #include "ui/capture/TabOrder.h"
 #include "ui/capture/VirtualKey.h"
+#include "ui/history/ChangeMarks.h"
+#include "ui/history/Dota7Marks.h"
+#include "ui/history/EditHistory.h"
+#include "ui/history/SchemeMarks.h"
+#include "ui/history/UndoButtons.h"
 #include "ui/keymap/Dota7KeyMap.h"
 #include "ui/keymap/SchemeKeyMap.h"
 #include "ui/pages/CAdvancedSettingWidget.h"
@@ -57,6 +65,7 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
   setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
   form_->setupUi(this);
   fit_ = new brennet::ScreenFit(*this);
+  fit_->fold(*form_->layHeader);
   fit_->spare(*form_->lblHeader);  // the title says as much
   manager_.beginRun();
   createPages();
@@ -64,6 +73,7 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
   connectForm();
   connectPages();
   setMode(Mode::Platform);
+  rememberSteps();
   brennet::setTabOrderOfLayouts(*this);
   // A key field would take the first key, whatever it is meant for.
   form_->titleWidget->setFocus();
@@ -105,11 +115,7 @@ void CHotkeySettingDlg::createPages() {
 void CHotkeySettingDlg::fillForm() {
   form_->cmbHotkeySetting->addItems(
       {tr("setting group 1"), tr("setting group 2"), tr("setting group 3")});
-  const auto index = static_cast<int>(config_.index());
-  // If the file names a scheme that does not exist, none is shown, and each can be chosen.
-  const bool isThere = index < form_->cmbHotkeySetting->count();
-  form_->cmbHotkeySetting->setCurrentIndex(isThere ? index : -1);
-  form_->chkUseHotkeySettings->setChecked(config_.enable());
+  showChoice();
   for (QLabel* const link :
        {form_->lblResetToDefaultSetting, form_->lblUseRecommendedSetting, form_->lblKeyMap}) {
     link->installEventFilter(this);
@@ -149,6 +155,29 @@ void CHotkeySettingDlg::connectPages() {
           &Dialog::onSwitchDota7KeySettingDlg);
   connect(dota7_, &CDotA7BasicSetting::showDota7HotKeySettingDlg, this,
           &Dialog::onShowDota7HotKeySettingDlg);
+}
+
+void CHotkeySettingDlg::rememberSteps() {
+  history_ = std::make_unique<brennet::EditHistory>(config_, manager_);
+  markChanges();
+  undoButtons_ = std::make_unique<brennet::UndoButtons>(
+      *history_, *form_->btnUndo, *form_->btnRedo,
+      [this](const brennet::EditStep& step) { showStep(step); }, [this] { marks_->refresh(); });
+}
+
+void CHotkeySettingDlg::markChanges() {
+  marks_ = std::make_unique<brennet::ChangeMarks>();
+  const brennet::SchemeMarks scheme(*marks_, *history_, config_);
+  basic_->mark(scheme);
+  quickChat_->mark(scheme);
+  const brennet::Dota7Marks dota7(*marks_, *history_, manager_);
+  dota7_->mark(dota7);
+  dota7Chat_->mark(dota7);
+  marks_->add(*form_->chkUseHotkeySettings, [this]() -> std::optional<QString> {
+    const bool wasOn = history_->openingEnable();
+    if (config_.enable() == wasOn) return std::nullopt;
+    return brennet::onOffText(wasOn);
+  });
 }
 
 void CHotkeySettingDlg::setDataFolder(std::u16string_view folder) {
@@ -253,6 +282,7 @@ void CHotkeySettingDlg::onResetSetting() {
                "DotA 7");
   if (!isConfirmed(QMessageBox::Warning, tr("reset settings"), question)) return;
   clearSettings(mode_);
+  undoButtons_->note(form_->lblResetToDefaultSetting->text());
 }
 
 void CHotkeySettingDlg::onUseRecommendedSetting() {
@@ -263,11 +293,30 @@ void CHotkeySettingDlg::onUseRecommendedSetting() {
   if (mode_ != Mode::Platform) return;
   basic_->useRecommended();
   clearSettings(Mode::Platform, basic_);
+  undoButtons_->note(form_->lblUseRecommendedSetting->text());
 }
 
 // Pages are kept up to date even while they are hidden.
 void CHotkeySettingDlg::showSettings() {
   for (const Page& row : pages_) row.page->showSettings();
+}
+
+// If the file names a scheme that does not exist, none is shown, and each can be chosen.
+void CHotkeySettingDlg::showChoice() {
+  const QSignalBlocker quietGroup(form_->cmbHotkeySetting);
+  const QSignalBlocker quietSwitch(form_->chkUseHotkeySettings);
+  const auto index = static_cast<int>(config_.index());
+  const bool isThere = index < form_->cmbHotkeySetting->count();
+  form_->cmbHotkeySetting->setCurrentIndex(isThere ? index : -1);
+  form_->chkUseHotkeySettings->setChecked(config_.enable());
+}
+
+// The player is to see what was undone or done again.
+void CHotkeySettingDlg::showStep(const brennet::EditStep& step) {
+  const Mode mode = step.isDota7() ? Mode::Dota7 : Mode::Platform;
+  if (mode != mode_) setMode(mode);
+  showChoice();
+  showSettings();
 }
 
 void CHotkeySettingDlg::clearSettings(Mode mode, const brennet::SettingPage* spared) {
@@ -293,6 +342,8 @@ void CHotkeySettingDlg::onSwitchPlatKeySettingDlg() {
 
 void CHotkeySettingDlg::onSwitchDota7KeySettingDlg() {
   dota7_->showSettings();
+  history_->forgetDota7();
+  marks_->refresh();
   setMode(Mode::Dota7);
 }
 
@@ -304,6 +355,8 @@ void CHotkeySettingDlg::onShowDota7HotKeySettingDlg() {
   } else {
     dota7Chat_->showSettings();
   }
+  // The click that ended the window has been dealt with, and another may not come.
+  undoButtons_->note();
 }
 
 // A settings file may name a setting group that does not exist; then no key does anything.

@@ -12,13 +12,17 @@ namespace Ui {
 class CHotkeySettingDlg;
 }
 namespace brennet {
+class ChangeMarks;
 class Dota7KeyInfoManager;
 struct DraggableWindow;
+class EditHistory;
+struct EditStep;
 class EventGuard;
 class HotkeyConfig;
 struct LoadReport;
 class ScreenFit;
 class SettingPage;
+class UndoButtons;
 }  // namespace brennet
 class CAdvancedSettingWidget;
 class CBasicSetting7Widget;
@@ -94,12 +98,16 @@ class CHotkeySettingDlg : public QDialog {
   void fillForm();
   void connectForm();
   void connectPages();
+  void rememberSteps();
+  void markChanges();
   void setMode(Mode mode);
   void leaveField();
   [[nodiscard]] bool isLinkClicked(const QLabel& link, const QEvent& event);
   [[nodiscard]] bool applySkin();
   void fitToSkin();
   void showSettings();
+  void showChoice();
+  void showStep(const brennet::EditStep& step);
   [[nodiscard]] brennet::KeyMap shownKeys();
   void showKeyMap();
   void leadTo(const brennet::MapTarget& target);
@@ -111,6 +119,9 @@ class CHotkeySettingDlg : public QDialog {
   brennet::HotkeyConfig& config_;
   brennet::Dota7KeyInfoManager& manager_;
   std::unique_ptr<Ui::CHotkeySettingDlg> form_;
+  std::unique_ptr<brennet::EditHistory> history_;
+  std::unique_ptr<brennet::ChangeMarks> marks_;
+  std::unique_ptr<brennet::UndoButtons> undoButtons_;
   QStackedLayout* stack_ = nullptr;
   // Children of this widget.
   brennet::ScreenFit* fit_ = nullptr;

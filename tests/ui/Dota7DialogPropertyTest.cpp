@@ -6,8 +6,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -73,7 +75,7 @@ class Dota7DialogPropertyTest : public Dota7Test {
     QApplication::setActiveWindow(&dialog);
     auto& page = *dialog.findChild<CDotA7BasicSetting*>();
     auto& chat = *dialog.findChild<Dota7ChatKeySettingWidget*>();
-    switch (number(9)) {
+    switch (number(11)) {
       case 0:
         return dialog.onSwitchPlatKeySettingDlg();
       case 1:
@@ -88,9 +90,31 @@ class Dota7DialogPropertyTest : public Dota7Test {
         return pressSomething(anyOf<QLineEdit>(chat));
       case 6:
         return lookAtTheMap(dialog);
+      case 7:
+      case 8:
+        return undoOrRedo(dialog);
+      case 9:
+        return useTheMenu(anyOf<QLineEdit>(page));
       default:
         return pressSomething(anyOf<QLineEdit>(page));
     }
+  }
+
+  void undoOrRedo(CHotkeySettingDlg& dialog) {
+    const char* const name = number(3) == 0 ? "btnRedo" : "btnUndo";
+    for (int times = number(4); times >= 0; --times) {
+      QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(name)), Qt::LeftButton);
+    }
+  }
+
+  // Puts a key back or clears it, if that can be done.
+  void useTheMenu(QLineEdit& field) {
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, QPoint());
+    QCoreApplication::sendEvent(&field, &request);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu == nullptr) return;
+    menu->actions().at(number(menu->actions().size()))->trigger();
+    menu->close();
   }
 
   // Presses something there and goes to a use, or back.

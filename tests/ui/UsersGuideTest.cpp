@@ -100,7 +100,7 @@ TEST_P(UsersGuide, NamesWhatIsAtTheTop) {
   HotkeyConfig config;
   Dota7KeyInfoManager manager;
   const CHotkeySettingDlg dialog(config, manager);
-  for (const char* const name : {"chkUseHotkeySettings", "btnSwitchPlat"}) {
+  for (const char* const name : {"chkUseHotkeySettings", "btnSwitchPlat", "btnUndo", "btnRedo"}) {
     const auto& button = *dialog.findChild<QAbstractButton*>(QLatin1String(name));
     expectNamed(button, button.text());
   }

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "model/KeyAssignment.h"
+#include "ui/capture/ChangeLine.h"
 #include "ui/capture/RefusalText.h"
 #include "ui/capture/SlotCapture.h"
 #include "ui/window/EventGuard.h"
@@ -53,7 +55,8 @@ bool CaptureFields::showToolTip(QObject* watched, const QHelpEvent& event) const
   const std::optional<KeySlot> slot = field != nullptr ? slotOf(*field) : std::nullopt;
   if (!slot) return false;
   return guarded([&] {
-    QToolTip::showText(event.globalPos(), fieldText(config_->scheme(), *slot), field);
+    const QString text = fieldText(config_->scheme(), *slot);
+    QToolTip::showText(event.globalPos(), joinedLines(text, changeLine(*field)), field);
     return true;
   });
 }
@@ -74,6 +77,20 @@ void CaptureFields::leadTo(KeySlot slot) {
   outline({slot});
   row->field->window()->activateWindow();
   row->field->setFocus(Qt::OtherFocusReason);
+}
+
+void CaptureFields::put(KeySlot slot, KeyWord key) {
+  HotkeyScheme* const scheme = config_->editableScheme();
+  if (scheme == nullptr) return;
+  if (!key.isSet()) {
+    storeKey(*scheme, slot, key);
+  } else if (!assignKey(*scheme, slot, key)) {
+    return;
+  }
+  outline_.clear();
+  for (const Field& row : fields_) {
+    if (row.slot == slot) row.field->setText(keyText(key));
+  }
 }
 
 void CaptureFields::take(QLineEdit& field, const Capture& capture) {

@@ -53,16 +53,22 @@ class CaptureFields {
   // Does nothing if there is none, or none that the player ever sees.
   void leadTo(KeySlot slot);
 
+  // A field, and the key that it edits.
+  struct Field {
+    QLineEdit* field;
+    KeySlot slot;
+  };
+  [[nodiscard]] const std::vector<Field>& fields() const { return fields_; }
+
+  // Stores a key that the scheme accepts in `slot`, or kNoKey, and shows it, without a word to the
+  // player. A refused key changes nothing.
+  void put(KeySlot slot, KeyWord key);
+
   // Outlines the fields that edit these slots, until the next key is pressed in a field or all are
   // shown anew.
   void outline(const std::vector<KeySlot>& holders);
 
  private:
-  struct Field {
-    QLineEdit* field;
-    KeySlot slot;
-  };
-
   [[nodiscard]] std::optional<KeySlot> slotOf(const QLineEdit& field) const;
   [[nodiscard]] bool showToolTip(QObject* watched, const QHelpEvent& event) const;
   void take(QLineEdit& field, const Capture& capture);

@@ -31,13 +31,22 @@ constexpr const char* kUnits[] = {
 };
 static_assert(std::size(kUnits) == kDota7UnitKeys);
 
+// The switches, in their order.
+constexpr const char* kSwitches[] = {
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "使用默认技能按键"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "按CTRL+技能键学技能"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "在鼠标当前位置快速施法"),
+    QT_TRANSLATE_NOOP("CDotA7BasicSetting", "双击自动施法"),
+};
+static_assert(std::size(kSwitches) == kDota7Switches);
+
 QString pageText(const char* text) {
   return QCoreApplication::translate("CDotA7BasicSetting", text);
 }
 
-// The number of a field in a group, from 0; nothing if it is not one of them.
+// The number of a row in a group, from 0; nothing if it is not one of them.
 template <class Group>
-std::optional<int> numberIn(const Group& group, const Dota7KeyField& field) {
+std::optional<int> numberIn(const Group& group, const typename Group::element_type& field) {
   const auto distance = &field - group.data();
   if (distance < 0 || distance >= static_cast<std::ptrdiff_t>(group.size())) return std::nullopt;
   return static_cast<int>(distance);
@@ -66,6 +75,19 @@ QString dota7FieldText(const Dota7KeyField& field) {
       QT_TRANSLATE_NOOP("Dota7ChatKeySettingWidget", "快捷喊话 %1 的按键");
   const int number = numberIn(dota7ChatKeys(), field).value_or(0);
   return QCoreApplication::translate("Dota7ChatKeySettingWidget", kChatKey).arg(number + 1);
+}
+
+QString dota7SwitchText(const Dota7Switch& row) {
+  return pageText(kSwitches[numberIn(dota7Switches(), row).value_or(0)]);
+}
+
+QString dota7PhraseText(const Dota7Phrase& row) {
+  constexpr const char* kQuick = QT_TRANSLATE_NOOP("Dota7ChatKeySettingWidget", "快捷喊话 %1");
+  constexpr const char* kAtStart = QT_TRANSLATE_NOOP("Dota7ChatKeySettingWidget", "开局喊话 %1");
+  const auto quick = numberIn(dota7QuickChatPhrases(), row);
+  const int number = quick ? *quick : numberIn(dota7StartPhrases(), row).value_or(0);
+  return QCoreApplication::translate("Dota7ChatKeySettingWidget", quick ? kQuick : kAtStart)
+      .arg(number + 1);
 }
 
 bool isDota7ChatKey(const Dota7KeyField& field) {

@@ -9,6 +9,10 @@ namespace brennet {
 // What players call a key field of the DotA 7 pages, in their language: "Patrol", "Item slot 1".
 [[nodiscard]] QString dota7FieldText(const Dota7KeyField& field);
 
+// The same for the switches and the phrases.
+[[nodiscard]] QString dota7SwitchText(const Dota7Switch& row);
+[[nodiscard]] QString dota7PhraseText(const Dota7Phrase& row);
+
 // Whether the field is in the window for phrases, and not on the page.
 [[nodiscard]] bool isDota7ChatKey(const Dota7KeyField& field);
 

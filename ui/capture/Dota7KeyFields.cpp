@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
+#include "ui/capture/ChangeLine.h"
 #include "ui/capture/Dota7FieldText.h"
 #include "ui/capture/RefusalText.h"
 #include "ui/capture/SlotCapture.h"
@@ -65,7 +66,7 @@ bool Dota7KeyFields::showToolTip(QObject* watched, const QHelpEvent& event) cons
   const Dota7KeyField* const row = field != nullptr ? rowOf(*field) : nullptr;
   if (row == nullptr) return false;
   return guarded([&] {
-    QToolTip::showText(event.globalPos(), toolTipOf(*row), field);
+    QToolTip::showText(event.globalPos(), joinedLines(toolTipOf(*row), changeLine(*field)), field);
     return true;
   });
 }
@@ -100,6 +101,15 @@ void Dota7KeyFields::leadTo(const Dota7KeyField& row) {
     outline_.show({field.field});
     field.field->setFocus(Qt::OtherFocusReason);
   }
+}
+
+void Dota7KeyFields::put(const Dota7KeyField& row, Dota7Key key) {
+  if (key.code == 0) {
+    manager_->settings().clearKey(row);
+  } else if (!manager_->settings().storeKey(row, key)) {
+    return;
+  }
+  refresh();
 }
 
 void Dota7KeyFields::take(QLineEdit& field, const Capture& capture) {

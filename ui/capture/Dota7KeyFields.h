@@ -3,6 +3,7 @@
 #include <functional>
 #include <vector>
 
+#include "gameside/dota7/Dota7Settings.h"
 #include "gameside/dota7/Dota7Values.h"
 #include "keys/KeyWord.h"
 #include "ui/capture/HolderOutline.h"
@@ -38,15 +39,21 @@ class Dota7KeyFields {
   // Gives the keyboard to that field, and outlines it until the next press.
   void leadTo(const Dota7KeyField& row);
 
-  // For the event filter of the page: whether the event was consumed.
-  bool filter(QObject* watched, QEvent* event);
-
- private:
+  // A field, and the values that it edits.
   struct Field {
     QLineEdit* field;
     const Dota7KeyField* row;
   };
+  [[nodiscard]] const std::vector<Field>& fields() const { return fields_; }
 
+  // Stores a key that no other field has, or no key, and shows it, without a word to the player. A
+  // refused key changes nothing.
+  void put(const Dota7KeyField& row, Dota7Key key);
+
+  // For the event filter of the page: whether the event was consumed.
+  bool filter(QObject* watched, QEvent* event);
+
+ private:
   bool showToolTip(QObject* watched, const QHelpEvent& event) const;
   [[nodiscard]] QString toolTipOf(const Dota7KeyField& row) const;
   // What has a key, for a player who looks at the window of `from`.

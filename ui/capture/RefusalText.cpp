@@ -66,12 +66,6 @@ QString choiceText(const KeyConflict& conflict) {
       .arg(digit);
 }
 
-// Not every key has a text.
-QString nameOf(KeyWord key) {
-  const QString text = keyText(key);
-  return text.isEmpty() ? QString::number(key.raw()) : text;
-}
-
 }  // namespace
 
 QString keyLine(const QString& key, const QString& what) {
@@ -121,7 +115,7 @@ QString fieldText(const HotkeyScheme& scheme, KeySlot slot) {
   const QString place = placeText(slot);
   const KeyWord key = keyAt(scheme, slot);
   if (!key.isSet()) return noKeyLine(place);
-  QStringList lines(keyLine(nameOf(key), place));
+  QStringList lines(keyLine(keyNameText(key), place));
   for (const KeySlot other : usesOf(scheme, key)) {
     if (other == slot) continue;
     lines += alsoLine(fromWindow(placeText(other), windowOf(other), windowOf(slot)));
@@ -132,16 +126,16 @@ QString fieldText(const HotkeyScheme& scheme, KeySlot slot) {
 QString refusalText(const Refusal& refusal, KeyWindow from) {
   QStringList lines;
   for (const KeyConflict& reason : refusal.reasons) {
-    lines += keyLine(nameOf(refusal.key), holderText(reason, from));
+    lines += keyLine(keyNameText(refusal.key), holderText(reason, from));
   }
-  if (isPaste(refusal.key)) lines += pasteLine(nameOf(refusal.key));
+  if (isPaste(refusal.key)) lines += pasteLine(keyNameText(refusal.key));
   return lines.join(QLatin1Char('\n'));
 }
 
 QString refusalText(const std::vector<TakenKey>& taken, KeyWindow from) {
   QStringList lines;
   for (const TakenKey& key : taken)
-    lines += keyLine(nameOf(key.key), holderText(key.conflict, from));
+    lines += keyLine(keyNameText(key.key), holderText(key.conflict, from));
   return lines.join(QLatin1Char('\n'));
 }
 

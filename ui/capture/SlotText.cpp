@@ -4,8 +4,8 @@
 
 #include <optional>
 
-#include "keys/KeyWordText.h"
 #include "model/FixedKeys.h"
+#include "ui/window/Text.h"
 
 namespace brennet {
 namespace {
@@ -101,21 +101,6 @@ QString conflictWords(const char* text) {
   return QCoreApplication::translate("KeyConflict", text);
 }
 
-QString keyText(KeyWord key) {
-  std::u16string text;
-  if (formatKeyWord(key, text)) return QString::fromStdU16String(text);
-  return QString::number(key.raw());
-}
-
-// Files hold texts of any length.
-QString shortened(const std::u16string& text) {
-  constexpr int kLongest = 24;
-  QString line = QString::fromStdU16String(text).simplified();
-  if (line.size() <= kLongest) return line;
-  const int whole = line.at(kLongest - 1).isHighSurrogate() ? kLongest - 1 : kLongest;
-  return line.left(whole) + QChar(u'\u2026');
-}
-
 }  // namespace
 
 QString slotText(KeySlot slot) {
@@ -131,7 +116,7 @@ QString slotText(KeySlot slot) {
 }
 
 QString conflictText(KeyWord key, const KeyConflict& conflict) {
-  const QString text = keyText(key);
+  const QString text = keyNameText(key);
   switch (conflict.reason) {
     case KeyConflict::Reason::Held:
     case KeyConflict::Reason::SentByItself:
@@ -151,7 +136,7 @@ QString droppedKeyText(const DroppedKey& dropped, int currentScheme) {
   const QString why = dropped.conflict
                           ? conflictText(dropped.key, *dropped.conflict)
                           : conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "“%1”不是按键"))
-                                .arg(shortened(dropped.text));
+                                .arg(shortened(toQString(dropped.text)));
   const QString what = slotText(dropped.slot);
   if (dropped.scheme == currentScheme) {
     return conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "%1：%2")).arg(what, why);

@@ -7,8 +7,11 @@
 
 #include "model/RecommendedScheme.h"
 #include "model/SchemeAssignment.h"
+#include "model/SettingTable.h"
 #include "ui/capture/RefusalText.h"
+#include "ui/capture/SettingText.h"
 #include "ui/capture/TabOrder.h"
+#include "ui/history/SchemeMarks.h"
 #include "ui/pages/BasicCapture.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/Form.h"
@@ -16,12 +19,12 @@
 #include "ui_CHotkeySettingPage.h"
 
 using brennet::HotkeyScheme;
+using brennet::SettingId;
 
 // A switch of the game. Those that clients know have slots; a new one needs none.
 struct CBasicSetting7Widget::Option {
   const char* objectName;
-  const char* text;
-  std::uint8_t HotkeyScheme::*field;
+  SettingId id;
   void (CBasicSetting7Widget::*slot)(bool) = nullptr;
   const char* keyField = nullptr;  // for the key that does the same in game
 };
@@ -52,27 +55,20 @@ brennet::KeyRowTexts rowTexts() {
 
 std::span<const CBasicSetting7Widget::Option> CBasicSetting7Widget::options() {
   using Page = CBasicSetting7Widget;
-  using Scheme = HotkeyScheme;
   // Column by column; the switches with a key are in the first one.
   static const Option kOptions[] = {
-      {"chkLockMouse", QT_TRANSLATE_NOOP("CHotkeySettingPage", "窗口模式锁定鼠标"),
-       &Scheme::LockMouseFlag, &Page::onToggled_LockMouse, "edtWinLockMouse"},
-      {"chkShowFriendBlood", QT_TRANSLATE_NOOP("CHotkeySettingPage", "显示己方血量"),
-       &Scheme::ShowFBloodFlag, &Page::onToggled_ShowFriendBlood, "edtShowFBlood"},
-      {"chkShowEnimiesBlood", QT_TRANSLATE_NOOP("CHotkeySettingPage", "显示敌方血量"),
-       &Scheme::ShowEBloodFlag, &Page::onToggled_ShowEnimiesBlood, "edtShowEBlood"},
-      {"chkDisableLWin", QT_TRANSLATE_NOOP("CHotkeySettingPage", "禁用左Win键"),
-       &Scheme::DisableLWinFlag, &Page::onToggled_DisableLWin},
-      {"chkDisableLeftAlt", QT_TRANSLATE_NOOP("CHotkeySettingPage", "禁用左Alt键"),
-       &Scheme::DisableLeftAlt, &Page::onToggled_checkBox_DisableLeftAlt},
-      {"chkDisableLeftAltShowHP", QT_TRANSLATE_NOOP("CHotkeySettingPage", "禁用左Alt键显血"),
-       &Scheme::DisableLeftAltShowHP, &Page::onToggled_checkBox_DisableLeftAltShowHP},
-      {"chkKeepNoStretch", QT_TRANSLATE_NOOP("CHotkeySettingPage", "画面不拉伸（留黑边）"),
-       &Scheme::ViewNoDragFlag, &Page::onToggled_KeepNoStretch},
-      {"chkDelayOptimization", QT_TRANSLATE_NOOP("CHotkeySettingPage", "延迟优化"),
-       &Scheme::StartJSQFlag, &Page::onToggled_DelayOptimization},
-      {"chkHideUI", QT_TRANSLATE_NOOP("CHotkeySettingPage", "隐藏游戏内按钮"), &Scheme::HideUI,
-       &Page::onToggled_HideUI},
+      {"chkLockMouse", SettingId::LockMouseFlag, &Page::onToggled_LockMouse, "edtWinLockMouse"},
+      {"chkShowFriendBlood", SettingId::ShowFBloodFlag, &Page::onToggled_ShowFriendBlood,
+       "edtShowFBlood"},
+      {"chkShowEnimiesBlood", SettingId::ShowEBloodFlag, &Page::onToggled_ShowEnimiesBlood,
+       "edtShowEBlood"},
+      {"chkDisableLWin", SettingId::DisableLWinFlag, &Page::onToggled_DisableLWin},
+      {"chkDisableLeftAlt", SettingId::DisableLeftAlt, &Page::onToggled_checkBox_DisableLeftAlt},
+      {"chkDisableLeftAltShowHP", SettingId::DisableLeftAltShowHP,
+       &Page::onToggled_checkBox_DisableLeftAltShowHP},
+      {"chkKeepNoStretch", SettingId::ViewNoDragFlag, &Page::onToggled_KeepNoStretch},
+      {"chkDelayOptimization", SettingId::StartJSQFlag, &Page::onToggled_DelayOptimization},
+      {"chkHideUI", SettingId::HideUI, &Page::onToggled_HideUI},
   };
   return kOptions;
 }
@@ -116,23 +112,24 @@ void CBasicSetting7Widget::buildRows() {
 void CBasicSetting7Widget::addOption(QGridLayout& grid, int number, const Option& option) {
   const int row = number % kOptionRows;
   const int column = 2 * (number / kOptionRows);
-  auto* const box = new QCheckBox(text(option.text));
+  const auto field = std::get<brennet::SwitchSetting>(brennet::setting(option.id).kind).field;
+  auto* const box = new QCheckBox(brennet::settingText({option.id}));
   box->setObjectName(QLatin1String(option.objectName));
   grid.addWidget(box, row, column);
-  switches_.add(*box, option.field);
+  switches_.add(*box, field);
   if (option.slot != nullptr) {
     connect(box, &QCheckBox::toggled, this, option.slot);
   } else {
     connect(box, &QCheckBox::toggled, this,
-            [this, field = option.field](bool isOn) { switches_.store(field, isOn); });
+            [this, field](bool isOn) { switches_.store(field, isOn); });
   }
   if (option.keyField == nullptr) return;
-  auto* const field = brennet::newKeyField(
+  auto* const keyField = brennet::newKeyField(
       QLatin1String(option.keyField),
       text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "%1：按键")).arg(box->text()));
-  field->setAccessibleDescription(
+  keyField->setAccessibleDescription(
       text(QT_TRANSLATE_NOOP("CHotkeySettingPage", "在游戏中切换此项的按键")));
-  grid.addWidget(field, row, column + 1);
+  grid.addWidget(keyField, row, column + 1);
 }
 
 void CBasicSetting7Widget::connectSwitches() {
@@ -226,6 +223,18 @@ void CBasicSetting7Widget::leadTo(brennet::KeySlot slot) {
   const bool isInOrrery = brennet::windowOf(slot) == brennet::KeyWindow::Orrery;
   if (isInOrrery && !orrery_->isVisible()) onClickedOrrerySettingBtn();
   fields_.leadTo(slot);
+}
+
+void CBasicSetting7Widget::mark(const brennet::SchemeMarks& marks) {
+  marks.addKeys(fields_);
+  switches_.mark(marks);
+  presets_.mark(marks);
+  for (std::size_t i = 0; i < skillMarks_.size(); ++i) {
+    marks.add(*skillMarks_[i], {SettingId::HeroSkillKey, static_cast<std::uint8_t>(i), true});
+  }
+  for (std::size_t i = 0; i < itemMarks_.size(); ++i) {
+    marks.add(*itemMarks_[i], {SettingId::ItemKey, static_cast<std::uint8_t>(i), true});
+  }
 }
 
 bool CBasicSetting7Widget::getEditControlTypeByParseName(const QString& name,

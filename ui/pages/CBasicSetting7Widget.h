@@ -15,6 +15,9 @@
 namespace Ui {
 class CHotkeySettingPage;
 }
+namespace brennet {
+class SchemeMarks;
+}
 class COrrerySettingDlg;
 class QGridLayout;
 class QPushButton;
@@ -38,6 +41,9 @@ class CBasicSetting7Widget : public QWidget, public brennet::SettingPage {
 
   // Whether the page has the button for the DotA 7 mode.
   void setDota7Offered(bool offered);
+
+  // Has the controls marked whose settings have changed since the dialog opened.
+  void mark(const brennet::SchemeMarks& marks);
 
   // Leads the player to the field of a key or the box of a preset, here or in the Orrery window.
   // Does nothing if there is none.

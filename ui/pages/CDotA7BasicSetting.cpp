@@ -10,6 +10,7 @@
 #include "ui/capture/Dota7FieldText.h"
 #include "ui/capture/KeyMessages.h"
 #include "ui/capture/TabOrder.h"
+#include "ui/history/Dota7Marks.h"
 #include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
 #include "ui/window/Text.h"
@@ -106,6 +107,17 @@ void CDotA7BasicSetting::connectButtons() {
   onClick(form_->chk_SDoubleClickHero, &Page::onClickedSDoubleClickHero);
   onClick(form_->chk_Normal, &Page::onClickedNormal);
   onClick(form_->chk_QuickUse, &Page::onClickedQuickUse);
+}
+
+void CDotA7BasicSetting::mark(const brennet::Dota7Marks& marks) {
+  marks.addKeys(fields_);
+  for (const brennet::Dota7Switch& row : brennet::dota7Switches()) {
+    marks.add(*findChild<QAbstractButton*>(brennet::toQString(row.objectName)), row);
+  }
+  // The fields show the keys of another mode then.
+  for (QAbstractButton* const button : {form_->chk_Normal, form_->chk_QuickUse}) {
+    connect(button, &QAbstractButton::clicked, this, [marks] { marks.refresh(); });
+  }
 }
 
 void CDotA7BasicSetting::showSettings() {

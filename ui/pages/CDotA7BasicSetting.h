@@ -12,6 +12,9 @@
 namespace Ui {
 class CDotA7BasicSetting;
 }
+namespace brennet {
+class Dota7Marks;
+}
 class QAbstractButton;
 
 // The page of the DotA 7 mode: keys and options that the map reads from the registry. Each change
@@ -31,6 +34,9 @@ class CDotA7BasicSetting : public QWidget, public brennet::SettingPage {
   void showSettings() override;
   // Gives all keys and options their defaults: no key, off, normal cast.
   void clearSettings() override;
+
+  // Has the controls marked whose settings have changed since the dialog opened.
+  void mark(const brennet::Dota7Marks& marks);
 
   // Leads the player to the field of a key.
   void leadTo(const brennet::Dota7KeyField& row) { fields_.leadTo(row); }

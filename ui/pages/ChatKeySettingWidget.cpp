@@ -1,10 +1,12 @@
 #include "ui/pages/ChatKeySettingWidget.h"
 
+#include <iterator>
 #include <string_view>
 
 #include "ui/capture/KeyMessages.h"
 #include "ui/chat/PhraseMenu.h"
 #include "ui/chat/TypedPhrase.h"
+#include "ui/history/SchemeMarks.h"
 #include "ui/pages/Form.h"
 #include "ui/window/Text.h"
 #include "ui_ChatKeySettingWidget.h"
@@ -24,6 +26,14 @@ std::unique_ptr<Ui::ChatKeySettingWidget> makeForm(QDialog& dialog) {
   form->phraseLayout->setColumnMinimumWidth(kFieldColumn,
                                             dialog.fontMetrics().horizontalAdvance(longest));
   return form;
+}
+
+// A phrase found for one field is kept for those after it that find none.
+QString shownPhrase(const brennet::HotkeyScheme& scheme, std::size_t number) {
+  for (std::size_t n = number + 1; n > 0; --n) {
+    if (const auto& phrase = scheme.QuickChat[n - 1]) return brennet::toQString(*phrase);
+  }
+  return {};
 }
 
 }  // namespace
@@ -62,12 +72,21 @@ QLineEdit& ChatKeySettingWidget::field(std::size_t phrase) const {
 
 void ChatKeySettingWidget::showSettings() {
   keyButtons_.refresh();
-  QString text;
   for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
-    const auto& phrase = config_.scheme().QuickChat[n];
-    // A phrase found for one field is kept for those after it that find none.
-    if (phrase) text = brennet::toQString(*phrase);
-    field(n).setText(text);
+    field(n).setText(shownPhrase(config_.scheme(), n));
+  }
+}
+
+void ChatKeySettingWidget::mark(const brennet::SchemeMarks& marks) {
+  for (std::size_t n = 0; n < brennet::kPhrases; ++n) {
+    marks.addText(field(n),
+                  [n](const brennet::HotkeyScheme& scheme) { return shownPhrase(scheme, n); });
+  }
+  QRadioButton* const buttons[] = {form_->optChatKey_1, form_->optChatKey_2};
+  for (std::uint32_t set = 0; set < std::size(buttons); ++set) {
+    marks.addChoice(*buttons[set], [set](const brennet::HotkeyScheme& scheme) {
+      return scheme.QuickChatIndex == set;
+    });
   }
 }
 

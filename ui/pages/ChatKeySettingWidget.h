@@ -14,6 +14,9 @@ class QLineEdit;
 namespace Ui {
 class ChatKeySettingWidget;
 }
+namespace brennet {
+class SchemeMarks;
+}
 
 // The quick-chat dialog: the eight phrases of the current scheme, which OK stores, and the keys
 // that send them, which are stored at once. In no namespace: style sheets and catalogues know it by
@@ -32,6 +35,9 @@ class ChatKeySettingWidget : public brennet::MovableDialog, public brennet::Sett
   // Chooses Alt+F1 to Alt+F8 and empties all phrases, in the fields and in the current scheme.
   // If one of these keys is used for something else, the player is told and the choice stays.
   void clearSettings() override;
+
+  // Has the controls marked whose settings have changed since the dialog opened.
+  void mark(const brennet::SchemeMarks& marks);
 
   // Leads the player to a phrase, from 0.
   void leadTo(std::size_t phrase) { field(phrase).setFocus(Qt::OtherFocusReason); }

@@ -8,6 +8,7 @@
 #include "ui/capture/KeyMessages.h"
 #include "ui/capture/TabOrder.h"
 #include "ui/chat/PhraseMenu.h"
+#include "ui/history/Dota7Marks.h"
 #include "ui/pages/Form.h"
 #include "ui/pages/KeyRows.h"
 #include "ui/window/Text.h"
@@ -27,10 +28,10 @@ QLabel* newLabel(const QString& objectName, int number, QLineEdit* field) {
   return label;
 }
 
-QLineEdit* newPhraseField(const QString& objectName, const QString& accessibleName) {
+QLineEdit* newPhraseField(const brennet::Dota7Phrase& row) {
   auto* const field = new QLineEdit;
-  field->setObjectName(objectName);
-  field->setAccessibleName(accessibleName);
+  field->setObjectName(brennet::toQString(row.objectName));
+  field->setAccessibleName(brennet::dota7PhraseText(row));
   const QString shown(kShownCharacters, QChar(kWideCharacter));
   brennet::offerPhraseMenu(*field);
   field->setMinimumWidth(field->fontMetrics().horizontalAdvance(shown));
@@ -62,8 +63,7 @@ void Dota7ChatKeySettingWidget::buildRows() {
     const int number = row + 1;
     const auto& quickRow = brennet::dota7QuickChatPhrases()[i];
     const auto& startRow = brennet::dota7StartPhrases()[i];
-    auto* const phrase =
-        newPhraseField(brennet::toQString(quickRow.objectName), tr("快捷喊话 %1").arg(number));
+    auto* const phrase = newPhraseField(quickRow);
     const brennet::Dota7KeyField& keyRow = brennet::dota7ChatKeys()[i];
     auto* const key = brennet::newKeyField(brennet::toQString(keyRow.objectName),
                                            brennet::dota7FieldText(keyRow));
@@ -72,8 +72,7 @@ void Dota7ChatKeySettingWidget::buildRows() {
     quick.addWidget(phrase, row, 1);
     quick.addWidget(key, row, 2);
 
-    auto* const start =
-        newPhraseField(brennet::toQString(startRow.objectName), tr("开局喊话 %1").arg(number));
+    auto* const start = newPhraseField(startRow);
     auto& atStart = *form_->layOnStart;
     atStart.addWidget(newLabel(QStringLiteral("label_SOnStartString%1").arg(row), number, start),
                       row, 0);
@@ -89,6 +88,13 @@ void Dota7ChatKeySettingWidget::showSettings() {
         ->setText(brennet::toQString(manager_.settings().phrase(row)));
   }
   keys_.refresh();
+}
+
+void Dota7ChatKeySettingWidget::mark(const brennet::Dota7Marks& marks) {
+  marks.addKeys(keys_);
+  for (const brennet::Dota7Phrase& row : brennet::dota7Phrases()) {
+    marks.add(*findChild<QLineEdit*>(brennet::toQString(row.objectName)), row);
+  }
 }
 
 void Dota7ChatKeySettingWidget::savePhrases() {

@@ -9,6 +9,9 @@
 namespace Ui {
 class Dota7ChatKeySettingWidget;
 }
+namespace brennet {
+class Dota7Marks;
+}
 
 // The chat dialog of the DotA 7 mode: phrases that keys send, and phrases that are sent when a game
 // starts. Phrases are stored when the owner asks for it, keys at once. In no namespace: style
@@ -27,6 +30,9 @@ class Dota7ChatKeySettingWidget : public brennet::MovableDialog, public brennet:
   void showSettings() override;
   // Writes the phrases as the fields have them.
   void savePhrases();
+
+  // Has the controls marked whose settings have changed since the dialog opened.
+  void mark(const brennet::Dota7Marks& marks);
 
   // Leads the player to the field of a key.
   void leadTo(const brennet::Dota7KeyField& row) { keys_.leadTo(row); }

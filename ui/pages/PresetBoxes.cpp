@@ -9,6 +9,7 @@
 #include "model/HotkeyConfig.h"
 #include "model/KeyConflicts.h"
 #include "ui/capture/RefusalText.h"
+#include "ui/history/SchemeMarks.h"
 
 namespace brennet {
 
@@ -37,6 +38,14 @@ void PresetBoxes::refresh() const {
     const QSignalBlocker quiet(box);
     box->setChecked(preset == chosen);
     box->setToolTip({});
+  }
+}
+
+void PresetBoxes::mark(const SchemeMarks& marks) const {
+  for (int preset = 0; preset < kPresets; ++preset) {
+    marks.addChoice(
+        *boxes_[static_cast<std::size_t>(preset)],
+        [preset](const HotkeyScheme& scheme) { return scheme.NumComboKeyIndex == preset; });
   }
 }
 

@@ -10,6 +10,7 @@ class QCheckBox;
 namespace brennet {
 
 class HotkeyConfig;
+class SchemeMarks;
 
 // The three check boxes that replace the item keys by a preset; at most one is checked. Two pages
 // have them.
@@ -23,6 +24,9 @@ class PresetBoxes {
 
   // Checks the box that the current scheme has chosen. Stores nothing.
   void refresh() const;
+
+  // Has the boxes marked whose choice has changed.
+  void mark(const SchemeMarks& marks) const;
 
   // Gives the keyboard to the box that the current scheme has chosen, if any.
   void leadToChosen() const;

@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 
 #include "model/HotkeyConfig.h"
+#include "ui/history/SchemeMarks.h"
 
 namespace brennet {
 
@@ -12,6 +13,13 @@ void SwitchBoxes::refresh() const {
   for (const Row& row : rows_) {
     const QSignalBlocker quiet(row.box);
     row.box->setChecked(scheme.*row.field != 0);
+  }
+}
+
+void SwitchBoxes::mark(const SchemeMarks& marks) const {
+  for (const Row& row : rows_) {
+    marks.addChoice(*row.box,
+                    [field = row.field](const HotkeyScheme& scheme) { return scheme.*field != 0; });
   }
 }
 

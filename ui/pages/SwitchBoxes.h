@@ -8,6 +8,7 @@ class QCheckBox;
 namespace brennet {
 
 class HotkeyConfig;
+class SchemeMarks;
 struct HotkeyScheme;
 
 // Check boxes that show switches of the current scheme.
@@ -22,6 +23,9 @@ class SwitchBoxes {
 
   // Checks the boxes of the switches that are on in the current scheme. Stores nothing.
   void refresh() const;
+
+  // Has the boxes marked whose switch has changed.
+  void mark(const SchemeMarks& marks) const;
 
   // Stores a switch; does nothing if the current scheme cannot be changed.
   void store(Switch field, bool isOn) const;

@@ -4,18 +4,7 @@
 #include <QLabel>
 
 #include "ui/window/CPictureButton.h"
-
-namespace {
-
-// A tool tip renders whatever looks like markup, whoever wrote it, and reads the pictures that it
-// names.
-QString plainToolTip(const QString& text) {
-  QString markup = text.toHtmlEscaped();
-  markup.replace(QLatin1Char('\n'), QLatin1String("<br>"));
-  return QStringLiteral("<p style='white-space: pre'>%1</p>").arg(markup);
-}
-
-}  // namespace
+#include "ui/window/Text.h"
 
 CNoticeStrip::CNoticeStrip(const QString& text, const QString& details, QWidget* parent)
     : QWidget(parent) {
@@ -26,7 +15,7 @@ CNoticeStrip::CNoticeStrip(const QString& text, const QString& details, QWidget*
   label->setWordWrap(true);
   // As wide as the window would be without it.
   label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
-  label->setToolTip(plainToolTip(details));
+  label->setToolTip(brennet::plainToolTip(details));
   label->setAccessibleDescription(details);
 
   auto* const close = new CPictureButton;

@@ -112,12 +112,21 @@ void ScreenFit::limitTo(QSize available) const {
     return;
   }
   if (spared_ != nullptr) spared_->show();
+  if (folded_ != nullptr) folded_->setDirection(QBoxLayout::LeftToRight);
   limitContent(available);
-  if (spared_ != nullptr && layout->totalSizeHint().width() > available.width()) {
+  if (folded_ != nullptr && isTooNarrow(available)) {
+    folded_->setDirection(QBoxLayout::TopToBottom);
+    limitContent(available);
+  }
+  if (spared_ != nullptr && isTooNarrow(available)) {
     spared_->hide();
     limitContent(available);
   }
   window_.resize(layout->totalSizeHint());
+}
+
+bool ScreenFit::isTooNarrow(QSize available) const {
+  return window_.layout()->totalSizeHint().width() > available.width();
 }
 
 void ScreenFit::limitContent(QSize available) const {

@@ -6,6 +6,7 @@
 #include <QRect>
 
 class CPageScroller;
+class QBoxLayout;
 class QShowEvent;
 class QWidget;
 class QWindow;
@@ -30,7 +31,10 @@ class ScreenFit : public QObject {
   // comes back where it was.
   void comeUp(const QShowEvent& shown);
 
-  // A widget of the window, which outlives it, that is hidden on screens too narrow for the rest.
+  // A row of the window, whose parts stand one below the other on screens too narrow for it.
+  void fold(QBoxLayout& row) { folded_ = &row; }
+
+  // A widget of the window, which outlives it, that is hidden on screens too narrow even then.
   void spare(QWidget& widget) { spared_ = &widget; }
 
   // To be called when the content of the window has changed while it is shown.
@@ -40,6 +44,7 @@ class ScreenFit : public QObject {
   void watch();
   void limitTo(QSize available) const;
   void limitContent(QSize available) const;
+  [[nodiscard]] bool isTooNarrow(QSize available) const;
   void fitAgain(bool moves);
   void fitNow(bool moves) const;
   void moveTo(QPoint corner) const;
@@ -47,6 +52,7 @@ class ScreenFit : public QObject {
   QWidget& window_;
   CPageScroller* content_;
   QWidget* spared_ = nullptr;
+  QBoxLayout* folded_ = nullptr;
   QPointer<const QWindow> handle_;  // whose screen is watched
   bool isWatching_ = false;         // the screens
 };

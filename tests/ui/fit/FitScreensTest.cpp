@@ -170,11 +170,19 @@ TEST_P(FitScreensTest, FitsAgainWhenTheOtherModeHasTheWiderHeader) {
   const TestScreens screens({{{1280, 700}}});
   const auto dialog = showDialog(true);
   auto& button = *dialog->findChild<QPushButton*>(QStringLiteral("btnSwitchPlat"));
-  const auto& header = *dialog->findChild<QLayout*>(QStringLiteral("layHeader"));
+  const auto& header = *dialog->findChild<QBoxLayout*>(QStringLiteral("layHeader"));
   const int others = header.sizeHint().width() - button.width();
   dialog->onSwitchPlatKeySettingDlg();
-  // Just too wide for the screen with the heading.
+  EXPECT_EQ(header.direction(), QBoxLayout::LeftToRight);
+  // Just too wide for the screen in one row.
   button.setStyleSheet(QStringLiteral("min-width: %1px; max-width: %1px;").arg(1280 - others));
+  dialog->onSwitchDota7KeySettingDlg();
+  settleLayouts();
+  EXPECT_EQ(header.direction(), QBoxLayout::TopToBottom);
+  expectInside(*dialog, screens.at(0).availableGeometry(), {"btnSwitchPlat", "lblKeyMap"});
+  // Too wide even then, but for the heading.
+  const int heading = dialog->findChild<QLabel*>(QStringLiteral("lblHeader"))->width();
+  button.setStyleSheet(QStringLiteral("min-width: %1px; max-width: %1px;").arg(1280 - heading));
   dialog->onSwitchDota7KeySettingDlg();
   settleLayouts();
   EXPECT_FALSE(dialog->findChild<QLabel*>(QStringLiteral("lblHeader"))->isVisible());

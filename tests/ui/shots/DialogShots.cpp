@@ -1,5 +1,11 @@
 // The settings dialog in both of its modes.
 
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+
 #include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "model/HotkeyConfig.h"
 #include "model/LoadReport.h"
@@ -60,11 +66,36 @@ std::unique_ptr<QWidget> makeDialogWithoutGroup() {
   return std::make_unique<CHotkeySettingDlg>(config, manager);
 }
 
+// After some steps, of which the last one was undone.
+std::unique_ptr<QWidget> makeDialogWithSteps() {
+  static Dota7KeyInfoManager manager;
+  static HotkeyConfig config;
+  config.ResetAndCopyFrom(settings());
+  auto dialog = std::make_unique<CHotkeySettingDlg>(config, manager);
+  dialog->show();
+  for (const char* const name :
+       {"chkHideUI", "chkGroupKey1", "btn_skillcast_5", "btn_goods_cast_7", "chkDisableLWin"}) {
+    auto& box = *dialog->findChild<QAbstractButton*>(QLatin1String(name));
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier);
+    QCoreApplication::sendEvent(&box, &press);
+    QCoreApplication::sendEvent(&box, &release);
+  }
+  for (const char* const name : {"edtSkill_2", "edt_skillex_L_1"}) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_T, Qt::NoModifier, 0, 0x54, 0);
+    QCoreApplication::sendEvent(dialog->findChild<QLineEdit*>(QLatin1String(name)), &press);
+  }
+  QCoreApplication::processEvents();
+  dialog->findChild<QPushButton*>(QStringLiteral("btnUndo"))->click();
+  return dialog;
+}
+
 }  // namespace
 
 QList<Shot> dialogShots() {
   return {{QStringLiteral("dialog"), makeDialog<false>},
           {QStringLiteral("dialog-dota7"), makeDialog<true>},
+          {QStringLiteral("dialog-steps"), makeDialogWithSteps},
           {QStringLiteral("dialog-notice"), makeDialogWithNotice},
           {QStringLiteral("dialog-no-group"), makeDialogWithoutGroup}};
 }

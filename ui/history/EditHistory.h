@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "gameside/dota7/Dota7Settings.h"
+#include "gameside/dota7/Dota7Step.h"
+#include "gameside/dota7/Dota7Values.h"
+#include "model/HotkeyConfig.h"
+
+namespace brennet {
+
+class Dota7KeyInfoManager;
+
+// The settings at one moment. Moments share the schemes that are equal.
+struct ConfigMoment {
+  bool enable = false;
+  std::uint32_t index = 0;
+  std::array<std::shared_ptr<const HotkeyScheme>, HotkeyConfig::kSchemes> schemes;
+};
+
+// One step of the player in the dialog: all that one press or click has changed, in the settings
+// and in the registry.
+struct EditStep {
+  ConfigMoment before, after;
+  Dota7Step dota7;  // empty: it changed nothing there
+  Dota7Cast castBefore = Dota7Cast::Normal;
+  Dota7Cast castAfter = Dota7Cast::Normal;
+  QString title;  // what it is called, if it is more than its changes: "Clear settings"
+
+  [[nodiscard]] bool isDota7() const { return !dota7.empty(); }
+};
+
+// The steps of one run of the dialog, to be undone and done again. Steps are found by comparison,
+// so that whatever changes the settings need not know of this. GUI thread only; everything throws
+// std::bad_alloc.
+class EditHistory {
+ public:
+  // The settings and the registry as they are now are what the first step starts from. Both outlive
+  // this object, and the manager's run has begun.
+  EditHistory(HotkeyConfig& config, Dota7KeyInfoManager& manager);
+
+  // Makes a step of what has changed since the last call. Returns whether there was something; then
+  // nothing is left to be done again.
+  bool note(const QString& title = {});
+
+  // The steps that undo() and redo() would take next; null if there is none.
+  [[nodiscard]] const EditStep* undoable() const;
+  [[nodiscard]] const EditStep* redoable() const;
+
+  // Undo the last step, or do the last undone one again, and return it; it belongs to this object
+  // and is there until the next call. Null if there is none.
+  const EditStep* undo();
+  const EditStep* redo();
+
+  // The current scheme as it was when the run began; the defaults if there is none.
+  [[nodiscard]] const HotkeyScheme& openingScheme() const;
+  [[nodiscard]] bool openingEnable() const { return opening_.enable; }
+
+  // The DotA 7 settings as they were before this run changed them, in the present cast mode. Read
+  // when it is first asked for, and again after each step and forgetDota7().
+  [[nodiscard]] const Dota7Settings& openingDota7();
+  // Somebody else may have changed the registry.
+  void forgetDota7() { openingDota7_.reset(); }
+
+ private:
+  [[nodiscard]] ConfigMoment moment() const;
+  void restore(const ConfigMoment& moment);
+
+  HotkeyConfig& config_;
+  Dota7KeyInfoManager& manager_;
+  std::vector<EditStep> done_;
+  std::vector<EditStep> undone_;  // the last one is the first to be done again
+  ConfigMoment last_;
+  Dota7Cast lastCast_;
+  ConfigMoment opening_;
+  std::optional<Dota7Settings> openingDota7_;
+};
+
+}  // namespace brennet
