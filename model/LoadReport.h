@@ -28,9 +28,24 @@ struct DroppedKey {
   friend bool operator==(const DroppedKey&, const DroppedKey&) = default;
 };
 
+// A choice of keys that the load could not make: the item preset, or the quick-chat keys. The
+// choice is then the default.
+struct DroppedChoice {
+  int scheme = 0;  // 0 to 2
+  SettingId setting = SettingId::NumComboKeyIndex;
+  std::u16string text;  // as the file has it
+  // Which of its keys were taken, and by what, when the file named it; empty if there is no such
+  // choice.
+  std::vector<TakenKey> taken;
+
+  friend bool operator==(const DroppedChoice&, const DroppedChoice&) = default;
+};
+
 // What a load reports besides its result. Empty if it failed.
 struct LoadReport {
-  std::vector<DroppedKey> droppedKeys;  // scheme by scheme, in the order of the file
+  // Each scheme by scheme, in the order of the file.
+  std::vector<DroppedKey> droppedKeys;
+  std::vector<DroppedChoice> droppedChoices;
 };
 
 }  // namespace brennet

@@ -34,8 +34,13 @@ std::optional<std::size_t> childNumber(const MarkupDocument& document,
 // setting. Empty text counts as missing.
 class SettingReader {
  public:
-  SettingReader(MarkupDocument& document, HotkeyScheme& scheme, KeyOffers& offers, SettingId id)
-      : document_(document), scheme_(scheme), offers_(offers), id_(id) {}
+  SettingReader(MarkupDocument& document, HotkeyScheme& scheme, KeyOffers& offers,
+                std::vector<DroppedChoice>& droppedChoices, SettingId id)
+      : document_(document),
+        scheme_(scheme),
+        offers_(offers),
+        droppedChoices_(droppedChoices),
+        id_(id) {}
 
   void operator()(const SwitchSetting& row) const {
     const std::u16string text = document_.getData();
@@ -88,15 +93,19 @@ class SettingReader {
   }
 
   void operator()(const PresetSetting&) const {
-    const std::u16string text = document_.getData();
-    if (!text.empty()) choosePreset(scheme_, parseDecimal(text));
+    std::u16string text = document_.getData();
+    if (text.empty()) return;
+    const std::int32_t preset = parseDecimal(text);
+    if (choosePreset(scheme_, preset)) return;
+    dropChoice(std::move(text), takenKeysOfPreset(scheme_, preset));
   }
 
   void operator()(const QuickChatSetSetting&) const {
-    const std::u16string text = document_.getData();
-    if (!text.empty()) {
-      chooseQuickChatKeys(scheme_, static_cast<std::uint32_t>(parseDecimal(text)));
-    }
+    std::u16string text = document_.getData();
+    if (text.empty()) return;
+    const auto set = static_cast<std::uint32_t>(parseDecimal(text));
+    if (chooseQuickChatKeys(scheme_, set)) return;
+    dropChoice(std::move(text), takenQuickChatKeys(scheme_, set));
   }
 
   // A phrase without text is a phrase that the player has emptied.
@@ -112,6 +121,10 @@ class SettingReader {
   void readAutocast(std::optional<bool>& mark) const {
     const std::u16string text = document_.getChildAttrib(u"autocast");
     if (!text.empty()) mark = parseDecimal(text) != 0;
+  }
+
+  void dropChoice(std::u16string text, std::vector<TakenKey> taken) const {
+    droppedChoices_.push_back({.setting = id_, .text = std::move(text), .taken = std::move(taken)});
   }
 
   // Reads the child `name` of the entered element, wherever it is; false if it is missing.
@@ -140,6 +153,7 @@ class SettingReader {
   MarkupDocument& document_;
   HotkeyScheme& scheme_;
   KeyOffers& offers_;
+  std::vector<DroppedChoice>& droppedChoices_;
   SettingId id_;
 };
 
@@ -155,22 +169,23 @@ bool findSetting(MarkupDocument& document, SettingId id) {
 
 }  // namespace
 
-std::vector<DroppedKey> readScheme(MarkupDocument& document, HotkeyScheme& scheme) {
+LoadReport readScheme(MarkupDocument& document, HotkeyScheme& scheme) {
   KeyOffers offers(scheme);
+  LoadReport report;
   for (const SettingId id : kLoadOrder) {
     if (!findSetting(document, id)) continue;
-    std::visit(SettingReader(document, scheme, offers, id), setting(id).kind);
+    const SettingReader reader(document, scheme, offers, report.droppedChoices, id);
+    std::visit(reader, setting(id).kind);
   }
-  std::vector<DroppedKey> dropped;
   for (KeyOffers::Dropped& key : offers.settle()) {
-    dropped.push_back({.slot = key.slot,
-                       .element = key.entry.element,
-                       .key = key.key,
-                       .text = std::move(key.entry.text),
-                       .conflict = key.conflict,
-                       .position = positionAt(document.doc(), key.entry.offset)});
+    report.droppedKeys.push_back({.slot = key.slot,
+                                  .element = key.entry.element,
+                                  .key = key.key,
+                                  .text = std::move(key.entry.text),
+                                  .conflict = key.conflict,
+                                  .position = positionAt(document.doc(), key.entry.offset)});
   }
-  return dropped;
+  return report;
 }
 
 }  // namespace brennet

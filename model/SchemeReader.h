@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "model/HotkeyScheme.h"
 #include "model/LoadReport.h"
 
@@ -11,8 +9,8 @@ class MarkupDocument;
 
 // Reads the children of the element that `document` has entered into `scheme`. A missing element
 // leaves its members as they are; a key that conflicts with another one becomes no key: of two
-// equal keys the one that is read first is kept (KeyOffers.h). Returns the keys that came to
-// nothing, in the order of the document, all with scheme 0.
-std::vector<DroppedKey> readScheme(MarkupDocument& document, HotkeyScheme& scheme);
+// equal keys the one that is read first is kept (KeyOffers.h). Returns what came to nothing, in the
+// order of the document, all with scheme 0.
+LoadReport readScheme(MarkupDocument& document, HotkeyScheme& scheme);
 
 }  // namespace brennet

@@ -40,6 +40,16 @@ bool createFolderOf(std::u16string_view path) {
   return !platform::folderExists(folder) && platform::createFolder(folder);
 }
 
+// Puts what was dropped of `scheme` in place of what `all` says of it.
+template <class Dropped>
+void takeReport(int scheme, std::vector<Dropped>& ofScheme, std::vector<Dropped>& all) {
+  std::erase_if(all, [scheme](const Dropped& each) { return each.scheme == scheme; });
+  for (Dropped& each : ofScheme) {
+    each.scheme = scheme;
+    all.push_back(std::move(each));
+  }
+}
+
 }  // namespace
 
 bool HotkeyConfig::Load(std::u16string_view path) {
@@ -84,12 +94,9 @@ bool HotkeyConfig::loadFrom(MarkupDocument& document) {
 
 bool HotkeyConfig::LoadScheme(int scheme, MarkupDocument& document) {
   if (scheme < 0 || scheme >= kSchemes) return false;
-  std::vector<DroppedKey>& keys = loadReport_.droppedKeys;
-  std::erase_if(keys, [scheme](const DroppedKey& key) { return key.scheme == scheme; });
-  for (DroppedKey& key : readScheme(document, schemes_[static_cast<std::size_t>(scheme)])) {
-    key.scheme = scheme;
-    keys.push_back(std::move(key));
-  }
+  LoadReport report = readScheme(document, schemes_[static_cast<std::size_t>(scheme)]);
+  takeReport(scheme, report.droppedKeys, loadReport_.droppedKeys);
+  takeReport(scheme, report.droppedChoices, loadReport_.droppedChoices);
   return true;
 }
 

@@ -641,18 +641,6 @@ Are you sure to continue?</source>
 Do you want to go on?</translation>
     </message>
     <message>
-        <source>%1；%2</source>
-        <translation>%1; %2</translation>
-    </message>
-    <message>
-        <source>您的设置中有 1 个按键无法使用：%1</source>
-        <translation>1 key of your settings could not be used: %1</translation>
-    </message>
-    <message>
-        <source>您的设置中有 %1 个按键无法使用：%2</source>
-        <translation>%1 keys of your settings could not be used: %2</translation>
-    </message>
-    <message>
         <source>查看按键</source>
         <translation>Keys in use</translation>
     </message>
@@ -663,6 +651,18 @@ Do you want to go on?</translation>
     <message>
         <source>重做</source>
         <translation>Redo</translation>
+    </message>
+    <message>
+        <source>复制自...</source>
+        <translation>Copy from...</translation>
+    </message>
+    <message>
+        <source>导出...</source>
+        <translation>Export...</translation>
+    </message>
+    <message>
+        <source>导入...</source>
+        <translation>Import...</translation>
     </message>
 </context>
 <context>
@@ -979,6 +979,21 @@ Do you want to go on?</translation>
     </message>
 </context>
 <context>
+    <name>DroppedKeysNotice</name>
+    <message>
+        <source>；</source>
+        <translation>; </translation>
+    </message>
+    <message>
+        <source>您的设置中有 1 个按键无法使用：%1</source>
+        <translation>1 key of your settings could not be used: %1</translation>
+    </message>
+    <message>
+        <source>您的设置中有 %1 个按键无法使用：%2</source>
+        <translation>%1 keys of your settings could not be used: %2</translation>
+    </message>
+</context>
+<context>
     <name>KeyConflict</name>
     <message>
         <source>%1 已用于%2</source>
@@ -1007,6 +1022,14 @@ Do you want to go on?</translation>
     <message>
         <source>方案%1，%2：%3</source>
         <translation>Group %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>；</source>
+        <translation>; </translation>
+    </message>
+    <message>
+        <source>没有“%1”这个选项</source>
+        <translation>there is no choice &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
@@ -1436,6 +1459,61 @@ Do you want to go on?</translation>
     </message>
 </context>
 <context>
+    <name>SchemeTransferWindow</name>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>来自：</source>
+        <translation>From:</translation>
+    </message>
+    <message>
+        <source>来自</source>
+        <translation>From</translation>
+    </message>
+    <message>
+        <source>更改预览</source>
+        <translation>What will change</translation>
+    </message>
+    <message>
+        <source>采用</source>
+        <translation>Take over</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Setting</translation>
+    </message>
+    <message>
+        <source>现在</source>
+        <translation>Now</translation>
+    </message>
+    <message>
+        <source>之后</source>
+        <translation>Then</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>更改：%1 项</source>
+        <translation>Changes: %1</translation>
+    </message>
+    <message>
+        <source>更改：%1 项，无法采用：%2 项</source>
+        <translation>Changes: %1, cannot be taken over: %2</translation>
+    </message>
+    <message>
+        <source>无法采用：%1</source>
+        <translation>Cannot be taken over: %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingText</name>
     <message>
         <source>镜头缩放</source>
@@ -1491,6 +1569,37 @@ Do you want to go on?</translation>
     <message>
         <source>以及另外 %1 项</source>
         <translation>and %1 more</translation>
+    </message>
+</context>
+<context>
+    <name>brennet::SchemeTransferButtons</name>
+    <message>
+        <source>改键设置</source>
+        <translation>Hotkey settings</translation>
+    </message>
+    <message>
+        <source>文件无法保存。</source>
+        <translation>The file cannot be saved.</translation>
+    </message>
+    <message>
+        <source>文件已保存，但其中一些字符无法写入，已被替换。</source>
+        <translation>The file has been saved, but it cannot hold some of the characters in your phrases. They have been replaced.</translation>
+    </message>
+    <message>
+        <source>文件已损坏，您的设置没有改变。</source>
+        <translation>The file is damaged. Your settings have not changed.</translation>
+    </message>
+    <message>
+        <source>这不是改键设置文件，您的设置没有改变。</source>
+        <translation>This is no file of hotkey settings. Your settings have not changed.</translation>
+    </message>
+    <message>
+        <source>文件无法读取，您的设置没有改变。</source>
+        <translation>The file cannot be read. Your settings have not changed.</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

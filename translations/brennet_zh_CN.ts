@@ -640,18 +640,6 @@ Are you sure to continue?</source>
 确定要继续吗？</translation>
     </message>
     <message>
-        <source>%1；%2</source>
-        <translation>%1；%2</translation>
-    </message>
-    <message>
-        <source>您的设置中有 1 个按键无法使用：%1</source>
-        <translation>您的设置中有 1 个按键无法使用：%1</translation>
-    </message>
-    <message>
-        <source>您的设置中有 %1 个按键无法使用：%2</source>
-        <translation>您的设置中有 %1 个按键无法使用：%2</translation>
-    </message>
-    <message>
         <source>查看按键</source>
         <translation>查看按键</translation>
     </message>
@@ -662,6 +650,18 @@ Are you sure to continue?</source>
     <message>
         <source>重做</source>
         <translation>重做</translation>
+    </message>
+    <message>
+        <source>复制自...</source>
+        <translation>复制自...</translation>
+    </message>
+    <message>
+        <source>导出...</source>
+        <translation>导出...</translation>
+    </message>
+    <message>
+        <source>导入...</source>
+        <translation>导入...</translation>
     </message>
 </context>
 <context>
@@ -978,6 +978,21 @@ Are you sure to continue?</source>
     </message>
 </context>
 <context>
+    <name>DroppedKeysNotice</name>
+    <message>
+        <source>；</source>
+        <translation>；</translation>
+    </message>
+    <message>
+        <source>您的设置中有 1 个按键无法使用：%1</source>
+        <translation>您的设置中有 1 个按键无法使用：%1</translation>
+    </message>
+    <message>
+        <source>您的设置中有 %1 个按键无法使用：%2</source>
+        <translation>您的设置中有 %1 个按键无法使用：%2</translation>
+    </message>
+</context>
+<context>
     <name>KeyConflict</name>
     <message>
         <source>%1 已用于%2</source>
@@ -1006,6 +1021,14 @@ Are you sure to continue?</source>
     <message>
         <source>方案%1，%2：%3</source>
         <translation>方案%1，%2：%3</translation>
+    </message>
+    <message>
+        <source>；</source>
+        <translation>；</translation>
+    </message>
+    <message>
+        <source>没有“%1”这个选项</source>
+        <translation>没有“%1”这个选项</translation>
     </message>
 </context>
 <context>
@@ -1435,6 +1458,61 @@ Are you sure to continue?</source>
     </message>
 </context>
 <context>
+    <name>SchemeTransferWindow</name>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>来自：</source>
+        <translation>来自：</translation>
+    </message>
+    <message>
+        <source>来自</source>
+        <translation>来自</translation>
+    </message>
+    <message>
+        <source>更改预览</source>
+        <translation>更改预览</translation>
+    </message>
+    <message>
+        <source>采用</source>
+        <translation>采用</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>现在</source>
+        <translation>现在</translation>
+    </message>
+    <message>
+        <source>之后</source>
+        <translation>之后</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>更改：%1 项</source>
+        <translation>更改：%1 项</translation>
+    </message>
+    <message>
+        <source>更改：%1 项，无法采用：%2 项</source>
+        <translation>更改：%1 项，无法采用：%2 项</translation>
+    </message>
+    <message>
+        <source>无法采用：%1</source>
+        <translation>无法采用：%1</translation>
+    </message>
+</context>
+<context>
     <name>SettingText</name>
     <message>
         <source>镜头缩放</source>
@@ -1490,6 +1568,37 @@ Are you sure to continue?</source>
     <message>
         <source>以及另外 %1 项</source>
         <translation>以及另外 %1 项</translation>
+    </message>
+</context>
+<context>
+    <name>brennet::SchemeTransferButtons</name>
+    <message>
+        <source>改键设置</source>
+        <translation>改键设置</translation>
+    </message>
+    <message>
+        <source>文件无法保存。</source>
+        <translation>文件无法保存。</translation>
+    </message>
+    <message>
+        <source>文件已保存，但其中一些字符无法写入，已被替换。</source>
+        <translation>文件已保存，但其中一些字符无法写入，已被替换。</translation>
+    </message>
+    <message>
+        <source>文件已损坏，您的设置没有改变。</source>
+        <translation>文件已损坏，您的设置没有改变。</translation>
+    </message>
+    <message>
+        <source>这不是改键设置文件，您的设置没有改变。</source>
+        <translation>这不是改键设置文件，您的设置没有改变。</translation>
+    </message>
+    <message>
+        <source>文件无法读取，您的设置没有改变。</source>
+        <translation>文件无法读取，您的设置没有改变。</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 </TS>

@@ -13,11 +13,9 @@
 #include "gameside/dota7/Dota7KeyInfoManager.h"
 #include "gameside/dota7/RegistryImport.h"
 #include "model/HotkeyConfig.h"
-#include "model/LoadReport.h"
 #include "ui/capture/Dota7FieldText.h"
 #include "ui/capture/RefusalText.h"
 #include "ui/capture/SettingText.h"
-#include "ui/capture/SlotText.h"
 #include "ui/capture/TabOrder.h"
 #include "ui/capture/VirtualKey.h"
 #include "ui/history/ChangeMarks.h"
@@ -34,7 +32,9 @@
 #include "ui/pages/CDotA7BasicSetting.h"
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
+#include "ui/pages/DroppedKeysNotice.h"
 #include "ui/pages/KeyMapWindow.h"
+#include "ui/pages/SchemeTransferButtons.h"
 #include "ui/window/CMsgBox.h"
 #include "ui/window/CNoticeStrip.h"
 #include "ui/window/EventGuard.h"
@@ -48,8 +48,6 @@ namespace {
 
 constexpr unsigned kReturn = 0x0D;
 constexpr unsigned kEscape = 0x1B;
-
-constexpr int kMostToldKeys = 4;  // that a load could not use; a tool tip lists all
 
 }  // namespace
 
@@ -74,6 +72,7 @@ CHotkeySettingDlg::CHotkeySettingDlg(brennet::HotkeyConfig& config,
   connectPages();
   setMode(Mode::Platform);
   rememberSteps();
+  offerTransfers();
   brennet::setTabOrderOfLayouts(*this);
   // A key field would take the first key, whatever it is meant for.
   form_->titleWidget->setFocus();
@@ -165,6 +164,21 @@ void CHotkeySettingDlg::rememberSteps() {
       [this](const brennet::EditStep& step) { showStep(step); }, [this] { marks_->refresh(); });
 }
 
+void CHotkeySettingDlg::offerTransfers() {
+  transfers_ =
+      std::make_unique<brennet::SchemeTransferButtons>(config_, *this,
+                                                       brennet::SchemeTransferButtons::Controls{
+                                                           .groups = *form_->cmbHotkeySetting,
+                                                           .copyFrom = *form_->btnCopyFrom,
+                                                           .exportFile = *form_->btnExport,
+                                                           .importFile = *form_->btnImport,
+                                                       },
+                                                       [this](const QString& what) {
+                                                         showSettings();
+                                                         undoButtons_->note(what);
+                                                       });
+}
+
 void CHotkeySettingDlg::markChanges() {
   marks_ = std::make_unique<brennet::ChangeMarks>();
   const brennet::SchemeMarks scheme(*marks_, *history_, config_);
@@ -186,18 +200,9 @@ void CHotkeySettingDlg::setDataFolder(std::u16string_view folder) {
 }
 
 void CHotkeySettingDlg::tellDroppedKeys(const brennet::LoadReport& report) {
-  QStringList keys;
-  for (const brennet::DroppedKey& dropped : report.droppedKeys) {
-    keys += brennet::droppedKeyText(dropped, static_cast<int>(config_.index()));
-  }
-  if (keys.isEmpty()) return;
-  QString list = keys.constFirst();
-  for (const QString& key : keys.mid(1, kMostToldKeys - 1)) list = tr("%1；%2").arg(list, key);
-  if (keys.size() > kMostToldKeys) list = tr("%1；%2").arg(list, QStringLiteral("..."));
-  const QString text = keys.size() == 1
-                           ? tr("您的设置中有 1 个按键无法使用：%1").arg(list)
-                           : tr("您的设置中有 %1 个按键无法使用：%2").arg(keys.size()).arg(list);
-  auto* const strip = new CNoticeStrip(text, keys.join(QLatin1Char('\n')), this);
+  CNoticeStrip* const strip =
+      brennet::newDroppedKeysNotice(report, static_cast<int>(config_.index()), this);
+  if (strip == nullptr) return;
   form_->layDialog->insertWidget(form_->layDialog->indexOf(form_->titleWidget) + 1, strip);
   connect(strip, &CNoticeStrip::closed, this, [this] { fit_->refit(); });
   brennet::setTabOrderOfLayouts(*this);
@@ -208,9 +213,9 @@ void CHotkeySettingDlg::setMode(Mode mode) {
     QWidget* widget;
     Mode mode;
   } kShownIn[] = {
-      {form_->lblSetting, Mode::Platform},
-      {form_->cmbHotkeySetting, Mode::Platform},
-      {form_->chkUseHotkeySettings, Mode::Platform},
+      {form_->lblSetting, Mode::Platform},  {form_->cmbHotkeySetting, Mode::Platform},
+      {form_->btnCopyFrom, Mode::Platform}, {form_->btnExport, Mode::Platform},
+      {form_->btnImport, Mode::Platform},   {form_->chkUseHotkeySettings, Mode::Platform},
       {form_->btnSwitchPlat, Mode::Dota7},
   };
   mode_ = mode;
@@ -309,6 +314,7 @@ void CHotkeySettingDlg::showChoice() {
   const bool isThere = index < form_->cmbHotkeySetting->count();
   form_->cmbHotkeySetting->setCurrentIndex(isThere ? index : -1);
   form_->chkUseHotkeySettings->setChecked(config_.enable());
+  if (transfers_ != nullptr) transfers_->refresh();
 }
 
 // The player is to see what was undone or done again.
@@ -328,6 +334,7 @@ void CHotkeySettingDlg::clearSettings(Mode mode, const brennet::SettingPage* spa
 void CHotkeySettingDlg::onCurrentIndexChanged_HotkeySetting(int index) {
   if (index < 0 || index >= brennet::HotkeyConfig::kSchemes) return;
   config_.setIndex(static_cast<std::uint32_t>(index));
+  transfers_->refresh();
   showSettings();
 }
 

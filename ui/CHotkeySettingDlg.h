@@ -20,6 +20,7 @@ struct EditStep;
 class EventGuard;
 class HotkeyConfig;
 struct LoadReport;
+class SchemeTransferButtons;
 class ScreenFit;
 class SettingPage;
 class UndoButtons;
@@ -54,6 +55,9 @@ class CHotkeySettingDlg : public QDialog {
   // Tells the player, in a strip below the title that can be closed, which keys of the settings
   // could not be used; does nothing if there are none.
   void tellDroppedKeys(const brennet::LoadReport& report);
+
+  // Gives setting groups away and takes them over, as the player's buttons do.
+  [[nodiscard]] brennet::SchemeTransferButtons& transfers() { return *transfers_; }
 
   // The registry gets back what it had, as it does when the dialog goes without an answer.
   void reject() override;
@@ -100,6 +104,7 @@ class CHotkeySettingDlg : public QDialog {
   void connectPages();
   void rememberSteps();
   void markChanges();
+  void offerTransfers();
   void setMode(Mode mode);
   void leaveField();
   [[nodiscard]] bool isLinkClicked(const QLabel& link, const QEvent& event);
@@ -122,6 +127,7 @@ class CHotkeySettingDlg : public QDialog {
   std::unique_ptr<brennet::EditHistory> history_;
   std::unique_ptr<brennet::ChangeMarks> marks_;
   std::unique_ptr<brennet::UndoButtons> undoButtons_;
+  std::unique_ptr<brennet::SchemeTransferButtons> transfers_;
   QStackedLayout* stack_ = nullptr;
   // Children of this widget.
   brennet::ScreenFit* fit_ = nullptr;

@@ -36,6 +36,7 @@ RATIO_TARGETS = [
     ("openDialog/bare/all", 1.3),
     ("openAgain/first/all", 1.0),
     ("openKeyMap/buttons/all", 1.0),
+    ("openPreview/bare/all", 1.3),
     ("step/choose/*", 1.3),
     ("note/compare/*", 3.0),
 ]

@@ -67,7 +67,7 @@ TEST(LoadTrace, PutsEachDroppedKeyInWords) {
        "line 1, column 1: setting group 1, quick chat: key 64512 is hotkeys on and off"},
   };
   for (const auto& row : kRows) {
-    EXPECT_EQ(inWords({{row.dropped}}).join(QLatin1Char('\n')).toStdString(), row.words);
+    EXPECT_EQ(inWords({{row.dropped}, {}}).join(QLatin1Char('\n')).toStdString(), row.words);
   }
 }
 

@@ -14,6 +14,7 @@
 #include "model/BlockMerger.h"
 #include "model/HotkeyConfig.h"
 #include "model/KeyConflicts.h"
+#include "model/SchemeTransfer.h"
 #include "model/SettingTable.h"
 #include "tests/model/Keys.h"
 
@@ -224,6 +225,28 @@ TEST(SettingsPropertyOfFiles, SurviveACopyByResetAndAssignment) {
       for (auto& phrase : expected.QuickChat) phrase = phrase.value_or(u"");
       ASSERT_EQ(copy.scheme(n), expected) << "round " << round;
     }
+  }
+}
+
+TEST(SettingsPropertyOfTransfers, BringWhatALoadWouldBring) {
+  RandomSettings random(15);
+  HotkeyConfig config;
+  for (int round = 0; round < kRounds; ++round) {
+    random.change(config);
+    if (round % 20 != 0) continue;
+    const HotkeyScheme& current = config.scheme(0);
+    HotkeyConfig ofSource;
+    *ofSource.editableScheme() = config.scheme(1);
+    const SchemeTransfer transfer = transferOf(current, config.scheme(1));
+    ASSERT_EQ(transfer.result, asLoaded(ofSource, 0)) << "round " << round;
+
+    std::vector<SettingPart> changed;
+    for (const TransferRow& row : transfer.rows) {
+      if (differsIn(row.part, current, transfer.result)) changed.push_back(row.part);
+      ASSERT_EQ(row.isRefused(), differsIn(row.part, config.scheme(1), transfer.result))
+          << "round " << round << ", setting " << static_cast<int>(row.part.setting);
+    }
+    ASSERT_EQ(changed, differencesOf(current, transfer.result)) << "round " << round;
   }
 }
 

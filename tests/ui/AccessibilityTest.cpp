@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QLineEdit>
 #include <QSet>
 #include <QTranslator>
 
@@ -17,6 +18,8 @@
 #include "tests/support/ScopedRegistry.h"
 #include "tests/ui/AllWindows.h"
 #include "tests/ui/UiTest.h"
+#include "tests/ui/pages/PageChecks.h"
+#include "tests/ui/screens/TestScreenReader.h"
 #include "ui/capture/RefusalText.h"
 #include "ui/pages/CBasicSetting7Widget.h"
 #include "ui/window/CMsgBox.h"
@@ -111,6 +114,43 @@ TEST(AccessibilityOfRefusals, DescribesWhyAPresetIsNotChosen) {
   EXPECT_EQ(description(), QString());
   page.onToggled_GroupKey2(true);
   EXPECT_EQ(description(), refusalText(takenKeysOfPreset(config.scheme(), 1), KeyWindow::Main));
+}
+
+TEST(AccessibilityEvents, TellOfARefusedPreset) {
+  HotkeyConfig config;
+  config.editableScheme()->HeroSkillKey[0] = kItemPresetKeys[1][0];
+  CBasicSetting7Widget page(config, nullptr);
+  const auto& box = *page.findChild<QCheckBox*>(QStringLiteral("chkGroupKey2"));
+  const TestScreenReader reader;
+  page.onToggled_GroupKey2(true);
+  EXPECT_TRUE(reader.wasTold(box, QAccessible::DescriptionChanged));
+  EXPECT_TRUE(reader.wasTold(box, QAccessible::Alert));
+}
+
+TEST(AccessibilityEvents, TellOfAChosenPreset) {
+  HotkeyConfig config;
+  CBasicSetting7Widget page(config, nullptr);
+  auto& box = *page.findChild<QCheckBox*>(QStringLiteral("chkGroupKey2"));
+  const TestScreenReader reader;
+  box.click();
+  EXPECT_TRUE(reader.wasTold(box, QAccessible::StateChanged));
+  EXPECT_FALSE(reader.wasTold(box, QAccessible::Alert));
+}
+
+TEST(AccessibilityEvents, TellOfARefusedKey) {
+  HotkeyConfig config;
+  config.editableScheme()->HeroSkillKey[0] = KeyWord('Q', 0);
+  config.editableScheme()->HeroSkillKey[1] = KeyWord('W', 0);
+  CBasicSetting7Widget page(config, nullptr);
+  page.show();
+  auto& field = *page.findChild<QLineEdit*>(QStringLiteral("edtSkill_2"));
+  const TestScreenReader reader;
+  const auto box = whenBoxIsShown([&](QMessageBox& shown) {
+    EXPECT_TRUE(reader.wasTold(shown, QAccessible::Alert));
+    shown.accept();
+  });
+  pressKey(field, Qt::Key_Q);
+  EXPECT_TRUE(reader.wasTold(field, QAccessible::TextRemoved)) << "the field is emptied";
 }
 
 INSTANTIATE_TEST_SUITE_P(In, Accessibility, testing::Values("en", "zh_CN"),

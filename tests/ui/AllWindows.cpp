@@ -12,6 +12,7 @@
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
 #include "ui/pages/KeyMapWindow.h"
+#include "ui/pages/SchemeTransferWindow.h"
 
 namespace brennet::test {
 namespace {
@@ -38,6 +39,15 @@ Made keyMap(HotkeyConfig& config, Dota7KeyInfoManager& /*manager*/, QWidget* par
   return window;
 }
 
+Made transfer(HotkeyConfig& config, Dota7KeyInfoManager& /*manager*/, QWidget* parent) {
+  HotkeyScheme source;
+  source.HeroSkillKey[0] = KeyWord('Q', 0);
+  source.ShowFBlood = KeyWord('Q', 0);
+  return std::make_unique<SchemeTransferWindow>(
+      QStringLiteral("Copy"), config.scheme(),
+      std::vector<SchemeOffer>{{QStringLiteral("2"), transferOf(config.scheme(), source)}}, parent);
+}
+
 Made dialog(HotkeyConfig& config, Dota7KeyInfoManager& manager, QWidget* /*parent*/) {
   return std::make_unique<CHotkeySettingDlg>(config, manager);
 }
@@ -52,6 +62,7 @@ constexpr WindowRow kWindows[] = {
     {"CDotA7BasicSetting", ofRegistry<CDotA7BasicSetting>},
     {"Dota7ChatKeySettingWidget", ofRegistry<Dota7ChatKeySettingWidget>},
     {"KeyMapWindow", keyMap, true, false},
+    {"SchemeTransferWindow", transfer, true, false},
     {"CHotkeySettingDlg", dialog, false},
 };
 

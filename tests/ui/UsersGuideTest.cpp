@@ -19,6 +19,7 @@
 #include "ui/pages/CDotA7BasicSetting.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/pages/KeyMapWindow.h"
+#include "ui/pages/SchemeTransferWindow.h"
 
 namespace brennet::test {
 namespace {
@@ -93,6 +94,10 @@ TEST_P(UsersGuide, NamesWhatIsInTheOtherWindows) {
   expectButtonsNamed(keyMap);
   const auto& search = *keyMap.findChild<QLabel*>(QStringLiteral("lblSearch"));
   expectNamed(search, search.text());
+  const SchemeTransferWindow preview(QString(), {}, {SchemeOffer()}, nullptr);
+  expectButtonsNamed(preview);
+  const auto& source = *preview.findChild<QLabel*>(QStringLiteral("lblSource"));
+  expectNamed(source, source.text());
 }
 
 TEST_P(UsersGuide, NamesWhatIsAtTheTop) {
@@ -100,7 +105,8 @@ TEST_P(UsersGuide, NamesWhatIsAtTheTop) {
   HotkeyConfig config;
   Dota7KeyInfoManager manager;
   const CHotkeySettingDlg dialog(config, manager);
-  for (const char* const name : {"chkUseHotkeySettings", "btnSwitchPlat", "btnUndo", "btnRedo"}) {
+  for (const char* const name : {"chkUseHotkeySettings", "btnCopyFrom", "btnSwitchPlat", "btnUndo",
+                                 "btnRedo", "btnExport", "btnImport"}) {
     const auto& button = *dialog.findChild<QAbstractButton*>(QLatin1String(name));
     expectNamed(button, button.text());
   }

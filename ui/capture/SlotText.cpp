@@ -132,11 +132,23 @@ QString conflictText(KeyWord key, const KeyConflict& conflict) {
   return conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "%1 不能用作快捷键")).arg(text);
 }
 
+QString dropReason(const DroppedKey& dropped) {
+  if (dropped.conflict) return conflictText(dropped.key, *dropped.conflict);
+  return conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "“%1”不是按键"))
+      .arg(shortened(toQString(dropped.text)));
+}
+
+QString dropReason(const DroppedChoice& dropped) {
+  QStringList reasons;
+  for (const TakenKey& key : dropped.taken) reasons += conflictText(key.key, key.conflict);
+  if (!reasons.isEmpty())
+    return reasons.join(conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "；")));
+  return conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "没有“%1”这个选项"))
+      .arg(shortened(toQString(dropped.text)));
+}
+
 QString droppedKeyText(const DroppedKey& dropped, int currentScheme) {
-  const QString why = dropped.conflict
-                          ? conflictText(dropped.key, *dropped.conflict)
-                          : conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "“%1”不是按键"))
-                                .arg(shortened(toQString(dropped.text)));
+  const QString why = dropReason(dropped);
   const QString what = slotText(dropped.slot);
   if (dropped.scheme == currentScheme) {
     return conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "%1：%2")).arg(what, why);

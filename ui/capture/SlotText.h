@@ -14,6 +14,11 @@ namespace brennet {
 // Why `key` is refused, in the player's language: "A is Hero skill 1".
 [[nodiscard]] QString conflictText(KeyWord key, const KeyConflict& conflict);
 
+// Why a key or a choice of a settings file could not be used, in the player's language: "A is Hero
+// skill 1".
+[[nodiscard]] QString dropReason(const DroppedKey& dropped);
+[[nodiscard]] QString dropReason(const DroppedChoice& dropped);
+
 // What became of a key of the settings file, in the player's language: "Wheel up: A is Hero skill
 // 1". The setting group is named unless it is `currentScheme` (0 to 2; other numbers mean none).
 [[nodiscard]] QString droppedKeyText(const DroppedKey& dropped, int currentScheme);

@@ -1,7 +1,6 @@
 #include "ui/pages/KeyMapWindow.h"
 
 #include <QClipboard>
-#include <QFileDialog>
 #include <QHeaderView>
 #include <QRadioButton>
 #include <QTreeWidget>
@@ -14,6 +13,7 @@
 #include "ui/keymap/KeyMapPainter.h"
 #include "ui/pages/Form.h"
 #include "ui/window/CMsgBox.h"
+#include "ui/window/FileChoice.h"
 #include "ui/window/Text.h"
 #include "ui_KeyMapWindow.h"
 
@@ -185,12 +185,10 @@ QString KeyMapWindow::savePicture(const QString& fileName) const {
 }
 
 void KeyMapWindow::askAndSavePicture() {
-  QString fileName = QFileDialog::getSaveFileName(this, tr("保存图片"), QStringLiteral("keys.png"),
-                                                  QStringLiteral("PNG (*.png)"));
+  const QString fileName =
+      brennet::askForNewFile(*this, tr("保存图片"), {QStringLiteral("png"), QStringLiteral("PNG")},
+                             QStringLiteral("keys.png"));
   if (fileName.isEmpty()) return;
-  if (!fileName.endsWith(QLatin1String(".png"), Qt::CaseInsensitive)) {
-    fileName += QStringLiteral(".png");
-  }
   const QString error = savePicture(fileName);
   if (error.isEmpty()) return;
   CMsgBox::showMessage(this, QMessageBox::Critical, tr("保存图片"),

@@ -1,5 +1,6 @@
 #include "ui/pages/PresetBoxes.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QSignalBlocker>
 #include <QToolTip>
@@ -16,9 +17,13 @@ namespace brennet {
 namespace {
 
 // At once, and whenever the mouse is over the box. Screen readers take the tool tip for the
-// description of the box.
+// description of the box; they are told that it has changed, as no message box comes up.
 void showWhy(QCheckBox& box, const QString& why) {
   box.setToolTip(why);
+  for (const QAccessible::Event type : {QAccessible::DescriptionChanged, QAccessible::Alert}) {
+    QAccessibleEvent event(&box, type);
+    QAccessible::updateAccessibility(&event);
+  }
   if (box.isVisible()) QToolTip::showText(box.mapToGlobal(box.rect().bottomLeft()), why, &box);
 }
 

@@ -20,6 +20,7 @@
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
 #include "ui/pages/KeyMapWindow.h"
+#include "ui/pages/SchemeTransferWindow.h"
 #include "ui/window/CMsgBox.h"
 
 namespace brennet::test {
@@ -131,6 +132,13 @@ TEST_P(FitScreensTest, ComesUpWholeInEachOtherWindow) {
     check(keyMap, {"btnClose", "btnSavePicture"});
     const QSize wanted = keyMap.layout()->totalSizeHint();
     EXPECT_EQ(keyMap.size(), wanted.boundedTo(available.size())) << "as large as it would be";
+    HotkeyScheme other;
+    for (std::uint8_t i = 0; i < kHeroSkills; ++i) other.HeroSkillKey[i] = KeyWord('A' + i, 0);
+    other.ShowFBlood = KeyWord('A', 0);
+    SchemeTransferWindow preview(QStringLiteral("Copy"), config.scheme(),
+                                 {{QStringLiteral("2"), transferOf(config.scheme(), other)}},
+                                 dialog.get());
+    check(preview, {"btnClose", "btnOK", "btnCancel"});
     CMsgBox box(QMessageBox::Warning, QCoreApplication::translate("QObject", "IDS_TITLE"),
                 QCoreApplication::translate("QObject", "IDS_GROUP_KEY_USED"), QMessageBox::Ok,
                 dialog.get());

@@ -19,6 +19,7 @@
 #include "ui/pages/ChatKeySettingWidget.h"
 #include "ui/pages/Dota7ChatKeySettingWidget.h"
 #include "ui/pages/KeyMapWindow.h"
+#include "ui/pages/SchemeTransferWindow.h"
 #include "ui/window/CMsgBox.h"
 
 namespace brennet::test {
@@ -83,6 +84,8 @@ TEST_P(OnThisScreen, TheOtherWindowsAreWhole) {
   KeyMapWindow keyMap(&dialog);
   keyMap.setMap(keyMapOf(config.scheme()), false);
   expectInside(keyMap);
+  SchemeTransferWindow preview(QStringLiteral("Copy"), config.scheme(), {SchemeOffer()}, &dialog);
+  expectInside(preview);
   CMsgBox box(QMessageBox::Warning, QCoreApplication::translate("QObject", "IDS_TITLE"),
               QCoreApplication::translate("QObject", "IDS_GROUP_KEY_USED"), QMessageBox::Ok,
               &dialog);

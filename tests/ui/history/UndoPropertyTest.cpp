@@ -13,8 +13,10 @@
 #include <random>
 
 #include "model/BlockFiller.h"
+#include "tests/support/TestData.h"
 #include "tests/ui/SettingsDialogTest.h"
 #include "tests/ui/history/Settle.h"
+#include "ui/pages/SchemeTransferButtons.h"
 #include "ui/window/MovableDialog.h"
 
 namespace brennet::test {
@@ -91,6 +93,9 @@ class UndoPropertyTest : public Dota7Test {
     if (auto* const keys = chat->findChild<QAbstractButton*>(QStringLiteral("optChatKey_1"))) {
       if (number(2) == 0) keys->click();
     }
+    if (auto* const offers = chat->findChild<QComboBox*>()) {
+      offers->setCurrentIndex(number(offers->count()));
+    }
     const char* const answer = number(3) == 0 ? "btnCancel" : "btnOK";
     QTest::mouseClick(chat->findChild<QPushButton*>(QLatin1String(answer)), Qt::LeftButton);
   }
@@ -129,10 +134,17 @@ class UndoPropertyTest : public Dota7Test {
     QTest::mouseClick(dialog.findChild<QWidget*>(QLatin1String(name)), Qt::LeftButton);
   }
 
+  // As if the file had been chosen after a click.
+  void import(CHotkeySettingDlg& dialog) {
+    if (dialog.findChild<QWidget*>(QStringLiteral("btnImport"))->isEnabled()) {
+      dialog.transfers().importFrom(QString::fromLocal8Bit(sampleData("KeyInfo.xml").c_str()));
+    }
+  }
+
   void doSomething(CHotkeySettingDlg& dialog, bool playsDota7) {
     const char* const clicked[] = {"btn_SetAll_AutoCast", "btnTalkSetting",
-                                   "lblResetToDefaultSetting"};
-    switch (number(12)) {
+                                   "lblResetToDefaultSetting", "btnCopyFrom"};
+    switch (number(13)) {
       case 0:
         return dialog.onSwitchPlatKeySettingDlg();
       case 1:
@@ -151,7 +163,9 @@ class UndoPropertyTest : public Dota7Test {
       case 6:
         return click(dialog, number(2) == 0 ? "btnUndo" : "btnRedo");
       case 7:
+        return import(dialog);
       case 8:
+      case 9:
         QTest::mouseClick(&anyOf<QAbstractButton>(dialog, "^(chk|btn_)"), Qt::LeftButton);
         return;
       default:

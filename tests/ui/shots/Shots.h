@@ -29,6 +29,7 @@ struct Shot {
 [[nodiscard]] QList<Shot> dialogShots();
 [[nodiscard]] QList<Shot> dota7Shots();
 [[nodiscard]] QList<Shot> keyMapShots();
+[[nodiscard]] QList<Shot> transferShots();
 [[nodiscard]] QList<Shot> wheelShots();
 
 }  // namespace brennet::shots

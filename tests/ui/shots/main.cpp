@@ -83,7 +83,8 @@ bool takeAtScale(const char* scale, int argc, char** argv) {
   const QList<Shot> shots = brennet::shots::basicShots() + brennet::shots::boxShots() +
                             brennet::shots::chatShots() + brennet::shots::controlShots() +
                             brennet::shots::dialogShots() + brennet::shots::dota7Shots() +
-                            brennet::shots::keyMapShots() + brennet::shots::wheelShots();
+                            brennet::shots::keyMapShots() + brennet::shots::transferShots() +
+                            brennet::shots::wheelShots();
   const QString suffix =
       qstrcmp(scale, "1") == 0 ? QString() : QStringLiteral("@%1x").arg(QLatin1String(scale));
   for (const char* const language : {"zh_CN", "en"}) {

@@ -1,0 +1,100 @@
+#include "ui/pages/SchemeTransferWindow.h"
+
+#include <QHeaderView>
+#include <QTreeWidget>
+
+#include <algorithm>
+#include <utility>
+
+#include "ui/capture/SettingText.h"
+#include "ui/capture/SlotText.h"
+#include "ui/pages/Form.h"
+#include "ui/window/Text.h"
+#include "ui_SchemeTransferWindow.h"
+
+using brennet::TransferRow;
+
+namespace {
+
+enum Column { kSetting, kNow, kThen, kNote };
+
+// Why a value is refused; empty if it is not.
+QString refusalOf(const TransferRow& row) {
+  if (const auto* const key = std::get_if<brennet::DroppedKey>(&row.refusal)) {
+    return brennet::dropReason(*key);
+  }
+  if (const auto* const choice = std::get_if<brennet::DroppedChoice>(&row.refusal)) {
+    return brennet::dropReason(*choice);
+  }
+  return {};
+}
+
+}  // namespace
+
+SchemeTransferWindow::SchemeTransferWindow(const QString& title,
+                                           const brennet::HotkeyScheme& current,
+                                           std::vector<brennet::SchemeOffer> offers,
+                                           QWidget* parent)
+    : MovableDialog(parent),
+      form_(brennet::formOn<Ui::SchemeTransferWindow>(*this)),
+      current_(current),
+      offers_(std::move(offers)) {
+  setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
+  setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
+  setWindowTitle(title);
+  form_->lblTitle->setText(title);
+  form_->lstChanges->setHeaderLabels({tr("设置"), tr("现在"), tr("之后"), tr("说明")});
+  for (const brennet::SchemeOffer& offer : offers_) form_->cmbSource->addItem(offer.name);
+  form_->cmbSource->setEnabled(offers_.size() > 1);
+  connect(form_->cmbSource, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          [this] { showOffer(); });
+  connect(form_->btnOK, &QPushButton::clicked, this, &QDialog::accept);
+  connect(form_->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+  connect(form_->btnClose, &QPushButton::clicked, this, &QDialog::reject);
+  showOffer();
+}
+
+SchemeTransferWindow::~SchemeTransferWindow() = default;
+
+const brennet::SchemeOffer& SchemeTransferWindow::chosen() const {
+  return offers_[static_cast<std::size_t>(form_->cmbSource->currentIndex())];
+}
+
+void SchemeTransferWindow::showOffer() {
+  const std::vector<TransferRow>& rows = chosen().transfer.rows;
+  form_->lstChanges->clear();
+  for (const TransferRow& row : rows) addRow(row);
+  fitColumns();
+  const brennet::HotkeyScheme& result = chosen().transfer.result;
+  const auto changes = std::count_if(rows.begin(), rows.end(), [&](const TransferRow& row) {
+    return differsIn(row.part, current_, result);
+  });
+  const auto refused = std::count_if(rows.begin(), rows.end(),
+                                     [](const TransferRow& row) { return row.isRefused(); });
+  form_->lblSummary->setText(refused == 0
+                                 ? tr("更改：%1 项").arg(changes)
+                                 : tr("更改：%1 项，无法采用：%2 项").arg(changes).arg(refused));
+  form_->btnOK->setEnabled(changes != 0);
+}
+
+// What is refused is told in words and in bold.
+void SchemeTransferWindow::addRow(const TransferRow& row) {
+  const QString refusal = refusalOf(row);
+  const QString note = refusal.isEmpty() ? QString() : tr("无法采用：%1").arg(refusal);
+  auto* const item = new QTreeWidgetItem(
+      form_->lstChanges, {brennet::settingText(row.part), brennet::valueText(current_, row.part),
+                          brennet::valueText(chosen().transfer.result, row.part), note});
+  QFont font = item->font(kSetting);
+  font.setBold(row.isRefused());
+  for (const int column : {kSetting, kNow, kThen, kNote}) {
+    item->setFont(column, font);
+    item->setToolTip(column, brennet::plainToolTip(item->text(column)));
+  }
+}
+
+// The notes get what room is left, and scroll if that is too little.
+void SchemeTransferWindow::fitColumns() {
+  for (const int column : {kSetting, kNow, kThen, kNote}) {
+    form_->lstChanges->resizeColumnToContents(column);
+  }
+}
