@@ -981,10 +981,6 @@ Do you want to go on?</translation>
 <context>
     <name>DroppedKeysNotice</name>
     <message>
-        <source>；</source>
-        <translation>; </translation>
-    </message>
-    <message>
         <source>您的设置中有 1 个按键无法使用：%1</source>
         <translation>1 key of your settings could not be used: %1</translation>
     </message>
@@ -1024,12 +1020,12 @@ Do you want to go on?</translation>
         <translation>Group %1, %2: %3</translation>
     </message>
     <message>
-        <source>；</source>
-        <translation>; </translation>
-    </message>
-    <message>
         <source>没有“%1”这个选项</source>
         <translation>there is no choice &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>%1；%2</source>
+        <translation>%1; %2</translation>
     </message>
 </context>
 <context>

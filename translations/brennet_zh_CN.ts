@@ -980,10 +980,6 @@ Are you sure to continue?</source>
 <context>
     <name>DroppedKeysNotice</name>
     <message>
-        <source>；</source>
-        <translation>；</translation>
-    </message>
-    <message>
         <source>您的设置中有 1 个按键无法使用：%1</source>
         <translation>您的设置中有 1 个按键无法使用：%1</translation>
     </message>
@@ -1023,12 +1019,12 @@ Are you sure to continue?</source>
         <translation>方案%1，%2：%3</translation>
     </message>
     <message>
-        <source>；</source>
-        <translation>；</translation>
-    </message>
-    <message>
         <source>没有“%1”这个选项</source>
         <translation>没有“%1”这个选项</translation>
+    </message>
+    <message>
+        <source>%1；%2</source>
+        <translation>%1；%2</translation>
     </message>
 </context>
 <context>

@@ -132,6 +132,14 @@ QString conflictText(KeyWord key, const KeyConflict& conflict) {
   return conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "%1 不能用作快捷键")).arg(text);
 }
 
+QString listText(const QStringList& texts) {
+  QString list = texts.value(0);
+  for (const QString& text : texts.mid(1)) {
+    list = conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "%1；%2")).arg(list, text);
+  }
+  return list;
+}
+
 QString dropReason(const DroppedKey& dropped) {
   if (dropped.conflict) return conflictText(dropped.key, *dropped.conflict);
   return conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "“%1”不是按键"))
@@ -141,8 +149,7 @@ QString dropReason(const DroppedKey& dropped) {
 QString dropReason(const DroppedChoice& dropped) {
   QStringList reasons;
   for (const TakenKey& key : dropped.taken) reasons += conflictText(key.key, key.conflict);
-  if (!reasons.isEmpty())
-    return reasons.join(conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "；")));
+  if (!reasons.isEmpty()) return listText(reasons);
   return conflictWords(QT_TRANSLATE_NOOP("KeyConflict", "没有“%1”这个选项"))
       .arg(shortened(toQString(dropped.text)));
 }

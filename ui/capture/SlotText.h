@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "model/KeyConflicts.h"
 #include "model/KeySlot.h"
@@ -13,6 +14,9 @@ namespace brennet {
 
 // Why `key` is refused, in the player's language: "A is Hero skill 1".
 [[nodiscard]] QString conflictText(KeyWord key, const KeyConflict& conflict);
+
+// Several texts in one line.
+[[nodiscard]] QString listText(const QStringList& texts);
 
 // Why a key or a choice of a settings file could not be used, in the player's language: "A is Hero
 // skill 1".

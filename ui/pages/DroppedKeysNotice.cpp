@@ -25,7 +25,7 @@ CNoticeStrip* newDroppedKeysNotice(const LoadReport& report, int currentScheme, 
   if (keys.isEmpty()) return nullptr;
   QStringList told = keys.mid(0, kMostKeys);
   if (keys.size() > kMostKeys) told += QStringLiteral("...");
-  const QString list = told.join(words(QT_TRANSLATE_NOOP("DroppedKeysNotice", "；")));
+  const QString list = listText(told);
   const char* const one =
       QT_TRANSLATE_NOOP("DroppedKeysNotice", "您的设置中有 1 个按键无法使用：%1");
   const char* const many =

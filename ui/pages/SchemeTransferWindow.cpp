@@ -44,6 +44,9 @@ SchemeTransferWindow::SchemeTransferWindow(const QString& title,
   setWindowTitle(title);
   form_->lblTitle->setText(title);
   form_->lstChanges->setHeaderLabels({tr("设置"), tr("现在"), tr("之后"), tr("说明")});
+  form_->lstChanges->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  form_->lstChanges->header()->setStretchLastSection(false);
+  form_->lstChanges->setFocus();
   for (const brennet::SchemeOffer& offer : offers_) form_->cmbSource->addItem(offer.name);
   form_->cmbSource->setEnabled(offers_.size() > 1);
   connect(form_->cmbSource, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -60,11 +63,12 @@ const brennet::SchemeOffer& SchemeTransferWindow::chosen() const {
   return offers_[static_cast<std::size_t>(form_->cmbSource->currentIndex())];
 }
 
+// What is refused comes first: the player has to know of it before he agrees.
 void SchemeTransferWindow::showOffer() {
-  const std::vector<TransferRow>& rows = chosen().transfer.rows;
+  std::vector<TransferRow> rows = chosen().transfer.rows;
+  std::ranges::stable_partition(rows, &TransferRow::isRefused);
   form_->lstChanges->clear();
   for (const TransferRow& row : rows) addRow(row);
-  fitColumns();
   const brennet::HotkeyScheme& result = chosen().transfer.result;
   const auto changes = std::count_if(rows.begin(), rows.end(), [&](const TransferRow& row) {
     return differsIn(row.part, current_, result);
@@ -89,12 +93,5 @@ void SchemeTransferWindow::addRow(const TransferRow& row) {
   for (const int column : {kSetting, kNow, kThen, kNote}) {
     item->setFont(column, font);
     item->setToolTip(column, brennet::plainToolTip(item->text(column)));
-  }
-}
-
-// The notes get what room is left, and scroll if that is too little.
-void SchemeTransferWindow::fitColumns() {
-  for (const int column : {kSetting, kNow, kThen, kNote}) {
-    form_->lstChanges->resizeColumnToContents(column);
   }
 }

@@ -40,7 +40,6 @@ class SchemeTransferWindow : public brennet::MovableDialog {
  private:
   void showOffer();
   void addRow(const brennet::TransferRow& row);
-  void fitColumns();
 
   std::unique_ptr<Ui::SchemeTransferWindow> form_;
   brennet::HotkeyScheme current_;

@@ -81,11 +81,11 @@ TEST_F(SchemeTransferWindowTest, MarksWhatIsRefusedAndSaysWhy) {
   open({offer("2", source)});
   const std::vector<Row> shown = rows();
   ASSERT_EQ(shown.size(), 3U);
-  EXPECT_EQ(shown[1][3], "Cannot be taken over: Alt + Q is Hero skill 2");
-  EXPECT_EQ(shown[2], (Row{"Show ally health bars", "none", "none",
+  EXPECT_EQ(shown[0][3], "Cannot be taken over: Alt + Q is Hero skill 2");
+  EXPECT_EQ(shown[1], (Row{"Show ally health bars", "none", "none",
                            "Cannot be taken over: Q is Hero skill 1"}));
-  EXPECT_FALSE(list().topLevelItem(0)->font(0).bold());
-  EXPECT_TRUE(list().topLevelItem(2)->font(0).bold());
+  EXPECT_FALSE(list().topLevelItem(2)->font(0).bold());
+  EXPECT_TRUE(list().topLevelItem(0)->font(0).bold());
   EXPECT_EQ(summary(), "Changes: 1, cannot be taken over: 2");
 }
 
