@@ -21,6 +21,7 @@
 #include <functional>
 
 #include "tests/ui/PixelContrast.h"
+#include "tests/ui/ScopedColors.h"
 #include "ui/pages/COrrerySettingDlg.h"
 #include "ui/window/CMsgBox.h"
 
@@ -67,7 +68,7 @@ double contrastOf(QWidget& control) {
   return contrastIn(control, [&](const QString& text) { control.setProperty("text", text); });
 }
 
-class Contrast : public testing::Test {
+class Contrast : public testing::TestWithParam<Colors> {
  protected:
   Contrast() {
     // Letters are to cover nothing but the background.
@@ -93,10 +94,11 @@ class Contrast : public testing::Test {
     return *control;
   }
 
+  const ScopedColors colors_{GetParam()};
   COrrerySettingDlg window_;
 };
 
-TEST_F(Contrast, OfLabels) {
+TEST_P(Contrast, OfLabels) {
   for (const char* const name :
        {"lblOther", "lblTitle", "lblResetToDefaultSetting", "lblUseRecommendedSetting"}) {
     EXPECT_GE(contrastOf(make<QLabel>(name)), kReadable) << name;
@@ -109,7 +111,7 @@ TEST_F(Contrast, OfLabels) {
   EXPECT_GE(contrastIn(group, setTitle, "\u2003\u2003\u2003"), kReadable);
 }
 
-TEST_F(Contrast, OfFields) {
+TEST_P(Contrast, OfFields) {
   auto& field = make<QLineEdit>("edtOther");
   EXPECT_GE(contrastOf(field), kReadable);
   field.setReadOnly(true);  // without the cursor
@@ -118,7 +120,7 @@ TEST_F(Contrast, OfFields) {
   EXPECT_GE(contrastOf(field), kReadable) << "with the focus";
 }
 
-TEST_F(Contrast, OfTheChatWheel) {
+TEST_P(Contrast, OfTheChatWheel) {
   auto& wheel = make<QWidget>("ChatWheel");
   auto* const field = new QLineEdit(&wheel);
   field->setGeometry(0, 0, 120, 44);
@@ -129,7 +131,7 @@ TEST_F(Contrast, OfTheChatWheel) {
   EXPECT_GE(contrastOf(*field), kReadable) << "with the focus";
 }
 
-TEST_F(Contrast, OfButtons) {
+TEST_P(Contrast, OfButtons) {
   for (const char* const name : {"btnOther", "btnSwichBasicSetting", "btnSwitchPlat"}) {
     auto& button = make<QPushButton>(name);
     EXPECT_GE(contrastOf(button), kReadable) << name;
@@ -143,7 +145,7 @@ TEST_F(Contrast, OfButtons) {
   EXPECT_GE(contrastOf(tab), kReadable) << "checked";
 }
 
-TEST_F(Contrast, UnderTheMouse) {
+TEST_P(Contrast, UnderTheMouse) {
   for (const char* const name : {"btnOther", "btnSwichBasicSetting", "btnSwitchPlat"}) {
     auto& button = make<QPushButton>(name);
     QTest::mouseMove(&button);
@@ -159,7 +161,7 @@ TEST_F(Contrast, UnderTheMouse) {
   }
 }
 
-TEST_F(Contrast, OfListsToChooseFrom) {
+TEST_P(Contrast, OfListsToChooseFrom) {
   auto& box = make<QComboBox>("cmbOther");
   box.addItem(QString());
   const SetText setText = [&](const QString& text) { box.setItemText(0, text); };
@@ -173,7 +175,7 @@ TEST_F(Contrast, OfListsToChooseFrom) {
   box.hidePopup();
 }
 
-TEST_F(Contrast, OfTrees) {
+TEST_P(Contrast, OfTrees) {
   auto& tree = make<QTreeWidget>("tree");
   tree.setAlternatingRowColors(true);
   tree.resize(200, 160);
@@ -191,7 +193,7 @@ TEST_F(Contrast, OfTrees) {
   }
 }
 
-class ContrastOfTheBox : public testing::Test {
+class ContrastOfTheBox : public testing::TestWithParam<Colors> {
  protected:
   ContrastOfTheBox() {
     box_.setStyleSheet(box_.styleSheet() +
@@ -201,11 +203,12 @@ class ContrastOfTheBox : public testing::Test {
     box_.layout()->setEnabled(false);  // parts stay in place when their texts change
   }
 
+  const ScopedColors colors_{GetParam()};
   CMsgBox box_{QMessageBox::Warning, QStringLiteral("title"), QStringLiteral("a text"),
                QMessageBox::Ok | QMessageBox::Cancel};
 };
 
-TEST_F(ContrastOfTheBox, IsThatOfTexts) {
+TEST_P(ContrastOfTheBox, IsThatOfTexts) {
   int texts = 0;
   for (QWidget* const part : box_.findChildren<QWidget*>()) {
     const QString text = part->property("text").toString();
@@ -216,13 +219,17 @@ TEST_F(ContrastOfTheBox, IsThatOfTexts) {
   EXPECT_EQ(texts, 4) << "the title, the text and two buttons";
 }
 
-TEST_F(ContrastOfTheBox, UnderTheMouse) {
+TEST_P(ContrastOfTheBox, UnderTheMouse) {
   QAbstractButton* const button = box_.button(QMessageBox::Cancel);
   QTest::mouseMove(button);
   EXPECT_GE(contrastOf(*button), kReadable);
   button->setFocus();
   EXPECT_GE(contrastOf(*button), kReadable) << "with the focus";
 }
+
+constexpr auto nameOf = [](const auto& test) { return std::string(test.param.name); };
+INSTANTIATE_TEST_SUITE_P(In, Contrast, testing::ValuesIn(kColors), nameOf);
+INSTANTIATE_TEST_SUITE_P(In, ContrastOfTheBox, testing::ValuesIn(kColors), nameOf);
 
 }  // namespace
 }  // namespace brennet::test

@@ -173,6 +173,7 @@ void CKeyMapView::wheelEvent(QWheelEvent* event) {
 void CKeyMapView::paintEvent(QPaintEvent* /*event*/) {
   if (map_ == nullptr) return;
   QPainter painter(this);
+  painter.fillRect(rect(), brennet::mapBackground());
   brennet::paintMap(painter, areaOf(*this),
                     {.map = *map_, .isDota7 = isDota7_, .layer = shownLayer(), .lit = lit_});
   if (!hasFocus()) return;

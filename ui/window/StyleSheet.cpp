@@ -4,13 +4,19 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QString>
 #include <QTextLayout>
 #include <QWidget>
 
+#include "platform/Appearance.h"
+#include "ui/window/SystemColors.h"
+
 namespace brennet {
 
 namespace {
+
+std::optional<bool> systemColors;
 
 // How far the visible text is below the middle of its line. Chinese fonts leave more room above
 // their characters than below, and a line with Chinese in it gets their height, even in a Latin
@@ -39,12 +45,20 @@ QString indicatorRule(const QWidget& window) {
 
 }  // namespace
 
+void setSystemColors(std::optional<bool> areUsed) {
+  systemColors = areUsed;
+}
+
 bool loadStyleSheet(QWidget& widget, const QString& name) {
   QFile file(name);
   if (!file.open(QIODevice::ReadOnly)) return false;
   const QByteArray text = file.readAll();
   if (!text.isEmpty() && QCoreApplication::instance() != nullptr) {
-    widget.setStyleSheet(QString::fromUtf8(text) + indicatorRule(widget));
+    QString sheet = QString::fromUtf8(text);
+    if (systemColors.value_or(platform::isHighContrast())) {
+      sheet = inSystemColors(sheet, QGuiApplication::palette());
+    }
+    widget.setStyleSheet(sheet + indicatorRule(widget));
     widget.update();
   }
   return true;

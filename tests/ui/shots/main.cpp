@@ -15,6 +15,7 @@
 #include <cstdio>
 
 #include "tests/support/World.h"
+#include "tests/ui/ScopedColors.h"
 #include "tests/ui/fonts/TestFonts.h"
 #include "tests/ui/screens/PlayersScreens.h"
 #include "tests/ui/shots/Shots.h"
@@ -89,6 +90,13 @@ bool takeAtScale(const char* scale, int argc, char** argv) {
       qstrcmp(scale, "1") == 0 ? QString() : QStringLiteral("@%1x").arg(QLatin1String(scale));
   for (const char* const language : {"zh_CN", "en"}) {
     if (!takeAll(shots, folder, QLatin1String(language), suffix)) return false;
+  }
+  // As they are where the system is set to high contrast.
+  for (const brennet::test::Colors& colors : brennet::test::kColors) {
+    if (!colors.areSystems || !suffix.isEmpty()) continue;
+    const brennet::test::ScopedColors scoped(colors);
+    const QString name = QLatin1Char('-') + QLatin1String(colors.name);
+    if (!takeAll(shots, folder, QStringLiteral("en"), name)) return false;
   }
   return true;
 }
