@@ -476,7 +476,10 @@ bool CHotkeySettingDlg::applySkin() {
 // The hidden page would keep the size that it has without the skin, and so would the dialog, which
 // is as large as the larger page.
 void CHotkeySettingDlg::fitToSkin() {
-  for (QWidget* const widget : findChildren<QWidget*>()) widget->ensurePolished();
+  for (QWidget* const widget : findChildren<QWidget*>()) {
+    widget->ensurePolished();
+    widget->updateGeometry();  // forgets the size that its layout knows
+  }
   for (QLayout* const inner : findChildren<QLayout*>()) inner->invalidate();
   layout()->activate();
 }

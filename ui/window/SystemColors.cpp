@@ -59,6 +59,7 @@ class SystemColors {
                "background-color: %2; background-clip: content; }\n"
                "QCheckBox::indicator:disabled, QRadioButton::indicator:disabled { "
                "border: 1px solid %4; }\n"
+               "CMsgBox QPushButton#btnClose, "
                "QPushButton#btnClose, QPushButton#btnCloseNotice, QPushButton#btnClose:focus, "
                "QPushButton#btnCloseNotice:focus { background-color: %5; }\n")
         .arg(stress(), text(), window(), disabledText(), QLatin1String(kPictureBackground));
