@@ -78,6 +78,7 @@ void SchemeTransferWindow::showOffer() {
   form_->lblSummary->setText(refused == 0
                                  ? tr("更改：%1 项").arg(changes)
                                  : tr("更改：%1 项，无法采用：%2 项").arg(changes).arg(refused));
+  form_->lstChanges->setColumnHidden(kNote, refused == 0);
   form_->btnOK->setEnabled(changes != 0);
 }
 

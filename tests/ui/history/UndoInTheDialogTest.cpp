@@ -220,14 +220,14 @@ TEST_F(UndoInTheDialog, TakesACombinationForOneStep) {
 TEST_F(UndoInTheDialog, TakesACombinationForOneStepThroughTheWindowToo) {
   dialog->onSwitchDota7KeySettingDlg();
   stopKey().setFocus();
-  QWindow* const window = dialog->windowHandle();
-  QTest::keyPress(window, Qt::Key_Control);
+  QWindow& window = *dialog->windowHandle();
+  pressKey(window, Qt::Key_Control);
   settle();
-  QTest::keyPress(window, Qt::Key_S, Qt::ControlModifier);
+  pressKey(window, Qt::Key_S, Qt::ControlModifier);
   settle();
   EXPECT_EQ(undoText(), "Stop: none → CTRL + S");
-  QTest::keyRelease(window, Qt::Key_S, Qt::ControlModifier);
-  QTest::keyRelease(window, Qt::Key_Control);
+  releaseKey(window, Qt::Key_S, Qt::ControlModifier);
+  releaseKey(window, Qt::Key_Control);
   settle();
   click(undo());
   EXPECT_FALSE(undo().isEnabled());
@@ -236,10 +236,10 @@ TEST_F(UndoInTheDialog, TakesACombinationForOneStepThroughTheWindowToo) {
 TEST_F(UndoInTheDialog, TakesALoneModifierForOneStep) {
   dialog->onSwitchDota7KeySettingDlg();
   press(stopKey(), Qt::Key_S);
-  QWindow* const window = dialog->windowHandle();
-  QTest::keyPress(window, Qt::Key_Control);
+  QWindow& window = *dialog->windowHandle();
+  pressKey(window, Qt::Key_Control);
   settle();
-  QTest::keyRelease(window, Qt::Key_Control);
+  releaseKey(window, Qt::Key_Control);
   settle();
   EXPECT_EQ(undoText(), "Stop: S → none");
 }

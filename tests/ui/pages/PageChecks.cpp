@@ -21,10 +21,10 @@
 namespace brennet::test {
 namespace {
 
-void send(QWidget& field, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers,
+void send(QObject& target, QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers,
           bool isRepeat = false) {
   QKeyEvent event(type, key, modifiers, 0, virtualKeyOfQtKey(key, false), 0, {}, isRepeat);
-  QApplication::sendEvent(&field, &event);
+  QApplication::sendEvent(&target, &event);
 }
 
 bool isControl(const QWidget& widget) {
@@ -119,16 +119,16 @@ QStringList methodNames(const QMetaObject& type) {
   return names;
 }
 
-void pressKey(QWidget& field, Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  send(field, QEvent::KeyPress, key, modifiers);
+void pressKey(QObject& target, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  send(target, QEvent::KeyPress, key, modifiers);
 }
 
-void holdKey(QWidget& field, Qt::Key key) {
-  send(field, QEvent::KeyPress, key, Qt::NoModifier, true);
+void holdKey(QObject& target, Qt::Key key) {
+  send(target, QEvent::KeyPress, key, Qt::NoModifier, true);
 }
 
-void releaseKey(QWidget& field, Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  send(field, QEvent::KeyRelease, key, modifiers);
+void releaseKey(QObject& target, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  send(target, QEvent::KeyRelease, key, modifiers);
 }
 
 QStringList tabOrder(QWidget& window) {

@@ -15,11 +15,11 @@ namespace brennet::test {
 // The signals and slots that a class adds, in the order in which clients see them.
 [[nodiscard]] QStringList methodNames(const QMetaObject& type);
 
-// A key with the code that Windows sends for it.
-void pressKey(QWidget& field, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+// A key with the code that Windows sends for it, for a field or for the native window of one.
+void pressKey(QObject& target, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 // The press once more, as it is sent while a key stays down.
-void holdKey(QWidget& field, Qt::Key key);
-void releaseKey(QWidget& field, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void holdKey(QObject& target, Qt::Key key);
+void releaseKey(QObject& target, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
 // The object names of all widgets that Tab reaches in a window that is shown, from the first on.
 [[nodiscard]] QStringList tabOrder(QWidget& window);
