@@ -825,6 +825,13 @@ Do you want to go on?</translation>
     </message>
 </context>
 <context>
+    <name>CKeyLineEdit</name>
+    <message>
+        <source>按键输入框：按下的键即成为此项的按键</source>
+        <translation>Key field: takes the next key that you press</translation>
+    </message>
+</context>
+<context>
     <name>CMsgBox</name>
     <message>
         <source>error</source>

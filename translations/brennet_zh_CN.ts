@@ -824,6 +824,13 @@ Are you sure to continue?</source>
     </message>
 </context>
 <context>
+    <name>CKeyLineEdit</name>
+    <message>
+        <source>按键输入框：按下的键即成为此项的按键</source>
+        <translation>按键输入框：按下的键即成为此项的按键</translation>
+    </message>
+</context>
+<context>
     <name>CMsgBox</name>
     <message>
         <source>error</source>

@@ -116,6 +116,25 @@ TEST(AccessibilityOfRefusals, DescribesWhyAPresetIsNotChosen) {
   EXPECT_EQ(description(), refusalText(takenKeysOfPreset(config.scheme(), 1), KeyWindow::Main));
 }
 
+// What a key field is, where it stands and what it holds, for those who do not see it.
+TEST(AccessibilityOfKeyFields, SaysAllThatIsSeen) {
+  QTranslator english;
+  ASSERT_TRUE(english.load(QStringLiteral("brennet_en.qm"), QStringLiteral(BRENNET_TRANSLATIONS)));
+  QCoreApplication::installTranslator(&english);
+  HotkeyConfig config;
+  config.editableScheme()->HeroSkillKey[8] = KeyWord('Q', KeyWord::kAlt);
+  CBasicSetting7Widget page(config, nullptr);
+  const auto told = [&page](const char* name, QAccessible::Text what) {
+    auto* const control = page.findChild<QWidget*>(QLatin1String(name));
+    return QAccessible::queryAccessibleInterface(control)->text(what).toStdString();
+  };
+  EXPECT_EQ(told("edtSkill_9", QAccessible::Name), "Hero skill 9 (top row, first)");
+  EXPECT_EQ(told("edtSkill_9", QAccessible::Value), "Alt + Q");
+  EXPECT_EQ(told("edtSkill_9", QAccessible::Description),
+            "Key field: takes the next key that you press");
+  EXPECT_EQ(told("btn_skillcast_9", QAccessible::Name), "Hero skill 9: quick cast");
+}
+
 TEST(AccessibilityEvents, TellOfARefusedPreset) {
   HotkeyConfig config;
   config.editableScheme()->HeroSkillKey[0] = kItemPresetKeys[1][0];

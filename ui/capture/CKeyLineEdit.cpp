@@ -19,6 +19,10 @@ constexpr const char16_t* kShown[] = {u"CTRL + Alt + W", u"\u2026 PRINT SCREEN"}
 
 }  // namespace
 
+CKeyLineEdit::CKeyLineEdit(QWidget* parent) : QLineEdit(parent) {
+  setAccessibleDescription(tr("按键输入框：按下的键即成为此项的按键"));
+}
+
 QSize CKeyLineEdit::sizeHint() const {
   ensurePolished();
   const QFontMetrics metrics(font());

@@ -3,13 +3,13 @@
 #include <QLineEdit>
 
 // A line edit for a key: as wide as the text of a key with two modifiers. The few wider texts show
-// their end, where the key is, behind an ellipsis, and have the whole as their tool tip. In no
-// namespace: forms know it by this name.
+// their end, where the key is, behind an ellipsis, and have the whole as their tool tip. Screen
+// readers are told that it does not take letters. In no namespace: forms know it by this name.
 class CKeyLineEdit : public QLineEdit {
   Q_OBJECT
 
  public:
-  using QLineEdit::QLineEdit;
+  explicit CKeyLineEdit(QWidget* parent = nullptr);
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

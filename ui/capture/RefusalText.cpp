@@ -27,15 +27,6 @@ QString words(const char* text) {
   return QCoreApplication::translate("KeyHolder", text);
 }
 
-// A slot, and where it is if its name does not say so.
-QString placeText(KeySlot slot) {
-  QString name = slotText(slot);
-  if (slot.setting != SettingId::HeroSkillKey) return name;
-  const CardPosition place = kCommandCard[slot.index];
-  return words(QT_TRANSLATE_NOOP("KeyHolder", "%1（%2，%3）"))
-      .arg(name, words(kRows[place.row]), words(kColumns[place.column]));
-}
-
 // A place in the window `to`, and how to get there if that is not the one that the player sees.
 QString fromWindow(const QString& place, KeyWindow to, KeyWindow from) {
   if (to == from) return place;
@@ -67,6 +58,14 @@ QString choiceText(const KeyConflict& conflict) {
 }
 
 }  // namespace
+
+QString placeText(KeySlot slot) {
+  QString name = slotText(slot);
+  if (slot.setting != SettingId::HeroSkillKey) return name;
+  const CardPosition place = kCommandCard[slot.index];
+  return words(QT_TRANSLATE_NOOP("KeyHolder", "%1（%2，%3）"))
+      .arg(name, words(kRows[place.row]), words(kColumns[place.column]));
+}
 
 QString keyLine(const QString& key, const QString& what) {
   return words(QT_TRANSLATE_NOOP("KeyHolder", "%1：%2")).arg(key, what);

@@ -23,6 +23,9 @@ enum class KeyWindow : std::uint8_t {
 // The window with the field of a key.
 [[nodiscard]] KeyWindow windowOf(KeySlot slot);
 
+// A slot, and where it is if its name does not say so: "Hero skill 9 (top row, first)".
+[[nodiscard]] QString placeText(KeySlot slot);
+
 // A line of a refusal: the text of a key, and what has it.
 [[nodiscard]] QString keyLine(const QString& key, const QString& what);
 

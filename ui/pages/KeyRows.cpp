@@ -8,6 +8,7 @@
 
 #include "model/CardPositions.h"
 #include "ui/capture/CKeyLineEdit.h"
+#include "ui/capture/RefusalText.h"
 #include "ui/window/CPictureButton.h"
 
 namespace brennet {
@@ -89,7 +90,9 @@ CastButtons addSkillRows(QGridLayout& grid, int count, const KeyRowTexts& texts)
   for (int number = 1; number <= count; ++number) {
     const auto [row, column] = kCommandCard[static_cast<std::size_t>(number - 1)];
     const QString what = texts.skill.arg(number);
-    grid.addWidget(newKeyField(QStringLiteral("edtSkill_%1").arg(number), what), row, 2 * column);
+    const KeySlot slot{SettingId::HeroSkillKey, static_cast<std::uint8_t>(number - 1)};
+    auto* const field = newKeyField(QStringLiteral("edtSkill_%1").arg(number), placeText(slot));
+    grid.addWidget(field, row, 2 * column);
     addCastButton(grid, {row, 2 * column + 1}, QStringLiteral("btn_skillcast_%1").arg(number), what,
                   texts, buttons);
   }

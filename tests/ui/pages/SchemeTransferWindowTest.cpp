@@ -70,6 +70,7 @@ TEST_F(SchemeTransferWindowTest, ShowsWhatIsAndWhatWouldBe) {
                                       {"Quick-chat phrase 2", "none", "“<b>go</b>”", ""}}));
   EXPECT_EQ(list().topLevelItem(2)->toolTip(2).contains(QStringLiteral("<b>go")), false);
   EXPECT_EQ(summary(), "Changes: 3");
+  EXPECT_TRUE(list().isColumnHidden(3)) << "there is nothing to note";
 }
 
 TEST_F(SchemeTransferWindowTest, MarksWhatIsRefusedAndSaysWhy) {
@@ -79,6 +80,7 @@ TEST_F(SchemeTransferWindowTest, MarksWhatIsRefusedAndSaysWhy) {
   source.HeroSkillKey[1] = kItemPresetKeys[0][0];
   source.NumComboKeyIndex = 0;
   open({offer("2", source)});
+  EXPECT_FALSE(list().isColumnHidden(3));
   const std::vector<Row> shown = rows();
   ASSERT_EQ(shown.size(), 3U);
   EXPECT_EQ(shown[0][3], "Cannot be taken over: Alt + Q is Hero skill 2");
