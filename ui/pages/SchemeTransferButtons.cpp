@@ -88,6 +88,7 @@ void SchemeTransferButtons::importFrom(const QString& fileName) {
     return;
   }
   std::vector<SchemeOffer> offers;
+  offers.reserve(schemes.size());
   for (const SchemeInFile& scheme : schemes) {
     offers.push_back({controls_.groups.itemText(scheme.number),
                       transferOf(config_.scheme(), scheme.scheme, scheme.report)});

@@ -66,7 +66,8 @@ const brennet::SchemeOffer& SchemeTransferWindow::chosen() const {
 // What is refused comes first: the player has to know of it before he agrees.
 void SchemeTransferWindow::showOffer() {
   std::vector<TransferRow> rows = chosen().transfer.rows;
-  std::ranges::stable_partition(rows, &TransferRow::isRefused);
+  std::stable_partition(rows.begin(), rows.end(),
+                        [](const TransferRow& row) { return row.isRefused(); });
   form_->lstChanges->clear();
   for (const TransferRow& row : rows) addRow(row);
   const brennet::HotkeyScheme& result = chosen().transfer.result;
