@@ -69,7 +69,10 @@ void SchemeTransferWindow::showOffer() {
   std::stable_partition(rows.begin(), rows.end(),
                         [](const TransferRow& row) { return row.isRefused(); });
   form_->lstChanges->clear();
-  for (const TransferRow& row : rows) addRow(row);
+  // All at once: the columns follow their contents.
+  QList<QTreeWidgetItem*> items;
+  for (const TransferRow& row : rows) items += newItem(row);
+  form_->lstChanges->addTopLevelItems(items);
   const brennet::HotkeyScheme& result = chosen().transfer.result;
   const auto changes = std::count_if(rows.begin(), rows.end(), [&](const TransferRow& row) {
     return differsIn(row.part, current_, result);
@@ -84,16 +87,15 @@ void SchemeTransferWindow::showOffer() {
 }
 
 // What is refused is told in words and in bold.
-void SchemeTransferWindow::addRow(const TransferRow& row) {
+QTreeWidgetItem* SchemeTransferWindow::newItem(const TransferRow& row) const {
   const QString refusal = refusalOf(row);
   const QString note = refusal.isEmpty() ? QString() : tr("无法采用：%1").arg(refusal);
-  auto* const item = new QTreeWidgetItem(
-      form_->lstChanges, {brennet::settingText(row.part), brennet::valueText(current_, row.part),
-                          brennet::valueText(chosen().transfer.result, row.part), note});
-  QFont font = item->font(kSetting);
-  font.setBold(row.isRefused());
-  for (const int column : {kSetting, kNow, kThen, kNote}) {
-    item->setFont(column, font);
-    item->setToolTip(column, brennet::plainToolTip(item->text(column)));
-  }
+  auto* const item =
+      new QTreeWidgetItem({brennet::settingText(row.part), brennet::valueText(current_, row.part),
+                           brennet::valueText(chosen().transfer.result, row.part), note});
+  if (!row.isRefused()) return item;
+  QFont font = form_->lstChanges->font();
+  font.setBold(true);
+  for (const int column : {kSetting, kNow, kThen, kNote}) item->setFont(column, font);
+  return item;
 }

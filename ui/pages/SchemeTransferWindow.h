@@ -11,6 +11,7 @@
 namespace Ui {
 class SchemeTransferWindow;
 }
+class QTreeWidgetItem;
 
 namespace brennet {
 
@@ -39,7 +40,7 @@ class SchemeTransferWindow : public brennet::MovableDialog {
 
  private:
   void showOffer();
-  void addRow(const brennet::TransferRow& row);
+  [[nodiscard]] QTreeWidgetItem* newItem(const brennet::TransferRow& row) const;
 
   std::unique_ptr<Ui::SchemeTransferWindow> form_;
   brennet::HotkeyScheme current_;
