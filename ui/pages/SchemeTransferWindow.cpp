@@ -44,7 +44,6 @@ SchemeTransferWindow::SchemeTransferWindow(const QString& title,
   setWindowTitle(title);
   form_->lblTitle->setText(title);
   form_->lstChanges->setHeaderLabels({tr("设置"), tr("现在"), tr("之后"), tr("说明")});
-  form_->lstChanges->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   form_->lstChanges->header()->setStretchLastSection(false);
   form_->lstChanges->setFocus();
   for (const brennet::SchemeOffer& offer : offers_) form_->cmbSource->addItem(offer.name);
@@ -69,10 +68,11 @@ void SchemeTransferWindow::showOffer() {
   std::stable_partition(rows.begin(), rows.end(),
                         [](const TransferRow& row) { return row.isRefused(); });
   form_->lstChanges->clear();
-  // All at once: the columns follow their contents.
-  QList<QTreeWidgetItem*> items;
-  for (const TransferRow& row : rows) items += newItem(row);
-  form_->lstChanges->addTopLevelItems(items);
+  // The columns follow their contents, which are not measured again for each row.
+  QHeaderView& columns = *form_->lstChanges->header();
+  columns.setSectionResizeMode(QHeaderView::Interactive);
+  for (const TransferRow& row : rows) addRow(row);
+  columns.setSectionResizeMode(QHeaderView::ResizeToContents);
   const brennet::HotkeyScheme& result = chosen().transfer.result;
   const auto changes = std::count_if(rows.begin(), rows.end(), [&](const TransferRow& row) {
     return differsIn(row.part, current_, result);
@@ -87,15 +87,14 @@ void SchemeTransferWindow::showOffer() {
 }
 
 // What is refused is told in words and in bold.
-QTreeWidgetItem* SchemeTransferWindow::newItem(const TransferRow& row) const {
+void SchemeTransferWindow::addRow(const TransferRow& row) {
   const QString refusal = refusalOf(row);
   const QString note = refusal.isEmpty() ? QString() : tr("无法采用：%1").arg(refusal);
-  auto* const item =
-      new QTreeWidgetItem({brennet::settingText(row.part), brennet::valueText(current_, row.part),
-                           brennet::valueText(chosen().transfer.result, row.part), note});
-  if (!row.isRefused()) return item;
+  auto item = std::make_unique<QTreeWidgetItem>(
+      QStringList{brennet::settingText(row.part), brennet::valueText(current_, row.part),
+                  brennet::valueText(chosen().transfer.result, row.part), note});
   QFont font = form_->lstChanges->font();
-  font.setBold(true);
+  font.setBold(row.isRefused());
   for (const int column : {kSetting, kNow, kThen, kNote}) item->setFont(column, font);
-  return item;
+  form_->lstChanges->addTopLevelItem(item.release());
 }

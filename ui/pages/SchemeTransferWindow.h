@@ -11,7 +11,6 @@
 namespace Ui {
 class SchemeTransferWindow;
 }
-class QTreeWidgetItem;
 
 namespace brennet {
 
@@ -40,7 +39,7 @@ class SchemeTransferWindow : public brennet::MovableDialog {
 
  private:
   void showOffer();
-  [[nodiscard]] QTreeWidgetItem* newItem(const brennet::TransferRow& row) const;
+  void addRow(const brennet::TransferRow& row);
 
   std::unique_ptr<Ui::SchemeTransferWindow> form_;
   brennet::HotkeyScheme current_;
