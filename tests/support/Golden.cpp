@@ -38,6 +38,13 @@ void expectGolden(const std::string& name, const std::string& actual) {
   EXPECT_EQ(actual, read(file)) << "tests/data/" << name << kHint;
 }
 
+void expectGolden(const std::string& name, const std::string& actual,
+                  const std::function<std::string(const std::string& stored)>& differenceTo) {
+  const std::string file = testData(name);
+  if (isUpdating() && !differenceTo(read(file)).empty()) replace(file, actual);
+  EXPECT_EQ(differenceTo(read(file)), "") << "tests/data/" << name << kHint;
+}
+
 void expectGoldenPart(const std::string& file, const std::string& part, const std::string& actual) {
   const std::string path = projectFile(file);
   std::string content = read(path);
