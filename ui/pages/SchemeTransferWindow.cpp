@@ -68,11 +68,7 @@ void SchemeTransferWindow::showOffer() {
   std::stable_partition(rows.begin(), rows.end(),
                         [](const TransferRow& row) { return row.isRefused(); });
   form_->lstChanges->clear();
-  // The columns follow their contents, which are not measured again for each row.
-  QHeaderView& columns = *form_->lstChanges->header();
-  columns.setSectionResizeMode(QHeaderView::Interactive);
   for (const TransferRow& row : rows) addRow(row);
-  columns.setSectionResizeMode(QHeaderView::ResizeToContents);
   const brennet::HotkeyScheme& result = chosen().transfer.result;
   const auto changes = std::count_if(rows.begin(), rows.end(), [&](const TransferRow& row) {
     return differsIn(row.part, current_, result);
@@ -84,6 +80,22 @@ void SchemeTransferWindow::showOffer() {
                                  : tr("更改：%1 项，无法采用：%2 项").arg(changes).arg(refused));
   form_->lstChanges->setColumnHidden(kNote, refused == 0);
   form_->btnOK->setEnabled(changes != 0);
+  if (isVisible()) fitColumns();
+}
+
+// By then it has the fonts of the skin.
+void SchemeTransferWindow::showEvent(QShowEvent* event) {
+  fitColumns();
+  MovableDialog::showEvent(event);
+}
+
+// Once a list: a header that follows its contents by itself measures them at every step of opening.
+void SchemeTransferWindow::fitColumns() {
+  for (const int column : {kSetting, kNow, kThen, kNote}) {
+    if (!form_->lstChanges->isColumnHidden(column)) {
+      form_->lstChanges->resizeColumnToContents(column);
+    }
+  }
 }
 
 // What is refused is told in words and in bold.

@@ -38,7 +38,9 @@ class SchemeTransferWindow : public brennet::MovableDialog {
   [[nodiscard]] const brennet::SchemeOffer& chosen() const;
 
  private:
+  void showEvent(QShowEvent* event) override;
   void showOffer();
+  void fitColumns();
   void addRow(const brennet::TransferRow& row);
 
   std::unique_ptr<Ui::SchemeTransferWindow> form_;

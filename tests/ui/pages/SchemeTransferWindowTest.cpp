@@ -90,6 +90,25 @@ TEST_F(SchemeTransferWindowTest, MarksWhatIsRefusedAndSaysWhy) {
   EXPECT_EQ(summary(), "Changes: 1, cannot be taken over: 2");
 }
 
+// For the first list and for one that is chosen later.
+TEST_F(SchemeTransferWindowTest, ShowsTheWholeOfEachColumn) {
+  HotkeyScheme refused;
+  refused.ShowFBlood = KeyWord('Q', 0);
+  HotkeyScheme longer;
+  longer.HeroSkillKey[0] = KeyWord(0x6D, KeyWord::kCtrl | KeyWord::kAlt);
+  longer.QuickChat[0] = std::u16string(60, u'W');
+  open({offer("2", refused), offer("3", longer)});
+  for (const int each : {0, 1}) {
+    find<QComboBox>("cmbSource").setCurrentIndex(each);
+    for (int column = 0; column < 4; ++column) {
+      if (list().isColumnHidden(column)) continue;
+      const int width = list().columnWidth(column);
+      list().resizeColumnToContents(column);
+      EXPECT_EQ(width, list().columnWidth(column)) << "offer " << each << ", column " << column;
+    }
+  }
+}
+
 TEST_F(SchemeTransferWindowTest, ShowsTheGroupThatIsChosen) {
   HotkeyScheme source;
   source.HeroSkillKey[0] = KeyWord('W', 0);
