@@ -12,9 +12,10 @@ namespace {
 constexpr std::size_t kCDataStartLength = 9;  // <![CDATA[
 constexpr std::size_t kCDataEndLength = 3;    // ]]>
 
-std::size_t contentEnd(std::u16string_view text, const ElementRecord& record) {
-  const bool hasEndTag = record.has(ElementRecord::kElement) &&
-                         !record.has(ElementRecord::kEmptyTag | ElementRecord::kError);
+std::size_t contentEnd(std::u16string_view text, const ElementIndex& index, ElementNumber number) {
+  const ElementRecord& record = index[number];
+  const bool hasEndTag =
+      number != 0 && !record.has(ElementRecord::kEmptyTag | ElementRecord::kError);
   // The only "<" in an end tag is its first character.
   return hasEndTag ? text.rfind(u'<', record.end() - 1) : record.end();
 }
@@ -27,7 +28,7 @@ ElementContent::ElementContent(std::u16string_view text, const ElementIndex& ind
       index_(index),
       number_(number),
       start_(index[number].contentStart()),
-      end_(contentEnd(text, index[number])) {}
+      end_(contentEnd(text, index, number)) {}
 
 // Calls visit(run, isCData) for each piece of the element's own text, as it is written, until that
 // returns false.
@@ -35,7 +36,7 @@ template <typename Visitor>
 void ElementContent::visitRuns(Visitor visit) const {
   using Kind = MarkupToken::Kind;
   MarkupTokenizer tokenizer(text_.substr(0, end_), start_);
-  ElementNumber child = index_[number_].firstChild;
+  ElementNumber child = index_.firstChild(number_);
   std::size_t runStart = start_;
   for (;;) {
     const MarkupToken token = tokenizer.next();
@@ -49,7 +50,7 @@ void ElementContent::visitRuns(Visitor visit) const {
       if (!visit(text_.substr(start, token.end - kCDataEndLength - start), true)) return;
     } else if (token.kind == Kind::StartTag || token.kind == Kind::EmptyTag) {
       runStart = index_[child].end();
-      child = index_[child].next;
+      child = index_.behind(child);
       tokenizer.skipTo(runStart);
     }
   }

@@ -3,52 +3,49 @@
 #include <algorithm>
 
 namespace brennet {
+namespace {
+
+using Difference = std::vector<ElementRecord>::difference_type;
+
+}  // namespace
+
+static_assert(sizeof(ElementRecord) == 20);
 
 ElementIndex::ElementIndex(std::size_t elementCount) {
-  grow(elementCount + 1);
-  add();
+  reserve(elementCount);
+  add({.start = 0, .startTagLength = 0, .length = 0, .count = 1, .flags = 0});
 }
 
-// All segments except the last have their full size. The first one starts small and doubles until
-// it is full, so that a small document costs little.
-void ElementIndex::grow(std::size_t recordCount) {
-  while (capacity_ < recordCount) {
-    const std::size_t partial = capacity_ & kRecordMask;
-    const std::size_t wanted = recordCount - (capacity_ - partial);
-    const std::size_t segmentSize = std::min(std::max(wanted, 2 * capacity_), kSegmentSize);
-    // Records are written when they are added; until then their memory is left alone.
-    Segment segment(new ElementRecord[segmentSize]);
-    if (partial == 0) {
-      segments_.push_back(std::move(segment));
-    } else {
-      std::copy_n(segments_.back().get(), partial, segment.get());
-      segments_.back() = std::move(segment);
-    }
-    capacity_ += segmentSize - partial;
-  }
+ElementNumber ElementIndex::lastChild(ElementNumber parent, ElementNumber from) const {
+  ElementNumber last = from != 0 ? from : firstChild(parent);
+  if (last == 0) return 0;
+  while (behind(last) < behind(parent)) last = behind(last);
+  return last;
 }
 
-void ElementIndex::link(ElementNumber parent, ElementNumber after, ElementNumber child) {
-  ElementRecord& record = (*this)[child];
-  const ElementNumber first = (*this)[parent].firstChild;
-  record.parent = parent;
-  record.next = after == 0 ? first : (*this)[after].next;
-  record.previous = after;
-  if (after != 0) (*this)[after].next = child;
-  if (after == 0) {
-    (*this)[parent].firstChild = child;
-    record.previous = first == 0 ? child : (*this)[first].previous;
-  }
-  if (record.next != 0) {
-    (*this)[record.next].previous = child;
-  } else {
-    (*this)[(*this)[parent].firstChild].previous = child;
-  }
+void ElementIndex::makeRoomFor(std::size_t recordCount) {
+  if (records_.capacity() - records_.size() >= recordCount) return;
+  records_.reserve(records_.size() + std::max(records_.size(), recordCount));
 }
 
-ElementNumber ElementIndex::nextBehind(ElementNumber number) const {
-  while (number != 0 && (*this)[number].next == 0) number = (*this)[number].parent;
-  return number == 0 ? 0 : (*this)[number].next;
+void ElementIndex::insert(ElementNumber number, std::span<const ElementRecord> records,
+                          std::uint32_t by) {
+  const auto first = records_.insert(records_.begin() + static_cast<Difference>(number),
+                                     records.begin(), records.end());
+  std::for_each(first, first + static_cast<Difference>(records.size()),
+                [by](ElementRecord& record) { record.start += by; });
+}
+
+std::uint32_t ElementIndex::removeInside(ElementNumber number) {
+  const auto self = records_.begin() + static_cast<Difference>(number);
+  const std::uint32_t inside = self->count - 1;
+  records_.erase(self + 1, self + 1 + static_cast<Difference>(inside));
+  return inside;
+}
+
+void ElementIndex::moveFrom(ElementNumber first, std::uint32_t by) {
+  std::for_each(records_.begin() + static_cast<Difference>(first), records_.end(),
+                [by](ElementRecord& record) { record.start += by; });
 }
 
 }  // namespace brennet

@@ -2,19 +2,18 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <span>
 #include <vector>
 
 namespace brennet {
 
-// Number of an element in its ElementIndex: the high 16 bits select the segment, the low 16 bits
-// the record. 0 is the document itself, and means "no element" in links and positions.
+// Number of an element in its ElementIndex. 0 is the document itself, and means "no element" in
+// positions and answers.
 using ElementNumber = std::uint32_t;
 
 // One element of a document. Offsets and lengths are in units of the document text.
 struct ElementRecord {
   enum Flag : std::uint32_t {
-    kElement = 1,              // the node kind
     kEmptyTag = 1U << 16U,     // written as `<a/>`, without an end tag
     kHoldsText = 1U << 17U,    // the content is known to hold text besides white space
     kHoldsNoText = 1U << 18U,  // the content is known to hold none
@@ -24,10 +23,7 @@ struct ElementRecord {
   std::uint32_t start;           // of the start tag
   std::uint32_t startTagLength;  // up to and with ">"
   std::uint32_t length;          // of the whole element
-  ElementNumber parent;
-  ElementNumber firstChild;
-  ElementNumber next;      // sibling, 0 for the last one
-  ElementNumber previous;  // sibling; the first one's is the last one, so that appending is quick
+  std::uint32_t count;           // of records: its own and those of all elements inside
   std::uint32_t flags;
 
   [[nodiscard]] std::uint32_t contentStart() const { return start + startTagLength; }
@@ -35,83 +31,71 @@ struct ElementRecord {
   [[nodiscard]] bool has(std::uint32_t flag) const { return (flags & flag) != 0; }
 };
 
-// The elements of one document, linked as a tree. Records are never removed, only unlinked.
+// The elements of one document, in the order of their start tags. There are no links: the elements
+// inside an element follow it directly, and `count` says how many they are. So a document takes
+// little memory, and what moves with an edit lies side by side.
 //
-// References to records are valid until the next record is added.
+// References to records are valid until a record is added, inserted or removed.
 class ElementIndex {
  public:
   // Holds only the document, and has room for `elementCount` elements.
   explicit ElementIndex(std::size_t elementCount = 0);
 
   // How many records there are, the document's included.
-  [[nodiscard]] std::size_t size() const { return size_; }
+  [[nodiscard]] std::size_t size() const { return records_.size(); }
 
-  [[nodiscard]] ElementRecord& operator[](ElementNumber number) {
-    return segments_[number >> kSegmentBits][number & kRecordMask];
-  }
+  [[nodiscard]] ElementRecord& operator[](ElementNumber number) { return records_[number]; }
   [[nodiscard]] const ElementRecord& operator[](ElementNumber number) const {
-    return segments_[number >> kSegmentBits][number & kRecordMask];
+    return records_[number];
   }
 
-  // A new, unlinked record, all zero. Throws std::bad_alloc, and then has changed nothing.
-  ElementNumber add() {
-    if (size_ == capacity_) grow(size_ + 1);
-    const auto number = static_cast<ElementNumber>(size_++);
-    (*this)[number] = {};
-    return number;
+  // The number behind that of the last element inside `number`. Where the elements behind an
+  // element begin; size() for the document.
+  [[nodiscard]] ElementNumber behind(ElementNumber number) const {
+    return number + records_[number].count;
   }
 
-  // Makes sure that the next add() does not throw.
-  void reserveOne() {
-    if (size_ == capacity_) grow(size_ + 1);
+  // Each returns 0 if there is no such element.
+  [[nodiscard]] ElementNumber firstChild(ElementNumber parent) const {
+    return records_[parent].count > 1 ? parent + 1 : 0;
+  }
+  // The next child of `parent` behind its child `number`.
+  [[nodiscard]] ElementNumber next(ElementNumber parent, ElementNumber number) const {
+    const ElementNumber next = behind(number);
+    return next < behind(parent) ? next : 0;
+  }
+  // The last child of `parent`. It goes through all children from `from` on, which is one of them,
+  // or 0 for all.
+  [[nodiscard]] ElementNumber lastChild(ElementNumber parent, ElementNumber from = 0) const;
+
+  // Adds a record at the end. The caller sees to the counts of the elements around it. Throws
+  // std::bad_alloc, and then has changed nothing, like the two below.
+  ElementNumber add(const ElementRecord& record) {
+    records_.push_back(record);
+    return static_cast<ElementNumber>(records_.size() - 1);
   }
 
-  // Links `child` into `parent`, after the child `after`, or as the first child if that is 0.
-  void link(ElementNumber parent, ElementNumber after, ElementNumber child);
+  // Whether the next record needs more memory.
+  [[nodiscard]] bool isFull() const { return records_.size() == records_.capacity(); }
+  // Makes room for `elementCount` elements at least.
+  void reserve(std::size_t elementCount) { records_.reserve(elementCount + 1); }
+  // Makes sure that the next insert() of so many records does not throw.
+  void makeRoomFor(std::size_t recordCount);
 
-  // Links `child` as the last child of `parent`.
-  void append(ElementNumber parent, ElementNumber child) {
-    const ElementNumber first = (*this)[parent].firstChild;
-    ElementRecord& record = (*this)[child];
-    record.parent = parent;
-    record.next = 0;
-    if (first == 0) {
-      (*this)[parent].firstChild = child;
-      record.previous = child;
-    } else {
-      ElementNumber& last = (*this)[first].previous;
-      record.previous = last;
-      (*this)[last].next = child;
-      last = child;
-    }
-  }
+  // Inserts records in front of `number`, which may be size(), with their starts moved by that many
+  // units. The caller sees to the counts of the elements around them.
+  void insert(ElementNumber number, std::span<const ElementRecord> records, std::uint32_t by);
 
-  // The last child of `parent`, or 0.
-  [[nodiscard]] ElementNumber lastChild(ElementNumber parent) const {
-    const ElementNumber first = (*this)[parent].firstChild;
-    return first == 0 ? 0 : (*this)[first].previous;
-  }
+  // Removes all elements inside `number` and returns how many they were. The caller sees to the
+  // counts of `number` and the elements around it. Does not throw.
+  std::uint32_t removeInside(ElementNumber number);
 
-  // The element with the next start tag after that of `number`, or 0.
-  [[nodiscard]] ElementNumber nextInText(ElementNumber number) const {
-    const ElementNumber child = (*this)[number].firstChild;
-    return child != 0 ? child : nextBehind(number);
-  }
-
-  // The element with the next start tag after the end of `number`, or 0.
-  [[nodiscard]] ElementNumber nextBehind(ElementNumber number) const;
+  // Moves `first` and all elements behind its start by that many units, modulo 2^32. `first` may
+  // be size().
+  void moveFrom(ElementNumber first, std::uint32_t by);
 
  private:
-  static constexpr unsigned kSegmentBits = 16;
-  static constexpr std::size_t kSegmentSize = std::size_t{1} << kSegmentBits;
-  static constexpr std::size_t kRecordMask = kSegmentSize - 1;
-  using Segment = std::unique_ptr<ElementRecord[]>;
-
-  void grow(std::size_t recordCount);
-
-  std::vector<Segment> segments_;
-  std::size_t size_ = 0;
-  std::size_t capacity_ = 0;
+  std::vector<ElementRecord> records_;
 };
 
 }  // namespace brennet

@@ -39,9 +39,10 @@ bool MarkupDocument::parse(std::u16string text, ResultLog log, TextForm form) {
   index_ = std::move(index);
   log_ = std::move(log);
   form_ = form;
-  parent_ = main_ = child_ = 0;
-  const ElementNumber root = index_[0].firstChild;
-  return root != 0 && index_[root].next == 0 && !index_[root].has(ElementRecord::kError);
+  parents_.clear();
+  main_ = child_ = 0;
+  const ElementNumber root = index_.firstChild(0);
+  return root != 0 && index_.next(0, root) == 0 && !index_[root].has(ElementRecord::kError);
 }
 
 bool MarkupDocument::save(std::u16string_view path, platform::OldContent old) {
@@ -56,11 +57,9 @@ bool MarkupDocument::save(std::u16string_view path, platform::OldContent old) {
 
 bool MarkupDocument::findElem(std::u16string_view name) {
   if ((docFlags_ & kWriting) != 0) return false;
-  const ElementNumber first = main_ != 0 ? index_[main_].next : index_[parent_].firstChild;
-  const ElementNumber found = findFrom(first, name);
+  const ElementNumber found = findChild(parent(), main_, name);
   if (found == 0) return false;
   main_ = found;
-  parent_ = index_[found].parent;
   child_ = 0;
   return true;
 }
@@ -68,16 +67,18 @@ bool MarkupDocument::findElem(std::u16string_view name) {
 bool MarkupDocument::findChildElem(std::u16string_view name) {
   if ((docFlags_ & (kReading | kWriting)) != 0) return false;
   if (main_ == 0 && !findElem()) return false;
-  const ElementNumber first = child_ != 0 ? index_[child_].next : index_[main_].firstChild;
-  const ElementNumber found = findFrom(first, name);
+  const ElementNumber found = findChild(main_, child_, name);
   if (found == 0) return false;
   child_ = found;
   return true;
 }
 
-// The first element called `name` (any, if empty) among `first` and the siblings behind it, or 0.
-ElementNumber MarkupDocument::findFrom(ElementNumber first, std::u16string_view name) const {
-  if (name.empty()) return first;
+// The next child of `parent` called `name` (any, if empty) behind its child `behind`, or its first
+// one if that is 0. Returns 0 if there is none.
+ElementNumber MarkupDocument::findChild(ElementNumber parent, ElementNumber behind,
+                                        std::u16string_view name) const {
+  ElementNumber element = behind == 0 ? index_.firstChild(parent) : index_.next(parent, behind);
+  if (name.empty()) return element;
   if (leadingName(name).size() != name.size()) return 0;  // no element can have this name
   // Comparing the units at the ends of the name rules out most elements at once.
   const auto isCalled = [text = text_.data(), name](const ElementRecord& record) {
@@ -85,8 +86,7 @@ ElementNumber MarkupDocument::findFrom(ElementNumber first, std::u16string_view 
     return name.size() + 1 < record.startTagLength && tag[0] == name[0] &&
            !isNameUnit(tag[name.size()]) && std::u16string_view(tag, name.size()) == name;
   };
-  ElementNumber element = first;
-  while (element != 0 && !isCalled(index_[element])) element = index_[element].next;
+  while (element != 0 && !isCalled(index_[element])) element = index_.next(parent, element);
   return element;
 }
 
@@ -112,17 +112,17 @@ std::u16string MarkupDocument::getChildData() const {
 
 bool MarkupDocument::intoElem() {
   if (main_ == 0) return false;
-  parent_ = main_;
+  parents_.push_back(main_);
   main_ = child_;
   child_ = 0;
   return true;
 }
 
 bool MarkupDocument::outOfElem() {
-  if (parent_ == 0) return false;
+  if (parents_.empty()) return false;
   child_ = main_;
-  main_ = parent_;
-  parent_ = index_[parent_].parent;
+  main_ = parent();
+  parents_.pop_back();
   return true;
 }
 

@@ -3,8 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "markup/ElementIndex.h"
 #include "markup/ResultLog.h"
@@ -13,6 +15,8 @@
 #include "platform/Files.h"
 
 namespace brennet {
+
+class MarkupWriter;
 
 // An XML document: one UTF-16 text, an index of its elements and a position among them.
 //
@@ -23,7 +27,8 @@ namespace brennet {
 // the child. After parsing, all are missing, and the document itself is the parent.
 //
 // An edit takes time for the text behind it and for the elements behind and around it; adding at
-// the end, as when a document is built, is quick.
+// the end, as when a document is built, is quick. Adding behind the last child where there is no
+// position to start from takes time for all its siblings.
 //
 // Every operation may throw std::bad_alloc or, for texts too long for std::u16string,
 // std::length_error. The document is then as it was before the call or, if that was an edit of
@@ -105,6 +110,11 @@ class MarkupDocument {
   // no main element.
   bool addElem(std::u16string_view name, std::u16string_view value = {}, std::uint32_t flags = 0);
 
+  // Adds all elements of `writer`, which has closed them, as the last children of the main element,
+  // as if by addElem with kChild, but clears the child position. Returns false when there is no
+  // main element.
+  bool addChildren(const MarkupWriter& writer);
+
   // Makes the main element the parent position and the child the main position, and clears the
   // child position. Returns false, and changes nothing, when there is no main position.
   bool intoElem();
@@ -127,16 +137,16 @@ class MarkupDocument {
   void setDocFlags(std::uint32_t flags) { docFlags_ = flags; }
 
  private:
-  struct NewElement {
-    std::u16string text;
-    std::uint32_t startTagLength;
-    std::uint32_t flags;
+  // What is to be added: siblings, the records with offsets in the text.
+  struct NewElements {
+    std::u16string_view text;
+    std::span<const ElementRecord> records;
   };
-  static NewElement makeElement(std::u16string_view name, std::u16string_view value,
-                                std::uint32_t flags);
 
   bool parse(std::u16string text, ResultLog log, TextForm form);
-  [[nodiscard]] ElementNumber findFrom(ElementNumber first, std::u16string_view name) const;
+  [[nodiscard]] ElementNumber parent() const { return parents_.empty() ? 0 : parents_.back(); }
+  [[nodiscard]] ElementNumber findChild(ElementNumber parent, ElementNumber behind,
+                                        std::u16string_view name) const;
   [[nodiscard]] std::optional<std::size_t> offsetOf(ElementNumber element) const;
   [[nodiscard]] std::u16string_view startTagOf(ElementNumber element) const;
   [[nodiscard]] std::u16string attributeOf(ElementNumber element, std::u16string_view name) const;
@@ -144,23 +154,25 @@ class MarkupDocument {
 
   bool setAttributeOf(ElementNumber element, std::u16string_view name, std::u16string_view value);
   bool setDataOf(ElementNumber element, std::u16string_view value, std::uint32_t flags);
-  ElementNumber addElement(ElementNumber parent, ElementNumber after, std::size_t at,
-                           const NewElement& element);
+  ElementNumber add(ElementNumber parent, const NewElements& elements);
+  void insert(ElementNumber parent, ElementNumber number, std::size_t at,
+              const NewElements& elements);
   [[nodiscard]] std::size_t behindLineOf(ElementNumber element) const;
   void fillEmptyTag(ElementNumber element, std::u16string_view content);
-  bool closeUnclosed(ElementNumber element, std::size_t room);
+  bool closeUnclosed(ElementNumber parent, ElementNumber element, std::size_t room);
   bool holdsText(ElementNumber element);
 
   [[nodiscard]] bool canGrowBy(std::size_t units) const;
+  template <class Change>
+  void changeAround(ElementNumber element, Change change);
   void lengthen(ElementNumber element, std::uint32_t by);
-  void moveFrom(ElementNumber first, std::uint32_t by);
 
   std::u16string text_;
   ElementIndex index_;
   ResultLog log_;
   TextForm form_;
   std::uint32_t docFlags_ = 0;
-  ElementNumber parent_ = 0;
+  std::vector<ElementNumber> parents_;  // from the root to the parent position
   ElementNumber main_ = 0;
   ElementNumber child_ = 0;
 };

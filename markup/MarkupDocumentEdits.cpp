@@ -1,11 +1,14 @@
 // The edits of MarkupDocument. Each step of an edit first does what can throw (the new text and
 // room in the index), then what cannot (links, lengths and offsets).
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "markup/ElementContent.h"
 #include "markup/Escaping.h"
 #include "markup/MarkupDocument.h"
 #include "markup/MarkupParser.h"
+#include "markup/MarkupWriter.h"
 #include "markup/Names.h"
 #include "markup/StartTag.h"
 
@@ -66,7 +69,7 @@ bool MarkupDocument::setAttributeOf(ElementNumber element, std::u16string_view n
   const std::uint32_t by = growth(piece.size(), end - start);
   index_[element].startTagLength += by;
   lengthen(element, by);
-  moveFrom(index_.nextInText(element), by);
+  index_.moveFrom(element + 1, by);
   return true;
 }
 
@@ -91,71 +94,83 @@ bool MarkupDocument::setDataOf(ElementNumber element, std::u16string_view value,
     const ElementContent old(text_, index_, element);
     const std::size_t oldLength = old.end() - old.start();
     text_.replace(old.start(), oldLength, content);
-    index_[element].firstChild = 0;
+    const std::uint32_t removed = index_.removeInside(element);
+    changeAround(element, [removed](ElementRecord& record) { record.count -= removed; });
     lengthen(element, growth(content.size(), oldLength));
-    moveFrom(index_.nextBehind(element), growth(content.size(), oldLength));
+    index_.moveFrom(index_.behind(element), growth(content.size(), oldLength));
   }
   index_[element].flags &= ~(ElementRecord::kHoldsText | ElementRecord::kHoldsNoText);
   return true;
-}
-
-MarkupDocument::NewElement MarkupDocument::makeElement(std::u16string_view name,
-                                                       std::u16string_view value,
-                                                       std::uint32_t flags) {
-  const std::u16string content = contentText(value, flags);
-  NewElement element;
-  element.flags = ElementRecord::kElement | (content.empty() ? ElementRecord::kEmptyTag : 0U);
-  element.text.append(u"<").append(name).append(content.empty() ? u"/>" : u">");
-  element.startTagLength = static_cast<std::uint32_t>(element.text.size());
-  if (!content.empty()) element.text.append(content).append(endTag(name));
-  return element;
 }
 
 bool MarkupDocument::addElem(std::u16string_view name, std::u16string_view value,
                              std::uint32_t flags) {
   const bool asChild = (flags & kChild) != 0;
   if (!isName(name) || (asChild && main_ == 0)) return false;
-  const NewElement element = makeElement(name, value, flags);
-  const bool atEnd = asChild || main_ == 0;
-  const ElementNumber parent = asChild ? main_ : parent_;
-  const ElementNumber after = atEnd ? index_.lastChild(parent) : main_;
-  // The line breaks, and the end tag that an empty tag of the parent becomes.
-  const std::size_t extra = 2 * kLineBreak.size() + index_[parent].startTagLength + kEndTagMarks;
-  const std::size_t room = element.text.size() + extra;
-  if (!canGrowBy(room) || !closeUnclosed(after, room)) return false;
-
-  if (index_[parent].has(ElementRecord::kEmptyTag)) fillEmptyTag(parent, {});
-  const std::size_t at = atEnd ? ElementContent(text_, index_, parent).end() : behindLineOf(after);
-  const ElementNumber added = addElement(parent, after, at, element);
+  const std::u16string content = contentText(value, flags);
+  std::u16string text = std::u16string(u"<").append(name);
+  text.append(content.empty() ? u"/>" : u">");
+  const auto startTagLength = static_cast<std::uint32_t>(text.size());
+  if (!content.empty()) text.append(content).append(endTag(name));
+  const ElementRecord record = {.start = 0,
+                                .startTagLength = startTagLength,
+                                .length = static_cast<std::uint32_t>(text.size()),
+                                .count = 1,
+                                .flags = content.empty() ? ElementRecord::kEmptyTag : 0U};
+  const ElementNumber added = add(asChild ? main_ : parent(), {text, {&record, 1}});
+  if (added == 0) return false;
   child_ = asChild ? added : 0;
   if (!asChild) main_ = added;
   return true;
 }
 
-// Writes `element` at the offset `at` and links it into `parent` behind its sibling `after`, which
-// is 0 when `parent` has no child yet.
-ElementNumber MarkupDocument::addElement(ElementNumber parent, ElementNumber after, std::size_t at,
-                                         const NewElement& element) {
+bool MarkupDocument::addChildren(const MarkupWriter& writer) {
+  if (main_ == 0) return false;
+  if (writer.elements().empty()) return true;
+  std::u16string_view text = writer.written();
+  text.remove_suffix(kLineBreak.size());  // add() writes it where there are lines
+  if (add(main_, {text, writer.elements()}) == 0) return false;
+  child_ = 0;
+  return true;
+}
+
+// Adds elements to `parent`, which is the parent or the main position: behind the main element if
+// that is in it, else at the end. Returns the number of the first one, 0 if the text would be too
+// long.
+ElementNumber MarkupDocument::add(ElementNumber parent, const NewElements& elements) {
+  const bool atEnd = parent == main_ || main_ == 0;
+  const ElementNumber after =
+      atEnd ? index_.lastChild(parent, parent == main_ ? child_ : 0) : main_;
+  // The line breaks, and the end tag that an empty tag of the parent becomes.
+  const std::size_t extra = 2 * kLineBreak.size() + index_[parent].startTagLength + kEndTagMarks;
+  const std::size_t room = elements.text.size() + extra;
+  if (!canGrowBy(room) || !closeUnclosed(parent, after, room)) return 0;
+
+  if (index_[parent].has(ElementRecord::kEmptyTag)) fillEmptyTag(parent, {});
+  const std::size_t at = atEnd ? ElementContent(text_, index_, parent).end() : behindLineOf(after);
+  const ElementNumber number = index_.behind(atEnd ? parent : after);
+  insert(parent, number, at, elements);
+  return number;
+}
+
+// Writes elements at the offset `at`, as children of `parent` whose numbers begin with `number`.
+void MarkupDocument::insert(ElementNumber parent, ElementNumber number, std::size_t at,
+                            const NewElements& elements) {
   const ElementContent content(text_, index_, parent);
   const bool ownLine = !holdsText(parent);
   const bool firstLine = ownLine && parent != 0 && content.start() == content.end();
   const std::u16string_view before = firstLine ? kLineBreak : std::u16string_view();
   const std::u16string_view behind = ownLine ? kLineBreak : std::u16string_view();
-  const std::u16string piece = std::u16string(before).append(element.text).append(behind);
-  index_.reserveOne();
+  const std::u16string piece = std::u16string(before).append(elements.text).append(behind);
+  index_.makeRoomFor(elements.records.size());
   text_.insert(at, piece);
 
-  const ElementNumber added = index_.add();
-  index_.link(parent, after, added);
-  ElementRecord& record = index_[added];
-  record.start = static_cast<std::uint32_t>(at + before.size());
-  record.startTagLength = element.startTagLength;
-  record.length = static_cast<std::uint32_t>(element.text.size());
-  record.flags = element.flags;
   const std::uint32_t by = growth(piece.size(), 0);
+  index_.moveFrom(number, by);
+  index_.insert(number, elements.records, static_cast<std::uint32_t>(at + before.size()));
+  const auto count = static_cast<std::uint32_t>(elements.records.size());
+  changeAround(parent, [count](ElementRecord& record) { record.count += count; });
   lengthen(parent, by);
-  moveFrom(index_.nextBehind(added), by);
-  return added;
 }
 
 // Behind the line break that follows `element`, or behind the element where none follows.
@@ -178,34 +193,35 @@ void MarkupDocument::fillEmptyTag(ElementNumber element, std::u16string_view con
   index_[element].startTagLength += growth(newClosing.size(), kClosing);
   index_[element].flags &= ~ElementRecord::kEmptyTag;
   lengthen(element, growth(piece.size(), kClosing));
-  moveFrom(index_.nextBehind(element), growth(piece.size(), kClosing));
+  index_.moveFrom(index_.behind(element), growth(piece.size(), kClosing));
 }
 
 // Gives `element` its end tag if that is missing, so that a sibling can follow it. The unclosed
 // elements at its end get theirs first, since one of them might otherwise take the tag for its own.
-// Returns false, with nothing changed, if the text could then not grow by `room` more.
-bool MarkupDocument::closeUnclosed(ElementNumber element, std::size_t room) {
+// Returns false, with nothing changed, if the text could then not grow by `room` more. `parent` is
+// the parent or the main position.
+bool MarkupDocument::closeUnclosed(ElementNumber parent, ElementNumber element, std::size_t room) {
   if (!index_[element].has(ElementRecord::kError)) return true;
-  ElementNumber innermost = element;
-  while (index_[index_.lastChild(innermost)].has(ElementRecord::kError)) {
-    innermost = index_.lastChild(innermost);
+  std::vector<ElementNumber> unclosed;  // from `element` inwards
+  for (ElementNumber last = element; index_[last].has(ElementRecord::kError);
+       last = index_.lastChild(last)) {
+    unclosed.push_back(last);
   }
-  const ElementNumber parent = index_[element].parent;
   std::u16string piece;
-  for (ElementNumber open = innermost; open != parent; open = index_[open].parent) {
+  std::for_each(unclosed.rbegin(), unclosed.rend(), [&](ElementNumber open) {
     piece.append(endTag(StartTag(startTagOf(open)).name()));
-  }
+  });
   if (!canGrowBy(piece.size() + room)) return false;
   text_.insert(index_[element].end(), piece);
 
   std::size_t length = 0;
-  for (ElementNumber open = innermost; open != parent; open = index_[open].parent) {
+  std::for_each(unclosed.rbegin(), unclosed.rend(), [&](ElementNumber open) {
     length += StartTag(startTagOf(open)).name().size() + kEndTagMarks;
     index_[open].length += growth(length, 0);
     index_[open].flags &= ~ElementRecord::kError;
-  }
+  });
   lengthen(parent, growth(piece.size(), 0));
-  moveFrom(index_.nextBehind(element), growth(piece.size(), 0));
+  index_.moveFrom(index_.behind(element), growth(piece.size(), 0));
   return true;
 }
 
@@ -226,15 +242,18 @@ bool MarkupDocument::canGrowBy(std::size_t units) const {
   return units <= kLongestMarkup && text_.size() <= kLongestMarkup - units;
 }
 
-// Adds to the length of `element` and of all elements around it, the document included.
-void MarkupDocument::lengthen(ElementNumber element, std::uint32_t by) {
-  for (; element != 0; element = index_[element].parent) index_[element].length += by;
-  index_[0].length += by;
+// Calls `change` with the record of `element` and those of all elements around it, the document
+// included. The element is the parent, the main or the child position.
+template <class Change>
+void MarkupDocument::changeAround(ElementNumber element, Change change) {
+  change(index_[0]);
+  for (const ElementNumber around : parents_) change(index_[around]);
+  if (element != parent()) change(index_[main_]);
+  if (element != parent() && element != main_) change(index_[element]);
 }
 
-// Moves `first` and all elements whose start tags follow its own.
-void MarkupDocument::moveFrom(ElementNumber first, std::uint32_t by) {
-  for (; first != 0; first = index_.nextInText(first)) index_[first].start += by;
+void MarkupDocument::lengthen(ElementNumber element, std::uint32_t by) {
+  changeAround(element, [by](ElementRecord& record) { record.length += by; });
 }
 
 }  // namespace brennet

@@ -1,19 +1,48 @@
 #include "markup/MarkupParser.h"
 
+#include <algorithm>
 #include <cstring>
 #include <optional>
+#include <vector>
 
 #include "markup/MarkupTokenizer.h"
 #include "markup/Names.h"
 #include "markup/OpenElements.h"
+#include "markup/TagMarks.h"
+#include "markup/text/Sse2.h"
 
 namespace brennet {
 namespace {
 
+// Whether a ">" behind `tag` is certainly outside its quotes.
+bool hasQuotesInPairs(std::u16string_view tag) {
+  return tag.find(u'\'') == std::u16string_view::npos &&
+         std::count(tag.begin(), tag.end(), u'"') % 2 == 0;
+}
+
+// Whether the first `count` units of two texts are the same. `readable` is how many there are at
+// least in each. Most names are short, and a call of memcmp takes longer than to compare them.
+bool areSame(const char16_t* one, const char16_t* other, std::size_t count, std::size_t readable) {
+#if BRENNET_HAS_SSE2
+  constexpr std::size_t kTogether = 8;
+  if (count <= kTogether && readable >= kTogether) {
+    const __m128i equal = _mm_cmpeq_epi16(_mm_loadu_si128(reinterpret_cast<const __m128i*>(one)),
+                                          _mm_loadu_si128(reinterpret_cast<const __m128i*>(other)));
+    const auto different = ~static_cast<unsigned>(_mm_movemask_epi8(equal));
+    return (different & ((1U << 2 * count) - 1)) == 0;
+  }
+#endif
+  return readable >= count && std::memcmp(one, other, count * sizeof(char16_t)) == 0;
+}
+
 class MarkupParser {
  public:
   MarkupParser(std::u16string_view text, ResultLog& log)
-      : text_(text), log_(log), index_(text.size() / kUnitsPerElement + kSpareElements) {}
+      : text_(text),
+        log_(log),
+        index_(text.size() / kUnitsPerElement + kSpareElements),
+        tokenizer_(text),
+        documentEnd_(text.size()) {}
 
   ElementIndex parse();
 
@@ -21,14 +50,19 @@ class MarkupParser {
   // How many units an element takes in a typical document; more elements make the index grow.
   static constexpr std::size_t kUnitsPerElement = 64;
   static constexpr std::size_t kSpareElements = 8;
-  static constexpr std::size_t kEndTagMarks = 3;  // "</" and ">"
 
-  void openElement(const MarkupToken& token);
-  void closeElement(const MarkupToken& endTag);
+  void parsePiece();
+  std::size_t parsePlainTags(std::size_t mark);
+  void parseToken(std::size_t start);
+  void openElement(std::size_t start, std::size_t end, bool isEmptyTag);
+  ElementNumber addElement(std::size_t start, std::size_t tagEnd, std::size_t end,
+                           std::uint32_t flags);
+  void makeRoom(std::size_t at);
+  void closeElement(std::size_t start, std::size_t end);
   void leaveUnclosed(std::size_t end);
   void leave();
   void logProblem(const MarkupToken& token);
-  void finish(std::size_t end);
+  void finish();
 
   [[nodiscard]] std::u16string_view nameAt(std::size_t start) const {
     return leadingName(text_.substr(start));
@@ -36,69 +70,145 @@ class MarkupParser {
   [[nodiscard]] std::u16string_view nameOf(ElementNumber element) const {
     return nameAt(index_[element].start + 1);
   }
-  [[nodiscard]] bool beginsLike(const MarkupToken& endTag) const;
-  [[nodiscard]] bool closesCurrent(const MarkupToken& endTag) const;
+  [[nodiscard]] bool isEndTagOf(std::size_t start, std::size_t mark) const;
+  [[nodiscard]] bool beginsLike(std::size_t start, std::size_t closing,
+                                std::size_t closingEnd) const;
+  [[nodiscard]] bool closesCurrent(std::size_t start, std::size_t end) const;
   ElementNumber findOpen(std::u16string_view name);
 
   std::u16string_view text_;
   ResultLog& log_;
   ElementIndex index_;
-  ElementNumber current_ = 0;  // the innermost open element
+  TagMarks marks_;
+  MarkupTokenizer tokenizer_;
+  std::size_t at_ = 0;  // behind the last token
+  std::size_t documentEnd_;
+  std::vector<ElementNumber> open_;  // from the root inwards
+  ElementNumber current_ = 0;        // the innermost open element
   bool rootHasSibling_ = false;
   std::optional<OpenElements> openElements_;  // set from the first misplaced end tag on
 };
 
 ElementIndex MarkupParser::parse() {
-  using Kind = MarkupToken::Kind;
-  MarkupTokenizer tokenizer(text_);
-  std::size_t end = text_.size();
-  for (MarkupToken token = tokenizer.next(); token.kind != Kind::EndOfText;
-       token = tokenizer.next()) {
-    if (token.kind == Kind::StartTag || token.kind == Kind::EmptyTag) {
-      openElement(token);
-    } else if (token.kind == Kind::EndTag) {
-      closeElement(token);
-    } else if (token.kind == Kind::Literal || token.kind == Kind::Malformed) {
-      logProblem(token);
-      // Later additions must stay in front of a token without an end.
-      if (token.endless) end = token.start;
-    }
+  while (at_ < text_.size()) {
+    marks_.list(text_, at_);
+    parsePiece();
   }
-  finish(end);
+  finish();
   return std::move(index_);
 }
 
-void MarkupParser::openElement(const MarkupToken& token) {
-  if (current_ == 0 && index_[0].firstChild != 0 && !rootHasSibling_) {
-    rootHasSibling_ = true;
-    log_.add(LogEvent::RootHasSibling, token.start);
+// Most tags are two neighbouring marks. For all other tokens the tokenizer is asked, and the marks
+// in them are passed over.
+void MarkupParser::parsePiece() {
+  const std::size_t pieceStart = at_;
+  for (std::size_t mark = 0; mark < marks_.count();) {
+    const std::size_t start = marks_[mark];
+    const bool isLast = mark + 1 == marks_.count();
+    if (text_[start] == u'>') {
+      ++mark;
+    } else if (const std::size_t taken = isLast ? 0 : parsePlainTags(mark); taken != 0) {
+      mark += taken;
+    } else if (isLast && start != pieceStart && marks_.end() != text_.size()) {
+      at_ = start;  // the next piece shows how it goes on
+      return;
+    } else {
+      parseToken(start);
+      while (mark < marks_.count() && marks_[mark] < at_) ++mark;
+    }
   }
-  const ElementNumber element = index_.add();
-  ElementRecord& record = index_[element];
-  record.start = token.start;
-  record.startTagLength = token.end - token.start;
-  record.length = record.startTagLength;
-  record.flags = ElementRecord::kElement;
-  index_.append(current_, element);
-  if (token.kind == MarkupToken::Kind::EmptyTag) {
-    record.flags |= ElementRecord::kEmptyTag;
-    return;
+  at_ = std::max(at_, marks_.end());
+}
+
+// Reads the start tag, the empty tag or the end tag whose ends are this mark and the next, and with
+// a start tag the end tag that follows it, if that is its own: most elements of a settings file
+// hold only a number. Returns how many marks these are, 0 if there is no such tag.
+std::size_t MarkupParser::parsePlainTags(std::size_t mark) {
+  constexpr std::size_t kOneTag = 2;
+  constexpr std::size_t kTwoTags = 4;
+  const std::size_t start = marks_[mark];
+  const std::size_t last = marks_[mark + 1];
+  if (text_[last] != u'>') return 0;
+  const char16_t first = text_[start + 1];
+  if (first == u'/') {
+    closeElement(start, last + 1);
+    return kOneTag;
   }
+  const bool isStartTag =
+      isNameStart(first) &&
+      (!marks_.quotesMatter() || hasQuotesInPairs(text_.substr(start, last - start)));
+  if (!isStartTag) return 0;
+  if (text_[last - 1] != u'/' && mark + kTwoTags <= marks_.count() &&
+      isEndTagOf(start, mark + kOneTag)) {
+    addElement(start, last + 1, marks_[mark + kTwoTags - 1] + 1, 0);
+    return kTwoTags;
+  }
+  openElement(start, last + 1, text_[last - 1] == u'/');
+  return kOneTag;
+}
+
+void MarkupParser::parseToken(std::size_t start) {
+  using Kind = MarkupToken::Kind;
+  tokenizer_.skipTo(start);
+  const MarkupToken token = tokenizer_.next();
+  at_ = token.end;
+  if (token.kind == Kind::StartTag || token.kind == Kind::EmptyTag) {
+    openElement(token.start, token.end, token.kind == Kind::EmptyTag);
+  } else if (token.kind == Kind::EndTag) {
+    closeElement(token.start, token.end);
+  } else if (token.kind == Kind::Literal || token.kind == Kind::Malformed) {
+    logProblem(token);
+    // Later additions must stay in front of a token without an end.
+    if (token.endless) documentEnd_ = token.start;
+  }
+}
+
+void MarkupParser::openElement(std::size_t start, std::size_t end, bool isEmptyTag) {
+  const ElementNumber element =
+      addElement(start, end, end, isEmptyTag ? ElementRecord::kEmptyTag : 0U);
+  if (isEmptyTag) return;
   current_ = element;
+  open_.push_back(element);
   if (openElements_) openElements_->open(nameOf(element), element);
 }
 
-void MarkupParser::closeElement(const MarkupToken& endTag) {
-  if (!closesCurrent(endTag)) {
-    const std::u16string_view name = nameAt(endTag.start + 2);
+ElementNumber MarkupParser::addElement(std::size_t start, std::size_t tagEnd, std::size_t end,
+                                       std::uint32_t flags) {
+  if (current_ == 0 && index_.size() > 1 && !rootHasSibling_) {
+    rootHasSibling_ = true;
+    log_.add(LogEvent::RootHasSibling, static_cast<std::int64_t>(start));
+  }
+  if (index_.isFull()) makeRoom(start);
+  return index_.add({.start = static_cast<std::uint32_t>(start),
+                     .startTagLength = static_cast<std::uint32_t>(tagEnd - start),
+                     .length = static_cast<std::uint32_t>(end - start),
+                     .count = 1,
+                     .flags = flags});
+}
+
+// For as many elements as there will be if they go on as close together as they are in front of
+// `at`, but not for many more than there are.
+void MarkupParser::makeRoom(std::size_t at) {
+  const std::size_t count = index_.size();
+  const auto expected =
+      static_cast<std::uint64_t>(count) * text_.size() / std::max<std::size_t>(at, 1);
+  const std::uint64_t least = count + count / 8;
+  const std::uint64_t most = 2 * static_cast<std::uint64_t>(count);
+  index_.reserve(static_cast<std::size_t>(std::clamp(expected + expected / 32, least, most)) +
+                 kSpareElements);
+}
+
+void MarkupParser::closeElement(std::size_t start, std::size_t end) {
+  if (!closesCurrent(start, end)) {
+    const std::u16string_view name = nameAt(start + 2);
     const ElementNumber match = findOpen(name);
     if (match == 0) {
-      log_.add(LogEvent::LoneEndTag, name, endTag.start);
+      log_.add(LogEvent::LoneEndTag, name, static_cast<std::int64_t>(start));
       return;
     }
-    while (current_ != match) leaveUnclosed(endTag.start);
+    while (current_ != match) leaveUnclosed(start);
   }
-  index_[current_].length = endTag.end - index_[current_].start;
+  index_[current_].length = static_cast<std::uint32_t>(end) - index_[current_].start;
   leave();
 }
 
@@ -115,36 +225,44 @@ void MarkupParser::leaveUnclosed(std::size_t end) {
 
 void MarkupParser::leave() {
   if (openElements_) openElements_->close(nameOf(current_));
-  current_ = index_[current_].parent;
+  index_[current_].count = static_cast<std::uint32_t>(index_.size()) - current_;
+  open_.pop_back();
+  current_ = open_.empty() ? 0 : open_.back();
 }
 
-// Whether the start tag of the innermost open element begins with the whole content of `endTag`,
-// and the name ends there: then the names are the same. Misses `<a></a >`.
-bool MarkupParser::beginsLike(const MarkupToken& endTag) const {
-  const std::size_t start = index_[current_].start + 1;
-  const std::size_t length = endTag.end - endTag.start - kEndTagMarks;
-  // The end tag follows the start tag, so there are `length` units behind `start` too.
-  return length > 0 && !isNameUnit(text_[start + length]) &&
-         std::memcmp(text_.data() + start, text_.data() + endTag.start + 2,
-                     length * sizeof(char16_t)) == 0;
+// Whether the two marks are the ends of an end tag for the start tag at `start`.
+bool MarkupParser::isEndTagOf(std::size_t start, std::size_t mark) const {
+  const std::size_t closing = marks_[mark];
+  const std::size_t last = marks_[mark + 1];
+  return text_[closing] == u'<' && text_[closing + 1] == u'/' && text_[last] == u'>' &&
+         beginsLike(start, closing, last + 1);
 }
 
-bool MarkupParser::closesCurrent(const MarkupToken& endTag) const {
+// Whether the start tag at `start` begins with the whole content of the end tag in
+// [closing, closingEnd), and the name ends there: then the names are the same. Misses `<a></a >`.
+bool MarkupParser::beginsLike(std::size_t start, std::size_t closing,
+                              std::size_t closingEnd) const {
+  constexpr std::size_t kEndTagMarks = 3;  // "</" and ">"
+  const std::size_t length = closingEnd - closing - kEndTagMarks;
+  // The end tag follows the start tag, so there are `length` units and more behind its "<" too.
+  const char16_t* const name = text_.data() + start + 1;
+  const std::size_t nameInEndTag = closing + 2;
+  return length > 0 && !isNameUnit(name[length]) &&
+         areSame(name, text_.data() + nameInEndTag, length, text_.size() - nameInEndTag);
+}
+
+bool MarkupParser::closesCurrent(std::size_t start, std::size_t end) const {
   if (current_ == 0) return false;
-  if (beginsLike(endTag)) return true;
-  const std::u16string_view name = nameAt(endTag.start + 2);
+  if (beginsLike(index_[current_].start, start, end)) return true;
+  const std::u16string_view name = nameAt(start + 2);
   const std::u16string_view tag = text_.substr(index_[current_].start + 1);
   return !name.empty() && tag.starts_with(name) && !isNameUnit(tag[name.size()]);
 }
 
 ElementNumber MarkupParser::findOpen(std::u16string_view name) {
   if (!openElements_) {
-    std::vector<ElementNumber> outwards;
-    for (ElementNumber at = current_; at != 0; at = index_[at].parent) outwards.push_back(at);
     openElements_.emplace();
-    for (; !outwards.empty(); outwards.pop_back()) {
-      openElements_->open(nameOf(outwards.back()), outwards.back());
-    }
+    for (const ElementNumber element : open_) openElements_->open(nameOf(element), element);
   }
   return openElements_->find(name);
 }
@@ -155,10 +273,11 @@ void MarkupParser::logProblem(const MarkupToken& token) {
            token.start);
 }
 
-void MarkupParser::finish(std::size_t end) {
-  index_[0].length = static_cast<std::uint32_t>(end);
-  while (current_ != 0) leaveUnclosed(end);
-  if (index_[0].firstChild == 0) log_.add(LogEvent::NoRootElement);
+void MarkupParser::finish() {
+  while (current_ != 0) leaveUnclosed(documentEnd_);
+  index_[0].length = static_cast<std::uint32_t>(documentEnd_);
+  index_[0].count = static_cast<std::uint32_t>(index_.size());
+  if (index_.size() == 1) log_.add(LogEvent::NoRootElement);
 }
 
 }  // namespace

@@ -9,16 +9,17 @@ namespace brennet {
 namespace {
 
 struct FoundBits {
-  std::uint64_t less = 0;
-  std::uint64_t greater = 0;
-  std::uint64_t quote = 0;
-  std::uint64_t apostrophe = 0;
+  std::uint64_t less = 0;     // <
+  std::uint64_t tagStop = 0;  // > " '
 };
 
 #if BRENNET_HAS_SSE2
 
-std::uint64_t bitsOf(__m128i bytes, char wanted, unsigned at) {
-  const __m128i found = _mm_cmpeq_epi8(bytes, _mm_set1_epi8(wanted));
+__m128i find(__m128i bytes, char wanted) {
+  return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(wanted));
+}
+
+std::uint64_t bitsOf(__m128i found, unsigned at) {
   return static_cast<std::uint64_t>(static_cast<unsigned>(_mm_movemask_epi8(found))) << at;
 }
 
@@ -29,10 +30,9 @@ FoundBits findBits(const char16_t* units) {
   for (unsigned at = 0; at < 64; at += 16) {
     const auto* source = reinterpret_cast<const __m128i*>(units + at);
     const __m128i bytes = _mm_packus_epi16(_mm_loadu_si128(source), _mm_loadu_si128(source + 1));
-    bits.less |= bitsOf(bytes, '<', at);
-    bits.greater |= bitsOf(bytes, '>', at);
-    bits.quote |= bitsOf(bytes, '"', at);
-    bits.apostrophe |= bitsOf(bytes, '\'', at);
+    const __m128i quotes = _mm_or_si128(find(bytes, '"'), find(bytes, '\''));
+    bits.less |= bitsOf(find(bytes, '<'), at);
+    bits.tagStop |= bitsOf(_mm_or_si128(find(bytes, '>'), quotes), at);
   }
   return bits;
 }
@@ -43,10 +43,9 @@ FoundBits findBits(const char16_t* units) {
   FoundBits bits;
   for (unsigned at = 0; at < 64; ++at) {
     const char16_t unit = units[at];
+    const bool isTagStop = unit == u'>' || unit == u'"' || unit == u'\'';
     bits.less |= static_cast<std::uint64_t>(unit == u'<') << at;
-    bits.greater |= static_cast<std::uint64_t>(unit == u'>') << at;
-    bits.quote |= static_cast<std::uint64_t>(unit == u'"') << at;
-    bits.apostrophe |= static_cast<std::uint64_t>(unit == u'\'') << at;
+    bits.tagStop |= static_cast<std::uint64_t>(isTagStop) << at;
   }
   return bits;
 }
@@ -65,8 +64,7 @@ void MarkupScanner::loadBlock(std::size_t block) {
     bits = findBits(padded.data());
   }
   block_ = block;
-  const std::uint64_t tagStop = bits.greater | bits.quote | bits.apostrophe;
-  masks_ = {bits.less, bits.greater, bits.quote, bits.apostrophe, tagStop, bits.less | tagStop};
+  masks_ = {bits.less, bits.tagStop, bits.less | bits.tagStop};
 }
 
 // Searches from `from` on, which is outside the block.

@@ -3,13 +3,12 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 namespace brennet {
 
-// Finds the characters that give a markup text its structure. It looks at 64 units at a time and
-// keeps what it found there as bit masks, so that the dense tags of a settings file cost little.
+// Finds the characters that give a markup text its structure, one after the other. It looks at 64
+// units at a time and keeps what it found there as bit masks.
 //
 // The text must outlive the scanner. Searches should go forward: going back is correct, but scans
 // the earlier units again.
@@ -25,17 +24,6 @@ class MarkupScanner {
   std::size_t findTagStop(std::size_t from) { return find(&Masks::tagStop, from); }    // > " '
   std::size_t findStructural(std::size_t from) { return find(&Masks::either, from); }  // < > " '
 
-  // The ">" that certainly ends the tag that begins with the "<" at `start`: less than 64 units
-  // away, with only pairs of double quotes in between. Most tags need no closer look.
-  std::optional<std::size_t> findPlainTagEnd(std::size_t start) {
-    if (start - block_ < kBlock) {
-      const auto end = findPlainTagEndInBlock(start);
-      if (end || block_ == start) return end;
-    }
-    loadBlock(start);
-    return findPlainTagEndInBlock(start);
-  }
-
  private:
   static constexpr std::size_t kBlock = 64;
   // Far enough from every offset that the block holds none of them.
@@ -44,9 +32,6 @@ class MarkupScanner {
   // Bit i stands for the unit at block start + i.
   struct Masks {
     std::uint64_t less = 0;
-    std::uint64_t greater = 0;
-    std::uint64_t quote = 0;
-    std::uint64_t apostrophe = 0;
     std::uint64_t tagStop = 0;
     std::uint64_t either = 0;
   };
@@ -59,17 +44,6 @@ class MarkupScanner {
       from = block_ + kBlock;
     }
     return findInOtherBlocks(mask, from);
-  }
-
-  // `start` is in the block.
-  [[nodiscard]] std::optional<std::size_t> findPlainTagEndInBlock(std::size_t start) const {
-    const std::size_t shift = start - block_;
-    const std::uint64_t ends = masks_.greater >> shift;
-    const std::uint64_t inFront = ~ends & (ends - 1);
-    const bool hasApostrophe = (masks_.apostrophe >> shift & inFront) != 0;
-    const bool hasPairs = std::popcount(masks_.quote >> shift & inFront) % 2 == 0;
-    if (ends == 0 || hasApostrophe || !hasPairs) return std::nullopt;
-    return start + static_cast<std::size_t>(std::countr_zero(ends));
   }
 
   std::size_t findInOtherBlocks(std::uint64_t Masks::*mask, std::size_t from);

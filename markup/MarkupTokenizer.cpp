@@ -33,10 +33,14 @@ std::u16string_view kindName(MarkupToken::Kind kind) {
   }
 }
 
-MarkupToken MarkupTokenizer::otherToken(std::size_t start) {
+MarkupToken MarkupTokenizer::next() {
+  const std::size_t start = scanner_.findLess(at_);
   if (start == text().size()) return token(Kind::EndOfText, at_, at_);
   const char16_t first = start + 1 < text().size() ? text()[start + 1] : u'\0';
+  if (isNameStart(first)) return startTag(start);
   switch (first) {
+    case u'/':
+      return endTag(start);
     case u'?':
       return instruction(start);
     case u'!':
@@ -73,6 +77,18 @@ MarkupToken MarkupTokenizer::startTag(std::size_t start) {
   }
   if (stop == text().size()) return unterminated(Kind::StartTag, start);
   return startTagUpTo(start, stop);
+}
+
+// A "<" in front of the ">" belongs to the next token: the last "</" of an element that has its
+// end tag is always the beginning of that tag.
+MarkupToken MarkupTokenizer::endTag(std::size_t start) {
+  std::size_t stop = scanner_.findStructural(start + 2);
+  while (stop < text().size() && text()[stop] != u'>' && text()[stop] != u'<') {
+    stop = scanner_.findStructural(stop + 1);
+  }
+  if (stop == text().size()) return unterminated(Kind::EndTag, start);
+  if (text()[stop] == u'<') return unterminated(Kind::EndTag, start, stop);
+  return token(Kind::EndTag, start, stop + 1);
 }
 
 MarkupToken MarkupTokenizer::instruction(std::size_t start) {

@@ -51,16 +51,7 @@ class MarkupTokenizer {
   explicit MarkupTokenizer(std::u16string_view text, std::size_t from = 0)
       : scanner_(text), at_(from) {}
 
-  // Inline, like everything that most tags go through: a settings file is made of little else.
-  MarkupToken next() {
-    const std::size_t start = scanner_.findLess(at_);
-    const char16_t first = start + 1 < text().size() ? text()[start + 1] : u'\0';
-    if (isNameStart(first)) {
-      const auto end = scanner_.findPlainTagEnd(start);
-      return end ? startTagUpTo(start, *end) : startTag(start);
-    }
-    return first == u'/' ? endTag(start) : otherToken(start);
-  }
+  MarkupToken next();
 
   // Continues at `offset` with the next token.
   void skipTo(std::size_t offset) { at_ = offset; }
@@ -90,19 +81,7 @@ class MarkupTokenizer {
 
   MarkupToken startTag(std::size_t start);
 
-  // A "<" in front of the ">" belongs to the next token: the last "</" of an element that has its
-  // end tag is always the beginning of that tag.
-  MarkupToken endTag(std::size_t start) {
-    std::size_t stop = scanner_.findStructural(start + 2);
-    while (stop < text().size() && text()[stop] != u'>' && text()[stop] != u'<') {
-      stop = scanner_.findStructural(stop + 1);
-    }
-    if (stop == text().size()) return unterminated(Kind::EndTag, start);
-    if (text()[stop] == u'<') return unterminated(Kind::EndTag, start, stop);
-    return token(Kind::EndTag, start, stop + 1);
-  }
-
-  MarkupToken otherToken(std::size_t start);
+  MarkupToken endTag(std::size_t start);
   MarkupToken instruction(std::size_t start);
   MarkupToken exclamation(std::size_t start);
   MarkupToken comment(std::size_t start);

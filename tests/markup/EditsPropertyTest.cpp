@@ -4,6 +4,7 @@
 #include <random>
 
 #include "markup/MarkupDocument.h"
+#include "markup/MarkupWriter.h"
 #include "tests/markup/DocumentTree.h"
 
 namespace brennet {
@@ -31,7 +32,7 @@ class RandomEdits {
   void goSomewhere(MarkupDocument& document) {
     document.findElem();
     for (std::size_t i = below(8); i > 0; --i) {
-      switch (below(4)) {
+      switch (below(5)) {
         case 0:
           document.findElem();
           break;
@@ -41,6 +42,9 @@ class RandomEdits {
         case 2:
           document.intoElem();
           break;
+        case 3:
+          document.outOfElem();
+          break;
         default:
           if (below(3) == 0) document.resetMainPos();
       }
@@ -49,7 +53,7 @@ class RandomEdits {
 
   void edit(MarkupDocument& document) {
     const std::uint32_t flags = below(3) == 0 ? std::uint32_t{MarkupDocument::kCData} : 0U;
-    switch (below(6)) {
+    switch (below(7)) {
       case 0:
         document.setAttrib(pick(kNames), pick(kValues));
         break;
@@ -65,6 +69,9 @@ class RandomEdits {
       case 4:
         document.addElem(pick(kNames), pick(kValues), flags);
         break;
+      case 5:
+        document.addChildren(family());
+        break;
       default:
         document.addElem(pick(kNames), pick(kValues), flags | MarkupDocument::kChild);
     }
@@ -73,6 +80,15 @@ class RandomEdits {
   std::size_t below(std::size_t count) { return random_() % count; }
 
  private:
+  MarkupWriter family() {
+    MarkupWriter writer;
+    writer.open(pick(kNames));
+    for (std::size_t i = below(3); i > 0; --i) writer.element(pick(kNames), pick(kValues));
+    writer.close();
+    if (below(2) == 0) writer.element(pick(kNames), pick(kValues));
+    return writer;
+  }
+
   template <std::size_t kCount>
   std::u16string_view pick(const std::u16string_view (&from)[kCount]) {
     return from[below(kCount)];

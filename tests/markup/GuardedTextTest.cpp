@@ -42,9 +42,21 @@ TEST(GuardedTextParseMarkup, ReadsNothingBehindTheText) {
     ElementNumber elements;
   };
   constexpr Row kRows[] = {
-      {u"<a></a>", 1}, {u"<a><bc></bc>", 2}, {u"<a><bc></b>", 2}, {u"<a></a", 1},
-      {u"<a></", 1},   {u"<a", 0},           {u"<a t='1", 0},     {u"<a t='1'/>", 1},
-      {u"</a>", 0},    {u"<!--", 0},         {u"<", 0},           {u"", 0},
+      {u"<a></a>", 1},
+      {u"<a><bc></bc>", 2},
+      {u"<a><bc></b>", 2},
+      {u"<a></a", 1},
+      {u"<a></", 1},
+      {u"<a", 0},
+      {u"<a t='1", 0},
+      {u"<a t='1'/>", 1},
+      {u"</a>", 0},
+      {u"<!--", 0},
+      {u"<", 0},
+      {u"", 0},
+      {u"<abcdefgh></abcdefgh>", 1},
+      {u"<abcdefghi></abcdefghi>", 1},
+      {u"<a></>", 1},
   };
   for (const Row& row : kRows) {
     const GuardedText text(row.text);

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <optional>
 #include <random>
 #include <string>
 
@@ -34,34 +32,6 @@ TEST(MarkupScanner, FindsWhatASimpleSearchFinds) {
       ASSERT_EQ(scanner.findLess(from), naive(text, u"<", from));
       ASSERT_EQ(scanner.findTagStop(from), naive(text, u">\"'", from));
       ASSERT_EQ(scanner.findStructural(from), naive(text, u"<>\"'", from));
-    }
-  }
-}
-
-// The end of the tag at `start`, found unit by unit. Nothing unless it is a plain one: within 64
-// units, behind pairs of double quotes and no single ones.
-std::optional<std::size_t> naiveTagEnd(std::u16string_view text, std::size_t start) {
-  const std::size_t end = naive(text, u">", start);
-  if (end == text.size() || end - start >= 64) return std::nullopt;
-  const std::u16string_view inFront = text.substr(start, end - start);
-  const auto quotes = std::count(inFront.begin(), inFront.end(), u'"');
-  if (quotes % 2 != 0 || inFront.find(u'\'') != std::u16string_view::npos) return std::nullopt;
-  return end;
-}
-
-TEST(MarkupScanner, FindsTheEndOfPlainTagsOfUpTo64Units) {
-  constexpr char16_t kTagUnits[] = {u'>', u'"', u'"', u'"', u'\'', u'<', 0x3E3E, 0xFF3E};
-  std::mt19937 random(1);
-  for (int round = 0; round < 2000; ++round) {
-    std::u16string text(1 + random() % 150, u'x');
-    for (char16_t& unit : text) {
-      if (random() % 20 == 0) unit = kTagUnits[random() % std::size(kTagUnits)];
-    }
-    MarkupScanner scanner(text);
-    for (int i = 0; i < 20; ++i) {
-      const std::size_t start = random() % text.size();
-      if (i % 2 == 0) scanner.findLess(start);
-      ASSERT_EQ(scanner.findPlainTagEnd(start), naiveTagEnd(text, start));
     }
   }
 }

@@ -8,6 +8,7 @@
 #include "fuzz/grammar/Grammar.h"
 #include "markup/DeclaredEncoding.h"
 #include "markup/ResultLog.h"
+#include "markup/TagMarks.h"
 #include "markup/text/TextDecoding.h"
 #include "markup/text/Utf8.h"
 #include "tests/markup/NaiveMarkup.h"
@@ -65,6 +66,36 @@ TEST(NaiveComparisonOfMarkup, FindsWhatTheDocumentFindsInSettings) {
 
 TEST(NaiveComparisonOfMarkup, FindsWhatTheDocumentFindsInMarkupOfAllKinds) {
   expectAlike(fuzz::markupGrammar(), 40000);
+}
+
+// Texts are read in pieces; whatever a piece cuts in two is read as if it did not.
+TEST(NaiveComparisonOfMarkup, FindsWhatTheDocumentFindsAcrossPieces) {
+  constexpr std::u16string_view kRoot = u"<r>";
+  constexpr std::uint32_t kDocuments = 3000;
+  for (std::uint32_t seed = 0; seed < kDocuments; ++seed) {
+    fuzz::Choices choices(seed);
+    std::u16string text;
+    utf8ToUtf16(fuzz::markupGrammar().document(choices), text);
+    const std::size_t cut =
+        std::min(choices.below(text.size() + 1), TagMarks::kPiece - kRoot.size());
+    const std::u16string padding(TagMarks::kPiece - kRoot.size() - cut,
+                                 seed % 2 == 0 ? u'x' : u'>');
+    text.insert(0, std::u16string(kRoot).append(padding));
+    ASSERT_EQ(test::differenceToNaive(text), u"") << "seed " << seed << ", cut at " << cut;
+  }
+}
+
+TEST(NaiveComparisonOfMarkup, FindsWhatTheDocumentFindsInLongTexts) {
+  for (std::uint32_t seed = 0; seed < 60; ++seed) {
+    fuzz::Choices choices(seed);
+    std::u16string text = u"<r>";
+    while (text.size() < 4 * TagMarks::kPiece) {
+      utf8ToUtf16(
+          (seed % 2 == 0 ? fuzz::settingsGrammar() : fuzz::markupGrammar()).document(choices),
+          text);
+    }
+    ASSERT_EQ(test::differenceToNaive(text), u"") << "seed " << seed;
+  }
 }
 
 TEST(NaiveComparisonOfDecoding, ReadsWhatItCan) {
