@@ -1,7 +1,7 @@
 #include "model/DecimalText.h"
 
 #include <algorithm>
-#include <charconv>
+#include <iterator>
 #include <limits>
 
 namespace brennet {
@@ -39,10 +39,14 @@ bool isDecimal(std::u16string_view text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), isDigit);
 }
 
-std::u16string decimalText(std::int64_t number) {
-  char digits[20];
-  const auto result = std::to_chars(digits, digits + sizeof(digits), number);
-  return {digits, result.ptr};
+DecimalDigits::DecimalDigits(std::int64_t number) : first_(std::end(digits_)) {
+  const auto unsignedNumber = static_cast<std::uint64_t>(number);
+  std::uint64_t rest = number < 0 ? 0 - unsignedNumber : unsignedNumber;
+  do {
+    *--first_ = static_cast<char16_t>(u'0' + rest % 10);
+    rest /= 10;
+  } while (rest != 0);
+  if (number < 0) *--first_ = u'-';
 }
 
 }  // namespace brennet

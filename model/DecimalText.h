@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -13,6 +15,24 @@ namespace brennet {
 // Whether `text` is a decimal number and nothing else except white space around it.
 [[nodiscard]] bool isDecimal(std::u16string_view text);
 
-[[nodiscard]] std::u16string decimalText(std::int64_t number);
+// The decimal digits of a number, with a minus sign if it is negative.
+class DecimalDigits {
+ public:
+  explicit DecimalDigits(std::int64_t number);
+
+  operator std::u16string_view() const {
+    return {first_, static_cast<std::size_t>(std::end(digits_) - first_)};
+  }
+  DecimalDigits(const DecimalDigits&) = delete;
+  DecimalDigits& operator=(const DecimalDigits&) = delete;
+
+ private:
+  char16_t digits_[20];  // filled from the end
+  char16_t* first_;
+};
+
+[[nodiscard]] inline std::u16string decimalText(std::int64_t number) {
+  return std::u16string(DecimalDigits(number));
+}
 
 }  // namespace brennet
