@@ -56,9 +56,14 @@ void ElementContent::visitRuns(Visitor visit) const {
   }
 }
 
+bool ElementContent::isPlain() const {
+  const std::u16string_view content = text();
+  return std::none_of(content.begin(), content.end(),
+                      [](char16_t unit) { return unit == u'<' || unit == u'&'; });
+}
+
 std::u16string ElementContent::data() const {
-  const std::u16string_view content = text_.substr(start_, end_ - start_);
-  if (content.find(u'<') == std::u16string_view::npos) return unescaped(content);
+  if (text().find(u'<') == std::u16string_view::npos) return unescaped(text());
   std::u16string data;
   visitRuns([&data](std::u16string_view run, bool isCData) {
     if (isCData) {

@@ -19,6 +19,12 @@ class ElementContent {
   [[nodiscard]] std::size_t start() const { return start_; }
   [[nodiscard]] std::size_t end() const { return end_; }
 
+  // The content as it is written.
+  [[nodiscard]] std::u16string_view text() const { return text_.substr(start_, end_ - start_); }
+
+  // Whether that is the element's own text, as most often: without elements and references.
+  [[nodiscard]] bool isPlain() const;
+
   // The element's own text: references resolved, CDATA as it is, the rest left out.
   [[nodiscard]] std::u16string data() const;
 

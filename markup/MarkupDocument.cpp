@@ -7,7 +7,6 @@
 #include "markup/Escaping.h"
 #include "markup/MarkupParser.h"
 #include "markup/Names.h"
-#include "markup/StartTag.h"
 #include "markup/text/TextFile.h"
 
 namespace brennet {
@@ -77,8 +76,9 @@ bool MarkupDocument::findChildElem(std::u16string_view name) {
 // one if that is 0. Returns 0 if there is none.
 ElementNumber MarkupDocument::findChild(ElementNumber parent, ElementNumber behind,
                                         std::u16string_view name) const {
-  ElementNumber element = behind == 0 ? index_.firstChild(parent) : index_.next(parent, behind);
-  if (name.empty()) return element;
+  if (name.empty()) {
+    return behind == 0 ? index_.firstChild(parent) : index_.next(parent, behind);
+  }
   if (leadingName(name).size() != name.size()) return 0;  // no element can have this name
   // Comparing the units at the ends of the name rules out most elements at once.
   const auto isCalled = [text = text_.data(), name](const ElementRecord& record) {
@@ -86,8 +86,10 @@ ElementNumber MarkupDocument::findChild(ElementNumber parent, ElementNumber behi
     return name.size() + 1 < record.startTagLength && tag[0] == name[0] &&
            !isNameUnit(tag[name.size()]) && std::u16string_view(tag, name.size()) == name;
   };
-  while (element != 0 && !isCalled(index_[element])) element = index_.next(parent, element);
-  return element;
+  const ElementNumber end = index_.behind(parent);
+  ElementNumber element = behind == 0 ? parent + 1 : index_.behind(behind);
+  while (element < end && !isCalled(index_[element])) element = index_.behind(element);
+  return element < end ? element : 0;
 }
 
 std::u16string_view MarkupDocument::getTagName() const {
@@ -103,11 +105,21 @@ std::u16string MarkupDocument::getChildAttrib(std::u16string_view name) const {
 }
 
 std::u16string MarkupDocument::getData() const {
-  return dataOf(main_);
+  std::u16string buffer;
+  return std::u16string(dataOf(main_, buffer));
 }
 
 std::u16string MarkupDocument::getChildData() const {
-  return dataOf(child_);
+  std::u16string buffer;
+  return std::u16string(dataOf(child_, buffer));
+}
+
+std::u16string_view MarkupDocument::getData(std::u16string& buffer) const {
+  return dataOf(main_, buffer);
+}
+
+std::u16string_view MarkupDocument::getChildData(std::u16string& buffer) const {
+  return dataOf(child_, buffer);
 }
 
 bool MarkupDocument::intoElem() {
@@ -147,8 +159,12 @@ std::u16string MarkupDocument::attributeOf(ElementNumber element, std::u16string
   return attribute ? unescaped(attribute->value) : std::u16string();
 }
 
-std::u16string MarkupDocument::dataOf(ElementNumber element) const {
-  return element == 0 ? std::u16string() : ElementContent(text_, index_, element).data();
+std::u16string_view MarkupDocument::dataOf(ElementNumber element, std::u16string& buffer) const {
+  if (element == 0) return {};
+  const ElementContent content(text_, index_, element);
+  if (content.isPlain()) return content.text();
+  buffer = content.data();
+  return buffer;
 }
 
 }  // namespace brennet

@@ -10,6 +10,7 @@
 
 #include "markup/ElementIndex.h"
 #include "markup/ResultLog.h"
+#include "markup/StartTag.h"
 #include "markup/text/TextDecoding.h"
 #include "markup/text/TextForm.h"
 #include "platform/Files.h"
@@ -92,6 +93,15 @@ class MarkupDocument {
   [[nodiscard]] std::u16string getData() const;
   [[nodiscard]] std::u16string getChildData() const;
 
+  // The same for who reads many values: views, where the text of the document says it as it is, or
+  // of `buffer`, where references had to be resolved. Valid as long as both.
+  [[nodiscard]] std::u16string_view getData(std::u16string& buffer) const;
+  [[nodiscard]] std::u16string_view getChildData(std::u16string& buffer) const;
+
+  // The start tag of the child element, to read its attributes in one pass, as they are written.
+  // There must be a child element. Valid as long as doc() is.
+  [[nodiscard]] StartTag childTag() const { return StartTag(startTagOf(child_)); }
+
   // Gives the main (child) element an attribute, or the first one of that name a new value.
   // Returns false without such an element, or for a `name` that cannot be one.
   bool setAttrib(std::u16string_view name, std::u16string_view value);
@@ -150,7 +160,7 @@ class MarkupDocument {
   [[nodiscard]] std::optional<std::size_t> offsetOf(ElementNumber element) const;
   [[nodiscard]] std::u16string_view startTagOf(ElementNumber element) const;
   [[nodiscard]] std::u16string attributeOf(ElementNumber element, std::u16string_view name) const;
-  [[nodiscard]] std::u16string dataOf(ElementNumber element) const;
+  [[nodiscard]] std::u16string_view dataOf(ElementNumber element, std::u16string& buffer) const;
 
   bool setAttributeOf(ElementNumber element, std::u16string_view name, std::u16string_view value);
   bool setDataOf(ElementNumber element, std::u16string_view value, std::uint32_t flags);

@@ -6,7 +6,9 @@
 #include <string>
 #include <utility>
 
+#include "markup/Escaping.h"
 #include "markup/MarkupDocument.h"
+#include "markup/StartTag.h"
 #include "model/DecimalText.h"
 #include "model/KeyAssignment.h"
 #include "model/KeyOffers.h"
@@ -20,14 +22,38 @@ KeyWord keyFromText(std::u16string_view text) {
   return KeyWord(static_cast<std::uint16_t>(parseDecimal(text))).without(KeyWord::kShift);
 }
 
-// The position of the child's `id` among `ids`; nothing when it is empty or not one of them.
-std::optional<std::size_t> childNumber(const MarkupDocument& document,
-                                       std::span<const std::uint16_t> ids) {
-  const std::u16string text = document.getChildAttrib(u"id");
-  if (text.empty()) return std::nullopt;
-  const auto found = std::find(ids.begin(), ids.end(), parseDecimal(text));
-  if (found == ids.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - ids.begin());
+// The number that an attribute says; nothing if it is empty.
+std::optional<std::int32_t> numberIn(const MarkupAttribute& attribute) {
+  if (attribute.value.empty()) return std::nullopt;
+  if (attribute.value.find(u'&') != std::u16string_view::npos) {
+    return parseDecimal(unescaped(attribute.value));
+  }
+  return parseDecimal(attribute.value);
+}
+
+// What the start tag of an entry in a list says.
+struct EntryTag {
+  std::optional<std::size_t> place;  // of its `id` among those of the list
+  std::optional<std::int32_t> autocast;
+};
+
+// Of two attributes with one name, the first counts.
+EntryTag readEntryTag(StartTag tag, std::span<const std::uint16_t> ids) {
+  EntryTag entry;
+  bool hasId = false;
+  bool hasAutocast = false;
+  while (const auto attribute = tag.next()) {
+    if (!hasId && attribute->name == u"id") {
+      hasId = true;
+      const auto id = numberIn(*attribute);
+      const auto found = id ? std::find(ids.begin(), ids.end(), *id) : ids.end();
+      if (found != ids.end()) entry.place = static_cast<std::size_t>(found - ids.begin());
+    } else if (!hasAutocast && attribute->name == u"autocast") {
+      hasAutocast = true;
+      entry.autocast = numberIn(*attribute);
+    }
+  }
+  return entry;
 }
 
 // Reads the element of the setting `id` at the document's main position, by the kind of the
@@ -42,13 +68,13 @@ class SettingReader {
         droppedChoices_(droppedChoices),
         id_(id) {}
 
-  void operator()(const SwitchSetting& row) const {
-    const std::u16string text = document_.getData();
+  void operator()(const SwitchSetting& row) {
+    const std::u16string_view text = document_.getData(buffer_);
     if (!text.empty()) scheme_.*row.field = parseDecimal(text) == 1 ? 1 : 0;
   }
 
-  void operator()(const ByteSetting& row) const {
-    const std::u16string text = document_.getData();
+  void operator()(const ByteSetting& row) {
+    const std::u16string_view text = document_.getData(buffer_);
     if (!text.empty()) scheme_.*row.field = static_cast<std::uint8_t>(parseDecimal(text));
   }
 
@@ -59,23 +85,25 @@ class SettingReader {
     offers_.offer(KeySlot{id_}, key, std::move(entry));
   }
 
-  void operator()(const KeyListSetting& row) const {
+  void operator()(const KeyListSetting& row) {
     while (document_.findChildElem(u"Key")) {
-      const std::optional<std::size_t> n = childNumber(document_, row.ids);
-      if (!n) continue;
-      if (row.autocast != nullptr) readAutocast(row.autocast(scheme_)[*n]);
-      KeyEntry entry{id_, document_.getChildData(), *document_.childOffset()};
-      if (entry.text.empty()) continue;
-      const KeyWord key = keyFromText(entry.text);
-      offers_.offer(KeySlot{id_, static_cast<std::uint8_t>(*n)}, key, std::move(entry));
+      const EntryTag entry = readEntryTag(document_.childTag(), row.ids);
+      if (!entry.place) continue;
+      if (row.autocast != nullptr && entry.autocast) {
+        row.autocast(scheme_)[*entry.place] = *entry.autocast != 0;
+      }
+      const std::u16string_view text = document_.getChildData(buffer_);
+      if (text.empty()) continue;
+      offers_.offer(KeySlot{id_, static_cast<std::uint8_t>(*entry.place)}, keyFromText(text),
+                    {id_, std::u16string(text), *document_.childOffset()});
     }
   }
 
   void operator()(const RemapSetting&) const {
     constexpr std::uint16_t kIds[kKeyRemaps] = {0, 1, 2, 3, 4, 5};
     while (document_.findChildElem(u"Key")) {
-      const std::optional<std::size_t> n = childNumber(document_, kIds);
-      if (n) readRemap(*n);
+      const EntryTag entry = readEntryTag(document_.childTag(), kIds);
+      if (entry.place) readRemap(*entry.place);
     }
   }
 
@@ -112,17 +140,12 @@ class SettingReader {
   void operator()(const PhraseSetting& row) const {
     constexpr std::uint16_t kIds[kPhrases] = {0, 1, 2, 3, 4, 5, 6, 7};
     while (document_.findChildElem(u"Chat")) {
-      const std::optional<std::size_t> n = childNumber(document_, kIds);
-      if (n) (scheme_.*row.field)[*n] = cutPhrase(document_.getChildData());
+      const EntryTag entry = readEntryTag(document_.childTag(), kIds);
+      if (entry.place) (scheme_.*row.field)[*entry.place] = cutPhrase(document_.getChildData());
     }
   }
 
  private:
-  void readAutocast(std::optional<bool>& mark) const {
-    const std::u16string text = document_.getChildAttrib(u"autocast");
-    if (!text.empty()) mark = parseDecimal(text) != 0;
-  }
-
   void dropChoice(std::u16string text, std::vector<TakenKey> taken) const {
     droppedChoices_.push_back({.setting = id_, .text = std::move(text), .taken = std::move(taken)});
   }
@@ -155,6 +178,7 @@ class SettingReader {
   KeyOffers& offers_;
   std::vector<DroppedChoice>& droppedChoices_;
   SettingId id_;
+  std::u16string buffer_;
 };
 
 // Moves to the element of a setting: forward from the one read last, then once from the first
@@ -174,7 +198,7 @@ LoadReport readScheme(MarkupDocument& document, HotkeyScheme& scheme) {
   LoadReport report;
   for (const SettingId id : kLoadOrder) {
     if (!findSetting(document, id)) continue;
-    const SettingReader reader(document, scheme, offers, report.droppedChoices, id);
+    SettingReader reader(document, scheme, offers, report.droppedChoices, id);
     std::visit(reader, setting(id).kind);
   }
   for (KeyOffers::Dropped& key : offers.settle()) {

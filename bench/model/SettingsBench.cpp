@@ -93,6 +93,29 @@ void loadConfig(benchmark::State& state) {
 }
 BENCHMARK(loadConfig)->Name("load/brennet/sample");
 
+// From the bytes of a file to settings, conflicts included.
+void readBytes(benchmark::State& state) {
+  const std::string& bytes = sampleBytes();
+  HotkeyConfig config;
+  for (auto _ : state) {
+    ResultLog log;
+    MarkupDocument document;
+    document.setDoc(decodeText(bytes, declaredEncodingOfBytes, log).text);
+    benchmark::DoNotOptimize(config.loadFrom(document));
+  }
+}
+BENCHMARK(readBytes)->Name("read/brennet/sample, in memory");
+
+void parseText(benchmark::State& state) {
+  ResultLog log;
+  const std::u16string text = decodeText(sampleBytes(), declaredEncodingOfBytes, log).text;
+  for (auto _ : state) {
+    MarkupDocument document;
+    benchmark::DoNotOptimize(document.setDoc(text));
+  }
+}
+BENCHMARK(parseText)->Name("read/setDoc/sample, in memory");
+
 // What a host waits for: the game's preference file is read and written as well.
 void loadConfigAndPreferences(benchmark::State& state) {
   const std::u16string& file = sampleFile();
