@@ -41,6 +41,7 @@
 #include "ui/window/ModalRun.h"
 #include "ui/window/ScreenFit.h"
 #include "ui/window/StyleSheet.h"
+#include "ui/window/WidgetsApart.h"
 #include "ui/window/WindowDrag.h"
 #include "ui_CHotkeySettingDlg.h"
 
@@ -98,7 +99,10 @@ void CHotkeySettingDlg::createPages() {
   dota7Chat_ = new Dota7ChatKeySettingWidget(manager_, this, &config_);
 
   stack_ = new QStackedLayout(form_->pageArea);
+  // The stack shows its first page at once, which would lay it out without the skin, and in vain.
+  basic_->layout()->setEnabled(false);
   stack_->addWidget(basic_);
+  basic_->layout()->setEnabled(true);
   stack_->addWidget(dota7_);
   for (QWidget* const aside : std::initializer_list<QWidget*>{advanced_, olderBasic_, chatWheel_}) {
     aside->hide();
@@ -455,6 +459,15 @@ bool CHotkeySettingDlg::nativeEvent(const QByteArray& eventType, void* message, 
          QDialog::nativeEvent(eventType, message, result);
 }
 
+// What is not seen is not polished, neither with the dialog nor with its skin.
+void CHotkeySettingDlg::setVisible(bool isVisible) {
+  std::vector<QWidget*> unseen;
+  if (isVisible && isFirstShow_)
+    unseen = {advanced_, olderBasic_, chatWheel_, quickChat_, dota7Chat_};
+  const brennet::WidgetsApart apart(*this, unseen);
+  QDialog::setVisible(isVisible);
+}
+
 void CHotkeySettingDlg::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   const bool isSkinned = !isFirstShow_ || applySkin();
@@ -468,18 +481,15 @@ void CHotkeySettingDlg::showEvent(QShowEvent* event) {
 }
 
 bool CHotkeySettingDlg::applySkin() {
-  if (!brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"))) return false;
-  fitToSkin();
-  return true;
+  const bool isLoaded = brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"));
+  if (isLoaded) fitToSkin();
+  return isLoaded;
 }
 
 // The hidden page would keep the size that it has without the skin, and so would the dialog, which
 // is as large as the larger page.
 void CHotkeySettingDlg::fitToSkin() {
-  for (QWidget* const widget : findChildren<QWidget*>()) {
-    widget->ensurePolished();
-    widget->updateGeometry();  // forgets the size that its layout knows
-  }
-  for (QLayout* const inner : findChildren<QLayout*>()) inner->invalidate();
+  for (QWidget* const widget : dota7_->findChildren<QWidget*>()) widget->updateGeometry();
+  for (QLayout* const inner : form_->pageArea->findChildren<QLayout*>()) inner->invalidate();
   layout()->activate();
 }

@@ -59,6 +59,8 @@ class CHotkeySettingDlg : public QDialog {
   // Gives setting groups away and takes them over, as the player's buttons do.
   [[nodiscard]] brennet::SchemeTransferButtons& transfers() { return *transfers_; }
 
+  void setVisible(bool isVisible) override;
+
   // The registry gets back what it had, as it does when the dialog goes without an answer.
   void reject() override;
 

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -84,6 +85,11 @@ PageRecipe::Part PageRecipe::partOf(const QWidget& widget) {
   } else if (const auto* const table = qobject_cast<const QTableView*>(&widget)) {
     part.kind = Kind::Table;
     part.items = textsOf(*table->model());
+  }
+  if (const auto* const area = qobject_cast<const QScrollArea*>(&widget)) {
+    part.arrangement = Arrangement::Column;  // what it holds, without bars
+    part.parts.push_back(partOf(*area->widget()));
+    return part;
   }
   const bool isView = part.kind == Kind::Tree || part.kind == Kind::Table;
   if (widget.layout() != nullptr && !isView) addParts(*widget.layout(), part);

@@ -8,6 +8,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -17,20 +18,48 @@ constexpr int kAroundText = 3 * kBesideText;
 // What is always shown whole: a short key with its modifiers, and the name of a long one.
 constexpr const char16_t* kShown[] = {u"CTRL + Alt + W", u"\u2026 PRINT SCREEN"};
 
+int measuredWidth(const QFont& font) {
+  const QFontMetrics metrics(font);
+  int width = 0;
+  for (const char16_t* const shown : kShown) {
+    width = std::max(width, metrics.horizontalAdvance(QString::fromUtf16(shown)));
+  }
+  return width;
+}
+
 }  // namespace
 
-CKeyLineEdit::CKeyLineEdit(QWidget* parent) : QLineEdit(parent) {
+// The width of what is always shown, in the font that was asked for last. A window has a hundred
+// fields with the same font, and each is asked several times while they are laid out. Fonts must
+// not outlive the application, so the last field takes it along.
+struct CKeyLineEdit::ShownWidth {
+  std::optional<QFont> font;
+  int width = 0;
+
+  static std::shared_ptr<ShownWidth> ofAllFields() {
+    static std::weak_ptr<ShownWidth> shared;
+    std::shared_ptr<ShownWidth> width = shared.lock();
+    if (width == nullptr) shared = width = std::make_shared<ShownWidth>();
+    return width;
+  }
+
+  int in(const QFont& wanted) {
+    if (font != wanted) {
+      width = measuredWidth(wanted);
+      font = wanted;
+    }
+    return width;
+  }
+};
+
+CKeyLineEdit::CKeyLineEdit(QWidget* parent)
+    : QLineEdit(parent), shownWidth_(ShownWidth::ofAllFields()) {
   setAccessibleDescription(tr("按键输入框：按下的键即成为此项的按键"));
 }
 
 QSize CKeyLineEdit::sizeHint() const {
   ensurePolished();
-  const QFontMetrics metrics(font());
-  int width = 0;
-  for (const char16_t* const shown : kShown) {
-    width = std::max(width, metrics.horizontalAdvance(QString::fromUtf16(shown)));
-  }
-  const QSize text(width + kAroundText, metrics.height());
+  const QSize text(shownWidth_->in(font()) + kAroundText, fontMetrics().height());
   QStyleOptionFrame option;
   initStyleOption(&option);
   return style()

@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+#include <memory>
+
 // A line edit for a key: as wide as the text of a key with two modifiers. The few wider texts show
 // their end, where the key is, behind an ellipsis, and have the whole as their tool tip. Screen
 // readers are told that it does not take letters. In no namespace: forms know it by this name.
@@ -22,5 +24,9 @@ class CKeyLineEdit : public QLineEdit {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  struct ShownWidth;
+
   [[nodiscard]] QRect roomForText() const;
+
+  std::shared_ptr<ShownWidth> shownWidth_;
 };
