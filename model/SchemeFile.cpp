@@ -26,6 +26,23 @@ std::optional<std::u16string> loggedMessage(const MarkupDocument& document,
   return log.getAttrib(u"msg");
 }
 
+// Whether something is missing or wrong in a file that could be read: an error of the markup, bytes
+// that mean nothing in its encoding. A load makes the best of such a file, as it has no other; a
+// file from somebody else can be sent again.
+bool isDamaged(const MarkupDocument& document) {
+  constexpr std::u16string_view kHarmless[] = {u"read", u"utf8_detection", u"bom", u"endian_swap",
+                                               u"converted_to"};
+  MarkupDocument log;
+  log.setDoc(u"<log>" + document.result() + u"</log>");
+  log.findElem();
+  while (log.findChildElem()) {
+    log.intoElem();
+    if (std::ranges::find(kHarmless, log.getTagName()) == std::end(kHarmless)) return true;
+    log.outOfElem();
+  }
+  return false;
+}
+
 SchemeFileResult fileError(const MarkupDocument& document) {
   return {Outcome::FileError, loggedMessage(document, u"file_error").value_or(std::u16string())};
 }
@@ -53,16 +70,20 @@ SchemeFileResult readSchemeFile(std::u16string_view path, std::vector<SchemeInFi
     if (loggedMessage(document, u"file_error")) return fileError(document);
     return {Outcome::Damaged, {}};
   }
+  if (isDamaged(document)) return {Outcome::Damaged, {}};
   HotkeyConfig config;
   if (!config.loadFrom(document)) return {Outcome::Foreign, {}};
+  document.resetMainPos();
+  const bool hasFirst = document.findElem(u"KeyInfo_0");
   std::vector<SchemeInFile> found;
   for (int number = 0; number < HotkeyConfig::kSchemes; ++number) {
     SchemeInFile group{.number = number,
                        .scheme = config.scheme(number),
                        .report = {ofScheme(number, config.loadReport().droppedKeys),
                                   ofScheme(number, config.loadReport().droppedChoices)}};
-    if (number == 0 || holdsAnything(group)) found.push_back(std::move(group));
+    if ((number == 0 && hasFirst) || holdsAnything(group)) found.push_back(std::move(group));
   }
+  if (found.empty()) return {Outcome::Foreign, {}};
   schemes = std::move(found);
   return {};
 }

@@ -19,8 +19,8 @@ struct SchemeFileResult {
     Done,
     Lossy,      // written, but the file's encoding lacks some characters of the phrases
     FileError,  // could not be read or written; the file is as it was
-    Damaged,    // could be read, but is no well-formed markup
-    Foreign,    // well-formed, but no settings file
+    Damaged,    // could be read, but something in it is wrong or missing
+    Foreign,    // no settings file, or one without settings
   };
 
   Outcome outcome = Outcome::Done;
@@ -36,7 +36,8 @@ struct SchemeInFile {
   LoadReport report;  // what could not be used of it, all with this number
 };
 
-// Reads the schemes of the settings file at `path` that hold anything; the first one in any case.
+// Reads the schemes of the settings file at `path` that hold anything; the first one also if it is
+// there and empty.
 // `schemes` is left as it was unless the outcome is Done. Throws std::bad_alloc.
 [[nodiscard]] SchemeFileResult readSchemeFile(std::u16string_view path,
                                               std::vector<SchemeInFile>& schemes);

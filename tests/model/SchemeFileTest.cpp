@@ -103,8 +103,30 @@ TEST_F(SchemeFile, TellsOfCharactersThatItCannotHold) {
 
 TEST_F(SchemeFile, GivesTheGroupsThatHoldSomething) {
   EXPECT_EQ(read(withGroups(skill(2, "20736"))).outcome, Outcome::Done);
-  EXPECT_THAT(numbers(), testing::ElementsAre(0, 2)) << "the first one in any case";
-  EXPECT_EQ(schemes_[1].scheme.HeroSkillKey[0], kQ);
+  EXPECT_THAT(numbers(), testing::ElementsAre(2));
+  EXPECT_EQ(schemes_[0].scheme.HeroSkillKey[0], kQ);
+}
+
+// Who gives away an empty group may mean it; a group that the file does not have means nothing.
+TEST_F(SchemeFile, GivesTheFirstGroupWhereItIsEmpty) {
+  EXPECT_EQ(read(withGroups("<KeyInfo_0/>" + skill(2, "20736"))).outcome, Outcome::Done);
+  EXPECT_THAT(numbers(), testing::ElementsAre(0, 2));
+  EXPECT_EQ(read(withGroups("<KeyInfo_7/>")).outcome, Outcome::Foreign);
+  EXPECT_EQ(read(withGroups("")).outcome, Outcome::Foreign);
+}
+
+TEST_F(SchemeFile, RefusesAFileThatIsDamagedInside) {
+  const std::string good = withGroups(skill(0, "20736") + skill(1, "20736"));
+  ASSERT_EQ(read(good).outcome, Outcome::Done);
+  const std::string kDamages[] = {"</Key><KeyInfo_1>", "<\x01", "<!-- ", "</other>"};
+  for (const std::string& damage : kDamages) {
+    std::string bad = good;
+    bad.insert(bad.find("</Key>"), damage);
+    EXPECT_EQ(read(bad).outcome, Outcome::Damaged) << testing::PrintToString(bad);
+  }
+  std::string zeroed = good;
+  zeroed[zeroed.find("20736") + 2] = '\0';
+  EXPECT_EQ(read(zeroed).outcome, Outcome::Damaged);
 }
 
 TEST_F(SchemeFile, GivesAGroupOfWhichNothingCouldBeUsed) {
