@@ -85,17 +85,19 @@ void Dota7KeyInfoManager::writeJournal() {
 }
 
 // A value whose old content is unknown could not be restored, so it is not written. The journal
-// comes first: if memory runs out, nothing may have been written.
-void Dota7KeyInfoManager::put(RegistryKey& key, const Dota7Place& place, const Content& value) {
+// comes first: if memory runs out, nothing may have been written. Returns whether the value is
+// there.
+bool Dota7KeyInfoManager::put(RegistryKey& key, const Dota7Place& place, const Content& value) {
   const RegistryKey::Reading now = key.read(place.second);
-  if (!now.known || now.value == value) return;
+  if (!now.known || now.value == value) return now.known;
   noteFor(place, now, value);
   writeJournal();
   Content& after = step_.try_emplace(place, Dota7Edit{now.value, now.value}).first->second.after;
   Content next = value;
-  if (!(value ? key.write(place.second, *value) : key.remove(place.second))) return;
+  if (!(value ? key.write(place.second, *value) : key.remove(place.second))) return false;
   before_.find(place)->second.isChanged = true;
   after = std::move(next);
+  return true;
 }
 
 Dota7Step Dota7KeyInfoManager::takeStep() {
@@ -104,17 +106,19 @@ Dota7Step Dota7KeyInfoManager::takeStep() {
 }
 
 // The journal is written once, before the first value changes.
-void Dota7KeyInfoManager::restore(const Dota7Step& step, Content Dota7Edit::*side) {
+bool Dota7KeyInfoManager::restore(const Dota7Step& step, Content Dota7Edit::*side) {
   for (const auto& [place, edit] : step) {
     noteFor(place, RegistryKey(place.first).read(place.second), edit.*side);
   }
   writeJournal();
+  bool isRestored = true;
   for (const auto& [place, edit] : step) {
     RegistryKey key(place.first);
-    put(key, place, edit.*side);
+    isRestored = put(key, place, edit.*side) && isRestored;
   }
   step_.clear();
   refresh();
+  return isRestored;
 }
 
 Dota7Settings Dota7KeyInfoManager::settingsBefore() {

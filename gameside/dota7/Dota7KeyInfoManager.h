@@ -65,10 +65,10 @@ class Dota7KeyInfoManager : public QObject, private Dota7ChangeSink {
 
   // Puts what the values of a step held before it back into the registry, or what they held after
   // it. Forgets the recorded changes, and reads the settings again: what the registry refuses to
-  // change stays. Like every other change, this can be cancelled, and belongs to no further step.
-  // Throws std::bad_alloc; a part of the values may have changed then.
-  void undo(const Dota7Step& step) { restore(step, &Dota7Edit::before); }
-  void redo(const Dota7Step& step) { restore(step, &Dota7Edit::after); }
+  // change stays, and the answer is false. Like every other change, this can be cancelled, and
+  // belongs to no further step. Throws std::bad_alloc; a part of the values may have changed then.
+  bool undo(const Dota7Step& step) { return restore(step, &Dota7Edit::before); }
+  bool redo(const Dota7Step& step) { return restore(step, &Dota7Edit::after); }
 
   // The settings as they were before this run changed anything, in the present cast mode; nothing
   // is stored through them. Reads the registry.
@@ -96,8 +96,8 @@ class Dota7KeyInfoManager : public QObject, private Dota7ChangeSink {
   // A value to be put into the registry; nothing: it is to be removed.
   using Content = std::optional<platform::RegistryValue>;
 
-  void restore(const Dota7Step& step, Content Dota7Edit::*side);
-  void put(platform::RegistryKey& key, const Dota7Place& place, const Content& value);
+  bool restore(const Dota7Step& step, Content Dota7Edit::*side);
+  bool put(platform::RegistryKey& key, const Dota7Place& place, const Content& value);
   void noteFor(const Dota7Place& place, const platform::RegistryKey::Reading& now,
                const Content& value);
   void writeJournal();

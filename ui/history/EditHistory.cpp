@@ -3,12 +3,24 @@
 #include <utility>
 
 #include "gameside/dota7/Dota7KeyInfoManager.h"
+#include "ui/history/StepText.h"
 
 namespace brennet {
 namespace {
 
 bool isSame(const ConfigMoment& a, const ConfigMoment& b) {
   return a.enable == b.enable && a.index == b.index && a.schemes == b.schemes;
+}
+
+// Two changes one after the other, as one.
+Dota7Step joined(const Dota7Step& first, Dota7Step second) {
+  for (const auto& [place, edit] : first) {
+    const auto [entry, isNew] = second.try_emplace(place, edit);
+    if (!isNew) entry->second.before = edit.before;
+  }
+  std::erase_if(second,
+                [](const auto& entry) { return entry.second.before == entry.second.after; });
+  return second;
 }
 
 }  // namespace
@@ -34,17 +46,34 @@ ConfigMoment EditHistory::moment() const {
 bool EditHistory::note(const QString& title) {
   EditStep step{.before = last_,
                 .after = moment(),
-                .dota7 = manager_.takeStep(),
+                .dota7 = joined(unseen_, manager_.takeStep()),
                 .castBefore = lastCast_,
                 .castAfter = manager_.settings().cast(),
                 .title = title};
   lastCast_ = step.castAfter;
   if (isSame(step.before, step.after) && !step.isDota7()) return false;
-  last_ = step.after;
   forgetDota7();
+  if (!isVisible(step)) {
+    join(std::move(step));
+    return false;
+  }
+  unseen_.clear();
+  last_ = step.after;
   done_.push_back(std::move(step));
   undone_.clear();
   return true;
+}
+
+// What nobody can see is undone and done again with the step before it, or with the first one.
+void EditHistory::join(EditStep step) {
+  if (done_.empty()) {
+    unseen_ = std::move(step.dota7);
+    return;
+  }
+  EditStep& last = done_.back();
+  last.dota7 = joined(last.dota7, std::move(step.dota7));
+  last.after = last_ = std::move(step.after);
+  last.castAfter = step.castAfter;
 }
 
 const EditStep* EditHistory::undoable() const {
@@ -57,31 +86,29 @@ const EditStep* EditHistory::redoable() const {
 
 const EditStep* EditHistory::undo() {
   note();
-  if (done_.empty()) return nullptr;
+  if (done_.empty()) {
+    restore(last_);
+    static_cast<void>(restoreDota7({}, true));  // what nobody has seen since
+    return nullptr;
+  }
   undone_.push_back(std::move(done_.back()));
   done_.pop_back();
-  const EditStep& step = undone_.back();
-  restore(step.before);
-  if (step.isDota7()) {
-    manager_.settings().setCast(step.castBefore);
-    manager_.undo(step.dota7);
-  }
-  lastCast_ = manager_.settings().cast();
-  return &step;
+  restore(undone_.back().before);
+  if (restoreDota7(undone_.back(), true)) return &undone_.back();
+  done_.push_back(std::move(undone_.back()));
+  undone_.pop_back();
+  return &done_.back();
 }
 
 const EditStep* EditHistory::redo() {
   if (note() || undone_.empty()) return nullptr;
   done_.push_back(std::move(undone_.back()));
   undone_.pop_back();
-  const EditStep& step = done_.back();
-  restore(step.after);
-  if (step.isDota7()) {
-    manager_.settings().setCast(step.castAfter);
-    manager_.redo(step.dota7);
-  }
-  lastCast_ = manager_.settings().cast();
-  return &step;
+  restore(done_.back().after);
+  if (restoreDota7(done_.back(), false)) return &done_.back();
+  undone_.push_back(std::move(done_.back()));
+  done_.pop_back();
+  return &undone_.back();
 }
 
 // Copies are made first, so that a scheme is never half restored.
@@ -91,11 +118,22 @@ void EditHistory::restore(const ConfigMoment& moment) {
   config_.setIndex(moment.index);
   for (int i = 0; i < HotkeyConfig::kSchemes; ++i) {
     const auto& scheme = moment.schemes[static_cast<std::size_t>(i)];
-    if (scheme == last_.schemes[static_cast<std::size_t>(i)]) continue;
+    if (*scheme == config_.scheme(i)) continue;
     HotkeyScheme copy = *scheme;
     *config_.editableScheme(i) = std::move(copy);
   }
   last_ = moment;
+}
+
+// Returns whether the registry has taken it all.
+bool EditHistory::restoreDota7(const EditStep& step, bool isUndo) {
+  bool isRestored = unseen_.empty() || manager_.undo(std::exchange(unseen_, {}));
+  if (step.isDota7()) {
+    manager_.settings().setCast(isUndo ? step.castBefore : step.castAfter);
+    isRestored = (isUndo ? manager_.undo(step.dota7) : manager_.redo(step.dota7)) && isRestored;
+  }
+  lastCast_ = manager_.settings().cast();
+  return isRestored;
 }
 
 const HotkeyScheme& EditHistory::openingScheme() const {

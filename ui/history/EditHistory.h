@@ -45,8 +45,9 @@ class EditHistory {
   // this object, and the manager's run has begun.
   EditHistory(HotkeyConfig& config, Dota7KeyInfoManager& manager);
 
-  // Makes a step of what has changed since the last call. Returns whether there was something; then
-  // nothing is left to be done again.
+  // Makes a step of what has changed since the last one. Returns whether there was something that a
+  // player can see; then nothing is left to be done again. What nobody can see, such as an empty
+  // value in place of none, joins the last step, or the first one.
   bool note(const QString& title = {});
 
   // The steps that undo() and redo() would take next; null if there is none.
@@ -54,7 +55,8 @@ class EditHistory {
   [[nodiscard]] const EditStep* redoable() const;
 
   // Undo the last step, or do the last undone one again, and return it; it belongs to this object
-  // and is there until the next call. Null if there is none.
+  // and is there until the next call. Null if there is none. If the registry refuses a change, the
+  // step stays where it was, to be tried again.
   const EditStep* undo();
   const EditStep* redo();
 
@@ -70,13 +72,16 @@ class EditHistory {
 
  private:
   [[nodiscard]] ConfigMoment moment() const;
+  void join(EditStep step);
   void restore(const ConfigMoment& moment);
+  [[nodiscard]] bool restoreDota7(const EditStep& step, bool isUndo);
 
   HotkeyConfig& config_;
   Dota7KeyInfoManager& manager_;
   std::vector<EditStep> done_;
   std::vector<EditStep> undone_;  // the last one is the first to be done again
   ConfigMoment last_;
+  Dota7Step unseen_;  // what has changed in the registry before the first step, seen by nobody
   Dota7Cast lastCast_;
   ConfigMoment opening_;
   std::optional<Dota7Settings> openingDota7_;

@@ -27,6 +27,12 @@ QString groupText(std::uint32_t index) {
   return QString::number(index + 1);
 }
 
+// The line for a change. Long texts are shortened; what looks the same then is named without its
+// values.
+void addLine(const QString& what, const QString& before, const QString& after, QStringList& lines) {
+  lines += before == after ? what : changeText(what, before, after);
+}
+
 void addSwitch(const EditStep& step, QStringList& lines) {
   if (step.before.enable == step.after.enable) return;
   const char* const name = QT_TRANSLATE_NOOP("CHotkeySettingDlg", "启用改键");
@@ -46,18 +52,18 @@ void addSchemes(const EditStep& step, QStringList& lines) {
     const HotkeyScheme& before = *step.before.schemes[i];
     const HotkeyScheme& after = *step.after.schemes[i];
     for (const SettingPart part : differencesOf(before, after)) {
-      lines += changeText(settingText(part), valueText(before, part), valueText(after, part));
+      addLine(settingText(part), valueText(before, part), valueText(after, part), lines);
     }
   }
 }
 
 // A text that the registry holds as bytes.
 QString textIn(const Content& value) {
-  return value ? shortened(QString::fromStdString(value->data)) : QString();
+  return value ? QString::fromStdString(value->data) : QString();
 }
 
 QString keyIn(const Content& value) {
-  const QString text = textIn(value);
+  const QString text = shortened(textIn(value));
   return text.isEmpty() ? noneText() : text;
 }
 
@@ -103,19 +109,30 @@ void addDota7(const Dota7Step& step, QStringList& lines) {
   }
   for (const Dota7Phrase& row : dota7Phrases()) {
     const Dota7Edit edit = editOf(step, kDota7PhrasesPath, row.valueName);
-    addChange(dota7PhraseText(row), phraseText(textIn(edit.before)), phraseText(textIn(edit.after)),
-              lines);
+    const QString before = textIn(edit.before);
+    const QString after = textIn(edit.after);
+    if (before != after)
+      addLine(dota7PhraseText(row), phraseText(before), phraseText(after), lines);
   }
 }
 
-}  // namespace
-
-QString stepText(const EditStep& step) {
+QStringList changesOf(const EditStep& step) {
   QStringList changes;
   addSwitch(step, changes);
   addGroup(step, changes);
   addSchemes(step, changes);
   addDota7(step.dota7, changes);
+  return changes;
+}
+
+}  // namespace
+
+bool isVisible(const EditStep& step) {
+  return !changesOf(step).isEmpty();
+}
+
+QString stepText(const EditStep& step) {
+  const QStringList changes = changesOf(step);
   QStringList lines;
   if (!step.title.isEmpty()) lines += step.title;
   lines += changes.mid(0, kMostLines);

@@ -11,4 +11,7 @@ namespace brennet {
 // nothing that a player can see.
 [[nodiscard]] QString stepText(const EditStep& step);
 
+// Whether a player can see that anything has changed.
+[[nodiscard]] bool isVisible(const EditStep& step);
+
 }  // namespace brennet

@@ -59,14 +59,33 @@ TEST_F(UndoHistory, HasAStepForWhatChangedSinceTheLast) {
   EXPECT_EQ(history.redo(), nullptr);
 }
 
-// What players cannot see differs in the file all the same.
+// What players cannot see differs in the file all the same: it goes with the step before it, or
+// with the first one.
 TEST_F(UndoHistory, BringsBackWhatWasNeverSet) {
-  config.editableScheme(0)->QuickChat[0].emplace();
-  config.editableScheme(0)->HeroSkillAutocast[0] = false;
+  HotkeyScheme& scheme = *config.editableScheme(0);
+  scheme.QuickChat[0].emplace();
+  EXPECT_FALSE(history.note()) << "there is nothing to see";
+  scheme.LockMouseFlag = 1;
   EXPECT_TRUE(history.note());
+  scheme.HeroSkillAutocast[0] = false;
+  EXPECT_FALSE(history.note());
   ASSERT_NE(history.undo(), nullptr);
-  EXPECT_FALSE(config.scheme(0).QuickChat[0].has_value());
-  EXPECT_FALSE(config.scheme(0).HeroSkillAutocast[0].has_value());
+  EXPECT_FALSE(scheme.QuickChat[0].has_value());
+  EXPECT_FALSE(scheme.HeroSkillAutocast[0].has_value());
+  ASSERT_NE(history.redo(), nullptr);
+  EXPECT_TRUE(scheme.QuickChat[0].has_value());
+  EXPECT_TRUE(scheme.HeroSkillAutocast[0].has_value());
+}
+
+TEST_F(UndoHistory, MakesNoStepOfWhatNobodySees) {
+  config.setEnable(true);
+  ASSERT_TRUE(history.note());
+  ASSERT_NE(history.undo(), nullptr);
+  config.editableScheme(0)->QuickChat[0].emplace();
+  EXPECT_FALSE(history.note());
+  EXPECT_EQ(history.undoable(), nullptr);
+  ASSERT_NE(history.redo(), nullptr) << "what was undone can still be done again";
+  EXPECT_TRUE(config.enable());
 }
 
 TEST_F(UndoHistory, IsNotNotedFirst) {

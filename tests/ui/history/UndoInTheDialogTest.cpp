@@ -150,6 +150,29 @@ TEST_F(UndoInTheDialog, ShowsTheGroupOfTheStep) {
   EXPECT_EQ(groups.currentIndex(), 0);
 }
 
+TEST_F(UndoInTheDialog, KeepsAStepThatTheRegistryRefuses) {
+  dialog->onSwitchDota7KeySettingDlg();
+  press(stopKey(), Qt::Key_Q);
+  ASSERT_TRUE(undo().isEnabled());
+  registry.denyWriting(kDota7ControlPath);
+  click(undo());
+  registry.allowWriting(kDota7ControlPath);
+  EXPECT_EQ(control(u"HStopKeyCode"), platform::dwordValue('Q'));
+  EXPECT_TRUE(undo().isEnabled());
+  EXPECT_FALSE(find<QPushButton>("btnRedo").isEnabled());
+  click(undo());
+  EXPECT_EQ(stopKey().text(), QString());
+}
+
+TEST_F(UndoInTheDialog, MakesNoStepOfAnAnswerThatChangesNothing) {
+  auto& chat = page<ChatKeySettingWidget>();
+  QTimer::singleShot(0,
+                     [&chat] { chat.findChild<QPushButton*>(QStringLiteral("btnOK"))->click(); });
+  find<QPushButton>("btnTalkSetting").click();
+  settle();
+  EXPECT_FALSE(undo().isEnabled());
+}
+
 TEST_F(UndoInTheDialog, CoversTheMainSwitch) {
   find<QCheckBox>("chkUseHotkeySettings").click();
   settle();

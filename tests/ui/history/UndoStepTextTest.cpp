@@ -74,7 +74,23 @@ TEST_F(UndoStepText, NamesTheGroupsAndTheMainSwitch) {
 
 TEST_F(UndoStepText, IsEmptyForWhatNobodySees) {
   scheme.QuickChat[0].emplace();
-  EXPECT_EQ(noted(), "");
+  EXPECT_FALSE(history.note());
+}
+
+// Long texts are shortened, and spaces are put together.
+TEST_F(UndoStepText, NamesWhatLooksTheSame) {
+  scheme.QuickChat[0] = u"all middle missing, go back now";
+  EXPECT_TRUE(history.note());
+  scheme.QuickChat[0] = u"all middle missing, go back soon";
+  EXPECT_EQ(noted(), "Quick-chat phrase 1");
+  scheme.QuickChat[0] = u"go b";
+  EXPECT_TRUE(history.note());
+  scheme.QuickChat[0] = u"go  b ";
+  EXPECT_EQ(noted(), "Quick-chat phrase 1");
+  settings.setPhrase(dota7Phrases()[0], u"all middle missing, go back now");
+  EXPECT_TRUE(history.note());
+  settings.setPhrase(dota7Phrases()[0], u"all middle missing, go back soon");
+  EXPECT_EQ(noted(), "Quick chat 1");
 }
 
 TEST_F(UndoStepText, NamesKeysOfDota7) {
@@ -89,7 +105,7 @@ TEST_F(UndoStepText, LeavesOutWhatReadsTheSame) {
   settings.setOn(dota7Switches()[0], false);
   settings.setPhrase(dota7Phrases()[0], u"", true);
   settings.clearKey(field(u"edt_HHoldKey"));
-  EXPECT_EQ(noted(), "") << "values that were missing are empty now";
+  EXPECT_FALSE(history.note()) << "values that were missing are empty now";
 }
 
 // As where the text of a key was damaged, but not its code.
