@@ -6,6 +6,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <utility>
 
 #include "model/HotkeyConfig.h"
 #include "model/KeyConflicts.h"
@@ -59,8 +60,8 @@ void PresetBoxes::leadToChosen() const {
   if (preset < boxes_.size()) boxes_[preset]->setFocus(Qt::OtherFocusReason);
 }
 
-std::vector<KeySlot> PresetBoxes::toggled(int preset, bool isChecked) const {
-  for (QCheckBox* const box : boxes_) box->setToolTip({});
+std::vector<KeySlot> PresetBoxes::toggled(int preset, bool isChecked) {
+  if (QCheckBox* const told = std::exchange(refused_, nullptr)) told->setToolTip({});
   if (isChecked) {
     const std::vector<TakenKey> taken = takenKeysOfPreset(config_->scheme(), preset);
     config_->SetNumComboKeyIndex(preset);
@@ -68,7 +69,10 @@ std::vector<KeySlot> PresetBoxes::toggled(int preset, bool isChecked) const {
     for (QCheckBox* const box : boxes_) {
       if (box != own) box->setChecked(false);
     }
-    if (!taken.empty()) showWhy(*own, refusalText(taken, KeyWindow::Main));
+    if (!taken.empty()) {
+      showWhy(*own, refusalText(taken, KeyWindow::Main));
+      refused_ = own;
+    }
     return holdersIn(taken);
   }
   const bool anyIsLeft = std::any_of(boxes_.begin(), boxes_.end(),

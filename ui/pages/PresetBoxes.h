@@ -35,11 +35,12 @@ class PresetBoxes {
   // preset is chosen unless one of its keys is used for something else: then the scheme stays as it
   // was, and a tool tip on the box says why. When no box is checked any more, the items have their
   // own keys again. Returns the settings that are in the way of the preset.
-  std::vector<KeySlot> toggled(int preset, bool isChecked) const;
+  std::vector<KeySlot> toggled(int preset, bool isChecked);
 
  private:
   Boxes boxes_;
   HotkeyConfig* config_;
+  QCheckBox* refused_ = nullptr;  // whose tool tip says why its preset was refused last
 };
 
 }  // namespace brennet
