@@ -16,7 +16,9 @@
 #include "model/KeyConflicts.h"
 #include "platform/MemoryProbe.h"
 #include "ui/CHotkeySettingDlg.h"
+#include "ui/pages/SchemeTransferButtons.h"
 #include "ui/window/ModalRun.h"
+#include "ui/window/Text.h"
 
 namespace brennet {
 namespace {
@@ -119,6 +121,7 @@ bool CBrennetImpl::runDialog() {
   if (!dota7_) dota7_ = std::make_unique<Dota7KeyInfoManager>();
   CHotkeySettingDlg dialog(workingCopy_, *dota7_);
   dialog.setDataFolder(dataFolder_);
+  dialog.transfers().setOwnFile(toQString(settingsPath_));
   if (!std::exchange(isLoadTold_, true)) dialog.tellDroppedKeys(config_.loadReport());
   return runModal(dialog) == QDialog::Accepted;
 }

@@ -1604,5 +1604,9 @@ Do you want to go on?</translation>
         <source>%1：%2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>这是您正在使用的设置文件，请选择其他文件。</source>
+        <translation>This is the settings file that you are using. Please choose another one.</translation>
+    </message>
 </context>
 </TS>

@@ -1603,5 +1603,9 @@ Are you sure to continue?</source>
         <source>%1：%2</source>
         <translation>%1：%2</translation>
     </message>
+    <message>
+        <source>这是您正在使用的设置文件，请选择其他文件。</source>
+        <translation>这是您正在使用的设置文件，请选择其他文件。</translation>
+    </message>
 </context>
 </TS>

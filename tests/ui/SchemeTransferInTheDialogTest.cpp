@@ -182,6 +182,19 @@ TEST_F(SchemeTransferInTheDialog, TellsOfAFileThatCannotBeWritten) {
   transfers().exportTo(toQString(folder_.path().u16string()));
 }
 
+// It would be written at once, and without the other groups.
+TEST_F(SchemeTransferInTheDialog, DoesNotExportOverTheOwnSettingsFile) {
+  writeBytes(folder_ / "keys.xml", "all groups");
+  transfers().setOwnFile(file());
+  const auto box = whenBoxIsShown([](QMessageBox& shown) {
+    EXPECT_EQ(shown.text().toStdString(),
+              "This is the settings file that you are using. Please choose another one.");
+    shown.accept();
+  });
+  transfers().exportTo(toQString((folder_ / "." / "keys.xml").u16string()));
+  EXPECT_EQ(readBytes(folder_ / "keys.xml"), "all groups");
+}
+
 TEST_F(SchemeTransferInTheDialog, TellsOfCharactersThatAreLost) {
   config.editableScheme()->QuickChat[0] = u"\U0001F600";
   const auto box = whenBoxIsShown([](QMessageBox& shown) {

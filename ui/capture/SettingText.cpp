@@ -91,6 +91,10 @@ struct Value {
   }
 };
 
+QString quoted(const QString& phrase) {
+  return words(QT_TRANSLATE_NOOP("SettingText", "“%1”")).arg(phrase);
+}
+
 bool isKey(SettingPart part) {
   return !part.isQuickCast && keyCount(part.setting) != 0;
 }
@@ -121,6 +125,15 @@ QString valueText(const HotkeyScheme& scheme, SettingPart part) {
   return std::visit(Value{scheme, part}, setting(part.setting).kind);
 }
 
+QString wholeValueText(const HotkeyScheme& scheme, SettingPart part) {
+  const auto* const row = std::get_if<PhraseSetting>(&setting(part.setting).kind);
+  const auto* const phrase = row == nullptr ? nullptr : &(scheme.*row->field)[part.index];
+  if (phrase == nullptr || phrase->value_or(std::u16string()).empty()) {
+    return valueText(scheme, part);
+  }
+  return quoted(toQString(**phrase));
+}
+
 QString onOffText(bool isOn) {
   return isOn ? words(QT_TRANSLATE_NOOP("SettingText", "开"))
               : words(QT_TRANSLATE_NOOP("SettingText", "关"));
@@ -131,8 +144,7 @@ QString noneText() {
 }
 
 QString phraseText(const QString& phrase) {
-  if (phrase.isEmpty()) return noneText();
-  return words(QT_TRANSLATE_NOOP("SettingText", "“%1”")).arg(shortened(phrase));
+  return phrase.isEmpty() ? noneText() : quoted(shortened(phrase));
 }
 
 QString changeText(const QString& what, const QString& before, const QString& after) {

@@ -13,6 +13,9 @@ namespace brennet {
 // What it is in `scheme`: "Alt + Q", "on", "none".
 [[nodiscard]] QString valueText(const HotkeyScheme& scheme, SettingPart part);
 
+// The same with phrases as they are: long ones and those with odd spaces, too, look different then.
+[[nodiscard]] QString wholeValueText(const HotkeyScheme& scheme, SettingPart part);
+
 // The same for values that are kept elsewhere.
 [[nodiscard]] QString onOffText(bool isOn);
 [[nodiscard]] QString noneText();

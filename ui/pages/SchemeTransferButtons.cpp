@@ -1,6 +1,7 @@
 #include "ui/pages/SchemeTransferButtons.h"
 
 #include <QComboBox>
+#include <QFileInfo>
 #include <QPushButton>
 
 #include <utility>
@@ -63,6 +64,10 @@ void SchemeTransferButtons::copyFrom() {
 
 void SchemeTransferButtons::exportTo(const QString& fileName) {
   const QString title = titleOf(controls_.exportFile);
+  if (!ownFile_.isEmpty() && QFileInfo(fileName) == QFileInfo(ownFile_)) {
+    tell(QMessageBox::Warning, title, tr("这是您正在使用的设置文件，请选择其他文件。"));
+    return;
+  }
   const SchemeFileResult result =
       writeSchemeFile(viewOf(fileName), config_.scheme(), config_.LastSaveTime());
   if (result.outcome == Outcome::FileError) {

@@ -39,6 +39,11 @@ class SchemeTransferButtons : public QObject {
   // give or to replace.
   void refresh();
 
+  // The settings file of the host, which is written when the dialog has ended well: exporting there
+  // would replace all groups by one, at once, whatever the player says to the dialog. It is
+  // refused.
+  void setOwnFile(const QString& fileName) { ownFile_ = fileName; }
+
   // Shows what the other groups would bring, and takes one over if the player agrees.
   void copyFrom();
   // Writes the current group to a file, or takes over one of a file if the player agrees. A failure
@@ -56,6 +61,7 @@ class SchemeTransferButtons : public QObject {
   QWidget& window_;
   Controls controls_;
   Replaced replaced_;
+  QString ownFile_;
 };
 
 }  // namespace brennet

@@ -102,9 +102,12 @@ void SchemeTransferWindow::fitColumns() {
 void SchemeTransferWindow::addRow(const TransferRow& row) {
   const QString refusal = refusalOf(row);
   const QString note = refusal.isEmpty() ? QString() : tr("无法采用：%1").arg(refusal);
-  auto item = std::make_unique<QTreeWidgetItem>(
-      QStringList{brennet::settingText(row.part), brennet::valueText(current_, row.part),
-                  brennet::valueText(chosen().transfer.result, row.part), note});
+  const brennet::HotkeyScheme& result = chosen().transfer.result;
+  const QString now = brennet::valueText(current_, row.part);
+  const bool isHidden = now == brennet::valueText(result, row.part);
+  const auto text = isHidden ? brennet::wholeValueText : brennet::valueText;
+  auto item = std::make_unique<QTreeWidgetItem>(QStringList{
+      brennet::settingText(row.part), text(current_, row.part), text(result, row.part), note});
   QFont font = form_->lstChanges->font();
   font.setBold(row.isRefused());
   for (const int column : {kSetting, kNow, kThen, kNote}) item->setFont(column, font);

@@ -72,6 +72,15 @@ TEST_F(SchemeTransferWindowTest, ShowsWhatIsAndWhatWouldBe) {
   EXPECT_TRUE(list().isColumnHidden(3)) << "there is nothing to note";
 }
 
+TEST_F(SchemeTransferWindowTest, ShowsPhrasesWholeIfTheyDifferOnlyThen) {
+  HotkeyScheme source = current_;
+  current_.QuickChat[0] = u"all middle missing, go back now";
+  source.QuickChat[0] = u"all middle missing, go  back now";
+  open({offer("2", source)});
+  EXPECT_EQ(rows(), (std::vector<Row>{{"Quick-chat phrase 1", "“all middle missing, go back now”",
+                                       "“all middle missing, go  back now”", ""}}));
+}
+
 TEST_F(SchemeTransferWindowTest, MarksWhatIsRefusedAndSaysWhy) {
   HotkeyScheme source;
   source.HeroSkillKey[0] = KeyWord('Q', 0);
