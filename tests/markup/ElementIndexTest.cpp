@@ -15,7 +15,7 @@ ElementRecord record(std::uint32_t start, std::uint32_t count) {
 ElementIndex family() {
   ElementIndex index;
   index[0].count = 6;
-  for (const std::uint32_t count : {4, 2, 1, 1, 1}) {
+  for (const std::uint32_t count : {4U, 2U, 1U, 1U, 1U}) {
     index.add(record(static_cast<std::uint32_t>(10 * index.size()), count));
   }
   return index;

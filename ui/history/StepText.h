@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "ui/history/EditHistory.h"
+#include "ui/history/EditStep.h"
 
 namespace brennet {
 

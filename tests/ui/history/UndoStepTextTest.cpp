@@ -8,6 +8,7 @@
 #include <QTranslator>
 
 #include "tests/gameside/dota7/Dota7Test.h"
+#include "ui/history/EditHistory.h"
 
 namespace brennet::test {
 namespace {
