@@ -80,6 +80,19 @@ class UndoMarks : public SettingsDialog {
   QTranslator english_;
 };
 
+TEST_F(UndoMarks, StayInWordsWhenAnotherPresetIsRefused) {
+  press(skill(1), Qt::Key_1, Qt::AltModifier);
+  auto& chosen = find<QCheckBox>("chkGroupKey1");
+  QTest::keyClick(&chosen, Qt::Key_Space);
+  settle();
+  const QString told = chosen.toolTip();
+  ASSERT_FALSE(told.isEmpty());
+  QTest::keyClick(&find<QCheckBox>("chkGroupKey3"), Qt::Key_Space);
+  settle();
+  ASSERT_EQ(config.scheme().NumComboKeyIndex, 0) << "Alt + 1 is a skill";
+  EXPECT_EQ(chosen.toolTip(), told);
+}
+
 TEST_F(UndoMarks, AreNotThereAtFirst) {
   for (QWidget* const control : dialog->findChildren<QWidget*>()) {
     EXPECT_EQ(lineOf(*control), "") << control->objectName().toStdString();
