@@ -1,6 +1,8 @@
 #include "markup/Escaping.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
 
 #include "markup/EntityTable.h"
 #include "markup/text/Utf16.h"
@@ -11,21 +13,30 @@ namespace {
 constexpr std::u16string_view kCDataStart = u"<![CDATA[";
 constexpr std::u16string_view kCDataEnd = u"]]>";
 
+struct Entity {
+  char16_t unit;
+  std::u16string_view text;
+};
+constexpr Entity kEntities[] = {
+    {u'<', u"&lt;"}, {u'>', u"&gt;"}, {u'&', u"&amp;"}, {u'"', u"&quot;"}, {u'\'', u"&apos;"},
+};
+
+// One bit for each unit below 64, set for those above: nearly all values have none of them.
+constexpr std::uint64_t kEscaped = [] {
+  std::uint64_t bits = 0;
+  for (const Entity& entity : kEntities) bits |= std::uint64_t{1} << entity.unit;
+  return bits;
+}();
+
+constexpr bool isEscaped(char16_t unit) {
+  return unit < 64 && (kEscaped >> unit & 1U) != 0;
+}
+
+// `unit` is one of those above.
 std::u16string_view entityOf(char16_t unit) {
-  switch (unit) {
-    case u'<':
-      return u"&lt;";
-    case u'>':
-      return u"&gt;";
-    case u'&':
-      return u"&amp;";
-    case u'"':
-      return u"&quot;";
-    case u'\'':
-      return u"&apos;";
-    default:
-      return {};
-  }
+  return std::find_if(std::begin(kEntities), std::end(kEntities),
+                      [unit](const Entity& entity) { return entity.unit == unit; })
+      ->text;
 }
 
 // The value of `unit` as a hexadecimal digit, or 16 if it is none.
@@ -75,12 +86,15 @@ Reference referenceAt(std::u16string_view text) {
 
 }  // namespace
 
+bool needsEscaping(std::u16string_view text) {
+  return std::any_of(text.begin(), text.end(), isEscaped);
+}
+
 void appendEscaped(std::u16string_view text, std::u16string& out) {
   std::size_t written = 0;
   for (std::size_t at = 0; at < text.size(); ++at) {
-    const std::u16string_view entity = entityOf(text[at]);
-    if (entity.empty()) continue;
-    out.append(text.substr(written, at - written)).append(entity);
+    if (!isEscaped(text[at])) continue;
+    out.append(text.substr(written, at - written)).append(entityOf(text[at]));
     written = at + 1;
   }
   out.append(text.substr(written));

@@ -1,21 +1,12 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace brennet {
 
-// Whether `text` has any of the characters < > & " '
-[[nodiscard]] constexpr bool needsEscaping(std::u16string_view text) {
-  constexpr std::uint64_t kEscaped = std::uint64_t{1} << U'<' | std::uint64_t{1} << U'>' |
-                                     std::uint64_t{1} << U'&' | std::uint64_t{1} << U'"' |
-                                     std::uint64_t{1} << U'\'';
-  for (const char16_t unit : text) {
-    if (unit < 64 && (kEscaped >> unit & 1U) != 0) return true;
-  }
-  return false;
-}
+// Whether `text` has any of the characters that appendEscaped() writes as entities.
+[[nodiscard]] bool needsEscaping(std::u16string_view text);
 
 // Appends `text` to `out` with the characters < > & " ' written as their five entities, so that it
 // can stand in element content and in attribute values.

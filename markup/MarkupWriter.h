@@ -14,7 +14,8 @@ namespace brennet {
 // their own: each on a line, without indentation. MarkupDocument::addChildren takes them all at
 // once, which is many times as fast.
 //
-// Names have to be valid and to outlive the writer; values may hold anything. Any operation may
+// Names have to be valid and to outlive the writer; values may hold anything, but all is less than
+// 2^32 units. Any operation may
 // throw std::bad_alloc; the writer is of no use then.
 class MarkupWriter {
  public:
