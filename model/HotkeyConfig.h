@@ -24,6 +24,9 @@ class HotkeyConfig {
  public:
   static constexpr int kCurrentScheme = -1;
   static constexpr int kSchemes = 3;
+  // What the schemes are called in a settings file.
+  static constexpr std::array<std::u16string_view, kSchemes> kSchemeElements = {
+      u"KeyInfo_0", u"KeyInfo_1", u"KeyInfo_2"};
   static constexpr std::uint32_t kLargestIndex = 10;
 
   HotkeyConfig() = default;

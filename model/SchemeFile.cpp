@@ -73,8 +73,8 @@ SchemeFileResult readSchemeFile(std::u16string_view path, std::vector<SchemeInFi
   if (isDamaged(document)) return {Outcome::Damaged, {}};
   HotkeyConfig config;
   if (!config.loadFrom(document)) return {Outcome::Foreign, {}};
-  document.resetMainPos();
-  const bool hasFirst = document.findElem(u"KeyInfo_0");
+  document.resetMainPos();  // in the root, where the load was last
+  const bool hasFirst = document.findElem(HotkeyConfig::kSchemeElements[0]);
   std::vector<SchemeInFile> found;
   for (int number = 0; number < HotkeyConfig::kSchemes; ++number) {
     SchemeInFile group{.number = number,

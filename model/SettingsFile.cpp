@@ -19,8 +19,6 @@ namespace {
 
 constexpr char16_t kHeader[] = u"<?xml version=\"1.0\" encoding=\"gb2312\"?>\r\n";
 constexpr char16_t kRoot[] = u"KeyInfo";
-constexpr std::u16string_view kSchemeElements[HotkeyConfig::kSchemes] = {u"KeyInfo_0", u"KeyInfo_1",
-                                                                         u"KeyInfo_2"};
 
 // The system that the files come from does not accept longer folder names.
 constexpr std::size_t kLongestFolder = 260;
@@ -79,7 +77,7 @@ bool HotkeyConfig::loadFrom(MarkupDocument& document) {
 
   for (int n = 0; n < kSchemes; ++n) {
     document.resetMainPos();
-    if (document.findElem(kSchemeElements[n])) {
+    if (document.findElem(kSchemeElements[static_cast<std::size_t>(n)])) {
       document.intoElem();
       LoadScheme(n, document);
       document.outOfElem();
@@ -119,8 +117,9 @@ bool HotkeyConfig::saveTo(MarkupDocument& document, std::uint32_t lastSaveTime) 
             document.setAttrib(u"index", decimalText(index_)) &&
             document.addElem(u"LastSaveTime", decimalText(signedTime), MarkupDocument::kChild);
   for (int n = 0; ok && n < kSchemes; ++n) {
-    ok = document.addElem(kSchemeElements[n], {}, MarkupDocument::kChild) && document.intoElem() &&
-         SaveScheme(n, document) && document.outOfElem();
+    ok = document.addElem(kSchemeElements[static_cast<std::size_t>(n)], {},
+                          MarkupDocument::kChild) &&
+         document.intoElem() && SaveScheme(n, document) && document.outOfElem();
   }
   return ok;
 }
