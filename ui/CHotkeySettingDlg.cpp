@@ -461,11 +461,10 @@ bool CHotkeySettingDlg::nativeEvent(const QByteArray& eventType, void* message, 
 
 // What is not seen is not polished, neither with the dialog nor with its skin.
 void CHotkeySettingDlg::setVisible(bool isVisible) {
-  std::vector<QWidget*> unseen;
-  if (isVisible && isFirstShow_)
-    unseen = {advanced_, olderBasic_, chatWheel_, quickChat_, dota7Chat_};
-  const brennet::WidgetsApart apart(*this, unseen);
-  QDialog::setVisible(isVisible);
+  if (!isVisible || !isFirstShow_) return QDialog::setVisible(isVisible);
+  const brennet::WidgetsApart apart(*this,
+                                    {advanced_, olderBasic_, chatWheel_, quickChat_, dota7Chat_});
+  QDialog::setVisible(true);
 }
 
 void CHotkeySettingDlg::showEvent(QShowEvent* event) {

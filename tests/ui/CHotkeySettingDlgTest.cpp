@@ -15,6 +15,7 @@
 #include "ui/pages/CAdvancedSettingWidget.h"
 #include "ui/pages/CBasicSettingWidget.h"
 #include "ui/pages/CChatRouletteSettingWidget.h"
+#include "ui/pages/ChatKeySettingWidget.h"
 
 namespace brennet::test {
 namespace {
@@ -85,6 +86,28 @@ TEST_F(CHotkeySettingDlgTest, HasItsChildrenInTheirOrder) {
               pages.end());
   EXPECT_EQ(pages, expected) << "hosts know the pages by their order: make a new one last in "
                                 "createPages(), and add it here";
+}
+
+// Those that are not seen are out of the dialog while it comes up.
+TEST_F(CHotkeySettingDlgTest, HasItsUnseenChildrenAgainOnceItIsShown) {
+  const auto unseen = [this] {
+    QStringList types;
+    for (const QObject* const child : dialog->children()) {
+      const QString type = QLatin1String(child->metaObject()->className());
+      if (type.startsWith(u'C') || type.contains(QLatin1String("Chat"))) types += type;
+    }
+    return types;
+  };
+  const QStringList before = unseen();
+  ASSERT_EQ(before.size(), 5) << qPrintable(before.join(u' '));
+  dialog->show();
+  EXPECT_EQ(unseen(), before);
+  auto& chat = page<ChatKeySettingWidget>();
+  EXPECT_TRUE(chat.isWindow());
+  EXPECT_FALSE(page<CAdvancedSettingWidget>().isWindow());
+  chat.show();
+  EXPECT_EQ(chat.findChild<QLineEdit*>()->palette().color(QPalette::Text), QColor(0xdeebfe))
+      << "with the skin";
 }
 
 TEST_F(CHotkeySettingDlgTest, HasTwoPagesInItsStack) {
