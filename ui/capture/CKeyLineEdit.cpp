@@ -29,11 +29,12 @@ int measuredWidth(const QFont& font) {
 
 }  // namespace
 
-// The width of what is always shown, in the font that was asked for last. A window has a hundred
-// fields with the same font, and each is asked several times while they are laid out. Fonts must
-// not outlive the application, so the last field takes it along.
+// The width of what is always shown, in the font that was asked for last, on a screen of that
+// density. A window has a hundred fields with the same font, and each is asked several times while
+// they are laid out. Fonts must not outlive the application, so the last field takes it along.
 struct CKeyLineEdit::ShownWidth {
   std::optional<QFont> font;
+  int dpi = 0;
   int width = 0;
 
   static std::shared_ptr<ShownWidth> ofAllFields() {
@@ -43,10 +44,11 @@ struct CKeyLineEdit::ShownWidth {
     return width;
   }
 
-  int in(const QFont& wanted) {
-    if (font != wanted) {
-      width = measuredWidth(wanted);
-      font = wanted;
+  int of(const CKeyLineEdit& field) {
+    if (font != field.font() || dpi != field.logicalDpiX()) {
+      width = measuredWidth(field.font());
+      font = field.font();
+      dpi = field.logicalDpiX();
     }
     return width;
   }
@@ -59,7 +61,7 @@ CKeyLineEdit::CKeyLineEdit(QWidget* parent)
 
 QSize CKeyLineEdit::sizeHint() const {
   ensurePolished();
-  const QSize text(shownWidth_->in(font()) + kAroundText, fontMetrics().height());
+  const QSize text(shownWidth_->of(*this) + kAroundText, fontMetrics().height());
   QStyleOptionFrame option;
   initStyleOption(&option);
   return style()

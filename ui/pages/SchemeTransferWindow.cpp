@@ -104,8 +104,8 @@ void SchemeTransferWindow::addRow(const TransferRow& row) {
   const QString note = refusal.isEmpty() ? QString() : tr("无法采用：%1").arg(refusal);
   const brennet::HotkeyScheme& result = chosen().transfer.result;
   const QString now = brennet::valueText(current_, row.part);
-  const bool isHidden = now == brennet::valueText(result, row.part);
-  const auto text = isHidden ? brennet::wholeValueText : brennet::valueText;
+  const bool looksTheSame = now == brennet::valueText(result, row.part);
+  const auto text = looksTheSame ? brennet::wholeValueText : brennet::valueText;
   auto item = std::make_unique<QTreeWidgetItem>(QStringList{
       brennet::settingText(row.part), text(current_, row.part), text(result, row.part), note});
   QFont font = form_->lstChanges->font();
