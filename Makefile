@@ -6,13 +6,14 @@ HOURS ?= 4
 CTEST_ARGS ?=
 ROWS ?=
 ROUNDS ?= 100000
+UPDATE ?=
 MUTANTS ?= 600
 SEED ?= 1
 FOLDERS ?=
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk bench bench-build fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage mutation shots translations update format lint lint-windows clean
+.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk bench bench-build bench-count fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage mutation shots translations update format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -84,6 +85,9 @@ bench-build:
 
 bench: bench-build ## measure against other libraries (BENCH_ARGS="--benchmark_filter=setDoc")
 	@tools/bench.sh build/bench
+
+bench-count: bench-build ## compare counted instructions with bench/counts.json (UPDATE=1 rewrites it)
+	@bench/count/count.py $(if $(UPDATE),--update) build/bench/bin/brennet-count bench/counts.json
 
 fuzz-build:
 	@tools/setup.sh build fuzz

@@ -14,7 +14,7 @@ declare -A packages=(
           fonts-dejavu-core fonts-wqy-microhei fonts-noto-cjk"
   [anywhere]="locales tzdata util-linux"
   [bench]="libbenchmark-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libexpat1-dev
-           libxml2-dev python3"
+           libxml2-dev valgrind python3"
   [fuzz]="clang libclang-rt-14-dev llvm"
   [lint]="clang-format clang-tidy"
   [windows]="cmake ninja-build pkg-config g++ make patch xz-utils g++-mingw-w64-i686-posix googletest
@@ -27,7 +27,7 @@ declare -A commands=(
   [build]="g++ cmake ninja lrelease lupdate"
   [test]="ctest python3 make patch xz"
   [anywhere]="localedef setpriv"
-  [bench]="python3"
+  [bench]="valgrind python3"
   [fuzz]="clang++ llvm-cov llvm-profdata"
   [lint]="clang-format clang-tidy"
   [windows]="cmake ninja make patch xz i686-w64-mingw32-g++-posix clang++ lld-link zip unzip python3

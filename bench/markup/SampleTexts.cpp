@@ -90,11 +90,15 @@ constexpr std::size_t kMegabyte = std::size_t{1} << 20U;
 
 }  // namespace
 
+SampleText sampleDocument(const char* name, std::size_t units) {
+  return inAllEncodings(name, settings(units));
+}
+
 std::span<const SampleText> sampleDocuments() {
   static const std::array<SampleText, 3> documents = {
-      inAllEncodings("20KB", settings(20'000)),
-      inAllEncodings("1MB", settings(kMegabyte)),
-      inAllEncodings("16MB", settings(16 * kMegabyte)),
+      sampleDocument("20KB", 20'000),
+      sampleDocument("1MB", kMegabyte),
+      sampleDocument("16MB", 16 * kMegabyte),
   };
   return documents;
 }

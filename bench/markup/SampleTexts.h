@@ -19,6 +19,10 @@ struct SampleText {
 // attributes and a few Chinese phrases. 20 KB, 1 MB and 16 MB of UTF-8.
 [[nodiscard]] std::span<const SampleText> sampleDocuments();
 
+// Such a document of `units` UTF-16 units or a little more; always the same for the same size.
+// `name` has to outlive it.
+[[nodiscard]] SampleText sampleDocument(const char* name, std::size_t units);
+
 // Texts without markup: Chinese characters with none, with half, and with nine tenths of ASCII.
 [[nodiscard]] std::span<const SampleText> sampleChinese();
 

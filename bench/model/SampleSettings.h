@@ -10,6 +10,9 @@ namespace brennet::bench {
 const std::string& sampleBytes();
 HotkeyConfig& sampleConfig();
 
+// The bytes of the sample of the game's preference file.
+const std::string& samplePreferences();
+
 // The path of a file with the sample's bytes in a scratch folder. The folder is the user's profile
 // as well, without a game in it, so that loading and saving write nothing but the settings file.
 const std::u16string& sampleFile();

@@ -1,12 +1,8 @@
 // Loading and saving the settings, beside what the markup layer alone needs for the same file.
 
 #include <benchmark/benchmark.h>
-#include <stdlib.h>
 
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <cstdlib>
 
 #include "bench/model/SampleSettings.h"
 #include "markup/DeclaredEncoding.h"
@@ -20,67 +16,12 @@ namespace {
 
 constexpr std::uint32_t kSaveTime = 1700000000;
 
-[[noreturn]] void fail(const char* what) {
-  std::fprintf(stderr, "cannot %s\n", what);
-  std::abort();
-}
-
-// A folder that is there as long as the program runs.
-class ScratchFolder {
- public:
-  ScratchFolder() {
-    std::string name = std::filesystem::temp_directory_path() / "brennet-bench-XXXXXX";
-    if (mkdtemp(name.data()) == nullptr) fail("make a scratch folder");
-    path_ = name;
-    setenv("HOME", name.c_str(), 1);
-  }
-  ~ScratchFolder() {
-    std::error_code error;
-    std::filesystem::remove_all(path_, error);
-  }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-  [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
-
 // The document that saving the sample gives.
 std::u16string savedText() {
   MarkupDocument document;
-  if (!sampleConfig().saveTo(document, kSaveTime)) fail("build the settings document");
+  if (!sampleConfig().saveTo(document, kSaveTime)) std::abort();
   return document.doc();
 }
-
-}  // namespace
-
-const std::string& sampleBytes() {
-  static const std::string bytes = [] {
-    std::ifstream file(BRENNET_SAMPLE_DATA "/KeyInfo.xml", std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(file), {});
-  }();
-  return bytes;
-}
-
-const std::u16string& sampleFile() {
-  static const ScratchFolder folder;
-  static const std::u16string name = [] {
-    const auto path = folder.path() / "KeyInfo.xml";
-    std::ofstream(path, std::ios::binary) << sampleBytes();
-    return path.u16string();
-  }();
-  return name;
-}
-
-HotkeyConfig& sampleConfig() {
-  static HotkeyConfig config;
-  if (!config.loaded() && !config.Load(sampleFile())) fail("load the sample settings");
-  return config;
-}
-
-namespace {
 
 void loadConfig(benchmark::State& state) {
   const std::u16string& file = sampleFile();
