@@ -13,7 +13,7 @@ FOLDERS ?=
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk bench bench-build bench-count fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage mutation shots translations update format lint lint-windows clean
+.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk bench bench-build bench-count bench-windows fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage mutation shots translations update format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -85,6 +85,15 @@ bench-build:
 
 bench: bench-build ## measure against other libraries (BENCH_ARGS="--benchmark_filter=setDoc")
 	@tools/bench.sh build/bench
+
+bench-windows: ## the same for 32-bit Windows, under Wine, with what of the others runs there
+	@tools/setup.sh build bench windows
+	@tools/windows/wine.sh
+	@tools/windows/qt.sh
+	@tools/windows/peers.sh
+	@tools/windows/configure.sh bench-windows
+	@cmake --build --preset bench-windows -j $(JOBS)
+	@tools/bench.sh build/bench-windows tools/windows/run.sh
 
 bench-count: bench-build ## compare counted instructions with bench/counts.json (UPDATE=1 rewrites it)
 	@bench/count/count.py $(if $(UPDATE),--update) build/bench/bin/brennet-count bench/counts.json

@@ -11,9 +11,11 @@ set(CMAKE_CXX_FLAGS_INIT "-msse2 -mfpmath=sse")
 
 # The Qt for the target, as tools/windows/qt.sh builds it.
 set(BRENNET_QT_DIR "" CACHE PATH "The folder of Qt for 32-bit Windows")
-list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES BRENNET_QT_DIR)
+# What benchmarks are linked with, as tools/windows/peers.sh builds it.
+set(BRENNET_PEERS_DIR "" CACHE PATH "The folder of the benchmarks' peers for 32-bit Windows")
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES BRENNET_QT_DIR BRENNET_PEERS_DIR)
 
-set(CMAKE_FIND_ROOT_PATH ${BRENNET_QT_DIR} /usr/i686-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH ${BRENNET_QT_DIR} ${BRENNET_PEERS_DIR} /usr/i686-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

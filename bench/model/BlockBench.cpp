@@ -1,10 +1,11 @@
-// Filling a block, beside zeroing it and converting its phrases with ICU.
+// Filling a block, beside zeroing it and having the system convert its phrases.
 
 #include <benchmark/benchmark.h>
-#include <unicode/ustring.h>
 
 #include <cstring>
+#include <string>
 
+#include "bench/markup/text/SystemText.h"
 #include "bench/model/AllocationCount.h"
 #include "bench/model/SampleSettings.h"
 #include "model/BlockFiller.h"
@@ -28,11 +29,7 @@ BENCHMARK(fill)->Name("fillBlock/brennet/sample");
 char* appendPhrases(const Phrases& phrases, char* at, const char* end) {
   for (const auto& phrase : phrases) {
     if (phrase) {
-      int32_t length = 0;
-      UErrorCode error = U_ZERO_ERROR;
-      u_strToUTF8(at, static_cast<int32_t>(end - at), &length, phrase->data(),
-                  static_cast<int32_t>(phrase->size()), &error);
-      at += length;
+      at += utf8BySystem({phrase->data(), phrase->size()}, {at, end});
     }
     *at++ = '\0';
   }
@@ -51,7 +48,11 @@ void zeroAndConvert(benchmark::State& state) {
     benchmark::ClobberMemory();
   }
 }
-BENCHMARK(zeroAndConvert)->Name("fillBlock/zero+ICU/sample");
+const bool registered = [] {
+  const std::string name = "fillBlock/zero+" + std::string(kSystemText) + "/sample";
+  benchmark::RegisterBenchmark(name.c_str(), zeroAndConvert);
+  return true;
+}();
 
 }  // namespace
 }  // namespace brennet::bench

@@ -1,11 +1,12 @@
 #include "bench/model/SampleSettings.h"
 
-#include <stdlib.h>
-
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
+#include <string>
 
 namespace brennet::bench {
 namespace {
@@ -15,14 +16,25 @@ namespace {
   std::abort();
 }
 
+// A new folder for temporary files.
+std::filesystem::path newFolder() {
+  const auto parent = std::filesystem::temp_directory_path();
+  std::random_device random;
+  constexpr int kTries = 100;
+  for (int i = 0; i < kTries; ++i) {
+    auto folder = parent / ("brennet-bench-" + std::to_string(random()));
+    if (std::filesystem::create_directory(folder)) return folder;
+  }
+  fail("make a scratch folder");
+}
+
 // A folder that is there as long as the program runs.
 class ScratchFolder {
  public:
-  ScratchFolder() {
-    std::string name = std::filesystem::temp_directory_path() / "brennet-bench-XXXXXX";
-    if (mkdtemp(name.data()) == nullptr) fail("make a scratch folder");
-    path_ = name;
-    setenv("HOME", name.c_str(), 1);
+  ScratchFolder() : path_(newFolder()) {
+#ifndef _WIN32
+    setenv("HOME", path_.c_str(), 1);
+#endif
   }
   ~ScratchFolder() {
     std::error_code error;
@@ -31,7 +43,9 @@ class ScratchFolder {
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
 
-  [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+  [[nodiscard]] const std::filesystem::path& path() const {
+    return path_;
+  }
 
  private:
   std::filesystem::path path_;

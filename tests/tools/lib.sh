@@ -5,7 +5,7 @@
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 # A copy, because not everybody may read every checkout.
-cp -r "$1/tools" "$folder/tools"
+cp -r "$1/tools" "$1/cmake" "$folder"
 # shellcheck disable=SC2034  # for those who source this
 scripts=$folder/tools/windows
 export BRENNET_TOOLCHAIN_DIR=$folder/toolchain

@@ -24,6 +24,7 @@ in_home=$(env -u BRENNET_TOOLCHAIN_DIR XDG_CACHE_HOME=relative "$scripts/qt.sh" 
 stand_in df 'echo Avail; echo 100'
 refuses 'needs 3000 MiB of free space and has 100;' with_stand_ins "$scripts/qt.sh"
 refuses 'needs 2500 MiB of free space and has 100;' with_stand_ins "$scripts/wine.sh"
+refuses 'needs 200 MiB of free space and has 100;' with_stand_ins "$scripts/peers.sh"
 is_clean
 without_stand_ins
 
@@ -33,6 +34,8 @@ stand_in apt-get 'case "$*" in
   *) echo "E: no network" >&2; exit 100 ;;
 esac'
 refuses '"Qt: fetch the package index" failed. Is there a network?' with_stand_ins "$scripts/qt.sh"
+refuses '"Peers: fetch the package index" failed. Is there a network?' \
+  with_stand_ins "$scripts/peers.sh"
 is_clean
 stand_in apt-get 'case "$*" in
   indextargets*) echo "http://none.invalid stable $(. /etc/os-release; echo $VERSION_CODENAME) main" ;;
@@ -40,6 +43,8 @@ stand_in apt-get 'case "$*" in
 esac'
 refuses '"Qt: fetch the source of Qt 5.15.8, 50 MB" failed. Is there a network?' \
   with_stand_ins "$scripts/qt.sh"
+refuses '"Peers: fetch the sources of the peers, 2 MB" failed. Is there a network?' \
+  with_stand_ins "$scripts/peers.sh"
 is_clean
 stand_in apt-get 'case "$*" in
   indextargets*) echo "http://none.invalid stable $(. /etc/os-release; echo $VERSION_CODENAME) main" ;;

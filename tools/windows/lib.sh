@@ -160,6 +160,29 @@ own_package_sources() { # deb|deb-src
       }'
 }
 
+# Fetches the sources of packages of the distribution into the working folder, with a configuration
+# of apt of its own below "work_dir", so that the machine's stays as it is. apt compares the files
+# with the signed index.
+fetch_sources() { # FOR WHAT PACKAGE...
+  local for=$1 what=$2 apt=$work_dir/apt
+  shift 2
+  mkdir -p "$apt/lists/partial" "$apt/archives/partial"
+  own_package_sources deb-src >"$apt/sources.list"
+  [[ -s $apt/sources.list ]] || die "apt knows no package source; add the distribution's to /etc/apt."
+  local options=(-o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=-
+    -o "Dir::State::Lists=$apt/lists" -o "Dir::Cache=$apt" -o APT::Sandbox::User=
+    -o Acquire::Languages=none)
+  local log=$work_dir/fetch.log hint='Is there a network?'
+  logged "$log" "$for: fetch the package index" \
+    apt-get "${options[@]}" update -qq -o APT::Update::Error-Mode=any
+  progress=count_fetched logged "$log" "$for: fetch $what" \
+    apt-get "${options[@]}" source -qq --download-only --only-source "$@"
+}
+
+count_fetched() {
+  echo "$(du -sm "$work_dir" | cut -f 1) MB"
+}
+
 # The name of this machine's release, such as bookworm.
 own_suite() {
   (. /etc/os-release && echo "$VERSION_CODENAME")

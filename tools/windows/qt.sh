@@ -49,33 +49,16 @@ first_missing() { # FOLDER
   done
 }
 
-# Fetches the source with a configuration of apt of its own, so that the machine's stays as it is.
-# apt compares the file with the signed index.
 fetch_source() {
-  local apt=$work_dir/apt
-  mkdir -p "$apt/lists/partial" "$apt/archives/partial"
-  own_package_sources deb-src >"$apt/sources.list"
-  [[ -s $apt/sources.list ]] || die "apt knows no package source; add the distribution's to /etc/apt."
-  local options=(-o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=-
-    -o "Dir::State::Lists=$apt/lists" -o "Dir::Cache=$apt" -o APT::Sandbox::User=
-    -o Acquire::Languages=none)
-  local log=$work_dir/fetch.log hint='Is there a network?'
-  logged "$log" "Qt: fetch the package index" \
-    apt-get "${options[@]}" update -qq -o APT::Update::Error-Mode=any
   cd "$work_dir"
-  progress=count_fetched logged "$log" "Qt: fetch the source of Qt $version, 50 MB" \
-    apt-get "${options[@]}" source -qq --download-only --only-source "$package"
+  fetch_sources Qt "the source of Qt $version, 50 MB" "$package"
   local tarball
   tarball=$(compgen -G "${package}_${version}*.orig.tar.xz") ||
     die "This distribution has no $package $version, which Debian 12 has."
   mkdir source
-  hint='Is the disk full?'
+  local log=$work_dir/fetch.log hint='Is the disk full?'
   logged "$log" "Qt: unpack the source" tar -xJf "$tarball" -C source --strip-components=1
   logged "$log" "Qt: take over the distribution's fixes" apply_backports
-}
-
-count_fetched() {
-  echo "$(du -sm "$work_dir" | cut -f 1) MB"
 }
 
 # The fixes, for security above all, that the distribution took over from later versions. They come

@@ -63,6 +63,7 @@ run_in_root() {
       -o "lowerdir=$wine_dir/root,upperdir=$layers/upper,workdir=$layers/work" "$root"
     mount -t proc proc "$root/proc"
     mount --rbind /dev "$root/dev"
+    mount --rbind /sys "$root/sys"  # Wine looks there for processors
     for folder in "$checkout" "$toolchain_dir" "$PWD"; do
       # What is there already is part of Wine, or was mounted with a folder above it.
       [[ ! -e $root$folder ]] || continue
