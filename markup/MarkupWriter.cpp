@@ -16,6 +16,28 @@ constexpr std::size_t kMarks = 8;  // room for all marks that one operation writ
 
 }  // namespace
 
+// Makes room for that many units, and for kMarks behind a value that gets longer by escaping.
+// Inline like the next one, because there is nearly always room.
+inline void MarkupWriter::reserve(std::size_t units) {
+  if (text_.size() - length_ < units) grow(units);
+}
+
+// There is room for `text`. Inline and without a call, as nearly all that is written are a few
+// units.
+inline void MarkupWriter::put(std::u16string_view text) {
+  char16_t* at = text_.data() + length_;
+  const char16_t* from = text.data();
+  std::size_t rest = text.size();
+  for (; rest >= 4; rest -= 4, at += 4, from += 4) std::memcpy(at, from, 4 * sizeof(char16_t));
+  if ((rest & 2U) != 0) {
+    std::memcpy(at, from, 2 * sizeof(char16_t));
+    at += 2;
+    from += 2;
+  }
+  if ((rest & 1U) != 0) *at = *from;
+  length_ += text.size();
+}
+
 MarkupWriter::MarkupWriter() : text_(kUsualUnits, u'\0') {
   elements_.reserve(kUsualElements);
   open_.reserve(kUsualDepth);
@@ -81,27 +103,8 @@ void MarkupWriter::endStartTag() {
   isInStartTag_ = false;
 }
 
-// Makes room for that many units, and for kMarks behind a value that gets longer by escaping.
-void MarkupWriter::reserve(std::size_t units) {
-  if (text_.size() - length_ < units) {
-    text_.resize(std::max(2 * text_.size(), length_ + units));
-  }
-}
-
-// There is room for `text`. Inline and without a call, as nearly all that is written are a few
-// units.
-inline void MarkupWriter::put(std::u16string_view text) {
-  char16_t* at = text_.data() + length_;
-  const char16_t* from = text.data();
-  std::size_t rest = text.size();
-  for (; rest >= 4; rest -= 4, at += 4, from += 4) std::memcpy(at, from, 4 * sizeof(char16_t));
-  if ((rest & 2U) != 0) {
-    std::memcpy(at, from, 2 * sizeof(char16_t));
-    at += 2;
-    from += 2;
-  }
-  if ((rest & 1U) != 0) *at = *from;
-  length_ += text.size();
+void MarkupWriter::grow(std::size_t units) {
+  text_.resize(std::max(2 * text_.size(), length_ + units));
 }
 
 // There is room for `value` as it is.

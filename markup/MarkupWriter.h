@@ -15,8 +15,7 @@ namespace brennet {
 // once, which is many times as fast.
 //
 // Names have to be valid and to outlive the writer; values may hold anything, but all is less than
-// 2^32 units. Any operation may
-// throw std::bad_alloc; the writer is of no use then.
+// 2^32 units. Any operation may throw std::bad_alloc; the writer is of no use then.
 class MarkupWriter {
  public:
   MarkupWriter();
@@ -49,6 +48,7 @@ class MarkupWriter {
   };
 
   void reserve(std::size_t units);
+  void grow(std::size_t units);
   void put(std::u16string_view text);
   void putValue(std::u16string_view value);
   void endStartTag();
