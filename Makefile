@@ -7,6 +7,7 @@ CTEST_ARGS ?=
 ROWS ?=
 ROUNDS ?= 100000
 UPDATE ?=
+RUNS ?= 1
 MUTANTS ?= 600
 SEED ?= 1
 FOLDERS ?=
@@ -83,17 +84,18 @@ bench-build:
 	@cmake --preset bench
 	@cmake --build --preset bench -j $(JOBS)
 
-bench: bench-build ## measure against other libraries (BENCH_ARGS="--benchmark_filter=setDoc")
-	@tools/bench.sh build/bench
+bench: bench-build ## measure against other libraries (RUNS=3 BENCH_ARGS="--benchmark_filter=setDoc")
+	@tools/setup.sh report
+	@RUNS=$(RUNS) tools/bench.sh build/bench
 
 bench-windows: ## the same for 32-bit Windows, under Wine, with what of the others runs there
-	@tools/setup.sh build bench windows
+	@tools/setup.sh build bench report windows
 	@tools/windows/wine.sh
 	@tools/windows/qt.sh
 	@tools/windows/peers.sh
 	@tools/windows/configure.sh bench-windows
 	@cmake --build --preset bench-windows -j $(JOBS)
-	@tools/bench.sh build/bench-windows tools/windows/run.sh
+	@RUNS=$(RUNS) tools/bench.sh build/bench-windows tools/windows/run.sh
 
 bench-count: bench-build ## compare counted instructions with bench/counts.json (UPDATE=1 rewrites it)
 	@bench/count/count.py $(if $(UPDATE),--update) build/bench/bin/brennet-count bench/counts.json

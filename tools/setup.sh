@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing for the given needs: tools/setup.sh build test ...
 #
-# Needs: build, test, anywhere, bench, fuzz, lint, windows, wine, cache. On Debian and its
+# Needs: build, test, anywhere, bench, report, fuzz, lint, windows, wine, cache. On Debian and its
 # derivatives it looks packages up with dpkg and installs them with apt-get, as root or if sudo asks
 # for no password; otherwise it prints the command to run and exits with status 1. On other systems
 # only the commands are checked.
@@ -15,6 +15,7 @@ declare -A packages=(
   [anywhere]="locales tzdata util-linux"
   [bench]="libbenchmark-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libexpat1-dev
            libxml2-dev valgrind python3"
+  [report]="python3-matplotlib"
   [fuzz]="clang libclang-rt-14-dev llvm"
   [lint]="clang-format clang-tidy"
   [windows]="cmake ninja-build pkg-config g++ make patch xz-utils g++-mingw-w64-i686-posix googletest
@@ -28,6 +29,7 @@ declare -A commands=(
   [test]="ctest python3 make patch xz"
   [anywhere]="localedef setpriv"
   [bench]="valgrind python3"
+  [report]="python3"
   [fuzz]="clang++ llvm-cov llvm-profdata"
   [lint]="clang-format clang-tidy"
   [windows]="cmake ninja make patch xz i686-w64-mingw32-g++-posix clang++ lld-link zip unzip python3
@@ -37,7 +39,7 @@ declare -A commands=(
 )
 
 usage() {
-  echo "usage: tools/setup.sh {build|test|anywhere|bench|fuzz|lint|windows|wine|cache}..." >&2
+  echo "usage: tools/setup.sh {build|test|anywhere|bench|report|fuzz|lint|windows|wine|cache}..." >&2
   exit 2
 }
 
