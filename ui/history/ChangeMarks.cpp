@@ -63,7 +63,8 @@ ChangeMarks::Row& ChangeMarks::addRow(QWidget& control, Was was) {
                                 .menu = {},
                                 .ownToolTip = control.toolTip(),
                                 .shownToolTip = control.toolTip(),
-                                .ownDescription = control.accessibleDescription()});
+                                .ownDescription = control.accessibleDescription(),
+                                .line = {}});
 }
 
 ChangeMarks::Row* ChangeMarks::findRow(const QObject* control) {
@@ -84,15 +85,23 @@ void ChangeMarks::refresh(QWidget& control) {
 // Whoever else has changed the tool tip in the meantime keeps it, with the line below.
 void ChangeMarks::refresh(Row& row) {
   const std::optional<QString> was = row.was();
-  const QString line = was ? wasText(*was) : QString();
-  setChangeLine(*row.control, line);
-  if (std::exchange(row.isMarked, was.has_value()) != was.has_value()) row.control->update();
+  QString line = was ? wasText(*was) : QString();
+  const bool hasOthersToolTip = !row.menu && row.control->toolTip() != row.shownToolTip;
+  if (hasOthersToolTip) row.ownToolTip = row.control->toolTip();
+  if (line == row.line && !hasOthersToolTip) return;  // nearly always
+  if (line.isEmpty() != row.line.isEmpty()) row.control->update();
+  row.line = std::move(line);
+  show(row);
+}
+
+void ChangeMarks::show(Row& row) {
+  setChangeLine(*row.control, row.line);
   const QString& own = row.ownDescription.isEmpty() ? row.ownToolTip : row.ownDescription;
-  row.control->setAccessibleDescription(was ? joinedLines(own, line) : row.ownDescription);
+  row.control->setAccessibleDescription(row.isMarked() ? joinedLines(own, row.line)
+                                                       : row.ownDescription);
   if (row.menu) return;
-  if (row.control->toolTip() != row.shownToolTip) row.ownToolTip = row.control->toolTip();
-  row.shownToolTip = row.ownToolTip;
-  if (!line.isEmpty()) row.shownToolTip = plainToolTip(joinedLines(row.ownToolTip, line));
+  row.shownToolTip =
+      row.isMarked() ? plainToolTip(joinedLines(row.ownToolTip, row.line)) : row.ownToolTip;
   row.control->setToolTip(row.shownToolTip);
 }
 
@@ -106,7 +115,7 @@ bool ChangeMarks::eventFilter(QObject* watched, QEvent* event) {
 
 bool ChangeMarks::handle(Row& row, QEvent& event) {
   if (event.type() == QEvent::Paint) {
-    if (!row.isMarked) return false;
+    if (!row.isMarked()) return false;
     static_cast<QObject*>(row.control)->event(&event);
     drawCorner(*row.control);
     return true;

@@ -44,13 +44,16 @@ class ChangeMarks : public QObject {
     std::optional<KeyFieldMenu> menu;  // for keys
     QString ownToolTip, shownToolTip;  // of other controls
     QString ownDescription;            // for screen readers
-    bool isMarked = false;
+    QString line;                      // what it was; empty where it is as it was
+
+    [[nodiscard]] bool isMarked() const { return !line.isEmpty(); }
   };
 
   Row& addRow(QWidget& control, Was was);
   [[nodiscard]] Row* findRow(const QObject* control);
   void refresh(QWidget& control);
   static void refresh(Row& row);
+  static void show(Row& row);
   bool handle(Row& row, QEvent& event);
 
   std::vector<Row> rows_;
