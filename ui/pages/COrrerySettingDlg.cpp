@@ -15,8 +15,6 @@ COrrerySettingDlg::COrrerySettingDlg(QWidget* parent)
   brennet::setTabOrderOfLayouts(*this);
   setWindowFlag(Qt::FramelessWindowHint);
   setAttribute(Qt::WA_StyledBackground);  // the skin's border, not only its colour
-  // Without its skin the window is plain, but just as usable.
-  brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"));
   connect(form_->chkShowFriendsMana, &QCheckBox::toggled, this,
           &COrrerySettingDlg::chkShowFriendsMana);
   connect(form_->btnClose, &QPushButton::clicked, this, &COrrerySettingDlg::accept);
@@ -44,5 +42,9 @@ bool COrrerySettingDlg::nativeEvent(const QByteArray& eventType, void* message, 
 
 void COrrerySettingDlg::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
+  // Most players never open it. Without its skin the window is plain, but just as usable.
+  if (styleSheet().isEmpty()) {
+    brennet::loadStyleSheet(*this, QStringLiteral(":/skin/war3key.qss"));
+  }
   fit_->comeUp(*event);
 }
