@@ -137,6 +137,12 @@ void utf8ToUtf16(std::string_view bytes, std::u16string& out) {
   }
 }
 
+std::string utf8Of(std::u16string_view text) {
+  std::string bytes(utf8Length(text), '\0');
+  utf16ToUtf8(text, bytes);
+  return bytes;
+}
+
 Utf8Character firstUtf8Character(std::string_view bytes) {
   using State = Utf8Character::State;
   const auto first = static_cast<unsigned char>(bytes[0]);

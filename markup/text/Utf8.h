@@ -15,6 +15,9 @@ namespace brennet {
 // written to as well. Never allocates.
 std::size_t utf16ToUtf8(std::u16string_view text, std::span<char> out);
 
+// `text` in UTF-8, with U+FFFD for unpaired surrogates.
+[[nodiscard]] std::string utf8Of(std::u16string_view text);
+
 // Appends `bytes`, read as UTF-8, to `out`. Strict: overlong forms, surrogates and values above
 // U+10FFFF are errors. Each maximal part that cannot begin a character becomes U+FFFD.
 void utf8ToUtf16(std::string_view bytes, std::u16string& out);

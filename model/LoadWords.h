@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "model/LoadReport.h"
+
+// What a load had to drop, in plain English and UTF-8, for whoever maintains a settings file.
+namespace brennet {
+
+// A key as a player reads it, or its number where it has no name: "Alt + F1", "key 64512".
+[[nodiscard]] std::string nameOrNumber(KeyWord key);
+
+// Why a key was dropped: "Q is hero skill 1".
+[[nodiscard]] std::string reasonText(const DroppedKey& dropped);
+
+// Where it is, what it was for and why it was dropped, on one line: "line 12, column 5: setting
+// group 1, wheel up: Q is hero skill 1".
+[[nodiscard]] std::string lineText(const DroppedKey& dropped);
+
+}  // namespace brennet
