@@ -42,23 +42,26 @@ std::string nameOrNumber(KeyWord key) {
   return "key " + std::to_string(key.raw());
 }
 
-std::string reasonText(const DroppedKey& dropped) {
-  if (!dropped.conflict) return quoted(dropped.text) + " is no key";
-  const KeyConflict& conflict = *dropped.conflict;
-  const std::string key = nameOrNumber(dropped.key);
+std::string conflictText(KeyWord key, const KeyConflict& conflict) {
+  const std::string name = nameOrNumber(key);
   const std::string number = std::to_string(conflict.holder.index + 1);
   switch (conflict.reason) {
     case Reason::CannotBeBound:
       break;
     case Reason::Held:
     case Reason::SentByItself:
-      return key + " is " + keyName(conflict.holder);
+      return name + " is " + keyName(conflict.holder);
     case Reason::ItemPresetKey:
-      return key + " is item " + number + " of item preset " + std::to_string(conflict.choice + 1);
+      return name + " is item " + number + " of item preset " + std::to_string(conflict.choice + 1);
     case Reason::QuickChatSetKey:
-      return key + " sends quick-chat phrase " + number;
+      return name + " sends quick-chat phrase " + number;
   }
-  return key + " cannot be bound";
+  return name + " cannot be bound";
+}
+
+std::string reasonText(const DroppedKey& dropped) {
+  if (!dropped.conflict) return quoted(dropped.text) + " is no key";
+  return conflictText(dropped.key, *dropped.conflict);
 }
 
 std::string lineText(const DroppedKey& dropped) {

@@ -10,7 +10,10 @@ namespace brennet {
 // A key as a player reads it, or its number where it has no name: "Alt + F1", "key 64512".
 [[nodiscard]] std::string nameOrNumber(KeyWord key);
 
-// Why a key was dropped: "Q is hero skill 1".
+// What keeps `key` from being somebody else's: "Q is hero skill 1", "RETURN cannot be bound".
+[[nodiscard]] std::string conflictText(KeyWord key, const KeyConflict& conflict);
+
+// Why a key was dropped: the same, or "\"x\" is no key".
 [[nodiscard]] std::string reasonText(const DroppedKey& dropped);
 
 // Where it is, what it was for and why it was dropped, on one line: "line 12, column 5: setting

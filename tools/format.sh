@@ -6,5 +6,5 @@ mode=(-i)
 if [[ ${1:-} == --check ]]; then
   mode=(--dry-run --Werror)
 fi
-find platform keys markup gameside model ui host samples tests bench fuzz tools \
+find platform keys markup gameside model cli ui host samples tests bench fuzz tools \
   \( -name '*.h' -o -name '*.cpp' \) -print0 | xargs -0 -r clang-format "${mode[@]}"

@@ -9,7 +9,7 @@ set -euo pipefail
 
 declare -A packages=(
   [build]="g++ cmake ninja-build pkg-config libicu-dev qtbase5-dev
-           qttools5-dev-tools"
+           qttools5-dev-tools libcli11-dev nlohmann-json3-dev"
   [test]="qtbase5-private-dev libgtest-dev libgmock-dev clang python3 make patch xz-utils
           fonts-dejavu-core fonts-wqy-microhei fonts-noto-cjk"
   [anywhere]="locales tzdata util-linux"
@@ -19,7 +19,7 @@ declare -A packages=(
   [fuzz]="clang libclang-rt-14-dev llvm"
   [lint]="clang-format clang-tidy"
   [windows]="cmake ninja-build pkg-config g++ make patch xz-utils g++-mingw-w64-i686-posix googletest
-             clang lld llvm zip unzip python3 qttools5-dev-tools"
+             clang lld llvm zip unzip python3 qttools5-dev-tools libcli11-dev nlohmann-json3-dev"
   [wine]="mmdebstrap arch-test"
   [cache]="ccache"
 )

@@ -22,6 +22,7 @@ BELOW = {
     "gameside/dota7": ("keys", "markup/text", "platform"),
     "model": ("gameside/prefs", "keys", "markup", "markup/text", "platform"),
 }
+BELOW["cli"] = (*BELOW["model"], "model")
 BELOW["ui/window"] = (*BELOW["model"], "gameside/dota7", "model")
 BELOW["ui/capture"] = (*BELOW["ui/window"], "ui/window")
 BELOW["ui/chat"] = (*BELOW["ui/capture"], "ui/capture")

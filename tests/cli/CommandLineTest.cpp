@@ -1,0 +1,152 @@
+#include "cli/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <sstream>
+
+#include "brennet/HotkeyBlock.h"
+#include "tests/support/TempFolder.h"
+#include "tests/support/TestData.h"
+
+namespace brennet::cli {
+namespace {
+
+struct Result {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+Result run(std::vector<std::string> arguments) {
+  std::ostringstream out;
+  std::ostringstream err;
+  const int status = runCommandLine(std::move(arguments), out, err);
+  return {status, out.str(), err.str()};
+}
+
+class CommandLineTest : public testing::Test {
+ protected:
+  // A file of the folder with these bytes; its name in UTF-8.
+  std::string file(const std::u8string& name, const std::string& bytes) {
+    const std::filesystem::path path = folder_.path() / name;
+    test::writeBytes(path, bytes);
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+  }
+  std::string sample() {
+    return file(u8"\u8bbe\u7f6e \u00e4.xml", test::readBytes(test::sampleData("KeyInfo.xml")));
+  }
+
+  test::TempFolder folder_;
+};
+
+TEST_F(CommandLineTest, HelpsWhoAsks) {
+  const Result help = run({"--help"});
+  EXPECT_EQ(help.status, 0);
+  for (const char* command : {"check", "record", "explain", "keys"}) {
+    EXPECT_NE(help.out.find(command), std::string::npos) << command;
+    const Result more = run({command, "--help"});
+    EXPECT_EQ(more.status, 0);
+    EXPECT_NE(more.out.find(std::string("brennet ") + command), std::string::npos) << more.out;
+    EXPECT_NE(more.out.find("--json"), std::string::npos) << command;
+  }
+  EXPECT_EQ(run({"--version"}).out.substr(0, 8), "brennet ");
+}
+
+TEST_F(CommandLineTest, RefusesWhatItDoesNotUnderstand) {
+  for (const auto& arguments : std::vector<std::vector<std::string>>{{},
+                                                                     {"dance"},
+                                                                     {"check"},
+                                                                     {"explain"},
+                                                                     {"record", "a", "b"},
+                                                                     {"keys", "--scheme", "1"},
+                                                                     {"keys", "f", "--scheme", "4"},
+                                                                     {"check", "--loud", "f"}}) {
+    const Result result = run(arguments);
+    EXPECT_EQ(result.status, 3);
+    EXPECT_NE(result.err, "");
+    EXPECT_EQ(result.out, "");
+  }
+}
+
+TEST_F(CommandLineTest, ChecksSettingsFiles) {
+  const std::string name = sample();
+  const Result result = run({"check", name});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_NE(result.out.find(name + ":4:1: missing: setting group 1: <ShowFManaFlag> is missing\n"),
+            std::string::npos)
+      << result.out;
+  EXPECT_NE(result.out.find("a load accepts it (gb2312), 12 findings\n"), std::string::npos);
+  EXPECT_EQ(run({"check", name, file(u8"broken", "<KeyInfo>")}).status, 2);
+}
+
+TEST_F(CommandLineTest, AnswersInJson) {
+  const std::string name = sample();
+  const auto checks = nlohmann::json::parse(run({"check", "--json", name}).out);
+  ASSERT_EQ(checks.size(), 1U);
+  EXPECT_EQ(checks[0]["file"], name);
+  EXPECT_EQ(checks[0]["loadable"], true);
+  EXPECT_EQ(checks[0]["findings"].size(), 12U);
+  EXPECT_EQ(checks[0]["findings"][0]["kind"], "missing");
+  EXPECT_EQ(checks[0]["findings"][0]["line"], 4);
+
+  const auto record = nlohmann::json::parse(run({"record", "--json", name}).out);
+  EXPECT_EQ(record["size"], 1807);
+  EXPECT_EQ(record["bytes"].get<std::string>().substr(0, 8), "0f070000");
+
+  const auto keys = nlohmann::json::parse(run({"keys", "--json"}).out);
+  EXPECT_EQ(keys[0]["stored"], keys[0]["virtualKey"].get<int>() * 256);
+  const auto uses = nlohmann::json::parse(run({"keys", "--json", name, "--scheme", "1"}).out);
+  EXPECT_FALSE(uses.empty());
+}
+
+TEST_F(CommandLineTest, MakesARecordAndExplainsIt) {
+  const std::string name = sample();
+  const std::string record = file(u8"record \u8bb0\u5f55", "");
+  EXPECT_EQ(run({"record", name, "--output", record}).out, "");
+  const Result explained = run({"explain", record});
+  EXPECT_EQ(explained.status, 0);
+  EXPECT_NE(explained.out.find("Q (quick cast)\n"), std::string::npos) << explained.out;
+  const auto fields = nlohmann::json::parse(run({"explain", "--json", record}).out);
+  EXPECT_EQ(fields[0]["name"], "size");
+  EXPECT_EQ(fields[0]["meaning"], "1807");
+}
+
+TEST_F(CommandLineTest, RefusesFilesThatAreNoRecord) {
+  const std::string bytes[] = {"", "abc", std::string("\3\0\0\0", 4), std::string("\5\0\0\0", 4)};
+  for (const std::string& content : bytes) {
+    const Result result = run({"explain", file(u8"record", content)});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_NE(result.err.find("no record"), std::string::npos) << result.err;
+  }
+  EXPECT_EQ(run({"explain", file(u8"record", std::string("\4\0\0\0", 4))}).status, 0);
+}
+
+TEST_F(CommandLineTest, SaysWhichFileCannotBeUsed) {
+  const std::string missing = file(u8"there", "") + "-not";
+  const std::string folder = folder_.path().string();
+  for (const char* command : {"check", "record", "explain", "keys"}) {
+    for (const std::string& name : {missing, folder}) {
+      const Result result = run({command, name});
+      EXPECT_EQ(result.status, 2) << command;
+      EXPECT_EQ(result.err, "brennet: " + name + ": cannot be read\n");
+    }
+  }
+  const std::string foreign = file(u8"foreign", "<html/>");
+  EXPECT_EQ(run({"record", foreign}).status, 2);
+  EXPECT_EQ(run({"record", sample(), "-o", folder + "/no/folder"}).status, 2);
+}
+
+TEST_F(CommandLineTest, ListsKeysAndWhoUsesThem) {
+  const std::string names = run({"keys"}).out;
+  EXPECT_NE(names.find("Q                 81  20736\n"), std::string::npos) << names;
+  const std::string uses = run({"keys", sample(), "--scheme", "1"}).out;
+  EXPECT_NE(uses.find("Q                        20736  hero skill 1\n"), std::string::npos) << uses;
+  EXPECT_NE(uses.find("quick-chat phrase 8\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace brennet::cli
