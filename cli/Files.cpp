@@ -1,14 +1,18 @@
 #include "cli/Files.h"
 
+#include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
+#include "brennet/HotkeyBlock.h"
 #include "cli/Commands.h"
 #include "markup/DeclaredEncoding.h"
 #include "markup/MarkupDocument.h"
 #include "markup/ResultLog.h"
 #include "markup/text/TextDecoding.h"
+#include "markup/text/TextEncoding.h"
 #include "markup/text/Utf8.h"
 #include "platform/Files.h"
 
@@ -34,9 +38,34 @@ std::string readBytes(const std::string& name) {
   throw CommandFailure{name + ": cannot be read"};
 }
 
-void writeBytes(const std::string& name, std::string_view bytes) {
-  const auto error = platform::replaceFile(platform::pathFromUtf16(utf16Of(name)), bytes);
+void writeBytes(const std::string& name, std::string_view bytes, platform::OldContent old) {
+  const auto error = platform::replaceFile(platform::pathFromUtf16(utf16Of(name)), bytes, old);
   if (error) throw CommandFailure{name + ": cannot be written: " + error.message()};
+}
+
+std::string settingsBytes(const HotkeyConfig& config, std::uint32_t saveTime) {
+  MarkupDocument document;
+  ResultLog log;
+  if (!config.saveTo(document, saveTime)) throw CommandFailure{"the settings are too long"};
+  return encodeText(document.doc(), declaredEncoding(document.doc()), log);
+}
+
+bool isRecord(std::string_view bytes) {
+  std::uint32_t size = 0;
+  if (bytes.size() < sizeof(size)) return false;
+  std::memcpy(&size, bytes.data(), sizeof(size));
+  return size >= sizeof(size) && size <= bytes.size();
+}
+
+std::string readRecord(const std::string& name) {
+  std::string bytes = readBytes(name);
+  if (!isRecord(bytes)) {
+    throw CommandFailure{name + ": no record, which begins with its size in bytes"};
+  }
+  std::uint32_t size = 0;
+  std::memcpy(&size, bytes.data(), sizeof(size));
+  bytes.resize(std::min<std::size_t>(size, sizeof(HotkeyBlock)));
+  return bytes;
 }
 
 HotkeyConfig readSettings(const std::string& name) {

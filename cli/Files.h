@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "model/HotkeyConfig.h"
+#include "platform/OldContent.h"
 
 namespace brennet::cli {
 
@@ -12,7 +13,17 @@ namespace brennet::cli {
 [[nodiscard]] std::string readBytes(const std::string& name);
 
 // Makes `bytes` the content of the file, whole or not at all. Throws CommandFailure.
-void writeBytes(const std::string& name, std::string_view bytes);
+void writeBytes(const std::string& name, std::string_view bytes,
+                platform::OldContent old = platform::OldContent::Drop);
+
+// The bytes of a settings file with these settings, as a save writes them. Throws CommandFailure.
+[[nodiscard]] std::string settingsBytes(const HotkeyConfig& config, std::uint32_t saveTime);
+
+// Whether the content is that of a record, which begins with its size.
+[[nodiscard]] bool isRecord(std::string_view bytes);
+
+// The record in the file, without what is behind it. Throws CommandFailure.
+[[nodiscard]] std::string readRecord(const std::string& name);
 
 // The settings that a load finds in the file. Throws CommandFailure.
 [[nodiscard]] HotkeyConfig readSettings(const std::string& name);

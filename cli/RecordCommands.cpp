@@ -1,14 +1,15 @@
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
+#include <cstring>
 #include <iomanip>
 #include <ostream>
 
+#include "cli/Changes.h"
 #include "cli/Commands.h"
 #include "cli/Files.h"
 #include "cli/RecordFields.h"
-#include "model/BlockBytes.h"
 #include "model/BlockFiller.h"
+#include "model/BlockMerger.h"
 
 namespace brennet::cli {
 namespace {
@@ -32,22 +33,14 @@ void printBytes(std::string_view bytes, std::ostream& out) {
   }
 }
 
-std::string recordOf(HotkeyConfig config) {
-  HotkeyBlock block;
-  fillBlock(config, block);
+std::string bytesOf(const HotkeyBlock& block) {
   return {reinterpret_cast<const char*>(&block), sizeof(block)};
 }
 
-// The record in the file, without what is behind it.
-std::string readRecord(const std::string& file) {
-  std::string bytes = readBytes(file);
-  std::uint32_t size = 0;
-  if (bytes.size() >= sizeof(size)) std::memcpy(&size, bytes.data(), sizeof(size));
-  if (size < sizeof(size) || size > bytes.size()) {
-    throw CommandFailure{file + ": no record, which begins with its size in bytes"};
-  }
-  bytes.resize(std::min<std::size_t>(size, sizeof(HotkeyBlock)));
-  return bytes;
+HotkeyBlock filledBlock(HotkeyConfig& config) {
+  HotkeyBlock block;
+  fillBlock(config, block);
+  return block;
 }
 
 void printField(const RecordField& field, std::string_view record, std::ostream& out) {
@@ -62,7 +55,8 @@ void printField(const RecordField& field, std::string_view record, std::ostream&
 }  // namespace
 
 ExitStatus makeRecord(const std::string& file, const std::string& output, Answer answer) {
-  const std::string record = recordOf(readSettings(file));
+  HotkeyConfig config = readSettings(file);
+  const std::string record = bytesOf(filledBlock(config));
   if (!output.empty()) {
     writeBytes(output, record);
   } else if (answer.isJson) {
@@ -91,6 +85,21 @@ ExitStatus explainRecordFile(const std::string& file, Answer answer) {
     for (const RecordField& field : fields) printField(field, record, answer.out);
   }
   return kDone;
+}
+
+ExitStatus applyRecord(const std::string& file, const std::string& record, bool write,
+                       Answer answer) {
+  const HotkeyConfig before = readSettings(file);
+  HotkeyConfig after = before;
+  const HotkeyBlock current = filledBlock(after);
+  const std::string carried = readRecord(record);
+  HotkeyBlock returned = current;
+  std::memcpy(&returned, carried.data(), carried.size());
+  const bool differs = mergeBlock(current, returned, carried.size(), after);
+  const std::vector<Change> changes = changesBetween(before, after);
+  print(changes, answer);
+  if (differs && write) writeBytes(file, settingsBytes(after, before.LastSaveTime()));
+  return differs ? kDone : kFound;
 }
 
 }  // namespace brennet::cli

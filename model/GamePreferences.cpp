@@ -2,7 +2,6 @@
 
 #include <exception>
 
-#include "gameside/prefs/War3PrefsFile.h"
 #include "model/BlockBytes.h"
 #include "model/BlockFiller.h"
 #include "model/CardPositions.h"
@@ -28,22 +27,22 @@ void addSections(War3PrefsFile& file, const HotkeyBlock& block, SettingId id, st
   }
 }
 
-void updateSections(HotkeyConfig& config) {
-  War3PrefsFile file;
+}  // namespace
+
+void updatePreferences(HotkeyConfig& config, War3PrefsFile& file) {
   HotkeyBlock block;
   fillBlock(config, block);
   file.setCustomKeys((block.flags & kEnableFlag) != 0);
   addSections(file, block, SettingId::HeroSkillKey, War3HotkeySection::kCommandCard, kCommandCard,
               block.skillHeroOnly != 0);
   addSections(file, block, SettingId::ItemKey, War3HotkeySection::kInventory, kInventory, false);
-  file.save();
 }
-
-}  // namespace
 
 void writeGamePreferences(HotkeyConfig& config) noexcept {
   try {
-    updateSections(config);
+    War3PrefsFile file;
+    updatePreferences(config, file);
+    file.save();
   } catch (const std::exception&) {
     // If memory runs out for the game's file, it stays as it is; the player's settings are not in
     // it.

@@ -54,20 +54,23 @@ bool differsIn(SettingPart part, const HotkeyScheme& before, const HotkeyScheme&
   return std::visit(Compare{before, after, part}, setting(part.setting).kind);
 }
 
-std::vector<SettingPart> differencesOf(const HotkeyScheme& before, const HotkeyScheme& after) {
+std::vector<SettingPart> partsOfScheme() {
   std::vector<SettingPart> parts;
-  const auto addIfDifferent = [&](SettingPart part) {
-    if (differsIn(part, before, after)) parts.push_back(part);
-  };
   for (const Setting& row : kSettings) {
     if (row.id == SettingId::ComboKey3to1) continue;
     const std::size_t count = valueCount(row);
     for (std::size_t i = 0; i < count; ++i) {
       const auto index = static_cast<std::uint8_t>(i);
-      addIfDifferent({row.id, index});
-      if (hasMarks(row)) addIfDifferent({row.id, index, true});
+      parts.push_back({row.id, index});
+      if (hasMarks(row)) parts.push_back({row.id, index, true});
     }
   }
+  return parts;
+}
+
+std::vector<SettingPart> differencesOf(const HotkeyScheme& before, const HotkeyScheme& after) {
+  std::vector<SettingPart> parts = partsOfScheme();
+  std::erase_if(parts, [&](SettingPart part) { return !differsIn(part, before, after); });
   return parts;
 }
 

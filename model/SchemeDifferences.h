@@ -19,9 +19,12 @@ struct SettingPart {
   friend constexpr bool operator==(const SettingPart&, const SettingPart&) = default;
 };
 
+// Every value that a scheme has, in the order of the settings. ComboKey3to1, which is ComboKey once
+// more, is left out. Throws std::bad_alloc.
+[[nodiscard]] std::vector<SettingPart> partsOfScheme();
+
 // The values in which the two schemes differ for a player, in the order of the settings. A mark or
-// a phrase that was never set is as good as one that is off or empty. ComboKey3to1, which is
-// ComboKey once more, is left out. Throws std::bad_alloc.
+// a phrase that was never set is as good as one that is off or empty. Throws std::bad_alloc.
 [[nodiscard]] std::vector<SettingPart> differencesOf(const HotkeyScheme& before,
                                                      const HotkeyScheme& after);
 

@@ -44,6 +44,9 @@ class War3PrefsFile {
   // Reads the content of a file without a file: save() does nothing.
   [[nodiscard]] static War3PrefsFile parse(std::string_view fileBytes);
 
+  // What the file at the path holds; nothing if it could not be read, or if there is none.
+  [[nodiscard]] const std::optional<std::string>& fileBytes() const { return fileBytes_; }
+
   // The bytes that save() writes; every line ends in CR LF.
   [[nodiscard]] std::string serialize() const;
 

@@ -4,6 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstddef>
 #include <filesystem>
 #include <sstream>
 
@@ -46,7 +47,8 @@ class CommandLineTest : public testing::Test {
 TEST_F(CommandLineTest, HelpsWhoAsks) {
   const Result help = run({"--help"});
   EXPECT_EQ(help.status, 0);
-  for (const char* command : {"check", "record", "explain", "keys"}) {
+  for (const char* command :
+       {"check", "show", "diff", "record", "explain", "apply", "prefs", "repair", "keys"}) {
     EXPECT_NE(help.out.find(command), std::string::npos) << command;
     const Result more = run({command, "--help"});
     EXPECT_EQ(more.status, 0);
@@ -128,7 +130,7 @@ TEST_F(CommandLineTest, RefusesFilesThatAreNoRecord) {
 TEST_F(CommandLineTest, SaysWhichFileCannotBeUsed) {
   const std::string missing = file(u8"there", "") + "-not";
   const std::string folder = folder_.path().string();
-  for (const char* command : {"check", "record", "explain", "keys"}) {
+  for (const char* command : {"check", "show", "record", "explain", "prefs", "repair", "keys"}) {
     for (const std::string& name : {missing, folder}) {
       const Result result = run({command, name});
       EXPECT_EQ(result.status, 2) << command;
@@ -138,6 +140,98 @@ TEST_F(CommandLineTest, SaysWhichFileCannotBeUsed) {
   const std::string foreign = file(u8"foreign", "<html/>");
   EXPECT_EQ(run({"record", foreign}).status, 2);
   EXPECT_EQ(run({"record", sample(), "-o", folder + "/no/folder"}).status, 2);
+}
+
+TEST_F(CommandLineTest, ShowsASettingGroup) {
+  const std::string name = sample();
+  const std::string shown = run({"show", name}).out;
+  EXPECT_NE(shown.find("current setting group     2\n"), std::string::npos) << shown;
+  EXPECT_NE(shown.find("hero skill 1, quick cast  on\n"), std::string::npos);
+  const auto first = nlohmann::json::parse(run({"show", "--json", name, "--scheme", "1"}).out);
+  EXPECT_EQ(first["group"], 1);
+  EXPECT_EQ(first["lastSaveTime"], 1404738022);
+  EXPECT_EQ(first["settings"]["hero skill 1"], "Q");
+  EXPECT_EQ(first["settings"]["NumComboKeyIndex"], "item preset 1");
+}
+
+TEST_F(CommandLineTest, ComparesSettingsFiles) {
+  const std::string name = sample();
+  EXPECT_EQ(run({"diff", name, name}).out, "nothing differs\n");
+  std::string bytes = test::readBytes(test::sampleData("KeyInfo.xml"));
+  bytes.replace(bytes.find("index=\"1\""), 9, "index=\"2\"");
+  bytes.replace(bytes.find("autocast=\"1\">20736"), 18, "autocast=\"0\">65280");
+  const Result result = run({"diff", name, file(u8"other", bytes)});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.out,
+            "current setting group: 2 -> 3\n"
+            "setting group 1, hero skill 1: Q -> -\n"
+            "setting group 1, hero skill 1, quick cast: on -> off\n");
+  EXPECT_EQ(nlohmann::json::parse(run({"diff", "--json", name, name}).out).size(), 0U);
+}
+
+TEST_F(CommandLineTest, ComparesRecords) {
+  const std::string name = sample();
+  const std::string one = file(u8"one", "");
+  ASSERT_EQ(run({"record", name, "-o", one}).status, 0);
+  std::string bytes = test::readBytes(folder_ / "one");
+  bytes[offsetof(HotkeyBlock, zoomValue)] = 77;
+  const Result result = run({"diff", one, file(u8"two", bytes)});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.out, "zoom: 120 -> 77\n");
+  bytes.resize(offsetof(HotkeyBlock, hideUI));
+  bytes[0] = static_cast<char>(bytes.size());
+  const std::string shorter = run({"diff", one, file(u8"short", bytes)}).out;
+  EXPECT_NE(shorter.find("HideUI: on -> (not there)\n"), std::string::npos) << shorter;
+}
+
+TEST_F(CommandLineTest, TakesARecordBackWhenToldTo) {
+  const std::string name = sample();
+  const std::string record = file(u8"record", "");
+  ASSERT_EQ(run({"record", name, "-o", record}).status, 0);
+  EXPECT_EQ(run({"apply", name, record}).status, 1) << "nothing differs";
+  std::string bytes = test::readBytes(folder_ / "record");
+  bytes[offsetof(HotkeyBlock, zoomValue)] = 77;
+  test::writeBytes(folder_ / "record", bytes);
+
+  const std::string change = "setting group 2, ZoomValue: 120 -> 77\n";
+  EXPECT_EQ(run({"apply", name, record}).out, change);
+  EXPECT_EQ(run({"apply", name, record}).out, change) << "it was written";
+  const Result written = run({"apply", name, record, "--write"});
+  EXPECT_EQ(written.status, 0);
+  EXPECT_EQ(written.out, change);
+  EXPECT_NE(run({"show", name}).out.find("ZoomValue                 77\n"), std::string::npos);
+  EXPECT_NE(run({"show", name}).out.find("save time                 1404738022\n"),
+            std::string::npos);
+}
+
+TEST_F(CommandLineTest, ShowsWhatASaveWouldDoToTheGamesFile) {
+  const std::string name = sample();
+  const std::string game = file(
+      u8"game.txt", "[Gameplay]\r\ncustomkeys=0\r\n\r\n[Commandbar Hotkeys 20]\r\nHotkey=1\r\n");
+  const Result result = run({"prefs", name, game});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_NE(result.out.find("-customkeys=0\n+customkeys=2\n"), std::string::npos) << result.out;
+  EXPECT_NE(result.out.find("+[Commandbar Hotkeys 20]\n"), std::string::npos) << result.out;
+  EXPECT_NE(result.out.find("-[Commandbar Hotkeys 20]\n-Hotkey=1\n"), std::string::npos);
+  const auto lines = nlohmann::json::parse(run({"prefs", "--json", name, game}).out);
+  EXPECT_GT(lines.size(), 2U);
+  EXPECT_EQ(test::readBytes(folder_ / "game.txt").substr(0, 26), "[Gameplay]\r\ncustomkeys=0\r\n");
+}
+
+TEST_F(CommandLineTest, RepairsADamagedFile) {
+  const std::string good = test::readBytes(test::sampleData("KeyInfo.xml"));
+  const std::string broken = file(u8"broken.xml", good.substr(0, 5000));
+  EXPECT_EQ(run({"check", broken}).status, 2);
+  const Result repaired = run({"repair", broken});
+  EXPECT_EQ(repaired.status, 0) << repaired.err;
+  EXPECT_EQ(run({"check", broken}).status, 0) << run({"check", broken}).out;
+  const std::string shown = run({"show", broken, "--scheme", "1"}).out;
+  EXPECT_NE(shown.find("hero skill 1              Q\n"), std::string::npos) << shown;
+  EXPECT_NE(folder_.listing().find("broken.xml.kept-"), std::string::npos) << folder_.listing();
+
+  EXPECT_EQ(run({"repair", broken}).out, broken + ": nothing to repair\n");
+  EXPECT_EQ(run({"repair", file(u8"foreign", "<html/>")}).status, 2);
+  EXPECT_EQ(test::readBytes(folder_ / "foreign"), "<html/>");
 }
 
 TEST_F(CommandLineTest, ListsKeysAndWhoUsesThem) {
