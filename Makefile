@@ -22,7 +22,7 @@ help: ## show this list
 run: ## load the sample settings and show what the library does (SETTINGS=path for others)
 	@tools/setup.sh build
 	@test -f build/native/build.ninja || cmake --preset native -DBRENNET_BUILD_TESTS=OFF
-	@cmake --build --preset native -j $(JOBS) --target brennet brennet-host
+	@cmake --build --preset native -j $(JOBS) --target brennet brennet-host brennet-program
 	@tools/run.sh build/native/bin/brennet-host build/native/lib/libbrennet.so "$(SETTINGS)"
 
 test: ## build everything and run all tests

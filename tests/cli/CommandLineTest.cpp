@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "brennet/HotkeyBlock.h"
+#include "cli/Finding.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/TestData.h"
 
@@ -56,6 +57,23 @@ TEST_F(CommandLineTest, HelpsWhoAsks) {
     EXPECT_NE(more.out.find("--json"), std::string::npos) << command;
   }
   EXPECT_EQ(run({"--version"}).out.substr(0, 8), "brennet ");
+}
+
+// Whoever adds a command or a kind of finding describes it in docs/command-line.md.
+TEST_F(CommandLineTest, IsDescribed) {
+  const std::string page = test::readBytes(test::projectFile("docs/command-line.md"));
+  const std::string help = run({"--help"}).out;
+  std::istringstream lines(help.substr(help.find("Subcommands:")));
+  std::string line;
+  std::getline(lines, line);
+  for (std::string command; std::getline(lines, line) && line.starts_with("  ");) {
+    std::istringstream(line) >> command;
+    EXPECT_NE(page.find("| `brennet " + command + " "), std::string::npos) << command;
+  }
+  for (int kind = 0; kind <= static_cast<int>(Finding::Kind::Choice); ++kind) {
+    const std::string name(kindName(static_cast<Finding::Kind>(kind)));
+    EXPECT_NE(page.find("| `" + name + "` |"), std::string::npos) << name;
+  }
 }
 
 TEST_F(CommandLineTest, RefusesWhatItDoesNotUnderstand) {
