@@ -97,9 +97,11 @@ class SchemeWalk {
         add(Kind::Unknown, "nothing has the id \"" + utf8Of(id) + "\"");
       } else {
         auto there = isThere[static_cast<std::size_t>(found - ids.begin())];
-        if (there)
-          add(Kind::Repeated, "the id " + utf8Of(id) + " was there before; the later counts");
+        if (there) add(Kind::Repeated, "a second id " + utf8Of(id) + "; the later one counts");
         there = true;
+        if (!isDecimal(id)) {
+          add(Kind::Number, "the id \"" + utf8Of(id) + "\" is read as " + std::to_string(*found));
+        }
       }
       look();
     }
@@ -186,6 +188,13 @@ void checkScheme(MarkupDocument& document, std::size_t offset, int scheme, bool 
     if (walk.visit(offsets) || (isOld && isOfRoot(name))) continue;
     findings.push_back(
         {Kind::Unknown, at(*document.mainOffset()), group, "nothing reads " + inTags(name)});
+  }
+  // A load looks for the hero skill keys behind what it has read before, and nowhere else.
+  const auto& zoom = offsets[static_cast<std::size_t>(SettingId::ZoomValue)];
+  const auto& skills = offsets[static_cast<std::size_t>(SettingId::HeroSkillKey)];
+  if (zoom && skills && *skills < *zoom) {
+    findings.push_back(
+        {Kind::Unknown, at(*skills), group, "nothing reads <HeroSkillKey> before <ZoomValue>"});
   }
   for (const Setting& row : kSettings) {
     if (offsets[static_cast<std::size_t>(row.id)]) continue;

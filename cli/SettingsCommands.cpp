@@ -50,12 +50,13 @@ ExitStatus showSettings(const std::string& file, int group, Answer answer) {
   const HotkeyConfig config = readSettings(file);
   const HotkeyScheme& scheme = config.scheme(group == 0 ? HotkeyConfig::kCurrentScheme : group - 1);
   if (answer.isJson) {
+    const std::uint32_t shown = group == 0 ? config.index() + 1 : static_cast<std::uint32_t>(group);
     nlohmann::ordered_json values;
     for (const SettingPart part : partsOfScheme()) values[nameOf(part)] = valueOf(scheme, part);
     const nlohmann::ordered_json whole = {{"enabled", config.enable()},
                                           {"currentGroup", config.index() + 1},
                                           {"lastSaveTime", config.LastSaveTime()},
-                                          {"group", group == 0 ? config.index() + 1 : group},
+                                          {"group", shown},
                                           {"settings", std::move(values)}};
     answer.out << whole.dump(2) << '\n';
     return kDone;

@@ -31,12 +31,9 @@ std::vector<std::string> utf8Arguments(int /*argc*/, char** /*argv*/) {
   return arguments;
 }
 
-Utf8Console::Utf8Console() : before_(GetConsoleOutputCP()) {
-  if (before_ != 0) SetConsoleOutputCP(CP_UTF8);
-}
-
-Utf8Console::~Utf8Console() {
-  if (before_ != 0) SetConsoleOutputCP(before_);
+unsigned showOnConsole(unsigned codePage) {
+  const UINT before = GetConsoleOutputCP();
+  return before != 0 && SetConsoleOutputCP(codePage) != 0 ? before : 0;
 }
 
 }  // namespace brennet::platform

@@ -71,7 +71,9 @@ TEST(SettingsCheck, FindsEachFault) {
       {"<Key id=\"0\"", "<Key ",
        "unknown | setting group 1, HeroSkillKey | nothing has the id \"\"\n"},
       {"<Key id=\"0\"", "<Key id=\"1\"",
-       "repeated | setting group 1, HeroSkillKey | the id 1 was there before; the later counts\n"},
+       "repeated | setting group 1, HeroSkillKey | a second id 1; the later one counts\n"},
+      {"<Key id=\"0\"", "<Key id=\"none\"",
+       "number | setting group 1, HeroSkillKey | the id \"none\" is read as 0\n"},
       {"<HeroSkillKey>", "<HeroSkillKey><Kay/>",
        "unknown | setting group 1, HeroSkillKey | nothing reads <Kay>\n"},
       {"autocast=\"0\"", "autocast=\"on\"",
@@ -97,6 +99,22 @@ TEST(SettingsCheck, FindsEachFault) {
     EXPECT_TRUE(check.isLoadable) << row.by;
     EXPECT_EQ(words(check), row.words) << row.by;
   }
+}
+
+TEST(SettingsCheck, KnowsWhereALoadLooksForHeroSkills) {
+  const std::string file =
+      "<KeyInfo><LastSaveTime>1</LastSaveTime><KeyInfo_0>"
+      "<HeroSkillKey><Key id=\"0\">20736</Key></HeroSkillKey><ZoomValue>90</ZoomValue>"
+      "</KeyInfo_0></KeyInfo>";
+  MarkupDocument document;
+  HotkeyConfig config;
+  ASSERT_TRUE(document.setDoc(std::u16string(file.begin(), file.end())));
+  ASSERT_TRUE(config.loadFrom(document));
+  ASSERT_FALSE(config.scheme(0).HeroSkillKey[0].isSet()) << "it is read; the check says otherwise";
+  EXPECT_NE(
+      words(checkSettings(file))
+          .find("unknown | setting group 1 | nothing reads <HeroSkillKey> before <ZoomValue>\n"),
+      std::string::npos);
 }
 
 TEST(SettingsCheck, TellsWhyALoadRefusesAFile) {
