@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <ostream>
 
+#include "cli/Output.h"
 #include "cli/RecordFields.h"
 #include "cli/SettingWords.h"
 
@@ -60,15 +61,15 @@ void print(const std::vector<Change>& changes, Answer answer) {
     if (answer.isJson) {
       all.push_back({{"name", change.name}, {"before", change.before}, {"after", change.after}});
     } else {
-      answer.out << change.name << ": " << change.before << " -> " << change.after << '\n';
+      answer.out << change.name << ": " << shown(change.before) << " -> " << shown(change.after)
+                 << '\n';
     }
   }
   if (!answer.isJson) {
     if (changes.empty()) answer.out << "nothing differs\n";
     return;
   }
-  // What is no UTF-8 in a phrase of a record becomes U+FFFD.
-  answer.out << all.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+  printJson(all, answer.out);
 }
 
 }  // namespace brennet::cli

@@ -5,6 +5,7 @@
 
 #include "cli/Commands.h"
 #include "cli/Files.h"
+#include "cli/Output.h"
 #include "cli/SettingsCheck.h"
 
 namespace brennet::cli {
@@ -56,7 +57,7 @@ ExitStatus checkFiles(const std::vector<std::string>& files, Answer answer) {
       print(file, check, answer.out);
     }
   }
-  if (answer.isJson) answer.out << all.dump(2) << '\n';
+  if (answer.isJson) printJson(all, answer.out);
   return status;
 }
 

@@ -13,22 +13,29 @@
 #include "markup/ResultLog.h"
 #include "markup/text/TextDecoding.h"
 #include "markup/text/TextEncoding.h"
-#include "markup/text/Utf8.h"
 #include "platform/Files.h"
 
 namespace brennet::cli {
 namespace {
 
-std::u16string utf16Of(const std::string& name) {
-  std::u16string text;
-  utf8ToUtf16(name, text);
-  return text;
+// Elsewhere than under Windows names are bytes, whether they are UTF-8 or not.
+std::filesystem::path pathOf(const std::string& name) {
+  return std::u8string(name.begin(), name.end());
+}
+
+std::uint32_t sizeField(std::string_view record) {
+  std::uint32_t size = 0;
+  std::memcpy(&size, record.data(), sizeof(size));
+  return size;
 }
 
 }  // namespace
 
 std::string readBytes(const std::string& name) {
-  const std::filesystem::path path(utf16Of(name));
+  return readBytes(pathOf(name), name);
+}
+
+std::string readBytes(const std::filesystem::path& path, const std::string& name) {
   std::error_code error;
   if (!std::filesystem::is_directory(path, error)) {
     std::ifstream file(path, std::ios::binary);
@@ -38,23 +45,34 @@ std::string readBytes(const std::string& name) {
   throw CommandFailure{name + ": cannot be read"};
 }
 
-void writeBytes(const std::string& name, std::string_view bytes, platform::OldContent old) {
-  const auto error = platform::replaceFile(platform::pathFromUtf16(utf16Of(name)), bytes, old);
+void writeBytes(const std::string& name, std::string_view bytes) {
+  const auto error = platform::replaceFile(pathOf(name), bytes);
   if (error) throw CommandFailure{name + ": cannot be written: " + error.message()};
+}
+
+std::string putAside(const std::string& name, std::string_view bytes) {
+  std::string aside = name + ".damaged";
+  for (int n = 2; platform::pathExists(pathOf(aside)); ++n) {
+    aside = name + ".damaged-" + std::to_string(n);
+  }
+  writeBytes(aside, bytes);
+  return aside;
 }
 
 std::string settingsBytes(const HotkeyConfig& config, std::uint32_t saveTime) {
   MarkupDocument document;
   ResultLog log;
   if (!config.saveTo(document, saveTime)) throw CommandFailure{"the settings are too long"};
-  return encodeText(document.doc(), declaredEncoding(document.doc()), log);
+  std::string bytes = encodeText(document.doc(), declaredEncoding(document.doc()), log);
+  if (log.text().find(u"conversion_loss") != std::u16string::npos) {
+    throw CommandFailure{"a phrase has characters that settings files cannot hold"};
+  }
+  return bytes;
 }
 
 bool isRecord(std::string_view bytes) {
-  std::uint32_t size = 0;
-  if (bytes.size() < sizeof(size)) return false;
-  std::memcpy(&size, bytes.data(), sizeof(size));
-  return size >= sizeof(size) && size <= bytes.size();
+  if (bytes.size() < sizeof(std::uint32_t)) return false;
+  return sizeField(bytes) >= sizeof(std::uint32_t) && sizeField(bytes) <= bytes.size();
 }
 
 std::string readRecord(const std::string& name) {
@@ -62,9 +80,7 @@ std::string readRecord(const std::string& name) {
   if (!isRecord(bytes)) {
     throw CommandFailure{name + ": no record, which begins with its size in bytes"};
   }
-  std::uint32_t size = 0;
-  std::memcpy(&size, bytes.data(), sizeof(size));
-  bytes.resize(std::min<std::size_t>(size, sizeof(HotkeyBlock)));
+  bytes.resize(std::min<std::size_t>(sizeField(bytes), sizeof(HotkeyBlock)));
   return bytes;
 }
 

@@ -6,6 +6,7 @@
 
 #include "cli/Commands.h"
 #include "cli/Files.h"
+#include "cli/Output.h"
 #include "keys/CaptureKeyNames.h"
 #include "markup/text/Utf8.h"
 #include "model/KeyConflicts.h"
@@ -60,7 +61,7 @@ void listNames(Answer answer) {
                  << std::setw(7) << stored << '\n';
     }
   }
-  if (answer.isJson) answer.out << all.dump(2) << '\n';
+  if (answer.isJson) printJson(all, answer.out);
 }
 
 void listUses(const HotkeyScheme& scheme, Answer answer) {
@@ -74,7 +75,7 @@ void listUses(const HotkeyScheme& scheme, Answer answer) {
                  << "  " << use.what << '\n';
     }
   }
-  if (answer.isJson) answer.out << all.dump(2) << '\n';
+  if (answer.isJson) printJson(all, answer.out);
 }
 
 }  // namespace

@@ -1,11 +1,13 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <filesystem>
 #include <ostream>
 
 #include "cli/Commands.h"
 #include "cli/Files.h"
 #include "cli/LineDifference.h"
+#include "cli/Output.h"
 #include "gameside/prefs/War3PrefsFile.h"
 #include "model/GamePreferences.h"
 
@@ -33,18 +35,27 @@ void print(const std::vector<ComparedLine>& lines, std::ostream& out) {
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const bool shown = isShown(lines, i);
     if (shown && !wasShown) out << "...\n";
-    if (shown) out << static_cast<char>(lines[i].in) << lines[i].line << '\n';
+    if (shown) out << static_cast<char>(lines[i].in) << cli::shown(lines[i].line) << '\n';
     wasShown = shown;
   }
 }
 
-void printJson(const std::vector<ComparedLine>& lines, std::ostream& out) {
+void printDifferent(const std::vector<ComparedLine>& lines, std::ostream& out) {
   auto all = nlohmann::ordered_json::array();
   for (const ComparedLine& line : lines) {
     if (!differs(line)) continue;
     all.push_back({{"change", line.in == In::Before ? "removed" : "added"}, {"line", line.line}});
   }
-  out << all.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+  printJson(all, out);
+}
+
+// Reads the file as it is: what a save would first put right stays.
+std::string preferencesBytes(const std::string& name) {
+  if (!name.empty()) return readBytes(name);
+  const platform::Path path = War3PrefsFile::gamePath();
+  std::error_code error;
+  if (path.empty() || !std::filesystem::exists(path, error)) return {};
+  return readBytes(path, "the game's preference file");
 }
 
 }  // namespace
@@ -52,17 +63,13 @@ void printJson(const std::vector<ComparedLine>& lines, std::ostream& out) {
 ExitStatus comparePreferences(const std::string& file, const std::string& preferences,
                               Answer answer) {
   HotkeyConfig config = readSettings(file);
-  War3PrefsFile game;
-  std::string before = game.fileBytes().value_or(std::string());
-  if (!preferences.empty()) {
-    before = readBytes(preferences);
-    game = War3PrefsFile::parse(before);
-  }
+  const std::string before = preferencesBytes(preferences);
+  War3PrefsFile game = War3PrefsFile::parse(before);
   updatePreferences(config, game);
   const std::string after = game.serialize();
   const std::vector<ComparedLine> lines = compareLines(before, after);
   if (answer.isJson) {
-    printJson(lines, answer.out);
+    printDifferent(lines, answer.out);
   } else {
     print(lines, answer.out);
   }

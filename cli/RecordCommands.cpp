@@ -7,6 +7,7 @@
 #include "cli/Changes.h"
 #include "cli/Commands.h"
 #include "cli/Files.h"
+#include "cli/Output.h"
 #include "cli/RecordFields.h"
 #include "model/BlockFiller.h"
 #include "model/BlockMerger.h"
@@ -49,7 +50,7 @@ void printField(const RecordField& field, std::string_view record, std::ostream&
   std::string hex = hexOf(bytes.substr(0, kShown), " ");
   if (bytes.size() > kShown) hex += " ..";
   out << std::right << std::setw(6) << field.offset << "  " << std::left << std::setw(22)
-      << field.name << std::setw(28) << hex << field.meaning << '\n';
+      << field.name << std::setw(28) << hex << shown(field.meaning) << '\n';
 }
 
 }  // namespace
@@ -60,8 +61,7 @@ ExitStatus makeRecord(const std::string& file, const std::string& output, Answer
   if (!output.empty()) {
     writeBytes(output, record);
   } else if (answer.isJson) {
-    answer.out << nlohmann::ordered_json{{"size", record.size()}, {"bytes", hexOf(record)}}.dump(2)
-               << '\n';
+    printJson({{"size", record.size()}, {"bytes", hexOf(record)}}, answer.out);
   } else {
     printBytes(record, answer.out);
   }
@@ -79,8 +79,7 @@ ExitStatus explainRecordFile(const std::string& file, Answer answer) {
                      {"bytes", hexOf(std::string_view(record).substr(field.offset, field.size))},
                      {"meaning", field.meaning}});
     }
-    // What is no UTF-8 in a phrase becomes U+FFFD.
-    answer.out << all.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+    printJson(all, answer.out);
   } else {
     for (const RecordField& field : fields) printField(field, record, answer.out);
   }
@@ -95,11 +94,11 @@ ExitStatus applyRecord(const std::string& file, const std::string& record, bool 
   const std::string carried = readRecord(record);
   HotkeyBlock returned = current;
   std::memcpy(&returned, carried.data(), carried.size());
-  const bool differs = mergeBlock(current, returned, carried.size(), after);
+  mergeBlock(current, returned, carried.size(), after);
   const std::vector<Change> changes = changesBetween(before, after);
+  if (!changes.empty() && write) writeBytes(file, settingsBytes(after, before.LastSaveTime()));
   print(changes, answer);
-  if (differs && write) writeBytes(file, settingsBytes(after, before.LastSaveTime()));
-  return differs ? kDone : kFound;
+  return changes.empty() ? kFound : kDone;
 }
 
 }  // namespace brennet::cli

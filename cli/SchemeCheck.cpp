@@ -26,8 +26,10 @@ std::string inTags(std::u16string_view name) {
 // Looks at the elements of a scheme, one after the other.
 class SchemeWalk {
  public:
-  SchemeWalk(MarkupDocument& document, int scheme, std::vector<Finding>& findings)
+  SchemeWalk(MarkupDocument& document, const TextPlaces& places, int scheme,
+             std::vector<Finding>& findings)
       : document_(document),
+        places_(places),
         group_("setting group " + std::to_string(scheme + 1)),
         findings_(findings) {}
 
@@ -94,13 +96,13 @@ class SchemeWalk {
       const std::u16string id = document_.getAttrib(u"id");
       const auto found = std::ranges::find(ids, parseDecimal(id));
       if (id.empty() || found == ids.end()) {
-        add(Kind::Unknown, "nothing has the id \"" + utf8Of(id) + "\"");
+        add(Kind::Unknown, "nothing has the id " + quotedText(id));
       } else {
         auto there = isThere[static_cast<std::size_t>(found - ids.begin())];
-        if (there) add(Kind::Repeated, "a second id " + utf8Of(id) + "; the later one counts");
+        if (there) add(Kind::Repeated, "a second id " + quotedText(id) + "; the later one counts");
         there = true;
         if (!isDecimal(id)) {
-          add(Kind::Number, "the id \"" + utf8Of(id) + "\" is read as " + std::to_string(*found));
+          add(Kind::Number, "the id " + quotedText(id) + " is read as " + std::to_string(*found));
         }
       }
       look();
@@ -135,15 +137,14 @@ class SchemeWalk {
     checkNumber(text, from, to, here(), where_, findings_);
   }
 
-  [[nodiscard]] TextPosition here() const {
-    return positionAt(document_.doc(), *document_.mainOffset());
-  }
+  [[nodiscard]] TextPosition here() const { return places_.at(*document_.mainOffset()); }
 
   void add(Kind kind, std::string text) {
     findings_.push_back({kind, here(), where_, std::move(text)});
   }
 
   MarkupDocument& document_;
+  const TextPlaces& places_;
   std::string group_;
   std::string where_;
   std::vector<Finding>& findings_;
@@ -156,8 +157,8 @@ bool isOfRoot(std::u16string_view name) {
 }
 
 std::string choiceText(const DroppedChoice& choice) {
-  if (choice.taken.empty()) return "there is no choice \"" + utf8Of(choice.text) + "\"";
-  std::string text = "the choice " + utf8Of(choice.text) + " cannot be made:";
+  if (choice.taken.empty()) return "there is no choice " + quotedText(choice.text);
+  std::string text = "the choice " + quotedText(choice.text) + " cannot be made:";
   for (const TakenKey& taken : choice.taken) {
     text += (text.back() == ':' ? " " : "; ") + conflictText(taken.key, taken.conflict);
   }
@@ -172,38 +173,38 @@ void checkNumber(std::u16string_view text, std::int64_t from, std::int64_t to,
   const std::int64_t number = parseDecimal(text);
   if (isDecimal(text) && number >= from && number <= to) return;
   findings.push_back({Kind::Number, position, where,
-                      "\"" + utf8Of(text) + "\" is no number from " + std::to_string(from) +
-                          " to " + std::to_string(to)});
+                      quotedText(text) + " is no number from " + std::to_string(from) + " to " +
+                          std::to_string(to)});
 }
 
-void checkScheme(MarkupDocument& document, std::size_t offset, int scheme, bool isOld,
-                 const LoadReport& report, std::vector<Finding>& findings) {
-  SchemeWalk walk(document, scheme, findings);
+void checkScheme(MarkupDocument& document, const TextPlaces& places, std::size_t offset, int scheme,
+                 bool isOld, const LoadReport& report, std::vector<Finding>& findings) {
+  SchemeWalk walk(document, places, scheme, findings);
   const std::string group = "setting group " + std::to_string(scheme + 1);
-  const auto at = [&](std::size_t unit) { return positionAt(document.doc(), unit); };
   Offsets offsets;
   document.resetMainPos();
   while (document.findElem()) {
     const std::u16string_view name = document.getTagName();
     if (walk.visit(offsets) || (isOld && isOfRoot(name))) continue;
     findings.push_back(
-        {Kind::Unknown, at(*document.mainOffset()), group, "nothing reads " + inTags(name)});
+        {Kind::Unknown, places.at(*document.mainOffset()), group, "nothing reads " + inTags(name)});
   }
   // A load looks for the hero skill keys behind what it has read before, and nowhere else.
   const auto& zoom = offsets[static_cast<std::size_t>(SettingId::ZoomValue)];
   const auto& skills = offsets[static_cast<std::size_t>(SettingId::HeroSkillKey)];
   if (zoom && skills && *skills < *zoom) {
-    findings.push_back(
-        {Kind::Unknown, at(*skills), group, "nothing reads <HeroSkillKey> before <ZoomValue>"});
+    findings.push_back({Kind::Unknown, places.at(*skills), group,
+                        "nothing reads <HeroSkillKey> before <ZoomValue>"});
   }
   for (const Setting& row : kSettings) {
     if (offsets[static_cast<std::size_t>(row.id)]) continue;
-    findings.push_back({Kind::Missing, at(offset), group, inTags(row.element) + " is missing"});
+    findings.push_back(
+        {Kind::Missing, places.at(offset), group, inTags(row.element) + " is missing"});
   }
   for (const DroppedChoice& choice : report.droppedChoices) {
     if (choice.scheme != scheme) continue;
     const auto place = offsets[static_cast<std::size_t>(choice.setting)].value_or(offset);
-    findings.push_back({Kind::Choice, at(place),
+    findings.push_back({Kind::Choice, places.at(place),
                         group + ", " + utf8Of(setting(choice.setting).element),
                         choiceText(choice)});
   }

@@ -1,7 +1,6 @@
 #include "cli/SettingsCheck.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "cli/SchemeCheck.h"
 #include "markup/DeclaredEncoding.h"
@@ -54,7 +53,7 @@ void checkEncoding(std::string_view bytes, const DetectedEncoding& encoding,
         {Kind::Encoding,
          {},
          {},
-         "nobody knows the encoding \"" + utf8Of(declared) + "\"; the system's own is taken"});
+         "nobody knows the encoding " + quotedText(declared) + "; the system's own is taken"});
   }
   const std::size_t bad = firstBadByte(bytes, encoding);
   if (bad == bytes.size()) return;
@@ -87,7 +86,8 @@ constexpr MarkupError kMarkupErrors[] = {
 };
 
 // The document's account of the parse is a markup text itself.
-void checkMarkup(const MarkupDocument& document, std::vector<Finding>& findings) {
+void checkMarkup(const MarkupDocument& document, const TextPlaces& places,
+                 std::vector<Finding>& findings) {
   MarkupDocument log;
   log.setDoc(u"<log>" + document.result() + u"</log>");
   log.findElem();
@@ -99,7 +99,7 @@ void checkMarkup(const MarkupDocument& document, std::vector<Finding>& findings)
     const std::u16string tag = log.getAttrib(u"tagname");
     if (!tag.empty()) text += ": <" + utf8Of(tag) + ">";
     const auto offset = static_cast<std::size_t>(parseDecimal(log.getAttrib(u"offset")));
-    findings.push_back({Kind::Markup, positionAt(document.doc(), offset), {}, std::move(text)});
+    findings.push_back({Kind::Markup, places.at(offset), {}, std::move(text)});
   }
 }
 
@@ -113,9 +113,10 @@ void checkKeys(const LoadReport& report, std::vector<Finding>& findings) {
 }
 
 // The document's main position is the root.
-void checkRoot(MarkupDocument& document, const LoadReport& report, std::vector<Finding>& findings) {
+void checkRoot(MarkupDocument& document, const TextPlaces& places, const LoadReport& report,
+               std::vector<Finding>& findings) {
   const std::size_t rootOffset = *document.mainOffset();
-  const TextPosition position = positionAt(document.doc(), rootOffset);
+  const TextPosition position = places.at(rootOffset);
   checkNumber(document.getAttrib(u"enable"), 0, 1, position, "enable", findings);
   checkNumber(document.getAttrib(u"index"), 0, HotkeyConfig::kLargestIndex, position, "index",
               findings);
@@ -128,10 +129,10 @@ void checkRoot(MarkupDocument& document, const LoadReport& report, std::vector<F
       hasFirst |= n == 0;
       const std::size_t offset = *document.mainOffset();
       document.intoElem();
-      checkScheme(document, offset, n, false, report, findings);
+      checkScheme(document, places, offset, n, false, report, findings);
       document.outOfElem();
     } else if (n == 0) {
-      checkScheme(document, rootOffset, n, true, report, findings);
+      checkScheme(document, places, rootOffset, n, true, report, findings);
     } else {
       findings.push_back({Kind::Missing, position, "setting group " + std::to_string(n + 1),
                           "<" + utf8Of(name) + "> is missing"});
@@ -146,7 +147,7 @@ void checkRoot(MarkupDocument& document, const LoadReport& report, std::vector<F
       continue;
     }
     findings.push_back({Kind::Unknown,
-                        positionAt(document.doc(), *document.mainOffset()),
+                        places.at(*document.mainOffset()),
                         {},
                         "nothing reads <" + utf8Of(name) + ">"});
   }
@@ -177,13 +178,14 @@ SettingsCheck checkSettings(std::string_view bytes) {
   ResultLog log;
   MarkupDocument document;
   const bool isWellFormed = document.setDoc(decodeText(bytes, declaredEncodingOfBytes, log).text);
-  checkMarkup(document, check.findings);
+  const TextPlaces places(document.doc());
+  checkMarkup(document, places, check.findings);
   HotkeyConfig config;
   check.isLoadable = isWellFormed && config.loadFrom(document);
   if (check.isLoadable) {
     checkKeys(config.loadReport(), check.findings);
     findRoot(document);
-    checkRoot(document, config.loadReport(), check.findings);
+    checkRoot(document, places, config.loadReport(), check.findings);
   } else if (isWellFormed) {
     check.findings.push_back({Kind::Missing, {}, {}, failureText(document)});
   }

@@ -6,6 +6,7 @@
 #include "cli/Changes.h"
 #include "cli/Commands.h"
 #include "cli/Files.h"
+#include "cli/Output.h"
 #include "cli/SettingWords.h"
 #include "cli/SettingsCheck.h"
 #include "markup/DeclaredEncoding.h"
@@ -19,7 +20,7 @@ namespace {
 constexpr int kNameWidth = 26;
 
 void printLine(const std::string& name, const std::string& value, std::ostream& out) {
-  out << std::left << std::setw(kNameWidth) << name << value << '\n';
+  out << std::left << std::setw(kNameWidth) << name << shown(value) << '\n';
 }
 
 // What can be read of a document, well-formed or not; false if it is of no settings file.
@@ -50,15 +51,16 @@ ExitStatus showSettings(const std::string& file, int group, Answer answer) {
   const HotkeyConfig config = readSettings(file);
   const HotkeyScheme& scheme = config.scheme(group == 0 ? HotkeyConfig::kCurrentScheme : group - 1);
   if (answer.isJson) {
-    const std::uint32_t shown = group == 0 ? config.index() + 1 : static_cast<std::uint32_t>(group);
+    const std::uint32_t number =
+        group == 0 ? config.index() + 1 : static_cast<std::uint32_t>(group);
     nlohmann::ordered_json values;
     for (const SettingPart part : partsOfScheme()) values[nameOf(part)] = valueOf(scheme, part);
     const nlohmann::ordered_json whole = {{"enabled", config.enable()},
                                           {"currentGroup", config.index() + 1},
                                           {"lastSaveTime", config.LastSaveTime()},
-                                          {"group", shown},
+                                          {"group", number},
                                           {"settings", std::move(values)}};
-    answer.out << whole.dump(2) << '\n';
+    printJson(whole, answer.out);
     return kDone;
   }
   printLine("feature", config.enable() ? "on" : "off", answer.out);
@@ -83,21 +85,29 @@ ExitStatus repairFile(const std::string& file, Answer answer) {
   const std::string bytes = readBytes(file);
   const SettingsCheck check = checkSettings(bytes);
   if (check.isLoadable && check.findings.empty()) {
-    answer.out << (answer.isJson ? "{\"repaired\": false}" : file + ": nothing to repair") << '\n';
+    if (answer.isJson) {
+      printJson({{"repaired", false}}, answer.out);
+    } else {
+      answer.out << file << ": nothing to repair\n";
+    }
     return kDone;
   }
   ResultLog log;
   MarkupDocument document;
   HotkeyConfig config;
-  std::uint32_t saveTime = 1;  // a load takes 0 as well; some time has to be there
+  std::uint32_t saveTime = 0;
   document.setDoc(decodeText(bytes, declaredEncodingOfBytes, log).text);
   if (!readWhatIsThere(document, config, saveTime)) {
     throw CommandFailure{file + ": nothing of a settings file can be read"};
   }
-  writeBytes(file, settingsBytes(config, saveTime), platform::OldContent::Keep);
-  answer.out << (answer.isJson ? "{\"repaired\": true}"
-                               : file + ": repaired; the damaged file is kept beside it")
-             << '\n';
+  const std::string repaired = settingsBytes(config, saveTime);
+  const std::string kept = putAside(file, bytes);
+  writeBytes(file, repaired);
+  if (answer.isJson) {
+    printJson({{"repaired", true}, {"kept", kept}}, answer.out);
+  } else {
+    answer.out << file << ": repaired; the damaged file is " << kept << '\n';
+  }
   return kDone;
 }
 

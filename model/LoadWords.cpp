@@ -1,7 +1,5 @@
 #include "model/LoadWords.h"
 
-#include <string_view>
-
 #include "keys/KeyWordText.h"
 #include "markup/text/Utf8.h"
 #include "model/KeySlot.h"
@@ -17,8 +15,13 @@ bool isSpace(char16_t unit) {
   return unit == u' ' || (unit >= u'\t' && unit <= u'\r');
 }
 
-// Without line breaks, and not longer than a line can take.
-std::string quoted(std::u16string_view text) {
+bool isControl(char16_t unit) {
+  return unit < u' ' || (unit >= 0x7F && unit < 0xA0);
+}
+
+}  // namespace
+
+std::string quotedText(std::u16string_view text) {
   std::u16string words;
   bool isBetweenWords = false;
   for (const char16_t unit : text) {
@@ -28,13 +31,11 @@ std::string quoted(std::u16string_view text) {
     }
     if (isBetweenWords) words += u' ';
     isBetweenWords = false;
-    words += unit;
+    words += isControl(unit) ? u'?' : unit;
   }
   if (words.size() > kLongestText) words = words.substr(0, kLongestText) + u"...";
   return "\"" + utf8Of(words) + "\"";
 }
-
-}  // namespace
 
 std::string nameOrNumber(KeyWord key) {
   std::u16string text;
@@ -60,7 +61,7 @@ std::string conflictText(KeyWord key, const KeyConflict& conflict) {
 }
 
 std::string reasonText(const DroppedKey& dropped) {
-  if (!dropped.conflict) return quoted(dropped.text) + " is no key";
+  if (!dropped.conflict) return quotedText(dropped.text) + " is no key";
   return conflictText(dropped.key, *dropped.conflict);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "model/LoadReport.h"
 
@@ -9,6 +10,10 @@ namespace brennet {
 
 // A key as a player reads it, or its number where it has no name: "Alt + F1", "key 64512".
 [[nodiscard]] std::string nameOrNumber(KeyWord key);
+
+// A text of a file between quotation marks, on one line: without control characters, and cut where
+// it is longer than any number.
+[[nodiscard]] std::string quotedText(std::u16string_view text);
 
 // What keeps `key` from being somebody else's: "Q is hero skill 1", "RETURN cannot be bound".
 [[nodiscard]] std::string conflictText(KeyWord key, const KeyConflict& conflict);

@@ -16,12 +16,6 @@ constexpr char kEndOfTextFile = '\x1A';
 constexpr std::array<std::string_view, 2> kHotkeyHeaders = {"[Commandbar Hotkeys ",
                                                             "[Inventory Hotkeys "};
 
-platform::Path gamePreferencesPath() {
-  const std::string folder = platform::profileFolder();
-  if (folder.empty()) return {};
-  return platform::pathFromNarrow(folder + platform::gamePreferencesSuffix());
-}
-
 // The text of a file as the C runtime of Windows reads it in text mode into a buffer of the file's
 // size: CR LF becomes LF, 0x1A ends the text, and the rest of the buffer is zeros.
 std::string textOfFile(std::string_view fileBytes) {
@@ -77,7 +71,13 @@ std::size_t valueStart(std::string_view line, std::string_view key) {
 
 }  // namespace
 
-War3PrefsFile::War3PrefsFile() : War3PrefsFile(gamePreferencesPath()) {}
+platform::Path War3PrefsFile::gamePath() {
+  const std::string folder = platform::profileFolder();
+  if (folder.empty()) return {};
+  return platform::pathFromNarrow(folder + platform::gamePreferencesSuffix());
+}
+
+War3PrefsFile::War3PrefsFile() : War3PrefsFile(gamePath()) {}
 
 War3PrefsFile::War3PrefsFile(platform::Path path) : path_(std::move(path)) {
   if (path_.empty()) return;

@@ -44,8 +44,8 @@ class War3PrefsFile {
   // Reads the content of a file without a file: save() does nothing.
   [[nodiscard]] static War3PrefsFile parse(std::string_view fileBytes);
 
-  // What the file at the path holds; nothing if it could not be read, or if there is none.
-  [[nodiscard]] const std::optional<std::string>& fileBytes() const { return fileBytes_; }
+  // Where the game keeps the user's file; empty if the system knows no profile folder.
+  [[nodiscard]] static platform::Path gamePath();
 
   // The bytes that save() writes; every line ends in CR LF.
   [[nodiscard]] std::string serialize() const;

@@ -236,6 +236,29 @@ TEST_F(CommandLineTest, ShowsWhatASaveWouldDoToTheGamesFile) {
   EXPECT_EQ(test::readBytes(folder_ / "game.txt").substr(0, 26), "[Gameplay]\r\ncustomkeys=0\r\n");
 }
 
+// A clean file could not hold it, so the damaged one stays.
+TEST_F(CommandLineTest, LosesNoCharacterInARepair) {
+  const std::string text =
+      "\xEF\xBB\xBF<KeyInfo><KeyInfo_0><QuickChat><Chat id=\"0\">\xF0\x9F\x98\x80</Chat>"
+      "</QuickChat></KeyInfo_0></KeyInfo>";
+  const std::string broken = file(u8"broken.xml", text);
+  const Result result = run({"repair", broken});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_NE(result.err.find("cannot hold"), std::string::npos) << result.err;
+  EXPECT_EQ(test::readBytes(folder_ / "broken.xml"), text);
+  EXPECT_EQ(folder_.listing(), "broken.xml\n");
+}
+
+TEST_F(CommandLineTest, ShowsNoControlCharacters) {
+  const std::string text =
+      "<KeyInfo><LastSaveTime>1</LastSaveTime><KeyInfo_0><ZoomValue>&#27;[2J\n7</ZoomValue>"
+      "<QuickChat><Chat id=\"0\">a&#27;[2J</Chat></QuickChat></KeyInfo_0></KeyInfo>";
+  const std::string name = file(u8"escapes.xml", text);
+  EXPECT_NE(run({"check", name}).out.find("\"?[2J 7\" is no number"), std::string::npos)
+      << run({"check", name}).out;
+  EXPECT_NE(run({"show", name}).out.find("a?[2J\n"), std::string::npos);
+}
+
 TEST_F(CommandLineTest, RepairsADamagedFile) {
   const std::string good = test::readBytes(test::sampleData("KeyInfo.xml"));
   const std::string broken = file(u8"broken.xml", good.substr(0, 5000));
@@ -245,9 +268,17 @@ TEST_F(CommandLineTest, RepairsADamagedFile) {
   EXPECT_EQ(run({"check", broken}).status, 0) << run({"check", broken}).out;
   const std::string shown = run({"show", broken, "--scheme", "1"}).out;
   EXPECT_NE(shown.find("hero skill 1              Q\n"), std::string::npos) << shown;
-  EXPECT_NE(folder_.listing().find("broken.xml.kept-"), std::string::npos) << folder_.listing();
+  EXPECT_NE(folder_.listing().find("broken.xml.damaged\n"), std::string::npos) << folder_.listing();
 
+  EXPECT_EQ(repaired.out, broken + ": repaired; the damaged file is " + broken + ".damaged\n");
+  EXPECT_EQ(test::readBytes(folder_ / "broken.xml.damaged"), good.substr(0, 5000));
   EXPECT_EQ(run({"repair", broken}).out, broken + ": nothing to repair\n");
+
+  // Nothing that was kept before is written over.
+  test::writeBytes(folder_ / "broken.xml", good.substr(0, 4000));
+  const auto answer = nlohmann::json::parse(run({"repair", "--json", broken}).out);
+  EXPECT_EQ(answer["kept"], broken + ".damaged-2");
+  EXPECT_EQ(test::readBytes(folder_ / "broken.xml.damaged"), good.substr(0, 5000));
   EXPECT_EQ(run({"repair", file(u8"foreign", "<html/>")}).status, 2);
   EXPECT_EQ(test::readBytes(folder_ / "foreign"), "<html/>");
 }

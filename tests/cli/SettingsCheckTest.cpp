@@ -71,7 +71,7 @@ TEST(SettingsCheck, FindsEachFault) {
       {"<Key id=\"0\"", "<Key ",
        "unknown | setting group 1, HeroSkillKey | nothing has the id \"\"\n"},
       {"<Key id=\"0\"", "<Key id=\"1\"",
-       "repeated | setting group 1, HeroSkillKey | a second id 1; the later one counts\n"},
+       "repeated | setting group 1, HeroSkillKey | a second id \"1\"; the later one counts\n"},
       {"<Key id=\"0\"", "<Key id=\"none\"",
        "number | setting group 1, HeroSkillKey | the id \"none\" is read as 0\n"},
       {"<HeroSkillKey>", "<HeroSkillKey><Kay/>",
