@@ -7,17 +7,10 @@ namespace {
 
 constexpr std::size_t kStep = 1024;
 
-bool isInside(std::u16string_view text, std::size_t offset) {
-  const bool isInLineEnd = text[offset - 1] == u'\r' && text[offset] == u'\n';
-  const bool isInCharacter = text[offset - 1] >= 0xD800 && text[offset - 1] <= 0xDBFF;
-  return isInLineEnd || isInCharacter;
-}
-
 }  // namespace
 
 TextPlaces::TextPlaces(std::u16string_view text) : text_(text), known_{{0, {}}} {
   for (std::size_t offset = kStep; offset < text.size(); offset += kStep) {
-    if (isInside(text, offset)) continue;
     known_.push_back({offset, from(known_.back(), offset)});
   }
 }

@@ -18,7 +18,7 @@ class TextPlaces {
   [[nodiscard]] TextPosition at(std::size_t offset) const;
 
  private:
-  // A place from which counting can go on: neither inside a line end nor inside a character.
+  // A place from which counting can go on, also where it is inside a line end or a character.
   struct Known {
     std::size_t offset;
     TextPosition position;
