@@ -2,7 +2,6 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <utility>
 
 #include "ui/capture/VirtualKey.h"
@@ -23,13 +22,20 @@ KeyEvent toKeyEvent(const QKeyEvent& event) {
 
 }  // namespace
 
+std::vector<QLineEdit*> editFieldsOf(const QWidget& window) {
+  std::vector<QLineEdit*> fields;
+  for (QLineEdit* const field : window.findChildren<QLineEdit*>()) {
+    if (field->objectName().startsWith(QLatin1String("edt"))) fields.push_back(field);
+  }
+  return fields;
+}
+
 KeyFieldFilter::KeyFieldFilter(CaptureStyle style, Captures captures, OnCapture onCapture)
     : capture_(style), captures_(std::move(captures)), onCapture_(std::move(onCapture)) {}
 
 std::vector<QLineEdit*> KeyFieldFilter::install(const QWidget& window, QObject& page) const {
   std::vector<QLineEdit*> capturing;
-  const QRegularExpression names(QStringLiteral("^edt"));
-  for (QLineEdit* const field : window.findChildren<QLineEdit*>(names)) {
+  for (QLineEdit* const field : editFieldsOf(window)) {
     field->installEventFilter(&page);
     if (!captures_(*field)) continue;
     field->setAttribute(Qt::WA_InputMethodEnabled, false);

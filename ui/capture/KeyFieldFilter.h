@@ -12,6 +12,9 @@ class QWidget;
 
 namespace brennet {
 
+// The line edits in `window` that are named "edt...", as all fields for keys and phrases are.
+[[nodiscard]] std::vector<QLineEdit*> editFieldsOf(const QWidget& window);
+
 // The event filter of line edits that take the next key instead of text. One object serves all
 // fields of a page; the page decides what a key means.
 class KeyFieldFilter {
@@ -23,8 +26,8 @@ class KeyFieldFilter {
 
   KeyFieldFilter(CaptureStyle style, Captures captures, OnCapture onCapture);
 
-  // Makes `page` the event filter of all line edits named "edt..." in `window`. Those that capture
-  // keys take nothing else; input methods, which would swallow keys, are off there. Returns those.
+  // Makes `page` the event filter of all edit fields of `window`. Those that capture keys take
+  // nothing else; input methods, which would swallow keys, are off there. Returns those.
   std::vector<QLineEdit*> install(const QWidget& window, QObject& page) const;
 
   // For the event filter of the page: whether the event was consumed.

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QHeaderView>
-#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QTextDocument>
 #include <QTreeWidgetItem>
@@ -173,8 +172,7 @@ void CChatRouletteSettingWidget::OnChatPhraseChanged() {
 void CChatRouletteSettingWidget::onChatPhraseSelected(QTreeWidgetItem* item, int /*col*/) {
   if (item == nullptr || item->parent() == nullptr) return;
   const QString phrase = item->text(0);
-  const QRegularExpression names(QStringLiteral("^edt"));
-  for (QLineEdit* const field : findChildren<QLineEdit*>(names)) {
+  for (QLineEdit* const field : brennet::editFieldsOf(*this)) {
     if (slotNumber(*field) != 0 && field->hasFocus()) field->setText(phrase);
   }
 }
