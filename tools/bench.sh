@@ -4,7 +4,8 @@
 #
 # The command starts a program where the system does not, as tools/windows/run.sh does. Repetitions
 # of all benchmarks are shuffled, so that a slow moment of the machine does not hit one side alone;
-# with RUNS=3 everything is done three times, and the table says how far apart the runs are.
+# with RUNS=3 everything is done three times, and the table says how far apart the runs are. With
+# QUIET=0.3 each run waits until the machine has had fewer tasks than that in the last minute.
 # BENCH_ARGS holds more arguments for the programs, for example --benchmark_filter=...
 set -euo pipefail
 
@@ -12,8 +13,15 @@ build=$1
 start=("${@:2}")
 read -r -a more_arguments <<<"${BENCH_ARGS:-}"
 
+wait_until_quiet() {
+  [[ -n ${QUIET-} ]] || return 0
+  echo "Waiting for a load below $QUIET ..."
+  until awk -v most="$QUIET" '{ exit $1 >= most }' /proc/loadavg; do sleep 5; done
+}
+
 run_all() { # FOLDER
   local program name
+  wait_until_quiet
   mkdir -p "$1"
   cut -d ' ' -f 1 /proc/loadavg >"$1/load" 2>/dev/null || rm -f "$1/load"
   for program in "$build"/bin/*_bench{,.exe}; do

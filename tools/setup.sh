@@ -14,7 +14,7 @@ declare -A packages=(
           fonts-dejavu-core fonts-wqy-microhei fonts-noto-cjk"
   [anywhere]="locales tzdata util-linux"
   [bench]="libbenchmark-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libexpat1-dev
-           libxml2-dev valgrind python3"
+           libxml2-dev valgrind python3 fonts-dejavu-core fonts-wqy-microhei"
   [report]="python3-matplotlib"
   [fuzz]="clang libclang-rt-14-dev llvm"
   [lint]="clang-format clang-tidy"

@@ -1,10 +1,12 @@
-// The windows are measured without a screen, in the style that they are shown with in tests.
+// The windows are measured without a screen, in the style and with fonts that they are shown with
+// in tests.
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 
 #include "bench/ui/Opening.h"
+#include "tests/ui/fonts/TestFonts.h"
 
 namespace {
 
@@ -16,8 +18,10 @@ void ignoreMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/,
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  brennet::test::useFontSet("wqy");
   qInstallMessageHandler(ignoreMessage);
   const QApplication application(argc, argv);
+  if (!brennet::test::hasFontsOfTheSet()) return 1;
   QApplication::setStyle(QStringLiteral("fusion"));
   QApplication::setQuitOnLastWindowClosed(false);
   if (QCoreApplication::arguments().contains(QLatin1String(brennet::bench::kOpenTwice))) {
