@@ -14,4 +14,8 @@ enum class Writability {
 // Never faults, and leaves the bytes as they are.
 [[nodiscard]] Writability probeMemory(void* address, std::size_t size);
 
+// Whether this process may read the `size` bytes at `address`. Never faults. True as well if the
+// system could not find out just now.
+[[nodiscard]] bool isReadable(const void* address, std::size_t size);
+
 }  // namespace brennet::platform

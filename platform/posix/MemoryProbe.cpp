@@ -24,9 +24,13 @@ class ProbePipe {
 
   [[nodiscard]] bool isOpen() const { return open_; }
 
+  Writability read(const void* byte) {
+    return moved([&] { return ::write(ends_[1], byte, 1); });
+  }
+
   Writability roundTrip(void* byte) {
-    const Writability readable = moved([&] { return write(ends_[1], byte, 1); });
-    return readable == Writability::Writable ? moved([&] { return read(ends_[0], byte, 1); })
+    const Writability readable = read(byte);
+    return readable == Writability::Writable ? moved([&] { return ::read(ends_[0], byte, 1); })
                                              : readable;
   }
 
@@ -43,9 +47,9 @@ class ProbePipe {
   bool open_;
 };
 
-}  // namespace
-
-Writability probeMemory(void* address, std::size_t size) {
+// Probes the first byte, then the first one of each further page, with `probe`(pipe, offset).
+template <class Probe>
+Writability probePages(const void* address, std::size_t size, Probe probe) {
   if (size == 0) return Writability::Writable;
   const auto first = reinterpret_cast<std::uintptr_t>(address);
   if (first == 0 || first + (size - 1) < first) return Writability::NotWritable;
@@ -53,13 +57,27 @@ Writability probeMemory(void* address, std::size_t size) {
   ProbePipe pipe;
   if (!pipe.isOpen()) return Writability::Unknown;
   const auto pageSize = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
-  auto* const bytes = static_cast<char*>(address);
-  // The first byte, then the first one of each further page.
   for (std::size_t at = 0; at < size; at += pageSize - (first + at) % pageSize) {
-    const Writability byte = pipe.roundTrip(bytes + at);
+    const Writability byte = probe(pipe, at);
     if (byte != Writability::Writable) return byte;
   }
   return Writability::Writable;
+}
+
+}  // namespace
+
+Writability probeMemory(void* address, std::size_t size) {
+  auto* const bytes = static_cast<char*>(address);
+  return probePages(address, size, [bytes](ProbePipe& pipe, std::size_t at) {
+    return pipe.roundTrip(bytes + at);
+  });
+}
+
+bool isReadable(const void* address, std::size_t size) {
+  const auto* const bytes = static_cast<const char*>(address);
+  const Writability result = probePages(
+      address, size, [bytes](ProbePipe& pipe, std::size_t at) { return pipe.read(bytes + at); });
+  return result != Writability::NotWritable;
 }
 
 }  // namespace brennet::platform

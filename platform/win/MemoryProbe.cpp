@@ -7,7 +7,8 @@
 namespace brennet::platform {
 namespace {
 
-// IsBadWritePtr touches the pages: it would set off the guard page at the end of a stack.
+// IsBadWritePtr and IsBadReadPtr touch the pages: they would set off the guard page at the end of a
+// stack.
 bool hasGuardPage(const char* first, const char* last) {
   MEMORY_BASIC_INFORMATION region{};
   for (const char* at = first; VirtualQuery(at, &region, sizeof(region)) != 0;) {
@@ -33,6 +34,14 @@ Writability probeMemory(void* address, std::size_t size) {
   const bool isWritable =
       !hasGuardPage(bytes, bytes + (size - 1)) && IsBadWritePtr(address, size) == FALSE;
   return isWritable ? Writability::Writable : Writability::NotWritable;
+}
+
+bool isReadable(const void* address, std::size_t size) {
+  if (size == 0) return true;
+  const auto first = reinterpret_cast<std::uintptr_t>(address);
+  if (first + (size - 1) < first) return false;
+  const auto* const bytes = static_cast<const char*>(address);
+  return !hasGuardPage(bytes, bytes + (size - 1)) && IsBadReadPtr(address, size) == FALSE;
 }
 
 }  // namespace brennet::platform

@@ -1,5 +1,7 @@
 #include <windows.h>
 
+#include <string>
+
 #include "platform/Runtime.h"
 
 namespace brennet::platform {
@@ -15,6 +17,30 @@ void keepSharedLibraries() {
     HMODULE module = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN, name, &module);
   }
+}
+
+Path fileOfCode(const void* address) {
+  HMODULE module = nullptr;
+  constexpr DWORD kFlags =
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
+  if (GetModuleHandleExW(kFlags, static_cast<const wchar_t*>(address), &module) == FALSE) return {};
+  // A name that does not fit is cut; the system knows none longer than that.
+  constexpr DWORD kMostUnits = 0x8000;
+  std::wstring name(kMostUnits, L'\0');
+  name.resize(GetModuleFileNameW(module, name.data(), kMostUnits));
+  return name;
+}
+
+bool mayUnloadOthers() {
+  using IsEnding = BOOLEAN(WINAPI*)();
+  HMODULE const system = GetModuleHandleW(L"ntdll.dll");
+  const auto isEnding = reinterpret_cast<IsEnding>(
+      reinterpret_cast<void*>(GetProcAddress(system, "RtlDllShutdownInProgress")));
+  return isEnding != nullptr && isEnding() == FALSE;
+}
+
+void tellDebugger(const char* text) {
+  OutputDebugStringA(text);
 }
 
 }  // namespace brennet::platform

@@ -72,5 +72,24 @@ TEST(MemoryProbe, RefusesARangeThatWrapsAround) {
   EXPECT_FALSE(isWritable(&byte, SIZE_MAX));
 }
 
+TEST(MemoryProbe, ReadsWhatItMayNotWrite) {
+  const GuardedPages pages(1, Access::Read);
+  EXPECT_TRUE(isReadable(pages.boundary() - 1, 2));
+  EXPECT_FALSE(isWritable(pages.boundary() - 1, 2));
+  EXPECT_TRUE(isReadable("text", 5));
+}
+
+TEST(MemoryProbe, DoesNotReadWhatItMayNot) {
+  for (const Access guard : {Access::None, Access::Signal}) {
+    const GuardedPages pages(1, guard);
+    EXPECT_TRUE(isReadable(pages.boundary() - 4, 4));
+    EXPECT_FALSE(isReadable(pages.boundary() - 3, 4));
+    EXPECT_FALSE(isReadable(pages.boundary(), 1));
+  }
+  EXPECT_FALSE(isReadable(nullptr, 1));
+  EXPECT_FALSE(isReadable(reinterpret_cast<const void*>(UINTPTR_MAX), 2));
+  EXPECT_TRUE(isReadable(nullptr, 0));
+}
+
 }  // namespace
 }  // namespace brennet::platform
