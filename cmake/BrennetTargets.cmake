@@ -54,6 +54,14 @@ function(brennet_target_defaults target)
   endif()
 endfunction()
 
+# For code that ships: the lines of functions, for debuggers, in the name of no folder of this machine.
+# tools/sdk.sh puts them into files of their own.
+function(brennet_keep_symbols target)
+  if(MINGW)
+    target_compile_options(${target} PRIVATE -g1 "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+  endif()
+endfunction()
+
 # brennet_add_layer(markup SOURCES a.cpp b.cpp DEPENDS brennet_platform)
 # One static library per folder, named brennet_<folder>, with the alias Brennet::<folder>.
 function(brennet_add_layer name)
@@ -61,7 +69,27 @@ function(brennet_add_layer name)
   add_library(brennet_${name} STATIC ${layer_SOURCES})
   add_library(Brennet::${name} ALIAS brennet_${name})
   brennet_target_defaults(brennet_${name})
+  brennet_keep_symbols(brennet_${name})
   target_link_libraries(brennet_${name} PUBLIC ${layer_DEPENDS})
+endfunction()
+
+# Makes a shared library one that exports GetBrennetPtr alone.
+function(brennet_set_one_export library)
+  if(WIN32)
+    set_target_properties(${library} PROPERTIES PREFIX "")
+    if(MINGW)
+      # Address-space layout randomisation and data-execution prevention. The compiler's runtime is
+      # shared with Qt and stays in the process (platform/Runtime.h): a copy in the library would
+      # keep a TLS index, handles and memory of each time that the library was loaded.
+      target_link_options(${library} PRIVATE
+        "LINKER:--dynamicbase,--nxcompat,--exclude-all-symbols")
+    endif()
+    return()
+  endif()
+  # Hides what the standard library's templates would export beside our own symbol.
+  set(map "${PROJECT_SOURCE_DIR}/host/brennet.map")
+  target_link_options(${library} PRIVATE "LINKER:--version-script=${map}" "LINKER:--no-undefined")
+  set_target_properties(${library} PROPERTIES LINK_DEPENDS "${map}")
 endfunction()
 
 # Notes which suites of a test program compare files of the project with what they make: those of

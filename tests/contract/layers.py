@@ -31,6 +31,7 @@ BELOW["ui/history"] = (*BELOW["ui/capture"], "ui/capture")
 BELOW["ui/pages"] = (*BELOW["ui/chat"], "ui/chat", "ui/history", "ui/keymap")
 BELOW["ui"] = (*BELOW["ui/pages"], "ui/pages")
 BELOW["host"] = (*BELOW["ui"], "ui")
+BELOW["check"] = ("platform",)
 BELOW["tools/skin"] = ()
 
 # What hosts include, by the names that they use.

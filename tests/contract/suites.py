@@ -10,7 +10,7 @@ import re
 import sys
 
 # Where the files are that are tested.
-SOURCES = ("platform", "keys", "markup", "gameside", "model", "ui", "host", "samples", "fuzz")
+SOURCES = ("platform", "keys", "markup", "gameside", "model", "ui", "host", "check", "samples", "fuzz")
 SUITE = re.compile(r"^(?:TYPED_)?TEST(?:_[FP])?\((\w+), *\w+\)", re.MULTILINE)
 SYSTEM = re.compile(r"_(posix|win)$")
 
