@@ -10,8 +10,8 @@ set -euo pipefail
 declare -A packages=(
   [build]="g++ cmake ninja-build pkg-config libicu-dev qtbase5-dev
            qttools5-dev-tools libcli11-dev nlohmann-json3-dev"
-  [test]="qtbase5-private-dev libgtest-dev libgmock-dev clang python3 make patch xz-utils
-          fonts-dejavu-core fonts-wqy-microhei fonts-noto-cjk"
+  [test]="qtbase5-private-dev libgtest-dev libgmock-dev clang python3 python3-jsonschema make patch
+          xz-utils fonts-dejavu-core fonts-wqy-microhei fonts-noto-cjk"
   [anywhere]="locales tzdata util-linux"
   [bench]="libbenchmark-dev libpugixml-dev librapidxml-dev libtinyxml2-dev libexpat1-dev
            libxml2-dev valgrind python3 fonts-dejavu-core fonts-wqy-microhei"

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <regex>
 #include <sstream>
 
 #include "brennet/HotkeyBlock.h"
@@ -15,6 +16,9 @@
 
 namespace brennet::cli {
 namespace {
+
+constexpr const char* kCommands[] = {"check", "show",  "diff",   "record", "explain",
+                                     "apply", "prefs", "repair", "keys"};
 
 struct Result {
   int status;
@@ -48,8 +52,7 @@ class CommandLineTest : public testing::Test {
 TEST_F(CommandLineTest, HelpsWhoAsks) {
   const Result help = run({"--help"});
   EXPECT_EQ(help.status, 0);
-  for (const char* command :
-       {"check", "show", "diff", "record", "explain", "apply", "prefs", "repair", "keys"}) {
+  for (const char* const command : kCommands) {
     EXPECT_NE(help.out.find(command), std::string::npos) << command;
     const Result more = run({command, "--help"});
     EXPECT_EQ(more.status, 0);
@@ -73,6 +76,21 @@ TEST_F(CommandLineTest, IsDescribed) {
   for (int kind = 0; kind <= static_cast<int>(Finding::Kind::Choice); ++kind) {
     const std::string name(kindName(static_cast<Finding::Kind>(kind)));
     EXPECT_NE(page.find("| `" + name + "` |"), std::string::npos) << name;
+  }
+}
+
+// Whoever adds an option or a command describes it in cli/man/brennet.1.
+TEST_F(CommandLineTest, HasAManualPage) {
+  std::string page = test::readBytes(test::projectFile("cli/man/brennet.1"));
+  std::erase(page, '\\');
+  std::string help = run({"--help"}).out;
+  for (const std::string command : kCommands) {
+    EXPECT_NE(page.find("fB" + command + "fR "), std::string::npos) << command;
+    help += run({command, "--help"}).out;
+  }
+  const std::regex option("--[a-z-]+");
+  for (std::sregex_iterator found(help.begin(), help.end(), option), end; found != end; ++found) {
+    EXPECT_NE(page.find(found->str()), std::string::npos) << found->str();
   }
 }
 
