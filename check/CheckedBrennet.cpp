@@ -12,7 +12,7 @@ template <class Check, class Call>
 auto forward(Slot slot, const IBrennet* object, Check check, Call call) {
   Session& session = Session::current();
   using Result = decltype(call(session.target));
-  if (object != session.object()) {
+  if (object != &session.object) {
     session.findings.report(Rule::Object, slot);
     return static_cast<Result>(kSlots[indexOf(slot)].failure);
   }

@@ -13,10 +13,13 @@ std::string findingText(Rule rule, Slot slot, const std::string& detail) {
 }
 
 void Findings::report(Rule rule, Slot slot, const std::string& detail) {
-  const std::scoped_lock lock(mutex_);
-  ++count_;
-  auto& count = counts_[static_cast<std::size_t>(rule)][indexOf(slot)];
-  if (++count == 1) write_(findingText(rule, slot, detail));
+  {
+    const std::scoped_lock lock(mutex_);
+    ++count_;
+    auto& count = counts_[static_cast<std::size_t>(rule)][indexOf(slot)];
+    if (++count == 1) write_(findingText(rule, slot, detail));
+  }
+  // Under Windows this unloads libraries, and this one writes its summary then.
   if (stops_) std::abort();
 }
 

@@ -28,8 +28,8 @@ void HostCalls::begin(Slot slot) {
   if (const std::string fault = floatingPointFault(); !fault.empty()) {
     findings_->report(Rule::FloatingPoint, slot, fault);
   }
-  const std::scoped_lock lock(mutex_);
   checkOpenCalls(slot);
+  const std::scoped_lock lock(mutex_);
   open_.push_back({slot, std::this_thread::get_id()});
 }
 
@@ -71,14 +71,20 @@ void HostCalls::checkOrder(Slot slot) {
 }
 
 // Calls on other threads are not inside this one, whatever else is wrong with them.
-void HostCalls::checkOpenCalls(Slot slot) {
-  const auto outer = std::find_if(open_.rbegin(), open_.rend(), [](const Open& call) {
-    return call.thread == std::this_thread::get_id();
+std::optional<Slot> HostCalls::innermostCall() const {
+  const std::scoped_lock lock(mutex_);
+  const auto call = std::find_if(open_.rbegin(), open_.rend(), [](const Open& open) {
+    return open.thread == std::this_thread::get_id();
   });
-  if (outer == open_.rend()) return;
-  const char* const name = kSlots[indexOf(outer->slot)].name;
-  if (outer->slot != Slot::ShowSettingsDialog) {
-    findings_->report(Rule::Reentry, slot, name);
+  if (call == open_.rend()) return {};
+  return call->slot;
+}
+
+void HostCalls::checkOpenCalls(Slot slot) {
+  const std::optional<Slot> outer = innermostCall();
+  if (!outer) return;
+  if (*outer != Slot::ShowSettingsDialog) {
+    findings_->report(Rule::Reentry, slot, kSlots[indexOf(*outer)].name);
   } else if (slot == Slot::ShowSettingsDialog || slot == Slot::ApplyHotkeyBlock) {
     findings_->report(Rule::DialogOpen, slot);
   }

@@ -3,6 +3,7 @@
 #include <array>
 #include <chrono>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -57,10 +58,13 @@ class HostCalls {
   void checkThread(Slot slot);
   void checkOrder(Slot slot);
   void checkOpenCalls(Slot slot);
+  // The call of this thread that another one would be inside of.
+  [[nodiscard]] std::optional<Slot> innermostCall() const;
 
   Findings* findings_;
   std::thread::id firstThread_;
-  mutable std::mutex mutex_;  // of what is below
+  // Of what is below. Nothing is reported while it is held: that may end the process.
+  mutable std::mutex mutex_;
   std::vector<Open> open_;
   std::array<Cost, kSlots.size()> costs_;
 };

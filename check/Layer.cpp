@@ -29,11 +29,11 @@ Layer::Layer() {
   if (checked == nullptr) return;
   const bool stops = qEnvironmentVariable("BRENNET_CHECK") == QLatin1String("stop");
   log_.write("checks " + QDir::toNativeSeparators(target_.fileName()).toStdString());
-  session_.emplace(*checked, [this](const std::string& line) { log_.write(line); }, stops);
+  library_.emplace(*checked, [this](const std::string& line) { log_.write(line); }, stops);
 }
 
 Layer::~Layer() {
-  session_.reset();
+  library_.reset();
   if (platform::mayUnloadOthers()) target_.unload();
 }
 

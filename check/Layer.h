@@ -4,12 +4,13 @@
 
 #include <optional>
 
+#include "check/CheckedLibrary.h"
 #include "check/Log.h"
-#include "check/Session.h"
 
 namespace brennet::check {
 
-// The checking layer in a process: the library that it checks, loaded beside it, and the session.
+// The checking layer in a process: the library that it checks, loaded beside it, and what it says of
+// the host.
 class Layer {
  public:
   // Loads the library that BRENNET_CHECK_TARGET names, or else the one beside this one. With
@@ -21,14 +22,14 @@ class Layer {
   Layer& operator=(const Layer&) = delete;
 
   // What GetBrennetPtr returns; null if there is no library to check, which the log says.
-  [[nodiscard]] IBrennet* object() const { return session_ ? session_->object() : nullptr; }
+  [[nodiscard]] IBrennet* object() { return library_ ? &library_->object() : nullptr; }
 
  private:
   [[nodiscard]] IBrennet* load();
 
   Log log_;
   QLibrary target_;
-  std::optional<Session> session_;
+  std::optional<CheckedLibrary> library_;
 };
 
 }  // namespace brennet::check

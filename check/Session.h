@@ -1,10 +1,10 @@
 #pragma once
 
 #include <brennet/IBrennet.h>
+
 #include "check/Arguments.h"
 #include "check/Findings.h"
 #include "check/HostCalls.h"
-#include "check/ObjectPlace.h"
 
 namespace brennet::check {
 
@@ -12,9 +12,10 @@ namespace brennet::check {
 // at most one at a time.
 class Session {
  public:
-  // `checked` outlives this object. See Findings for the others.
-  Session(IBrennet& checked, Findings::Write write, bool stops);
-  // Writes the summary. The object that the host has stays, see ObjectPlace.
+  // The host calls `hostsObject`, and the session `library`; both outlive it. See Findings for the
+  // others.
+  Session(IBrennet& library, const IBrennet& hostsObject, Findings::Write write, bool stops);
+  // Writes the summary.
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
@@ -22,18 +23,11 @@ class Session {
   // The only one. There has to be one.
   [[nodiscard]] static Session& current();
 
-  // What the host calls instead of the library.
-  [[nodiscard]] IBrennet* object() const { return object_; }
-
   IBrennet& target;
+  const IBrennet& object;
   Findings findings;
   HostCalls calls;
   Records records;
-
- private:
-  bool stops_;
-  ObjectPlace place_;
-  IBrennet* object_;
 };
 
 }  // namespace brennet::check

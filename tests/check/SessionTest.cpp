@@ -10,6 +10,7 @@
 #include <thread>
 #include <vector>
 
+#include "check/CheckedLibrary.h"
 #include "tests/check/FakeBrennet.h"
 #include "tests/support/GuardedPages.h"
 
@@ -25,9 +26,9 @@ constexpr wchar_t kPath[] = L"C:\\KeyInfo.xml";
 // A host, and what the session says of it. The program has a QApplication.
 struct Host {
   explicit Host(bool stops = false)
-      : session(
+      : checked(
             library, [this](const std::string& line) { lines.push_back(line); }, stops),
-        brennet(*session.object()) {}
+        brennet(checked.object()) {}
 
   void startWell() {
     brennet.SetDataFolder(L"C:\\data");
@@ -37,7 +38,7 @@ struct Host {
 
   FakeBrennet library;
   std::vector<std::string> lines;
-  Session session;
+  CheckedLibrary checked;
   IBrennet& brennet;
   HotkeyBlock block{};
   bool saved = false;
@@ -132,9 +133,9 @@ void roundUpwards(Host& host) {
   std::fesetround(FE_TONEAREST);
 }
 
-class RuleBrokenOnce : public testing::TestWithParam<Broken> {};
+class SessionWithABrokenRule : public testing::TestWithParam<Broken> {};
 
-TEST_P(RuleBrokenOnce, IsToldOnceAndNothingElse) {
+TEST_P(SessionWithABrokenRule, TellsItOnceAndNothingElse) {
   Host host;
   host.startWell();
   ASSERT_THAT(host.lines, testing::IsEmpty());
@@ -143,7 +144,7 @@ TEST_P(RuleBrokenOnce, IsToldOnceAndNothingElse) {
   const std::string line = findingText(GetParam().rule, GetParam().slot);
   const std::string start = line.substr(0, line.find(". Contract: "));
   EXPECT_EQ(host.lines[0].substr(0, start.size()), start);
-  EXPECT_EQ(host.session.findings.count(), 2U);
+  EXPECT_EQ(host.checked.session().findings.count(), 2U);
 }
 
 const Broken kBroken[] = {
@@ -195,7 +196,7 @@ const Broken kBroken[] = {
      [](Host& h) { callInsideDialog(h, [&h] { h.brennet.ApplyHotkeyBlock(&h.block, 1); }); }},
     {"rounding", Rule::FloatingPoint, Slot::GetLastSaveTime, roundUpwards},
 };
-INSTANTIATE_TEST_SUITE_P(All, RuleBrokenOnce, testing::ValuesIn(kBroken));
+INSTANTIATE_TEST_SUITE_P(All, SessionWithABrokenRule, testing::ValuesIn(kBroken));
 
 std::vector<std::string> rulesOf(const std::vector<std::string>& lines) {
   std::vector<std::string> rules;
@@ -300,10 +301,10 @@ TEST(Session, EndsWithASummary) {
   FakeBrennet library;
   std::vector<std::string> lines;
   {
-    Session session(
+    CheckedLibrary checked(
         library, [&](const std::string& line) { lines.push_back(line); }, false);
-    for (int i = 0; i < 3; ++i) session.object()->IsShiftUsed();
-    session.object()->LoadSettings(kPath);
+    for (int i = 0; i < 3; ++i) checked.object().IsShiftUsed();
+    checked.object().LoadSettings(kPath);
   }
   ASSERT_EQ(lines.size(), 3U) << testing::PrintToString(lines);
   EXPECT_EQ(lines[0], "summary: 0 findings");
