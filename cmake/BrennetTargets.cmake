@@ -58,7 +58,8 @@ endfunction()
 # tools/sdk.sh puts them into files of their own.
 function(brennet_keep_symbols target)
   if(MINGW)
-    target_compile_options(${target} PRIVATE -g1 "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+    target_compile_options(${target} PRIVATE -g1 "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=."
+      "-ffile-prefix-map=${BRENNET_QT_DIR}=qt")
   endif()
 endfunction()
 

@@ -20,6 +20,7 @@ void keepSharedLibraries() {
 }
 
 Path fileOfCode(const void* address) {
+  if (address == nullptr) return {};  // it would stand for the program
   HMODULE module = nullptr;
   constexpr DWORD kFlags =
       GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
