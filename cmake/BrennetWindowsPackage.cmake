@@ -10,15 +10,25 @@ add_custom_command(OUTPUT "${import_library}" DEPENDS "${definitions}"
   COMMAND "${BRENNET_DLLTOOL}" -m i386 -d "${definitions}" -l "${import_library}")
 add_custom_target(brennet_import_library ALL DEPENDS "${import_library}")
 
-# The same sources always give the same package.
-target_link_options(brennet PRIVATE "LINKER:--no-insert-timestamp")
+# For tools/sdk.sh, which asks it for the versions of what is shipped.
+set(BRENNET_COMPILER "${CMAKE_CXX_COMPILER}" CACHE INTERNAL "")
+
+# The same sources always give the same package, and a debugger finds the symbols of each file.
+set(programs brennet-check brennet-program)
+if(TARGET brennet-host)
+  list(APPEND programs brennet-host)
+endif()
+foreach(program brennet ${programs})
+  brennet_keep_symbols(${program})
+  target_link_options(${program} PRIVATE "LINKER:--no-insert-timestamp,--build-id")
+endforeach()
+foreach(program IN LISTS programs)
+  install(PROGRAMS "$<TARGET_FILE:${program}>" DESTINATION bin)
+endforeach()
 
 install(TARGETS brennet RUNTIME DESTINATION bin ARCHIVE DESTINATION lib)
 install(FILES "${import_library}" "${definitions}" DESTINATION lib)
 install(FILES sdk/windows/BrennetTargets.cmake DESTINATION ${package_dir})
-if(TARGET brennet-host)
-  install(TARGETS brennet-host RUNTIME DESTINATION bin)
-endif()
 
 install(PROGRAMS ${BRENNET_RUNTIME_FILES} DESTINATION bin)
 foreach(plugin IN LISTS BRENNET_RUNTIME_PLUGINS)
@@ -31,11 +41,14 @@ endforeach()
 
 install(DIRECTORY samples/host DESTINATION samples
   FILES_MATCHING PATTERN "*.h" PATTERN "*.cpp")
-install(FILES sdk/sample/CMakeLists.txt DESTINATION samples/host)
+install(FILES sdk/sample/host/CMakeLists.txt DESTINATION samples/host)
 install(FILES samples/data/KeyInfo.xml samples/data/Tollamere.reg samples/data/War3Preferences.txt
   DESTINATION samples/data)
-install(FILES sdk/README.md sdk/CONTRACT.md DESTINATION .)
-install(FILES docs/embedding.md DESTINATION docs)
+install(FILES samples/minimal/main.cpp DESTINATION samples/minimal)
+install(FILES sdk/sample/minimal/CMakeLists.txt DESTINATION samples/minimal)
+install(FILES sdk/README.md sdk/CONTRACT.md sdk/ABI.txt DESTINATION .)
+install(FILES docs/checking.md docs/command-line.md docs/command-line.schema.json
+  docs/embedding.md DESTINATION docs)
 
 # The texts come from the same places as the parts: the folder of Qt and the compiler's packages.
 install(FILES sdk/NOTICE.md DESTINATION licences)
@@ -47,7 +60,9 @@ install(FILES /usr/share/doc/gcc-mingw-w64-i686-posix-runtime/copyright DESTINAT
   RENAME gcc-runtime.txt)
 install(FILES /usr/share/doc/mingw-w64-i686-dev/copyright DESTINATION licences
   RENAME mingw-w64.txt)
-# Texts that those two refer to by their places on a Debian system.
+install(FILES /usr/share/doc/libcli11-dev/copyright DESTINATION licences RENAME cli11.txt)
+install(FILES /usr/share/doc/nlohmann-json3-dev/copyright DESTINATION licences RENAME json.txt)
+# Texts that the runtime's two refer to by their places on a Debian system.
 foreach(text Artistic GFDL-1.2 GPL-2 LGPL-2 LGPL-2.1)
   install(FILES /usr/share/common-licenses/${text} DESTINATION licences RENAME ${text}.txt)
 endforeach()

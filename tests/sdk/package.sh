@@ -15,16 +15,20 @@ quietly "$checkout/tools/sdk.sh" "$build" first
 
 # Neither the time nor the user's settings get into it.
 (umask 077 && export TZ=Asia/Shanghai && quietly "$checkout/tools/sdk.sh" "$build" second)
-cmp "first/$name.zip" "second/$name.zip" || fail 'the same build gives another zip'
+for zip in "$name.zip" "$name-symbols.zip"; do
+  cmp "first/$zip" "second/$zip" || fail "the same build gives another $zip"
+done
 zipinfo -v "first/$name.zip" >entries
 ! grep -E 'length of extra field: +[1-9]' entries ||
   fail 'the zip tells more of its files than names and times'
-[[ $(ls first second | tr '\n' ' ') == "first: $name.zip  second: $name.zip " ]] ||
-  fail "more than the zip was left: $(ls -R first second)"
+zips="$name-symbols.zip $name.zip"
+[[ $(ls first second | tr '\n' ' ') == "first: $zips  second: $zips " ]] ||
+  fail "more than the zips was left: $(ls -R first second)"
 
-quietly unzip -q "first/$name.zip" -d 'un packed'
-[[ $(ls 'un packed') == "$name" ]] || fail "the top folder is $(ls 'un packed')"
-package="un packed/$name"
+quietly unzip -q "first/$name.zip" -d 'un packed 包'
+quietly unzip -q "first/$name-symbols.zip" -d symbols
+[[ $(ls 'un packed 包') == "$name" ]] || fail "the top folder is $(ls 'un packed 包')"
+package="un packed 包/$name"
 expect_files "$package" <"$here/windows.list"
 expect_relocatable "$package"
 
@@ -86,3 +90,19 @@ says 'Name: GetBrennetPtr' exports
 llvm-readobj "$package/lib/Brennet.lib" >imports
 says 'Symbol: _GetBrennetPtr' imports
 says 'Name type: noprefix' imports
+
+# The checksums are right, and no file is left out.
+(cd "$package" && quietly sha256sum --check --strict SHA256SUMS)
+cut -c 67- "$package/SHA256SUMS" >summed
+expect_files "$package" < <(LC_ALL=C sort summed <(echo SHA256SUMS))
+python3 -B "$here/check_bill.py" "$package" "$version"
+
+# A debugger finds the symbols of what is ours, and they have names of functions.
+for file in Brennet.dll BrennetCheck.dll brennet.exe brennet-host.exe; do
+  symbols=symbols/$name-symbols/bin/$file.debug
+  i686-w64-mingw32-objdump -h "$package/bin/$file" >sections
+  says .buildid sections
+  says .gnu_debuglink sections
+  i686-w64-mingw32-nm "$symbols" >names.of
+  [[ $(wc -l <names.of) -ge 100 ]] || fail "$symbols names few functions"
+done

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds the sample host of the package as its CMakeLists.txt says, and runs it:
+# Builds the sample hosts of the package as their CMakeLists.txt say, and runs them:
 # sample.sh WORK PACKAGE CHECKOUT QT_DIR EMULATOR
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
@@ -34,3 +34,16 @@ run 0 "$emulator" built/brennet-host.exe --settings KeyInfo.xml --enable off --s
 run 0 "$emulator" built/brennet-host.exe --settings KeyInfo.xml
 says 'Save time        42' out
 says 'Feature          off' out
+
+# The host in one file, with the library and with the checking layer in its place.
+quietly cmake -G Ninja -S "$package/samples/minimal" -B minimal -DCMAKE_BUILD_TYPE=Release \
+  --toolchain "$checkout/cmake/mingw-i686.cmake" -DBRENNET_QT_DIR="$qt_dir"
+quietly cmake --build minimal
+cp minimal/minimal-host.exe built/
+for library in Brennet.dll BrennetCheck.dll; do
+  run 0 "$emulator" built/minimal-host.exe "built/$library" KeyInfo.xml "$package/samples/data" \
+    --no-window
+  says 'Hotkeys are off;' out
+  says 'saved at 42.' out
+done
+says 'BrennetCheck: summary: 0 findings' err
