@@ -14,7 +14,7 @@ FOLDERS ?=
 JOBS ?= $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk bench bench-build bench-count bench-windows fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage mutation shots translations update format lint lint-windows clean
+.PHONY: help run run-windows test test-anywhere asan faults soak odr windows test-windows sdk reproducible bench bench-build bench-count bench-windows fuzz fuzz-build fuzz-long fuzz-merge fuzz-coverage mutation shots translations update format lint lint-windows clean
 
 help: ## show this list
 	@sed -n 's/^\([a-z-]*\):.* ## \(.*\)/  make \1\t\2/p' $(MAKEFILE_LIST) | expand -t 24
@@ -78,6 +78,11 @@ run-windows: windows ## do what "run" does with the Windows library, under Wine
 
 sdk: windows ## write the package for embedders, build/sdk/brennet-sdk-<version>.zip
 	@tools/sdk.sh build/windows build/sdk
+
+reproducible: ## build the package twice, in two folders, and compare every byte
+	@tools/setup.sh windows
+	@tools/windows/qt.sh
+	@tools/reproducible.sh
 
 bench-build:
 	@tools/setup.sh build bench

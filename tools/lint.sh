@@ -18,7 +18,7 @@ tidy() { # BUILD_FOLDER ARGUMENT...
 }
 
 lint_native() {
-  find platform keys markup gameside model cli ui host samples tools/skin \
+  find platform keys markup gameside model cli ui host check samples tools/skin \
     -path platform/win -prune -o -name '*.cpp' -print0 | tidy "$1"
 }
 

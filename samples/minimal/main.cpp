@@ -49,12 +49,12 @@ QString summary(brennet::IBrennet& brennet) {
 class Window : public QWidget {
  public:
   explicit Window(brennet::IBrennet& brennet) : brennet_(brennet) {
-    auto* const layout = new QVBoxLayout(this);
+    setLayout(new QVBoxLayout);
     auto* const settings = new QPushButton(QStringLiteral("Hotkeys..."));
     auto* const game = new QPushButton(QStringLiteral("Zoom out in game"));
     for (QWidget* const widget : {static_cast<QWidget*>(&enabled_), static_cast<QWidget*>(settings),
                                   static_cast<QWidget*>(game), static_cast<QWidget*>(&text_)}) {
-      layout->addWidget(widget);
+      layout()->addWidget(widget);
     }
     connect(&enabled_, &QCheckBox::clicked, this, [this](bool isOn) {
       if (!brennet_.SetEnabled(isOn, now())) std::fputs("The settings were not saved.\n", stderr);
