@@ -27,10 +27,10 @@ compile() {
 }
 
 # If something is missing that the host itself needs, the loader names it: Windows in a box, Wine in
-# a line. That is every DLL except the library.
+# a line. That is every DLL except the library and the checking layer.
 for file in "$package"/bin/*.dll; do
   name=${file##*/}
-  [[ $name != Brennet.dll ]] || continue
+  [[ $name != Brennet*.dll ]] || continue
   copy_host
   rm "host/$name"
   run 53 "$emulator" "${host[@]}"
