@@ -125,6 +125,13 @@ TEST_F(Layer, IsLoadedAnew) {
     unload();
   }
   EXPECT_THAT(log(), testing::Not(HasSubstr("[")));
+  // What the file had before stays.
+  int times = 0;
+  for (std::size_t at = 0; (at = log().find("BrennetCheck: checks ", at)) != std::string::npos;) {
+    ++times;
+    ++at;
+  }
+  EXPECT_EQ(times, 3);
 }
 
 TEST_F(Layer, SaysThatThereIsNothingToCheck) {

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cfenv>
 #include <cstring>
 #include <functional>
 #include <ostream>
@@ -127,11 +126,23 @@ void callInsideDialog(Host& host, const std::function<void()>& inner) {
       host, [&] { host.brennet.ShowSettingsDialog(&host.saved, 1); }, inner);
 }
 
-void roundUpwards(Host& host) {
-  std::fesetround(FE_UPWARD);
+// Only these processors have the control words.
+#if defined(__i386__) || defined(__x86_64__)
+
+// Makes a call with these control words of the processor.
+void callWith(Host& host, std::uint16_t x87, std::uint32_t sse) {
+  std::uint16_t x87Before = 0;
+  std::uint32_t sseBefore = 0;
+  __asm__ volatile("fnstcw %0\n\tstmxcsr %1" : "=m"(x87Before), "=m"(sseBefore));
+  __asm__ volatile("fldcw %0\n\tldmxcsr %1" : : "m"(x87), "m"(sse));
   host.brennet.GetLastSaveTime();
-  std::fesetround(FE_TONEAREST);
+  __asm__ volatile("fldcw %0\n\tldmxcsr %1" : : "m"(x87Before), "m"(sseBefore));
 }
+
+constexpr std::uint16_t kX87 = 0x027F;
+constexpr std::uint32_t kSse = 0x1F80;
+
+#endif
 
 class SessionWithABrokenRule : public testing::TestWithParam<Broken> {};
 
@@ -194,7 +205,20 @@ const Broken kBroken[] = {
      [](Host& h) { callInsideDialog(h, [&h] { h.brennet.ShowSettingsDialog(&h.saved, 1); }); }},
     {"record while the dialog is open", Rule::DialogOpen, Slot::ApplyHotkeyBlock,
      [](Host& h) { callInsideDialog(h, [&h] { h.brennet.ApplyHotkeyBlock(&h.block, 1); }); }},
-    {"rounding", Rule::FloatingPoint, Slot::GetLastSaveTime, roundUpwards},
+    {"call inside a load while the dialog is open", Rule::Reentry, Slot::IsShiftUsed,
+     [](Host& h) { callInsideDialog(h, [&h] { callInsideLoad(h); }); }},
+#if defined(__i386__) || defined(__x86_64__)
+    {"rounding", Rule::FloatingPoint, Slot::GetLastSaveTime,
+     [](Host& h) { callWith(h, kX87 | 0x0800, kSse); }},
+    {"single precision", Rule::FloatingPoint, Slot::GetLastSaveTime,
+     [](Host& h) { callWith(h, kX87 & ~0x0300, kSse); }},
+    {"division by zero", Rule::FloatingPoint, Slot::GetLastSaveTime,
+     [](Host& h) { callWith(h, kX87 & ~0x0004, kSse); }},
+    {"rounding in SSE", Rule::FloatingPoint, Slot::GetLastSaveTime,
+     [](Host& h) { callWith(h, kX87, kSse | 0x4000); }},
+    {"division by zero in SSE", Rule::FloatingPoint, Slot::GetLastSaveTime,
+     [](Host& h) { callWith(h, kX87, kSse & ~0x0200U); }},
+#endif
 };
 INSTANTIATE_TEST_SUITE_P(All, SessionWithABrokenRule, testing::ValuesIn(kBroken));
 
@@ -239,6 +263,14 @@ TEST(Session, FindsNothingInAGoodDay) {
   host.brennet.ApplyHotkeyBlock(&host.block, 3);
   EXPECT_THAT(host.lines, testing::IsEmpty());
 }
+
+#if defined(__i386__) || defined(__x86_64__)
+TEST(Session, AllowsTinyNumbersToCountAsZero) {
+  Host host;
+  callWith(host, kX87, kSse | 0x8000);
+  EXPECT_THAT(host.lines, testing::IsEmpty());
+}
+#endif
 
 // What the library had put there may stay.
 TEST(Session, ComparesReservedBitsWithThoseOfTheLastFill) {
