@@ -9,7 +9,9 @@ failures=0
 
 # completes WORDS EXPECTED: the last of the words, the first being the program.
 completes() {
-  read -r -a COMP_WORDS <<<"$program $1"
+  read -r -a COMP_WORDS <<<"$1"
+  # The path of a checkout may have blanks.
+  COMP_WORDS=("$program" "${COMP_WORDS[@]}")
   [[ $1 != *' ' && -n $1 ]] || COMP_WORDS+=('')
   COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
   COMPREPLY=()
